@@ -1,0 +1,15 @@
+# Flags that every target of ours is compiled with. Text never turns into bytes, or bytes into text, without being asked.
+add_library(tagwrighter_options INTERFACE)
+target_compile_options(tagwrighter_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+target_compile_definitions(tagwrighter_options INTERFACE
+    QT_NO_CAST_TO_ASCII
+    QT_NO_CAST_FROM_BYTEARRAY
+    QT_NO_URL_CAST_FROM_STRING
+    QT_NO_KEYWORDS
+    QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+
+if(TAGWRIGHTER_SANITIZE)
+    target_compile_options(tagwrighter_options INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    target_link_options(tagwrighter_options INTERFACE -fsanitize=address,undefined)
+endif()

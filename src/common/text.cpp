@@ -1,0 +1,48 @@
+#include "common/text.h"
+
+std::optional<qsizetype> Find(QStringView text, QStringView what, qsizetype start)
+{
+    if (start < 1)
+        return std::nullopt;
+    if (start > text.size())
+        return 0;
+    return text.indexOf(what, start - 1) + 1;
+}
+
+std::optional<qsizetype> FindBack(QStringView text, QStringView what, std::optional<qsizetype> start)
+{
+    const qsizetype from = start.value_or(text.size());
+    if (from < 1 && start)
+        return std::nullopt;
+    if (from > text.size() || text.isEmpty())
+        return 0;
+    if (what.isEmpty())
+        return from;
+    return text.first(from).lastIndexOf(what) + 1;
+}
+
+std::optional<QString> Mid(QStringView text, qsizetype start, std::optional<qsizetype> length)
+{
+    if (start < 1 || (length && *length < 0))
+        return std::nullopt;
+    if (start > text.size())
+        return QString();
+    return text.mid(start - 1, length.value_or(-1)).toString();
+}
+
+QString withCrLf(const QString &text)
+{
+    QString result;
+    result.reserve(text.size() + text.size() / 32);
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar c = text[i];
+        if (c == u'\r' || c == u'\n') {
+            if (c == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n')
+                ++i;
+            result += QLatin1String("\r\n");
+        } else {
+            result += c;
+        }
+    }
+    return result;
+}
