@@ -18,7 +18,10 @@ std::optional<qsizetype> FindBack(QStringView text, QStringView what, std::optio
         return 0;
     if (what.isEmpty())
         return from;
-    return text.first(from).lastIndexOf(what) + 1;
+    if (what.size() > from)
+        return 0;
+    // The start is given: without one, Qt 6.4 looks at the character behind the view when it seeks a single character.
+    return text.first(from).lastIndexOf(what, from - what.size()) + 1;
 }
 
 std::optional<QString> Mid(QStringView text, qsizetype start, std::optional<qsizetype> length)
