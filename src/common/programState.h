@@ -1,0 +1,8 @@
+#pragma once
+
+/// The variables that the whole program shares for one session, owned by the application object.
+struct ProgramState {
+    bool AlreadyStarted = false;    ///< the main window has been loaded once
+    bool FormUnloadHandled = false; ///< the exit list has dealt with this exit: documents close without asking
+    bool DialogCancelled = false;   ///< a dialog's Cancel was pressed; ReturnFromDialog reads and clears it
+};

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "platform/formRuntime.h"
+#include "platform/programContext.h"
+
+#include <QObject>
+#include <memory>
+
+class frmMdi;
+class frmSplash;
+class frmWelcome;
+
+/// One run of the program: it owns the forms and the variables that they share, and unwinds them at its end.
+class Application final : public QObject
+{
+    Q_OBJECT
+public:
+    explicit Application(Services &services);
+    ~Application() override;
+
+    /// The entry procedure: loads the splash form and shows it. `commandLine` is the text behind the program's name, as
+    /// one line, opened once the main window loads; empty for none.
+    void Main(const QString &commandLine);
+
+    /// Ends the program at once: no further handler of a form runs.
+    void End();
+    bool hasEnded() const { return m_ended; }
+
+    const QString &commandLine() const { return m_commandLine; }
+    ProgramContext &context() { return m_context; }
+    FormRuntime &forms() { return m_forms; }
+    /// Any form of the session, loaded or not, by its name; documents are found among the loaded forms only.
+    Form *form(const QString &name) const;
+
+Q_SIGNALS:
+    void ended(); ///< the main window is gone, by its unload or by End
+
+private:
+    template <class T, class... Arguments>
+    T &own(Arguments &&...arguments);
+
+    ProgramState m_state;
+    FormRuntime m_forms;
+    ProgramContext m_context;
+    QString m_commandLine;
+    bool m_ended = false;
+    std::vector<std::unique_ptr<Form>> m_owned;
+    frmMdi *m_mdi = nullptr;
+    frmSplash *m_splash = nullptr;
+};
