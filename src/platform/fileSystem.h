@@ -1,0 +1,76 @@
+#pragma once
+
+#include "common/fileErrors.h"
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QList>
+#include <QString>
+#include <optional>
+
+/// What a read gave: the bytes, or why there are none.
+struct FileContents {
+    QByteArray bytes;
+    std::optional<FileError> error;
+};
+
+/// Tells one state of a file from another: it changes with every write, also one that keeps the size.
+struct FileStamp {
+    qint64 size = 0;
+    qint64 modifiedNanoseconds = 0; ///< since 1970
+    quint64 inode = 0;
+    bool operator==(const FileStamp &) const = default;
+};
+
+/// What a properties window shows of a file.
+struct FileDetails {
+    qint64 size = 0; ///< bytes
+    QDateTime created;
+    QDateTime accessed;
+    QDateTime modified;
+    bool isFolder = false;
+    bool readOnly = false; ///< cannot be written by this user
+    bool hidden = false;   ///< its name starts with a dot
+};
+
+struct FolderEntry {
+    QString name;
+    bool isFolder = false;
+    bool operator==(const FolderEntry &) const = default;
+};
+
+struct FolderListing {
+    QList<FolderEntry> entries; ///< by name, by their codes; without "." and ".."
+    std::optional<FileError> error;
+};
+
+/// The files of the machine. Paths are native; a failure is told by its result, nothing is thrown. What is read or
+/// written as a file is a regular file: pipes, devices and sockets are refused, they could be waited for without end.
+class FileSystem
+{
+public:
+    FileSystem() = default;
+    FileSystem(const FileSystem &) = delete;
+    FileSystem &operator=(const FileSystem &) = delete;
+    virtual ~FileSystem() = default;
+
+    virtual FileContents readAll(const QString &path) = 0;
+
+    /// Replaces or makes the file as a whole: after a failure, a full disk or a kill at any moment, the file has either
+    /// its old contents or the new ones. An existing file keeps its permissions, and its owner where the system lets
+    /// it; a symbolic link stays, and what it points to is replaced. Nothing: it is on the disk.
+    virtual std::optional<FileError> writeWhole(const QString &path, const QByteArray &bytes) = 0;
+
+    virtual bool exists(const QString &path) = 0; ///< a file of any kind, no folder
+    virtual bool isFolder(const QString &path) = 0;
+    virtual std::optional<qint64> size(const QString &path) = 0;
+    virtual std::optional<FileStamp> stamp(const QString &path) = 0;
+    virtual std::optional<FileDetails> details(const QString &path) = 0;
+
+    virtual FolderListing list(const QString &folder) = 0;
+    /// Makes the folder and those above it that are missing. One that is there already is no failure.
+    virtual std::optional<FileError> makeFolder(const QString &folder) = 0;
+    virtual std::optional<FileError> removeFile(const QString &path) = 0;
+    /// Copies contents and permissions, whole as writeWhole does; an existing target is replaced.
+    virtual std::optional<FileError> copyFile(const QString &from, const QString &to) = 0;
+};

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+
+class Clipboard;
+class Clock;
+class CommonDialogs;
+class FileClasses;
+class FileSystem;
+class HelpViewer;
+class Launcher;
+class MessageBoxes;
+class Random;
+class SettingsStore;
+class TimerSource;
+
+/// What the program needs of the desktop, handed down to all that use it. Its owner outlives every user.
+struct Services {
+    MessageBoxes &messageBoxes;
+    CommonDialogs &commonDialogs;
+    SettingsStore &settings;
+    FileSystem &files;
+    Launcher &launcher;
+    Clipboard &clipboard;
+    Clock &clock;
+    Random &random;
+    HelpViewer &help;
+    TimerSource &timers;
+    FileClasses &fileClasses;
+    QString appPath; ///< the program's folder (`App.Path`), without a final separator
+};
