@@ -1,1 +1,20 @@
-int main() { return 0; }
+#include "platform/desktopServices.h"
+#include "shell/application.h"
+#include "shell/commandLine.h"
+
+#include <QApplication>
+
+int main(int argc, char **argv)
+{
+    QApplication desktop(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("tagwrighter"));
+    QApplication::setApplicationDisplayName(QString());
+    QApplication::setDesktopFileName(QStringLiteral("tagwrighter"));
+    QApplication::setQuitOnLastWindowClosed(false); // between the splash and the main window there is none
+
+    DesktopServices services;
+    Application program(services.services());
+    QObject::connect(&program, &Application::ended, &desktop, &QCoreApplication::quit, Qt::QueuedConnection);
+    program.Main(commandLineText(QApplication::arguments().mid(1)));
+    return QApplication::exec();
+}

@@ -2,7 +2,8 @@
 
 #include "common/textSurface.h"
 
-/// A document as the other subsystems know it. The window is the document: its form, frmWrite, is the one implementation.
+/// A document as the other subsystems know it. The window is the document: its form, frmWrite, is the one
+/// implementation.
 class Document
 {
 public:
@@ -11,27 +12,30 @@ public:
     Document &operator=(const Document &) = delete;
     virtual ~Document() = default;
 
-    QString DocSavePath;             ///< full path it was loaded from or saved to; empty if none
-    bool boolDirty = false;          ///< unsaved changes exist
-    bool NewDoc = false;             ///< never saved: a save asks for a name
-    qint16 DocNumber = 0;            ///< serial number, never used twice in a session
-    QString DocKeyDescription;       ///< key of its tab: DocNumber and "Key"
-    bool IsInUnicode = false;        ///< saved as UTF-16
-    QString InternetOriginURL;       ///< where it was downloaded from; empty otherwise
-    bool UnsuccessfulClose = false;  ///< Save As was cancelled during a close
+    QString DocSavePath;            ///< full path it was loaded from or saved to; empty if none
+    bool boolDirty = false;         ///< unsaved changes exist
+    bool NewDoc = false;            ///< never saved: a save asks for a name
+    qint16 DocNumber = 0;           ///< serial number, never used twice in a session
+    QString DocKeyDescription;      ///< key of its tab: DocNumber and "Key"
+    bool IsInUnicode = false;       ///< saved as UTF-16
+    QString InternetOriginURL;      ///< where it was downloaded from; empty otherwise
+    bool UnsuccessfulClose = false; ///< Save As was cancelled during a close
 
     virtual QString documentCaption() const = 0; ///< window title: "Untitled" and the number, or the full path
     virtual void setDocumentCaption(const QString &caption) = 0;
     virtual TextSurface &txtEdit() = 0;
     const TextSurface &txtEdit() const { return const_cast<Document *>(this)->txtEdit(); }
 
+    /// Closes the document's window, asking first where there is something to lose. False if it stays open.
+    virtual bool unload() = 0;
     /// Brings the document's window to the front and the focus to its edit surface.
     virtual void activate() = 0;
 
     /// Puts the document's tab at the end of the strip, under the window's caption and without taking a tab away; a key
     /// that is in the strip already adds no second tab.
     virtual void DocSelUpdate() = 0;
-    /// Once a file name is known: takes the old tab away and adds one under the file's name. An empty path counts as none.
+    /// Once a file name is known: takes the old tab away and adds one under the file's name. An empty path counts as
+    /// none.
     virtual void DocSelUpdate(const QString &path) = 0;
 
     virtual void CheckWordWrapSettings() = 0;

@@ -30,16 +30,17 @@ public:
 
     virtual void SetStatusText(const QString &text) = 0;
     virtual void SetStatusReady() = 0;
+    virtual QString statusText() const = 0;
     virtual void SetDocumentControlsEnabled(bool enabled) = 0;
 
     // The document selector.
-    virtual void addDocumentTab(const QString &key, const QString &caption) = 0; ///< at the end; nothing for a known key
-    virtual void removeDocumentTab(const QString &key) = 0;                      ///< the first one of that key
+    virtual void addDocumentTab(const QString &key,
+                                const QString &caption) = 0; ///< at the end; nothing for a known key
+    virtual void removeDocumentTab(const QString &key) = 0;  ///< the first one of that key
     virtual void selectDocumentTab(const QString &key) = 0;
     virtual void showDocumentTabs(bool shown) = 0;
     virtual void showDocumentSelector(bool shown) = 0;
 
     virtual void setWordWrapChecked(bool checked) = 0;
     virtual void clearStructureTree() = 0;
-    virtual void setMousePointer(int pointer) = 0; ///< 0 default, 11 hourglass, 13 arrow with hourglass
 };

@@ -110,9 +110,17 @@ bool Form::Unload()
         return false;
     if (!m_loaded) // the question was answered by something that unloaded the form itself
         return true;
-    Form_Unload();
-    releaseWindow();
+    unloadAgreed();
     return true;
+}
+
+void Form::unloadAgreed()
+{
+    if (!m_loaded)
+        return;
+    Form_Unload();
+    if (m_loaded)
+        releaseWindow();
 }
 
 void Form::discard()
@@ -172,7 +180,9 @@ void Form::setCancelButton(QAbstractButton *button)
 
 bool Form::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_window && m_loaded) {
+    // A child window sees these events whenever the whole main window is left or entered; its activation is followed
+    // by the list of forms instead.
+    if (watched == m_window && m_loaded && !MDIChild()) {
         if (event->type() == QEvent::WindowActivate)
             Form_Activate();
         else if (event->type() == QEvent::WindowDeactivate)

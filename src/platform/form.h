@@ -44,11 +44,16 @@ public:
     /// Asks Form_QueryUnload, runs Form_Unload, takes the form off the list of loaded forms and deletes its window once
     /// the running handlers have returned. False if the unload was called off; true if the form was not loaded.
     bool Unload();
+    /// Unloads without asking, where the question has been answered already.
+    void unloadAgreed();
     /// Takes the window away without asking and without running a handler, as when the program ends at once.
     void discard();
 
     /// The window between Load and Unload; nothing otherwise.
     QWidget *window() const { return m_window; }
+    /// Run Form_Activate and Form_Deactivate, for whoever knows that the window was activated or left.
+    void activated() { Form_Activate(); }
+    void deactivated() { Form_Deactivate(); }
     /// The control, timer or command of that name ("txtRows", "picBullet(3)"); nothing if the form has none.
     virtual QObject *control(const QString &name) const;
 

@@ -1,8 +1,9 @@
 #include "platform/formRuntime.h"
 
-#include "platform/form.h"
+#include "platform/mdiForm.h"
 
 #include <algorithm>
+#include <utility>
 
 FormRuntime::FormRuntime() = default;
 
@@ -16,6 +17,25 @@ Form *FormRuntime::loaded(const QString &name) const
 {
     const auto found = std::find_if(m_loaded.begin(), m_loaded.end(), [&](Form *form) { return form->Name() == name; });
     return found == m_loaded.end() ? nullptr : *found;
+}
+
+void FormRuntime::setActiveChild(MdiForm *child)
+{
+    m_activation.removeAll(child);
+    m_activation.append(child);
+    if (m_activated == child)
+        return;
+    MdiForm *left = std::exchange(m_activated, child);
+    if (left)
+        left->deactivated();
+    child->activated();
+}
+
+void FormRuntime::forgetChild(MdiForm *child)
+{
+    m_activation.removeAll(child);
+    if (m_activated == child)
+        m_activated = nullptr;
 }
 
 void FormRuntime::adopt(std::unique_ptr<Form> form)

@@ -5,6 +5,8 @@
 #include <vector>
 
 class Form;
+class MdiForm;
+class QMdiArea;
 
 /// The loaded forms of a session, in loading order.
 class FormRuntime
@@ -23,6 +25,16 @@ public:
     void setMainForm(Form *form) { m_mainForm = form; }
     Form *mainForm() const { return m_mainForm; }
 
+    /// The area of the main window that holds the document windows.
+    void setMdiArea(QMdiArea *area) { m_mdiArea = area; }
+    QMdiArea *mdiArea() const { return m_mdiArea; }
+
+    /// The child form that was active last, whether the main window is on show yet or not; nothing without children.
+    MdiForm *activeChild() const { return m_activation.isEmpty() ? nullptr : m_activation.last(); }
+    /// Makes a child the active one and runs the Deactivate and Activate of the two, once each change.
+    void setActiveChild(MdiForm *child);
+    void forgetChild(MdiForm *child);
+
     /// Takes over a form that lives only as long as its window, such as a document; it is deleted once it is unloaded
     /// and the running handlers have returned.
     void adopt(std::unique_ptr<Form> form);
@@ -39,4 +51,7 @@ private:
     QList<Form *> m_loaded;
     std::vector<std::unique_ptr<Form>> m_adopted;
     Form *m_mainForm = nullptr;
+    QMdiArea *m_mdiArea = nullptr;
+    MdiForm *m_activated = nullptr; ///< the child whose Activate ran last
+    QList<MdiForm *> m_activation;  ///< the most recently active one last
 };

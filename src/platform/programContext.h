@@ -3,13 +3,23 @@
 #include "common/mainWindow.h"
 #include "common/programState.h"
 
+#include <functional>
+
 struct Services;
+class FileCommands;
+class Form;
 class FormRuntime;
+class ScreenPointer;
 
 /// What every form is given: the desktop's services, the forms of the session and the state that they share.
 struct ProgramContext {
     Services &services;
     FormRuntime &forms;
     ProgramState &state;
-    MainWindow *mainWindow = nullptr; ///< set by the main window's form for as long as it exists
+    ScreenPointer &screenPointer;
+    MainWindow *mainWindow = nullptr;            ///< set by the main window's form for as long as it exists
+    FileCommands *files = nullptr;               ///< what opens, saves and closes documents
+    QString version;                             ///< the program's: major.minor.revision
+    std::function<Form &(const QString &)> form; ///< a form of the session by its name
+    std::function<void()> end;                   ///< ends the program at once; no further handler of a form runs
 };

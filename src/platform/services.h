@@ -10,6 +10,7 @@ class FileSystem;
 class HelpViewer;
 class Launcher;
 class MessageBoxes;
+class ModalLoop;
 class Random;
 class SettingsStore;
 class TimerSource;
@@ -27,5 +28,6 @@ struct Services {
     HelpViewer &help;
     TimerSource &timers;
     FileClasses &fileClasses;
+    ModalLoop &modalLoop;
     QString appPath; ///< the program's folder (`App.Path`), without a final separator
 };

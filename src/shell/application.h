@@ -2,13 +2,14 @@
 
 #include "platform/formRuntime.h"
 #include "platform/programContext.h"
+#include "platform/screenPointer.h"
 
 #include <QObject>
 #include <memory>
+#include <vector>
 
 class frmMdi;
 class frmSplash;
-class frmWelcome;
 
 /// One run of the program: it owns the forms and the variables that they share, and unwinds them at its end.
 class Application final : public QObject
@@ -29,6 +30,8 @@ public:
     const QString &commandLine() const { return m_commandLine; }
     ProgramContext &context() { return m_context; }
     FormRuntime &forms() { return m_forms; }
+    /// Takes over one more form for the session.
+    void add(std::unique_ptr<Form> form);
     /// Any form of the session, loaded or not, by its name; documents are found among the loaded forms only.
     Form *form(const QString &name) const;
 
@@ -41,6 +44,7 @@ private:
 
     ProgramState m_state;
     FormRuntime m_forms;
+    ScreenPointer m_screenPointer;
     ProgramContext m_context;
     QString m_commandLine;
     bool m_ended = false;

@@ -1,1 +1,110 @@
-#include <QString>
+#include "shell/frmMdi.h"
+
+#include "common/fileCommands.h"
+#include "platform/formRuntime.h"
+#include "platform/inputGate.h"
+#include "platform/mainWindowFrame.h"
+#include "platform/mdiForm.h"
+#include "shell/frmMdiCommands.h"
+
+#include <QAction>
+#include <QMainWindow>
+
+frmMdi::frmMdi(ProgramContext &context, const QString &commandLine)
+    : Form(context, QStringLiteral("frmMdi")),
+      m_commandLine(commandLine),
+      m_commands(std::make_unique<MainCommands>(*this, context))
+{
+    context.mainWindow = this;
+    setCaption(QStringLiteral("Tagwrighter"));
+}
+
+frmMdi::~frmMdi()
+{
+    discard();
+    context().mainWindow = nullptr;
+}
+
+QMainWindow *frmMdi::frame() const
+{
+    return qobject_cast<QMainWindow *>(window());
+}
+
+QWidget *frmMdi::createWindow()
+{
+    auto *frame = new MainWindowFrame([this] {
+        if (Enabled())
+            Unload();
+    });
+    frame->setDropHandler([this](const QStringList &paths) { openDropped(paths); });
+    frame->setWindowTitle(Caption());
+    context().forms.setMainForm(this);
+    return frame;
+}
+
+void frmMdi::presentWindow()
+{
+    // The window's state was chosen at the load; showing it keeps that state.
+    window()->setVisible(true);
+    window()->raise();
+    window()->activateWindow();
+}
+
+bool frmMdi::Enabled() const
+{
+    return !m_gate || m_gate->isOpen();
+}
+
+void frmMdi::setEnabled(bool enabled)
+{
+    if (m_gate)
+        m_gate->setOpen(enabled);
+}
+
+void frmMdi::raiseDialogs()
+{
+    for (Form *form : context().forms.loaded())
+        if (form != this && !form->MDIChild() && form->Visible()) {
+            form->window()->raise();
+            form->window()->activateWindow();
+        }
+}
+
+QList<Document *> frmMdi::openDocuments() const
+{
+    QList<Document *> documents;
+    for (Form *form : context().forms.loaded())
+        if (form->Name() != u"frmMdi" && form->MDIChild())
+            if (auto *document = dynamic_cast<Document *>(form))
+                documents.append(document);
+    return documents;
+}
+
+Document *frmMdi::activeDocument() const
+{
+    return dynamic_cast<Document *>(context().forms.activeChild());
+}
+
+QObject *frmMdi::control(const QString &name) const
+{
+    if (QAction *action = m_commands->action(name))
+        return action;
+    return Form::control(name);
+}
+
+void frmMdi::SetDocumentControlsEnabled(bool enabled)
+{
+    m_commands->setDocumentControlsEnabled(enabled);
+}
+
+void frmMdi::setWordWrapChecked(bool checked)
+{
+    m_commands->action(QStringLiteral("mnuWordWrap"))->setChecked(checked);
+}
+
+void frmMdi::openDropped(const QStringList &paths)
+{
+    for (const QString &path : paths)
+        if (context().files)
+            context().files->OpenDocumentFile(path, false);
+}

@@ -1,0 +1,148 @@
+#include "document/frmWrite.h"
+
+#include "common/fileCommands.h"
+#include "common/paths.h"
+#include "platform/editSurface.h"
+#include "platform/services.h"
+#include "platform/timer.h"
+#include "shell/settings.h"
+
+#include <QVBoxLayout>
+
+namespace
+{
+constexpr int RefreshMilliseconds = 3000; ///< as designed; the load lowers it, so that a new window is coloured at once
+constexpr int FirstRefreshMilliseconds = 1;
+constexpr int AutoSaveMilliseconds = 60000;
+} // namespace
+
+frmWrite::frmWrite(ProgramContext &context) : MdiForm(context, QStringLiteral("frmWrite")) {}
+
+TextSurface &frmWrite::txtEdit()
+{
+    return *m_edit;
+}
+
+void frmWrite::Form_Load()
+{
+    buildControls();
+    takeNumber();
+    if (frmMdi().OpenDocumentCount == 1)
+        frmMdi().SetDocumentControlsEnabled(true);
+    CheckWordWrapSettings();
+    DocSelUpdate();
+    enterSelector();
+    frmMdi().SetStatusReady();
+    tmrAutoSave->setEnabled(settings::isOn(services().settings, settings::AutoSaveUse));
+}
+
+void frmWrite::buildControls()
+{
+    m_edit = new EditSurface;
+    m_edit->setObjectName(QStringLiteral("txtEdit"));
+    m_edit->setAccessibleName(QStringLiteral("Source"));
+    m_edit->setFrameStyle(QFrame::NoFrame);
+    contents().addWidget(m_edit);
+    window()->setFocusProxy(m_edit);
+    connect(m_edit, &EditSurface::Change, this, &frmWrite::txtEdit_Change);
+
+    tmrRefresh = new Timer(
+        services().timers, QStringLiteral("tmrRefresh"), [] {}, window());
+    tmrRefresh->setInterval(FirstRefreshMilliseconds);
+    tmrAutoSave = new Timer(
+        services().timers, QStringLiteral("tmrAutoSave"),
+        [this] {
+            if (context().files)
+                context().files->autoSaveTick(*this);
+        },
+        window());
+    tmrAutoSave->setInterval(AutoSaveMilliseconds);
+}
+
+void frmWrite::takeNumber()
+{
+    ++frmMdi().OpenDocumentCount;
+    ++frmMdi().NextDocumentNumber;
+    setCaption(QStringLiteral("Untitled") + QString::number(frmMdi().NextDocumentNumber));
+    DocNumber = frmMdi().NextDocumentNumber;
+}
+
+void frmWrite::enterSelector()
+{
+    frmMdi().showDocumentTabs(true);
+    if (settings::read(services().settings, settings::DocSelBarVis) == u"True")
+        frmMdi().showDocumentSelector(true);
+}
+
+void frmWrite::DocSelUpdate()
+{
+    addTab(Caption());
+}
+
+void frmWrite::DocSelUpdate(const QString &path)
+{
+    if (path.isEmpty()) {
+        DocSelUpdate();
+        return;
+    }
+    frmMdi().removeDocumentTab(QString::number(DocNumber) + QStringLiteral("Key"));
+    addTab(FileNameOnly(path));
+}
+
+void frmWrite::addTab(const QString &caption)
+{
+    DocKeyDescription = QString::number(DocNumber) + QStringLiteral("Key");
+    frmMdi().addDocumentTab(DocKeyDescription, caption);
+    if (frmMdi().activeDocument() == this)
+        frmMdi().selectDocumentTab(DocKeyDescription);
+}
+
+void frmWrite::CheckWordWrapSettings()
+{
+    m_edit->setWrapToWindow(frmMdi().WordWrap);
+}
+
+void frmWrite::txtEdit_Change()
+{
+    boolDirty = true;
+}
+
+void frmWrite::activate()
+{
+    bringToFront();
+    m_edit->SetFocus();
+}
+
+void frmWrite::Form_Activate()
+{
+    if (m_unloading)
+        return;
+    frmMdi().selectDocumentTab(DocKeyDescription);
+    CheckWordWrapSettings();
+}
+
+bool frmWrite::Form_QueryUnload()
+{
+    return !context().files || context().files->mayClose(*this);
+}
+
+void frmWrite::Form_Unload()
+{
+    m_unloading = true;
+    if (--frmMdi().OpenDocumentCount == 0) {
+        frmMdi().SetDocumentControlsEnabled(false);
+        frmMdi().showDocumentTabs(false);
+        frmMdi().SetStatusText(
+            QStringLiteral("There are no documents open. Choose New or Open from the File menu to begin."));
+        frmMdi().clearStructureTree();
+    }
+    frmMdi().removeDocumentTab(DocKeyDescription);
+}
+
+void frmWrite::detachWindow()
+{
+    // The next document becomes the active one when this one's window has gone, and takes the focus then.
+    MdiForm::detachWindow();
+    if (Document *next = frmMdi().activeDocument())
+        next->txtEdit().SetFocus();
+}

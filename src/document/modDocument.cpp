@@ -1,0 +1,108 @@
+#include "document/modDocument.h"
+
+#include "common/encodings.h"
+#include "common/fileCommands.h"
+#include "common/text.h"
+#include "document/frmWrite.h"
+#include "platform/fileSystem.h"
+#include "platform/formRuntime.h"
+#include "platform/messageBoxes.h"
+#include "platform/screenPointer.h"
+#include "platform/services.h"
+#include "shell/settings.h"
+
+#include <new>
+
+namespace
+{
+constexpr int DefaultPointer = 0;
+constexpr int HourglassPointer = 11;
+constexpr int ArrowHourglassPointer = 13;
+constexpr int OutOfMemory = 7;
+
+const QString Break = QStringLiteral("\r\n");
+
+QString metaLine(const QString &name, const QString &content)
+{
+    return QStringLiteral("<meta name=\"%1\" content=\"%2\">").arg(name, content) + Break;
+}
+
+void fillFromFile(ProgramContext &context, Document &document)
+{
+    const QString path = settings::read(context.services.settings, settings::BlankDFile);
+    const FileContents file = context.services.files.readAll(path);
+    if (file.error) {
+        context.services.messageBoxes.show(
+            {.title = QStringLiteral("Template Error"),
+             .text = QStringLiteral("An error occurred while trying to open the startup file."),
+             .icon = MessageIcon::Exclamation,
+             .buttons = MessageButtons::OK});
+        return;
+    }
+    document.txtEdit().setText(decode(file.bytes).text);
+    document.boolDirty = false;
+}
+
+void fillWithBuiltInPage(ProgramContext &context, Document &document)
+{
+    TextSurface &edit = document.txtEdit();
+    edit.setSelText(builtInPage(settings::isOn(context.services.settings, settings::AddMetaInfo)));
+    document.boolDirty = false;
+    // The position counts from 1 and the caret from 0: behind the tag's six characters and its break.
+    edit.setSelStart(Find(edit.Text().toLower(), u"<body>").value_or(0) + 7);
+}
+} // namespace
+
+void NewBlankDocument(ProgramContext &context)
+{
+    context.screenPointer.setMousePointer(ArrowHourglassPointer);
+    try {
+        auto form = std::make_unique<frmWrite>(context);
+        frmWrite &document = *form;
+        context.forms.adopt(std::move(form));
+        document.Show();
+        document.NewDoc = true;
+    } catch (const std::bad_alloc &) {
+        if (context.files)
+            context.files->MemoryErrors(OutOfMemory);
+    }
+    context.screenPointer.setMousePointer(DefaultPointer);
+}
+
+QString builtInPage(bool addMetaInfo)
+{
+    QString page = QStringLiteral("<html>\r\n<head>\r\n<title>Enter_Title_Here</title>\r\n");
+    if (addMetaInfo)
+        page += metaLine(QStringLiteral("description"), {}) + metaLine(QStringLiteral("keywords"), {}) +
+                metaLine(QStringLiteral("author"), {}) +
+                metaLine(QStringLiteral("generator"), QStringLiteral("Tagwrighter"));
+    return page + QStringLiteral("</head>\r\n<body>\r\n\r\n</body>\r\n</html>");
+}
+
+void FillBlankDocument(ProgramContext &context)
+{
+    Document *document = context.mainWindow->activeDocument();
+    if (!document)
+        return;
+    context.mainWindow->setEnabled(false);
+    const QString code = settings::read(context.services.settings, settings::BlankDocCode);
+    if (code == u"0")
+        document->boolDirty = false;
+    else if (code == u"2")
+        fillFromFile(context, *document);
+    else
+        fillWithBuiltInPage(context, *document);
+    document->UndoRedoChange();
+    context.mainWindow->setEnabled(true);
+}
+
+void ApplyWordWrapSetting(ProgramContext &context, bool enabled)
+{
+    context.screenPointer.setMousePointer(HourglassPointer);
+    context.mainWindow->WordWrap = enabled;
+    context.mainWindow->setWordWrapChecked(enabled);
+    settings::writeBoolean(context.services.settings, settings::WordWrap, enabled);
+    for (Document *document : context.mainWindow->openDocuments())
+        document->CheckWordWrapSettings();
+    context.screenPointer.setMousePointer(DefaultPointer);
+}

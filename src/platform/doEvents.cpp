@@ -1,0 +1,8 @@
+#include "platform/doEvents.h"
+
+#include <QCoreApplication>
+
+void DoEvents()
+{
+    QCoreApplication::processEvents();
+}

@@ -1,0 +1,71 @@
+#include "platform/mdiForm.h"
+
+#include "platform/formRuntime.h"
+
+#include <QCloseEvent>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QVBoxLayout>
+
+namespace
+{
+/// A child window whose close box unloads its form.
+class ChildWindow final : public QMdiSubWindow
+{
+public:
+    explicit ChildWindow(std::function<void()> unload) : m_unload(std::move(unload)) {}
+
+protected:
+    void closeEvent(QCloseEvent *event) override
+    {
+        event->ignore();
+        m_unload();
+    }
+
+private:
+    std::function<void()> m_unload;
+};
+} // namespace
+
+void MdiForm::bringToFront()
+{
+    auto *child = qobject_cast<QMdiSubWindow *>(window());
+    if (!child)
+        return;
+    context().forms.setActiveChild(this);
+    context().forms.mdiArea()->setActiveSubWindow(child);
+}
+
+QWidget *MdiForm::createWindow()
+{
+    auto *child = new ChildWindow([this] { Unload(); });
+    auto *client = new QWidget;
+    m_contents = new QVBoxLayout(client);
+    m_contents->setContentsMargins(0, 0, 0, 0);
+    m_contents->setSpacing(0);
+    child->setWidget(client);
+    child->setWindowTitle(Caption());
+    context().forms.mdiArea()->addSubWindow(child);
+    connect(child, &QMdiSubWindow::aboutToActivate, this, [this] { context().forms.setActiveChild(this); });
+    return child;
+}
+
+void MdiForm::presentWindow()
+{
+    // The children share one state: a page opened beside a maximised one is maximised too.
+    const QMdiSubWindow *current = context().forms.mdiArea()->currentSubWindow();
+    if (!current || current == window() || current->isMaximized())
+        window()->showMaximized();
+    else
+        window()->show();
+    bringToFront();
+}
+
+void MdiForm::detachWindow()
+{
+    window()->hide();
+    context().forms.forgetChild(this);
+    context().forms.mdiArea()->removeSubWindow(window());
+    if (MdiForm *next = context().forms.activeChild())
+        next->bringToFront();
+}

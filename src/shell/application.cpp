@@ -1,0 +1,62 @@
+#include "shell/application.h"
+
+#include "shell/frmMdi.h"
+#include "shell/frmSplash.h"
+#include "shell/frmWelcome.h"
+
+#include <algorithm>
+
+Application::Application(Services &services)
+    : m_context{.services = services, .forms = m_forms, .state = m_state, .screenPointer = m_screenPointer}
+{
+    m_context.version = QStringLiteral(TAGWRIGHTER_VERSION);
+    m_context.form = [this](const QString &name) -> Form & { return *form(name); };
+    m_context.end = [this] { End(); };
+    m_mdi = &own<frmMdi>(m_context, m_commandLine);
+    m_splash = &own<frmSplash>(m_context, *m_mdi);
+    own<frmWelcome>(m_context);
+    connect(m_mdi, &Form::unloaded, this, &Application::End);
+}
+
+Application::~Application()
+{
+    disconnect(m_mdi, nullptr, this, nullptr);
+    m_forms.discardAll();
+}
+
+template <class T, class... Arguments>
+T &Application::own(Arguments &&...arguments)
+{
+    auto form = std::make_unique<T>(std::forward<Arguments>(arguments)...);
+    T &owned = *form;
+    add(std::move(form));
+    return owned;
+}
+
+void Application::add(std::unique_ptr<Form> form)
+{
+    m_owned.push_back(std::move(form));
+}
+
+void Application::Main(const QString &commandLine)
+{
+    m_commandLine = commandLine;
+    m_splash->Load();
+    m_splash->Show();
+}
+
+void Application::End()
+{
+    if (m_ended)
+        return;
+    m_ended = true;
+    m_forms.discardAll();
+    Q_EMIT ended();
+}
+
+Form *Application::form(const QString &name) const
+{
+    const auto found =
+        std::find_if(m_owned.begin(), m_owned.end(), [&](const auto &owned) { return owned->Name() == name; });
+    return found == m_owned.end() ? m_forms.loaded(name) : found->get();
+}
