@@ -1,0 +1,237 @@
+#include "common/encodings.h"
+
+#include "common/text.h"
+#include "common/utf8.h"
+
+#include <QtEndian>
+
+#include <algorithm>
+#include <array>
+
+namespace
+{
+constexpr QByteArrayView utf8Mark("\xEF\xBB\xBF", 3);
+constexpr char16_t byteOrderMark = 0xFEFF;
+
+// Windows-1252 from 0x80 to 0x9F; the rest of it is the same as the first 256 characters. The five bytes without a
+// meaning keep their code, so that a file that holds them survives.
+constexpr std::array<char16_t, 32> upperControls = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
+};
+
+QString fromWindows1252(const QByteArray &bytes)
+{
+    QString text(bytes.size(), Qt::Uninitialized);
+    std::transform(bytes.begin(), bytes.end(), text.begin(), [](char c) {
+        const auto byte = static_cast<uchar>(c);
+        return QChar(byte >= 0x80U && byte < 0xA0U ? upperControls.at(byte - 0x80U) : char16_t(byte));
+    });
+    return text;
+}
+
+// The byte of a character, or nothing.
+std::optional<char> windows1252Byte(char16_t code)
+{
+    if (code < 0x80 || (code >= 0xA0 && code < 0x100))
+        return static_cast<char>(code);
+    const auto *const place = std::find(upperControls.begin(), upperControls.end(), code);
+    if (place == upperControls.end())
+        return std::nullopt;
+    return static_cast<char>(0x80 + (place - upperControls.begin()));
+}
+
+std::optional<QByteArray> toWindows1252(const QString &text)
+{
+    QByteArray bytes(text.size(), Qt::Uninitialized);
+    char *out = bytes.data();
+    for (const QChar c : text) {
+        const std::optional<char> byte = windows1252Byte(c.unicode());
+        if (!byte)
+            return std::nullopt;
+        *out++ = *byte;
+    }
+    return bytes;
+}
+
+// UTF-8 or UTF-8 behind its mark if the bytes are that. Halves of pairs are taken behind a mark alone, as no other
+// program writes them and a page in Windows-1252 may by chance.
+std::optional<Encoding> utf8EncodingOf(QByteArrayView bytes)
+{
+    const std::optional<Utf8Contents> contents = utf8Contents(bytes);
+    if (!contents)
+        return std::nullopt;
+    if (bytes.startsWith(utf8Mark))
+        return Encoding::Utf8Bom;
+    return contents->loneHalves ? std::nullopt : std::optional(Encoding::Utf8);
+}
+
+struct RawText {
+    QString text;
+    Encoding encoding = Encoding::Utf8;
+};
+
+RawText fromUtf16(const QByteArray &bytes)
+{
+    const bool bigEndian = bytes.startsWith("\xFE\xFF");
+    const bool marked = bigEndian || bytes.startsWith("\xFF\xFE");
+    QByteArray whole = bytes.sliced(marked ? 2 : 0);
+    if (whole.size() % 2 != 0)
+        whole += '\0';
+    QString text(whole.size() / 2, Qt::Uninitialized);
+    if (bigEndian)
+        qFromBigEndian<char16_t>(whole.constData(), text.size(), text.data());
+    else
+        qFromLittleEndian<char16_t>(whole.constData(), text.size(), text.data());
+    return {text, bigEndian ? Encoding::Utf16BE : Encoding::Utf16LE};
+}
+
+QByteArray toUtf16(const QString &text, bool bigEndian)
+{
+    const QString marked = QChar(byteOrderMark) + text;
+    QByteArray bytes(marked.size() * 2, Qt::Uninitialized);
+    if (bigEndian)
+        qToBigEndian<char16_t>(marked.constData(), marked.size(), bytes.data());
+    else
+        qToLittleEndian<char16_t>(marked.constData(), marked.size(), bytes.data());
+    return bytes;
+}
+
+RawText fromPlainBytes(const QByteArray &bytes)
+{
+    const std::optional<Encoding> encoding = utf8EncodingOf(bytes);
+    if (!encoding)
+        return {fromWindows1252(bytes), Encoding::Windows1252};
+    const qsizetype start = encoding == Encoding::Utf8Bom ? utf8Mark.size() : 0;
+    return {fromUtf8WithHalves(QByteArrayView(bytes).sliced(start)), *encoding};
+}
+
+struct Breaks {
+    qsizetype crLf = 0;
+    qsizetype lf = 0;
+    qsizetype cr = 0;
+};
+
+Breaks breaksOf(QStringView text)
+{
+    Breaks breaks;
+    const QChar *const end = text.end();
+    for (const QChar *c = text.begin(); c != end; ++c) {
+        if (*c == u'\n') {
+            ++breaks.lf;
+        } else if (*c == u'\r' && c + 1 != end && c[1] == u'\n') {
+            ++breaks.crLf;
+            ++c;
+        } else if (*c == u'\r') {
+            ++breaks.cr;
+        }
+    }
+    return breaks;
+}
+
+LineEnd lineEndOf(const Breaks &breaks)
+{
+    if (breaks.cr > 0 && breaks.lf == 0 && breaks.crLf == 0)
+        return LineEnd::Cr;
+    return breaks.lf > breaks.crLf ? LineEnd::Lf : LineEnd::CrLf;
+}
+
+QString withOnlyCrLf(const QString &text, const Breaks &breaks)
+{
+    return breaks.lf == 0 && breaks.cr == 0 ? text : withCrLf(text);
+}
+
+QString withLineEnd(const QString &text, LineEnd lineEnd)
+{
+    const QString normal = withOnlyCrLf(text, breaksOf(text));
+    if (lineEnd == LineEnd::CrLf)
+        return normal;
+    return QString(normal).remove(lineEnd == LineEnd::Lf ? u'\r' : u'\n');
+}
+
+EncodedText asUtf8(const QString &text, bool mark)
+{
+    const bool needsMark = mark || text.startsWith(QChar(byteOrderMark)) || hasLoneHalves(text);
+    const QByteArray bytes = toUtf8WithHalves(text);
+    if (!needsMark)
+        return {bytes, Encoding::Utf8};
+    return {utf8Mark.toByteArray() + bytes, Encoding::Utf8Bom};
+}
+
+EncodedText asWindows1252(const QString &text)
+{
+    if (const std::optional<QByteArray> bytes = toWindows1252(text)) {
+        const std::optional<Utf8Contents> contents = utf8Contents(*bytes);
+        if (!utf8EncodingOf(*bytes) || (contents && contents->onlyAscii))
+            return {*bytes, Encoding::Windows1252};
+    }
+    EncodedText encoded = asUtf8(text, false);
+    encoded.switchedToUtf8 = true;
+    return encoded;
+}
+} // namespace
+
+DecodedText decode(const QByteArray &bytes, bool unicodeRow)
+{
+    const RawText raw = unicodeRow ? fromUtf16(bytes) : fromPlainBytes(bytes);
+    const Breaks breaks = breaksOf(raw.text);
+    const int kinds = (breaks.crLf > 0 ? 1 : 0) + (breaks.lf > 0 ? 1 : 0) + (breaks.cr > 0 ? 1 : 0);
+    return {withOnlyCrLf(raw.text, breaks), {raw.encoding, lineEndOf(breaks)}, kinds > 1};
+}
+
+EncodedText encode(const QString &text, const FileFormat &format)
+{
+    const QString lines = withLineEnd(text, format.lineEnd);
+    switch (format.encoding) {
+    case Encoding::Utf16LE:
+    case Encoding::Utf16BE:
+        return {toUtf16(lines, format.encoding == Encoding::Utf16BE), format.encoding};
+    case Encoding::Windows1252:
+        return asWindows1252(lines);
+    case Encoding::Utf8:
+    case Encoding::Utf8Bom:
+        break;
+    }
+    return asUtf8(lines, format.encoding == Encoding::Utf8Bom);
+}
+
+QByteArray encodeOwnFile(const QString &text)
+{
+    return encode(text, {Encoding::Windows1252, LineEnd::CrLf}).bytes;
+}
+
+QString decodeOwnFile(const QByteArray &bytes)
+{
+    return decode(bytes).text;
+}
+
+QString encodingName(Encoding encoding)
+{
+    switch (encoding) {
+    case Encoding::Utf8:
+        return QStringLiteral("UTF-8");
+    case Encoding::Utf8Bom:
+        return QStringLiteral("UTF-8 with mark");
+    case Encoding::Windows1252:
+        return QStringLiteral("Windows-1252");
+    case Encoding::Utf16LE:
+        return QStringLiteral("UTF-16 LE");
+    case Encoding::Utf16BE:
+        return QStringLiteral("UTF-16 BE");
+    }
+    return QString();
+}
+
+QString lineEndName(LineEnd lineEnd)
+{
+    switch (lineEnd) {
+    case LineEnd::CrLf:
+        return QStringLiteral("CR LF");
+    case LineEnd::Lf:
+        return QStringLiteral("LF");
+    case LineEnd::Cr:
+        return QStringLiteral("CR");
+    }
+    return QString();
+}

@@ -1,0 +1,128 @@
+#include "platform/desktopCommonDialogs.h"
+
+#include "common/dialogFilter.h"
+#include "common/paths.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QFontDialog>
+#include <QPrintDialog>
+#include <QPrinter>
+
+namespace
+{
+// The rows as the toolkit wants them, patterns in brackets at the end and parted by blanks. It names a row by its text
+// alone, so rows that look the same are told apart by blanks at the end, which it does not show.
+QStringList nameFiltersOf(const QString &filter)
+{
+    QStringList filters;
+    for (const DialogFilterRow &row : parseDialogFilter(filter)) {
+        QStringList patterns = row.patterns;
+        patterns.replaceInStrings(QStringLiteral("*.*"), QStringLiteral("*"));
+        QString before = row.description + QLatin1Char(' ');
+        const QString behind = QLatin1Char('(') + patterns.join(u' ') + QLatin1Char(')');
+        while (filters.contains(before + behind))
+            before += QLatin1Char(' ');
+        filters += before + behind;
+    }
+    return filters.isEmpty() ? QStringList{QStringLiteral("*")} : filters;
+}
+
+void setStartingPoint(QFileDialog &dialog, const FileDialogRequest &request)
+{
+    const QString folder = folderOf(request.FileName);
+    if (!folder.isEmpty() && QDir(folder).exists())
+        dialog.setDirectory(folder);
+    else if (!request.InitDir.isEmpty())
+        dialog.setDirectory(request.InitDir);
+    if (!request.FileName.isEmpty())
+        dialog.selectFile(folder.isEmpty() ? request.FileName : request.FileName.sliced(folder.size()));
+}
+
+std::optional<FileDialogResult> runFileDialog(QFileDialog &dialog, const FileDialogRequest &request)
+{
+    const QStringList filters = nameFiltersOf(request.Filter);
+    if (!request.DialogTitle.isEmpty())
+        dialog.setWindowTitle(request.DialogTitle);
+    // The descriptions name their patterns themselves.
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.setNameFilters(filters);
+    dialog.selectNameFilter(filters.value(qBound(1, request.FilterIndex, static_cast<int>(filters.size())) - 1));
+    setStartingPoint(dialog, request);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    const auto chosen = static_cast<int>(filters.indexOf(dialog.selectedNameFilter()));
+    return FileDialogResult{dialog.selectedFiles().constFirst(), chosen < 0 ? request.FilterIndex : chosen + 1};
+}
+
+QColor shownColour(ColourValue colour)
+{
+    if (!isSystemColour(colour))
+        return QColor(redOf(colour), greenOf(colour), blueOf(colour));
+    const QPalette palette = QApplication::palette();
+    switch (colour) {
+    case WindowColour:
+        return palette.color(QPalette::Base);
+    case HighlightColour:
+        return palette.color(QPalette::Highlight);
+    case ButtonFaceColour:
+        return palette.color(QPalette::Button);
+    default:
+        return palette.color(QPalette::WindowText);
+    }
+}
+} // namespace
+
+std::optional<FileDialogResult> DesktopCommonDialogs::showOpen(const FileDialogRequest &request)
+{
+    QFileDialog dialog(QApplication::activeWindow());
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return runFileDialog(dialog, request);
+}
+
+std::optional<FileDialogResult> DesktopCommonDialogs::showSave(const FileDialogRequest &request)
+{
+    QFileDialog dialog(QApplication::activeWindow());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    return runFileDialog(dialog, request);
+}
+
+std::optional<QString> DesktopCommonDialogs::showFolder(const QString &title, const QString &initialFolder)
+{
+    QFileDialog dialog(QApplication::activeWindow(), title, initialFolder);
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    return withoutFinalSeparator(dialog.selectedFiles().constFirst());
+}
+
+std::optional<ColourValue> DesktopCommonDialogs::showColour(ColourValue initial)
+{
+    QColorDialog dialog(shownColour(initial), QApplication::activeWindow());
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    const QColor chosen = dialog.selectedColor();
+    return colourOf(chosen.red(), chosen.green(), chosen.blue());
+}
+
+std::optional<FontChoice> DesktopCommonDialogs::showFont(const FontChoice &initial)
+{
+    QFontDialog dialog(QFont(initial.family, qMax(initial.points, 1)), QApplication::activeWindow());
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return FontChoice{dialog.selectedFont().family(), dialog.selectedFont().pointSize()};
+}
+
+std::optional<int> DesktopCommonDialogs::showPrint()
+{
+    QPrinter printer;
+    QPrintDialog dialog(&printer, QApplication::activeWindow());
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return qMax(printer.copyCount(), 1);
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QByteArray>
+#include <optional>
+#include <sys/types.h>
+
+/// Whether a write waits until the disk has it. What may be lost to a power cut, but not to a kill, need not wait.
+enum class Durability { Flushed, Lazy };
+
+/// The path that a write to `path` reaches, its last links followed; errors are told in errno terms. A link that leads
+/// nowhere gives the place it names.
+struct LinkTarget {
+    QByteArray path;
+    int error = 0;
+};
+LinkTarget followLinks(const QByteArray &path);
+
+/// Replaces or makes the file `path` as a whole: it is written beside it and takes its place by a rename, after which
+/// it keeps the old file's permissions and attributes, and its owner where the system lets it. A new file gets
+/// `newMode`, less the process's mask. Gives 0 or the errno of the failure, after which nothing is left behind but the
+/// old file.
+int writeWholeFile(const QByteArray &path, QByteArrayView bytes, Durability durability, mode_t newMode = 0666);
+
+/// The folder part of a path for the system: "." for a bare name.
+QByteArray systemFolderOf(const QByteArray &path);
