@@ -11,11 +11,24 @@ constexpr ColourValue WindowColour = 0x80000005;
 constexpr ColourValue HighlightColour = 0x8000000D;
 constexpr ColourValue ButtonFaceColour = 0x8000000F;
 
-constexpr bool isSystemColour(ColourValue colour) { return (colour & 0x80000000U) != 0; }
-constexpr int redOf(ColourValue colour) { return static_cast<int>(colour & 0xFFU); }
-constexpr int greenOf(ColourValue colour) { return static_cast<int>((colour >> 8U) & 0xFFU); }
-constexpr int blueOf(ColourValue colour) { return static_cast<int>((colour >> 16U) & 0xFFU); }
+constexpr bool isSystemColour(ColourValue colour)
+{
+    return (colour & 0x80000000U) != 0;
+}
+constexpr int redOf(ColourValue colour)
+{
+    return static_cast<int>(colour & 0xFFU);
+}
+constexpr int greenOf(ColourValue colour)
+{
+    return static_cast<int>((colour >> 8U) & 0xFFU);
+}
+constexpr int blueOf(ColourValue colour)
+{
+    return static_cast<int>((colour >> 16U) & 0xFFU);
+}
 constexpr ColourValue colourOf(int red, int green, int blue)
 {
-    return static_cast<ColourValue>(red) | static_cast<ColourValue>(green) << 8U | static_cast<ColourValue>(blue) << 16U;
+    return static_cast<ColourValue>(red) | static_cast<ColourValue>(green) << 8U |
+           static_cast<ColourValue>(blue) << 16U;
 }

@@ -33,8 +33,24 @@ std::optional<QString> Mid(QStringView text, qsizetype start, std::optional<qsiz
     return text.mid(start - 1, length.value_or(-1)).toString();
 }
 
+namespace
+{
+bool hasLoneBreak(QStringView text)
+{
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i] == u'\n' || (text[i] == u'\r' && (i + 1 == text.size() || text[i + 1] != u'\n')))
+            return true;
+        if (text[i] == u'\r')
+            ++i;
+    }
+    return false;
+}
+} // namespace
+
 QString withCrLf(const QString &text)
 {
+    if (!hasLoneBreak(text))
+        return text; // shared, not copied: the text may be a large file's
     QString result;
     result.reserve(text.size() + text.size() / 32);
     for (qsizetype i = 0; i < text.size(); ++i) {

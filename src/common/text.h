@@ -3,9 +3,9 @@
 #include <QString>
 #include <optional>
 
-/// Searches as the whole program states its arithmetic: positions count from 1, 0 stands for "not found", and characters
-/// are compared by their codes. A search or a cut that cannot be done (a start below 1, a negative length) gives no
-/// value: the step has failed and its caller keeps what it had.
+/// Searches as the whole program states its arithmetic: positions count from 1, 0 stands for "not found", and
+/// characters are compared by their codes. A search or a cut that cannot be done (a start below 1, a negative length)
+/// gives no value: the step has failed and its caller keeps what it had.
 
 /// The first place of `what` in `text` at or behind `start`. A start behind the end finds nothing; an empty `what` is
 /// found at `start` itself.
@@ -15,7 +15,8 @@ std::optional<qsizetype> Find(QStringView text, QStringView what, qsizetype star
 /// the end finds nothing; an empty `what` is found at `start` itself.
 std::optional<qsizetype> FindBack(QStringView text, QStringView what, std::optional<qsizetype> start = std::nullopt);
 
-/// `length` characters from the 1-based `start`, fewer where the text ends before; from there to the end without a length.
+/// `length` characters from the 1-based `start`, fewer where the text ends before; from there to the end without a
+/// length.
 std::optional<QString> Mid(QStringView text, qsizetype start, std::optional<qsizetype> length = std::nullopt);
 
 /// Every line break (CR LF, LF, lone CR) as CR LF, which is how documents hold them in memory.

@@ -2,6 +2,7 @@
 
 #include "common/colour.h"
 
+#include <QList>
 #include <QString>
 #include <optional>
 
@@ -14,12 +15,20 @@ struct TextFormat {
     bool operator==(const TextFormat &) const = default;
 };
 
+/// A range of text, in positions of TextSurface, and the format that it is to take.
+struct FormatRange {
+    qsizetype start = 0;
+    qsizetype length = 0;
+    TextFormat format;
+};
+
 /// The text of a document with its selection and its colours.
 ///
 /// Positions count characters (UTF-16 code units) of `Text` from 0, and a line break is two of them, CR and LF. A
-/// position inside a line break snaps before it. Setters that return a Boolean change nothing and return false where the
-/// value cannot be taken (a negative start or length); values behind the end are cut to the end.
-class TextSurface {
+/// position inside a line break snaps before it. Setters that return a Boolean change nothing and return false where
+/// the value cannot be taken (a negative start or length); values behind the end are cut to the end.
+class TextSurface
+{
 public:
     TextSurface() = default;
     TextSurface(const TextSurface &) = delete;
@@ -38,7 +47,8 @@ public:
     virtual qsizetype SelLength() const = 0;
     virtual bool setSelLength(qsizetype length) = 0; ///< the caret stands at the selection's end
     virtual QString SelText() const = 0;
-    virtual void setSelText(const QString &text) = 0; ///< replaces the selection, caret behind the new text; raises Change
+    virtual void
+    setSelText(const QString &text) = 0; ///< replaces the selection, caret behind the new text; raises Change
 
     /// The format of the selection; without one, the format that the next typed character takes.
     virtual TextFormat selectionFormat() const = 0;
@@ -47,11 +57,19 @@ public:
     void setSelBold(bool bold) { setSelectionFormat({{}, bold, {}}); }
     void setSelUnderline(bool underline) { setSelectionFormat({{}, {}, underline}); }
 
-    /// The format of a range, without moving the visible selection.
+    /// The format of a range, without moving the visible selection; of an empty range, the format that a character put
+    /// in there would take; of a negative start or length, nothing.
     virtual TextFormat formatOf(qsizetype start, qsizetype length) const = 0;
     /// Formats a range without moving the visible selection; no Change. False, and nothing changed, for a negative
     /// start or length.
     virtual bool setFormat(qsizetype start, qsizetype length, const TextFormat &format) = 0;
+    /// The same for many ranges, the later ones over the earlier ones, leaving out those that setFormat would refuse. A
+    /// surface may do it faster than one by one.
+    virtual void setFormats(const QList<FormatRange> &ranges)
+    {
+        for (const FormatRange &range : ranges)
+            setFormat(range.start, range.length, range.format);
+    }
 
     virtual bool Locked() const = 0;
     virtual void setLocked(bool locked) = 0; ///< the user cannot change the text; keys are still seen
@@ -60,11 +78,13 @@ public:
     virtual void setPaintingHeld(bool held) = 0; ///< nothing is drawn until it is set back; calls do not nest
 
     /// Lines are lines of the source, counted from 0, wrapped or not.
-    virtual qsizetype lineCount() const = 0; ///< an empty text has one line
-    virtual qsizetype lineFromCharacter(qsizetype position) const = 0;
-    virtual std::optional<qsizetype> characterFromLine(qsizetype line) const = 0; ///< nothing for a line that is not there
+    virtual qsizetype lineCount() const = 0;                           ///< an empty text has one line
+    virtual qsizetype lineFromCharacter(qsizetype position) const = 0; ///< cut to the first and the last line
+    virtual std::optional<qsizetype>
+    characterFromLine(qsizetype line) const = 0; ///< nothing for a line that is not there
     virtual qsizetype firstVisibleLine() const = 0;
-    virtual void scrollToLine(qsizetype line) = 0; ///< that line becomes the first visible one as far as the text allows
+    virtual void
+    scrollToLine(qsizetype line) = 0; ///< that line becomes the first visible one as far as the text allows
     virtual void setWrapToWindow(bool wrap) = 0;
     virtual bool wrapToWindow() const = 0;
 
