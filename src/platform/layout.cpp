@@ -2,15 +2,13 @@
 
 #include "platform/form.h"
 
+#include <QAbstractButton>
+#include <QButtonGroup>
 #include <QComboBox>
-#include <QCheckBox>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStackedWidget>
@@ -29,45 +27,95 @@ QString spoken(QString caption)
     return caption.trimmed();
 }
 
+/// The widget that has the focus in the control's place, and so is what a screen reader meets.
+QWidget *focusOf(QWidget *control)
+{
+    const auto *combo = qobject_cast<QComboBox *>(control);
+    if (combo && combo->lineEdit())
+        return combo->lineEdit();
+    return control->focusProxy() ? control->focusProxy() : control;
+}
+
+void nameBy(const QString &label, QWidget *control)
+{
+    const auto *button = qobject_cast<QAbstractButton *>(control);
+    if (qobject_cast<QLabel *>(control) || label.isEmpty())
+        return;
+    if (button && !button->text().isEmpty()) {
+        control->setAccessibleDescription(label); // "Browse...", of which there are many
+        return;
+    }
+    for (QWidget *named : {control, focusOf(control)}) {
+        if (named->accessibleName().isEmpty())
+            named->setAccessibleName(label);
+    }
+}
+
+bool isTall(const QWidget &control)
+{
+    return control.sizePolicy().verticalPolicy() & QSizePolicy::ExpandFlag;
+}
+
+bool isFixed(const Node &node)
+{
+    return node.widget() && node.widget()->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed;
+}
+
 template <class Layout>
-Node laidOut(const QList<Node> &pieces)
+Layout *laidOut(const QList<Node> &pieces)
 {
     auto *layout = new Layout;
+    layout->setAlignment(Qt::AlignTop);
     for (const Node &piece : pieces)
         piece.addTo(*layout);
-    return Node(layout);
+    return layout;
 }
 
-template <class Control>
-Control *named(Control *control, const QString &name)
+QLabel *captionFor(const QString &text, const QString &name, const QList<QWidget *> &controls)
 {
-    control->setObjectName(name);
-    return control;
+    QLabel *caption = label(name, text);
+    for (QWidget *control : controls) {
+        nameBy(spoken(text), control);
+        if (!caption->buddy() && control->focusPolicy() != Qt::NoFocus)
+            caption->setBuddy(control);
+    }
+    if (!caption->buddy() && !controls.isEmpty())
+        caption->setBuddy(controls.front());
+    return caption;
 }
 
-/// Runs a handler at the control's events of one kind, before the control's own handling: a click that brings the focus
-/// still places the caret afterwards.
-class FocusWatch final : public QObject
+/// A number field keeps its width; what stands behind it follows at once.
+Node inRow(const Row &row)
 {
-public:
-    FocusWatch(QWidget *control, QEvent::Type type, Handler handler)
-        : QObject(control), m_type(type), m_handler(std::move(handler))
-    {
-        control->installEventFilter(this);
-    }
+    if (isFixed(row.control))
+        return line(QList<Node>{row.control} + row.trailing + QList<Node>{space()});
+    return row.trailing.isEmpty() ? row.control : line(QList<Node>{row.control.stretched()} + row.trailing);
+}
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() == m_type)
-            m_handler();
-        return QObject::eventFilter(watched, event);
+void addRow(QGridLayout &grid, int at, const Row &row)
+{
+    const Node content = inRow(row);
+    const QList<QWidget *> controls = content.widgets();
+    if (!row.label.isEmpty()) {
+        const bool tall = !controls.isEmpty() && isTall(*controls.front());
+        grid.addWidget(captionFor(row.label, row.labelName, controls), at, 0, tall ? Qt::AlignTop : Qt::Alignment());
     }
+    if (content.widget())
+        grid.addWidget(content.widget(), at, 1);
+    else if (content.layout())
+        grid.addLayout(content.layout(), at, 1);
+}
 
-private:
-    QEvent::Type m_type;
-    Handler m_handler;
-};
+void collect(const QLayout &layout, QList<QWidget *> &widgets)
+{
+    for (int i = 0; i < layout.count(); ++i) {
+        const QLayoutItem *item = layout.itemAt(i);
+        if (item->widget())
+            widgets.append(item->widget());
+        else if (const auto *inner = dynamic_cast<const QLayout *>(item))
+            collect(*inner, widgets);
+    }
+}
 } // namespace
 
 Node Node::stretched(int share) const
@@ -87,6 +135,16 @@ void Node::addTo(QBoxLayout &layout) const
         layout.addStretch(1);
 }
 
+QList<QWidget *> Node::widgets() const
+{
+    QList<QWidget *> widgets;
+    if (m_widget)
+        widgets.append(m_widget);
+    if (m_layout)
+        collect(*m_layout, widgets);
+    return widgets;
+}
+
 Row row(const QString &label, const Node &control, const QList<Node> &trailing, const QString &labelName)
 {
     return {label, control, trailing, labelName};
@@ -95,34 +153,29 @@ Row row(const QString &label, const Node &control, const QList<Node> &trailing, 
 Node rows(const QList<Row> &rows)
 {
     auto *grid = new QGridLayout;
+    grid->setAlignment(Qt::AlignTop);
     grid->setColumnStretch(1, 1);
-    int at = 0;
-    for (const Row &row : rows) {
-        auto *caption = new QLabel(row.label);
-        caption->setObjectName(row.labelName);
-        grid->addWidget(caption, at, 0);
-        QWidget *control = row.control.widget();
-        if (control) {
-            caption->setBuddy(control);
-            control->setAccessibleName(spoken(row.label));
-        }
-        if (control && row.trailing.isEmpty())
-            grid->addWidget(control, at, 1);
-        else
-            grid->addLayout(line(QList<Node>{row.control.stretched()} + row.trailing).layout(), at, 1);
-        ++at;
-    }
+    for (int at = 0; at < rows.size(); ++at)
+        addRow(*grid, at, rows[at]);
     return Node(grid);
+}
+
+Node under(const QString &label, QWidget *control, const QString &labelName)
+{
+    return column({captionFor(label, labelName, {control}), Node(control, 1)});
 }
 
 Node column(const QList<Node> &pieces)
 {
-    return laidOut<QVBoxLayout>(pieces);
+    return Node(laidOut<QVBoxLayout>(pieces));
 }
 
 Node line(const QList<Node> &pieces)
 {
-    return laidOut<QHBoxLayout>(pieces);
+    auto *layout = new QHBoxLayout;
+    for (const Node &piece : pieces)
+        piece.addTo(*layout);
+    return Node(layout);
 }
 
 Node beside(const QList<Node> &pieces)
@@ -135,181 +188,56 @@ Node beside(const QList<Node> &pieces)
 
 Node group(const QString &caption, const Node &content, const QString &name)
 {
-    auto *box = named(new QGroupBox(caption), name);
+    auto *box = new QGroupBox(caption);
+    box->setObjectName(name);
     auto *layout = new QVBoxLayout(box);
     content.addTo(*layout);
     return box;
 }
 
+Node options(const QList<QRadioButton *> &choices, Qt::Orientation orientation)
+{
+    QList<Node> pieces;
+    auto *exclusive = choices.isEmpty() ? nullptr : new QButtonGroup(choices.front());
+    for (QRadioButton *choice : choices) {
+        exclusive->addButton(choice);
+        pieces.append(choice);
+    }
+    return orientation == Qt::Vertical ? column(pieces) : line(pieces + QList<Node>{space()});
+}
+
 Node buttons(const QList<QPushButton *> &buttons)
 {
-    auto *layout = new QVBoxLayout;
+    QList<Node> pieces;
     for (QPushButton *button : buttons)
-        layout->addWidget(button);
-    layout->addStretch(1);
-    return Node(layout);
+        pieces.append(button);
+    return column(pieces);
 }
 
 Node pages(QTabBar *strip, const QString &panels, const QList<Node> &contents)
 {
     auto *stack = new QStackedWidget;
     for (int i = 0; i < contents.size(); ++i) {
-        auto *panel = named(new QWidget, controlName(panels, i));
+        auto *panel = new QWidget;
+        panel->setObjectName(controlName(panels, i));
+        panel->setAccessibleName(spoken(strip->tabText(i)));
         auto *layout = new QVBoxLayout(panel);
         contents[i].addTo(*layout);
         stack->addWidget(panel);
     }
+    stack->setCurrentIndex(strip->currentIndex());
     QObject::connect(strip, &QTabBar::currentChanged, stack, &QStackedWidget::setCurrentIndex);
     return column({Node(strip), Node(stack, 1)});
+}
+
+Node hidden(QWidget *control)
+{
+    control->hide();
+    return control;
 }
 
 Node space()
 {
     return Node::space();
 }
-
-QLabel *label(const QString &name, const QString &caption)
-{
-    return named(new QLabel(caption), name);
-}
-
-QLineEdit *text(const QString &name, const Handler &change)
-{
-    auto *control = named(new QLineEdit, name);
-    if (change)
-        QObject::connect(control, &QLineEdit::textChanged, control, [change] { change(); });
-    onGotFocus(control, [control] { SelectAllText(control); });
-    return control;
-}
-
-QPlainTextEdit *textArea(const QString &name, const Handler &change)
-{
-    auto *control = named(new QPlainTextEdit, name);
-    control->setTabChangesFocus(true);
-    if (change)
-        QObject::connect(control, &QPlainTextEdit::textChanged, control, [change] { change(); });
-    return control;
-}
-
-namespace
-{
-template <class Button>
-Button *pressable(const QString &name, const QString &caption, const Handler &click)
-{
-    auto *control = named(new Button(caption), name);
-    if (click)
-        QObject::connect(control, &QAbstractButton::clicked, control, [click] { click(); });
-    return control;
-}
-} // namespace
-
-QPushButton *button(const QString &name, const QString &caption, const Handler &click)
-{
-    return pressable<QPushButton>(name, caption, click);
-}
-
-QCheckBox *check(const QString &name, const QString &caption, const Handler &click)
-{
-    return pressable<QCheckBox>(name, caption, click);
-}
-
-QRadioButton *option(const QString &name, const QString &caption, const Handler &click)
-{
-    return pressable<QRadioButton>(name, caption, click);
-}
-
-QComboBox *dropList(const QString &name, const QList<QString> &rows, const Handler &click)
-{
-    auto *control = named(new QComboBox, name);
-    control->addItems(rows);
-    if (click)
-        QObject::connect(control, &QComboBox::currentIndexChanged, control, [click] { click(); });
-    return control;
-}
-
-QComboBox *combo(const QString &name, const QList<QString> &rows, const Handler &change)
-{
-    auto *control = named(new QComboBox, name);
-    control->setEditable(true);
-    control->setInsertPolicy(QComboBox::NoInsert);
-    control->addItems(rows);
-    control->setCurrentIndex(-1);
-    if (change)
-        QObject::connect(control, &QComboBox::editTextChanged, control, [change] { change(); });
-    onGotFocus(control->lineEdit(), [control] { SelectAllText(control); });
-    return control;
-}
-
-QListWidget *list(const QString &name, const Handler &click, const Handler &dblClick)
-{
-    auto *control = named(new QListWidget, name);
-    if (click)
-        QObject::connect(control, &QListWidget::itemSelectionChanged, control, [click] { click(); });
-    if (dblClick)
-        QObject::connect(control, &QListWidget::itemDoubleClicked, control, [dblClick] { dblClick(); });
-    return control;
-}
-
-QTabBar *tabStrip(const QString &name, const QList<QString> &tabs, const Handler &click)
-{
-    auto *control = named(new QTabBar, name);
-    for (const QString &tab : tabs)
-        control->addTab(tab);
-    control->setDrawBase(true);
-    control->setExpanding(false);
-    if (click)
-        QObject::connect(control, &QTabBar::currentChanged, control, [click] { click(); });
-    return control;
-}
-
-void onGotFocus(QWidget *control, const Handler &handler)
-{
-    new FocusWatch(control, QEvent::FocusIn, handler);
-}
-
-void onLostFocus(QWidget *control, const Handler &handler)
-{
-    new FocusWatch(control, QEvent::FocusOut, handler);
-}
 } // namespace ui
-
-namespace
-{
-QLineEdit *lineEditOf(QWidget *control)
-{
-    if (auto *edit = qobject_cast<QLineEdit *>(control))
-        return edit;
-    auto *combo = qobject_cast<QComboBox *>(control);
-    return combo ? combo->lineEdit() : nullptr;
-}
-
-/// Lets no typed character but a digit through. Pasted text is left alone, as the keyboard alone is bound.
-class DigitKeys final : public QObject
-{
-public:
-    using QObject::QObject;
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() != QEvent::KeyPress)
-            return QObject::eventFilter(watched, event);
-        const QString typed = static_cast<QKeyEvent *>(event)->text();
-        return !typed.isEmpty() && typed[0].isPrint() && (typed[0] < u'0' || typed[0] > u'9');
-    }
-};
-} // namespace
-
-void SetNumbersOnly(QWidget *control)
-{
-    if (QLineEdit *edit = lineEditOf(control))
-        edit->installEventFilter(new DigitKeys(edit));
-}
-
-void SelectAllText(QWidget *control)
-{
-    if (QLineEdit *edit = lineEditOf(control))
-        edit->selectAll();
-    else if (auto *area = qobject_cast<QPlainTextEdit *>(control))
-        area->selectAll();
-}

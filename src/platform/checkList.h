@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QListWidget>
+
+/// A list whose rows have a tick each; Space turns the tick of the current row.
+class CheckList final : public QListWidget
+{
+    Q_OBJECT
+public:
+    explicit CheckList(QWidget *parent = nullptr);
+
+    void addRow(const QString &text, bool ticked = false);
+    bool isTicked(int row) const;
+    void setTicked(int row, bool ticked);
+
+Q_SIGNALS:
+    void rowTicked(int row); ///< by the user
+
+private:
+    bool m_quiet = false;
+};

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QEvent>
+#include <QObject>
+#include <functional>
+
+/// Runs a handler at the control's events of one kind, before the control's own handling: a click that brings the focus
+/// still places the caret afterwards. The handler returns true for an event that is to go no further.
+class ControlWatch final : public QObject
+{
+public:
+    using Handler = std::function<bool(const QEvent &)>;
+
+    ControlWatch(QObject *control, QEvent::Type type, Handler handler);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QEvent::Type m_type;
+    Handler m_handler;
+};
