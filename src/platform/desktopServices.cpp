@@ -8,6 +8,7 @@
 #include "platform/desktopMessageBoxes.h"
 #include "platform/launchedHelpViewer.h"
 #include "platform/localFileSystem.h"
+#include "platform/modalLoop.h"
 #include "platform/programFolder.h"
 #include "platform/qtTimerSource.h"
 #include "platform/random.h"
@@ -37,9 +38,10 @@ struct DesktopServices::Parts {
     Random random;
     LaunchedHelpViewer help{joinPath(appPath, QStringLiteral("help")), files, launcher, messageBoxes};
     QtTimerSource timers;
+    EventModalLoop modalLoop;
     XdgFileClasses fileClasses{currentXdgPlaces(), startInBackground};
-    Services services{messageBoxes, commonDialogs, settings, files,  launcher,    clipboard,
-                      clock,        random,        help,     timers, fileClasses, appPath};
+    Services services{messageBoxes, commonDialogs, settings, files,       launcher,  clipboard, clock,
+                      random,       help,          timers,   fileClasses, modalLoop, appPath};
 };
 
 DesktopServices::DesktopServices() : parts(std::make_unique<Parts>()) {}

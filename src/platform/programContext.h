@@ -17,9 +17,9 @@ struct ProgramContext {
     FormRuntime &forms;
     ProgramState &state;
     ScreenPointer &screenPointer;
-    MainWindow *mainWindow = nullptr;            ///< set by the main window's form for as long as it exists
-    FileCommands *files = nullptr;               ///< what opens, saves and closes documents
-    QString version;                             ///< the program's: major.minor.revision
-    std::function<Form &(const QString &)> form; ///< a form of the session by its name
-    std::function<void()> end;                   ///< ends the program at once; no further handler of a form runs
+    MainWindow *mainWindow = nullptr;                 ///< set by the main window's form for as long as it exists
+    FileCommands *files = nullptr;                    ///< what opens, saves and closes documents
+    QString version = {};                             ///< the program's: major.minor.revision
+    std::function<Form &(const QString &)> form = {}; ///< a form of the session by its name
+    std::function<void()> end = {};                   ///< ends the program at once; no further handler of a form runs
 };
