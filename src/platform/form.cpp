@@ -74,6 +74,7 @@ void Form::Load()
     m_window->installEventFilter(this);
     m_loaded = true;
     m_context.forms.add(this);
+    prepareLoad();
     Form_Load();
 }
 

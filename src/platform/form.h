@@ -63,6 +63,7 @@ Q_SIGNALS:
 
 protected:
     virtual void Form_Load() = 0;
+    virtual void prepareLoad() {} ///< runs before Form_Load, for what a kind of form always begins with
     virtual bool Form_QueryUnload() { return true; } ///< false calls the unload off
     virtual void Form_Unload() {}
     virtual void Form_Activate() {}
