@@ -2,15 +2,28 @@
 
 #include "common/colour.h"
 
-/// How the source is coloured, as the main window holds it in memory.
+#include <optional>
+
+/// The settings of the colouring, as the main window holds them between two visits of the options dialog.
 struct ColouringOptions {
-    bool colourSyntax = true;
-    bool colourLinks = true;
-    qint16 updateTime = 10; ///< idle seconds before a full pass
-    ColourValue tag = 8388608;
-    ColourValue attribute = 8421376;
-    ColourValue value = 8421504;
-    ColourValue comment = 32768;
-    ColourValue asp = 128;
-    ColourValue url = 16711680;
+    bool ColourCodeSyntax = true;    ///< tags are coloured, and the structure tree is filled
+    bool ColourCodeHyperlink = true; ///< link texts are coloured
+    int ColourCodeUpdateTime = 10;   ///< seconds without a change before a document is coloured
+    ColourValue ColourCodeTag = 0x800000;
+    ColourValue ColourCodeAttribute = 0x808000;
+    ColourValue ColourCodeValue = 0x808080;
+    ColourValue ColourCodeComment = 0x008000;
+    ColourValue ColourASPCode = 0x000080;
+    ColourValue ColourCodeURL = 0xFF0000;
+    bool operator==(const ColouringOptions &) const = default;
 };
+
+/// The interval of a refresh timer in milliseconds. Nothing where the timer is to keep the one it has: the seconds are
+/// multiplied in 16 bits, which 33 and more overflow, and an interval cannot be negative.
+constexpr std::optional<int> refreshInterval(int updateTimeSeconds)
+{
+    constexpr int Largest16Bit = 32767;
+    if (updateTimeSeconds < 0 || updateTimeSeconds > Largest16Bit / 1000)
+        return std::nullopt;
+    return updateTimeSeconds * 1000;
+}

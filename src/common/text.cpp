@@ -1,5 +1,7 @@
 #include "common/text.h"
 
+#include <algorithm>
+
 std::optional<qsizetype> Find(QStringView text, QStringView what, qsizetype start)
 {
     if (start < 1)
@@ -63,5 +65,12 @@ QString withCrLf(const QString &text)
             result += c;
         }
     }
+    return result;
+}
+
+QString LCase(QStringView text)
+{
+    QString result(text.size(), Qt::Uninitialized);
+    std::transform(text.begin(), text.end(), result.begin(), [](QChar c) { return LCase(c); });
     return result;
 }

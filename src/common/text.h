@@ -21,3 +21,13 @@ std::optional<QString> Mid(QStringView text, qsizetype start, std::optional<qsiz
 
 /// Every line break (CR LF, LF, lone CR) as CR LF, which is how documents hold them in memory.
 QString withCrLf(const QString &text);
+
+/// Lower case character by character, so that every position stays what it was (a string's own lower case may be
+/// longer).
+QString LCase(QStringView text);
+inline QChar LCase(QChar c)
+{
+    if (c.unicode() < 128)
+        return c >= u'A' && c <= u'Z' ? QChar(c.unicode() + 32) : c;
+    return c.toLower();
+}

@@ -80,11 +80,11 @@ public:
     /// Lines are lines of the source, counted from 0, wrapped or not.
     virtual qsizetype lineCount() const = 0;                           ///< an empty text has one line
     virtual qsizetype lineFromCharacter(qsizetype position) const = 0; ///< cut to the first and the last line
-    virtual std::optional<qsizetype>
-    characterFromLine(qsizetype line) const = 0; ///< nothing for a line that is not there
+    /// The first character of a line; nothing for a line that is not there.
+    virtual std::optional<qsizetype> characterFromLine(qsizetype line) const = 0;
     virtual qsizetype firstVisibleLine() const = 0;
-    virtual void
-    scrollToLine(qsizetype line) = 0; ///< that line becomes the first visible one as far as the text allows
+    /// Makes that line the first visible one, as far as the text allows.
+    virtual void scrollToLine(qsizetype line) = 0;
     virtual void setWrapToWindow(bool wrap) = 0;
     virtual bool wrapToWindow() const = 0;
 

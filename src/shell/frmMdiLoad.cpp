@@ -111,15 +111,15 @@ void frmMdi::restoreState()
 void frmMdi::readColouringOptions()
 {
     SettingsStore &store = services().settings;
-    colouring.colourSyntax = settings::isOn(store, settings::ColourCodeSyntax);
-    colouring.colourLinks = settings::isOn(store, settings::ColourCodeHyperlink);
-    colouring.updateTime = settings::read(store, settings::ColourCodeUpdateTime).toShort();
-    colouring.tag = storedColour(store, settings::ColourCodeTag);
-    colouring.attribute = storedColour(store, settings::ColourCodeAttribute);
-    colouring.value = storedColour(store, settings::ColourCodeValue);
-    colouring.asp = storedColour(store, settings::ColourASPCode);
-    colouring.comment = storedColour(store, settings::ColourCodeComment);
-    colouring.url = storedColour(store, settings::ColourCodeURL);
+    colouring.ColourCodeSyntax = settings::isOn(store, settings::ColourCodeSyntax);
+    colouring.ColourCodeHyperlink = settings::isOn(store, settings::ColourCodeHyperlink);
+    colouring.ColourCodeUpdateTime = settings::read(store, settings::ColourCodeUpdateTime).toShort();
+    colouring.ColourCodeTag = storedColour(store, settings::ColourCodeTag);
+    colouring.ColourCodeAttribute = storedColour(store, settings::ColourCodeAttribute);
+    colouring.ColourCodeValue = storedColour(store, settings::ColourCodeValue);
+    colouring.ColourASPCode = storedColour(store, settings::ColourASPCode);
+    colouring.ColourCodeComment = storedColour(store, settings::ColourCodeComment);
+    colouring.ColourCodeURL = storedColour(store, settings::ColourCodeURL);
 }
 
 void frmMdi::restoreBars()

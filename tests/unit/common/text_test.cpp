@@ -49,4 +49,10 @@ TEST(WithCrLf, MakesEveryBreakTwoCharacters)
 {
     EXPECT_EQ(withCrLf(QStringLiteral("a\rb\nc\r\nd\n\re")), QStringLiteral("a\r\nb\r\nc\r\nd\r\n\r\ne"));
 }
+
+TEST(LCase, KeepsEveryPosition)
+{
+    EXPECT_EQ(LCase(u"aZ[@\u00C4\u0130x\r\n"), QStringLiteral("az[@\u00E4ix\r\n"));
+    EXPECT_EQ(LCase(QStringView()), QString());
+}
 } // namespace

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "document/textSelection.h"
+
+#include <QString>
+#include <array>
+#include <optional>
+
+/// The whole of a document at one moment. An empty text stands for "no snapshot".
+struct UndoSnapshot {
+    QString text;
+    TextSelection selection;
+};
+
+/// The history of one document: whole snapshots, of which the first is the newest.
+///
+/// It is no linear history. A snapshot taken after an undo is put in front of those that could still be redone, which
+/// stay, and the position moves one entry towards the newest although the entries move one towards the oldest. Texts
+/// are shared, so a snapshot costs memory only where its text differs from the one before.
+class UndoHistory
+{
+public:
+    void UndoRedoChange(const UndoSnapshot &snapshot);
+
+    /// What is to be written back, text first, then the selection; nothing at the end of the history.
+    std::optional<UndoSnapshot> Undo() { return moveTo(m_position + 1); }
+    std::optional<UndoSnapshot> Redo() { return moveTo(m_position - 1); }
+
+    struct Possible {
+        bool undo = false; ///< by the entry stood at, not by the one that Undo writes back: may be true in vain
+        bool redo = false;
+        bool operator==(const Possible &) const = default;
+    };
+    Possible IsUndoRedoPossible() const;
+
+    /// The entry that the document stands at, from 1.
+    int UndoPosition() const { return m_position; }
+
+private:
+    static constexpr int Oldest = 30;
+
+    std::optional<UndoSnapshot> moveTo(int position);
+
+    // Entry 0 is never written: above the newest there is nothing to redo.
+    std::array<UndoSnapshot, Oldest + 1> m_entries;
+    int m_position = 1;
+};
