@@ -1,6 +1,10 @@
 #pragma once
 
+#include "common/encodings.h"
+#include "common/fileStamp.h"
 #include "common/textSurface.h"
+
+#include <optional>
 
 /// A document as the other subsystems know it. The window is the document: its form, frmWrite, is the one
 /// implementation.
@@ -21,6 +25,11 @@ public:
     QString InternetOriginURL;      ///< where it was downloaded from; empty otherwise
     bool UnsuccessfulClose = false; ///< Save As was cancelled during a close
 
+    FileFormat fileFormat;              ///< how the file stands as bytes, and how it is written back
+    bool mixedLineEnds = false;         ///< the file has line ends of more than one kind; a save makes them one
+    std::optional<FileStamp> fileStamp; ///< the file's state when it was opened or saved last; nothing if unknown
+    qint16 autoSaveTicks = 0;           ///< minutes since the last automatic save
+
     virtual QString documentCaption() const = 0; ///< window title: "Untitled" and the number, or the full path
     virtual void setDocumentCaption(const QString &caption) = 0;
     virtual TextSurface &txtEdit() = 0;
@@ -38,9 +47,31 @@ public:
     /// none.
     virtual void DocSelUpdate(const QString &path) = 0;
 
+    /// The switch of `tmrAutoSave`.
+    virtual bool autoSaveEnabled() const = 0;
+    virtual void setAutoSaveEnabled(bool enabled) = 0;
+
     virtual void CheckWordWrapSettings() = 0;
 
+    /// Takes the text and its selection into the document's history.
     virtual void UndoRedoChange() = 0;
+    /// Go one step through the history; nothing at its ends.
+    virtual void Undo() = 0;
+    virtual void Redo() = 0;
+    /// Which of the two the menus offer now.
+    struct UndoRedo {
+        bool undo = false;
+        bool redo = false;
+    };
+    virtual UndoRedo IsUndoRedoPossible() const = 0;
+    virtual int UndoPosition() const = 0; ///< the entry of the history that the document stands at, from 1
+
+    /// Moves the lines of the selection, or the caret, by one indent step.
+    virtual void IndentText(bool indent) = 0;
+    /// Lays the whole source out anew, for readers.
+    virtual void OptimiseSyntax() = 0;
+
     virtual void UpdateLineInformation() = 0;
+    /// Colours the document after text was put in from outside.
     virtual void ExternalCallColourCode() = 0;
 };

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "common/colouringOptions.h"
 #include "common/document.h"
 
 #include <QList>
+#include <QStringList>
 
 /// The main window as the other subsystems know it; its form, frmMdi, is the one implementation.
 class MainWindow
@@ -23,14 +25,25 @@ public:
     virtual Document *activeDocument() const = 0;
 
     qint16 OpenDocumentCount = 0;
-    qint16 NextDocumentNumber = 0; ///< raised at each document's load, never lowered
-    bool ExitInProgress = false;   ///< the user has agreed to leave
-    bool SaveListShown = false;    ///< the exit list is loaded
+    qint16 NextDocumentNumber = 0;    ///< raised at each document's load, never lowered
+    bool ExitInProgress = false;      ///< the user has agreed to leave
+    bool SaveListShown = false;       ///< the exit list is loaded
+    bool AskedForThisSession = false; ///< the user wants no more questions about saved files and the project
+    bool AddSavedFileAnswer = false;  ///< the saved file is to be added to the project
     bool WordWrap = true;
+    bool MainWindowBusy = false; ///< the program itself is at work on a document
+    ColouringOptions colouring;  ///< read at the load; documents read it here, never from the store
 
     virtual void SetStatusText(const QString &text) = 0;
     virtual void SetStatusReady() = 0;
     virtual QString statusText() const = 0;
+    /// Enables `tmrResetBar`: the text gives way to "Ready" after a few seconds.
+    virtual void enableResetBar() = 0;
+    /// The panel that tells the active document's encoding and line end; empty without a document.
+    virtual void showFileFormat(const QString &text) = 0;
+    /// The entries `mnuRecentFile` 1 to 4 take these captions; an empty one is hidden, and `mnuDashUpdates` with them
+    /// if all are. Captions are plain text: a "&" in them is a "&".
+    virtual void showRecentFiles(const QStringList &captions) = 0;
     virtual void SetDocumentControlsEnabled(bool enabled) = 0;
 
     // The document selector.
@@ -42,5 +55,9 @@ public:
     virtual void showDocumentSelector(bool shown) = 0;
 
     virtual void setWordWrapChecked(bool checked) = 0;
+    // The document structure tree. One tree serves all documents; it is filled only while its page is on show.
     virtual void clearStructureTree() = 0;
+    virtual bool structurePageShown() const = 0;
+    /// Adds a node at the end: `parent` is a node's index in the order of adding, -1 for a root.
+    virtual void addStructureNode(qsizetype parent, const QString &key, const QString &text, const QString &image) = 0;
 };

@@ -39,6 +39,9 @@ public:
     virtual QString Text() const = 0;
     /// Replaces everything, puts the caret at the start, raises Change. The new text has the neutral format.
     virtual void setText(const QString &text) = 0;
+    /// `length` characters of Text from `start`, fewer where the text ends before, without building it. Nothing for a
+    /// negative start or length.
+    virtual QString textPart(qsizetype start, qsizetype length) const = 0;
     /// The length of Text, without building it.
     virtual qsizetype textLength() const = 0;
 

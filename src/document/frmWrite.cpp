@@ -11,8 +11,8 @@
 
 namespace
 {
-constexpr int RefreshMilliseconds = 3000; ///< as designed; the load lowers it, so that a new window is coloured at once
-constexpr int FirstRefreshMilliseconds = 1;
+constexpr int FirstRefreshMilliseconds =
+    1; ///< a new window is coloured at once; the first pass sets the usual interval
 constexpr int AutoSaveMilliseconds = 60000;
 } // namespace
 
@@ -25,7 +25,8 @@ TextSurface &frmWrite::txtEdit()
 
 void frmWrite::Form_Load()
 {
-    buildControls();
+    buildSurface();
+    buildTimers();
     takeNumber();
     if (frmMdi().OpenDocumentCount == 1)
         frmMdi().SetDocumentControlsEnabled(true);
@@ -34,9 +35,10 @@ void frmWrite::Form_Load()
     enterSelector();
     frmMdi().SetStatusReady();
     tmrAutoSave->setEnabled(settings::isOn(services().settings, settings::AutoSaveUse));
+    UndoRedoChange();
 }
 
-void frmWrite::buildControls()
+void frmWrite::buildSurface()
 {
     m_edit = new EditSurface;
     m_edit->setObjectName(QStringLiteral("txtEdit"));
@@ -45,17 +47,25 @@ void frmWrite::buildControls()
     contents().addWidget(m_edit);
     window()->setFocusProxy(m_edit);
     connect(m_edit, &EditSurface::Change, this, &frmWrite::txtEdit_Change);
+    connect(m_edit, &EditSurface::gotFocus, this, &frmWrite::txtEdit_GotFocus);
+    connect(m_edit, &EditSurface::lostFocus, this, &frmWrite::txtEdit_LostFocus);
+    SurfaceHooks hooks;
+    hooks.keyDown = [this](SurfaceKey &key) { txtEdit_KeyDown(key); };
+    hooks.keyPress = [this](SurfaceCharacter &character) { txtEdit_KeyPress(character); };
+    hooks.mouseUp = [this](SurfaceMouse &) { CancelColouring = true; };
+    m_edit->setHooks(std::move(hooks));
+}
 
+void frmWrite::buildTimers()
+{
     tmrRefresh = new Timer(
-        services().timers, QStringLiteral("tmrRefresh"), [] {}, window());
+        services().timers, QStringLiteral("tmrRefresh"), [this] { tmrRefresh_Timer(); }, window());
     tmrRefresh->setInterval(FirstRefreshMilliseconds);
-    tmrAutoSave = new Timer(
-        services().timers, QStringLiteral("tmrAutoSave"),
-        [this] {
-            if (context().files)
-                context().files->autoSaveTick(*this);
-        },
-        window());
+    const auto autoSave = [this] {
+        if (context().files)
+            context().files->autoSaveTick(*this);
+    };
+    tmrAutoSave = new Timer(services().timers, QStringLiteral("tmrAutoSave"), autoSave, window());
     tmrAutoSave->setInterval(AutoSaveMilliseconds);
 }
 
@@ -102,9 +112,14 @@ void frmWrite::CheckWordWrapSettings()
     m_edit->setWrapToWindow(frmMdi().WordWrap);
 }
 
-void frmWrite::txtEdit_Change()
+bool frmWrite::autoSaveEnabled() const
 {
-    boolDirty = true;
+    return tmrAutoSave->Enabled();
+}
+
+void frmWrite::setAutoSaveEnabled(bool enabled)
+{
+    tmrAutoSave->setEnabled(enabled);
 }
 
 void frmWrite::activate()

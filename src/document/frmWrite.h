@@ -1,10 +1,14 @@
 #pragma once
 
 #include "common/document.h"
+#include "document/typedColouring.h"
+#include "document/undoHistory.h"
 #include "platform/mdiForm.h"
 
 class EditSurface;
 class Timer;
+struct SurfaceCharacter;
+struct SurfaceKey;
 
 /// A document window. The window is the document: it holds the source in its edit surface, and the document's
 /// properties.
@@ -21,10 +25,28 @@ public:
     void activate() override;
     void DocSelUpdate() override;
     void DocSelUpdate(const QString &path) override;
+    bool autoSaveEnabled() const override;
+    void setAutoSaveEnabled(bool enabled) override;
     void CheckWordWrapSettings() override;
-    void UndoRedoChange() override {}
-    void UpdateLineInformation() override {}
-    void ExternalCallColourCode() override {}
+
+    void UndoRedoChange() override;
+    void Undo() override;
+    void Redo() override;
+    UndoRedo IsUndoRedoPossible() const override;
+    int UndoPosition() const override { return m_history.UndoPosition(); }
+    void IndentText(bool indent) override;
+    void OptimiseSyntax() override;
+
+    void UpdateLineInformation() override;
+    void ExternalCallColourCode() override;
+    /// Colours the document and rebuilds the structure tree, whatever else is on show.
+    void ExternalInitiateColourCodeAndDocStructure();
+
+    /// A long pass over the text is running: changes are its own, and the line information stays as it is.
+    bool ColouringActive = false;
+    /// A key or a click asked the running pass to stop.
+    bool CancelColouring = false;
+    Timer &refreshTimer() { return *tmrRefresh; }
 
 protected:
     void Form_Load() override;
@@ -34,14 +56,30 @@ protected:
     void detachWindow() override;
 
 private:
-    void buildControls();
+    void buildSurface();
+    void buildTimers();
     void takeNumber();
     void enterSelector();
     void addTab(const QString &caption);
+
+    void RecolourDocument();
+    void tmrRefresh_Timer();
+    void restore(const UndoSnapshot &snapshot);
+    void take(const TextSelection &selection);
+
     void txtEdit_Change();
+    void txtEdit_KeyDown(SurfaceKey &key);
+    void txtEdit_KeyPress(SurfaceCharacter &character);
+    void txtEdit_GotFocus();
+    void txtEdit_LostFocus();
+    bool indentByTab(const SurfaceKey &key);
+    bool startIndentedLine();
+    bool runEditingKey(int key);
 
     EditSurface *m_edit = nullptr;
     Timer *tmrRefresh = nullptr;
     Timer *tmrAutoSave = nullptr;
+    UndoHistory m_history;
+    TypedColouring m_typed;
     bool m_unloading = false; ///< activation leaves this document out
 };

@@ -53,8 +53,9 @@ void fillWithBuiltInPage(ProgramContext &context, Document &document)
 }
 } // namespace
 
-void NewBlankDocument(ProgramContext &context)
+Document *NewBlankDocument(ProgramContext &context)
 {
+    Document *made = nullptr;
     context.screenPointer.setMousePointer(ArrowHourglassPointer);
     try {
         auto form = std::make_unique<frmWrite>(context);
@@ -62,11 +63,13 @@ void NewBlankDocument(ProgramContext &context)
         context.forms.adopt(std::move(form));
         document.Show();
         document.NewDoc = true;
+        made = &document;
     } catch (const std::bad_alloc &) {
         if (context.files)
             context.files->MemoryErrors(OutOfMemory);
     }
     context.screenPointer.setMousePointer(DefaultPointer);
+    return made;
 }
 
 QString builtInPage(bool addMetaInfo)

@@ -4,8 +4,11 @@
 
 struct ProgramContext;
 
-/// Makes a new, empty document and shows it. A failure is told by the box for memory errors, with no further effect.
-void NewBlankDocument(ProgramContext &context);
+class Document;
+
+/// Makes a new, empty document and shows it. A failure is told by the box for memory errors, with no further effect,
+/// and gives nothing.
+Document *NewBlankDocument(ProgramContext &context);
 
 /// Fills the active document as the settings say: with nothing, with the text of a file, or with the built-in page. It
 /// is clean afterwards. A file that cannot be read is told, and the document stays empty.

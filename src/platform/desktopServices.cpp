@@ -14,6 +14,7 @@
 #include "platform/random.h"
 #include "platform/settingsFiles.h"
 #include "platform/xdgFileClasses.h"
+#include "platform/yielder.h"
 
 #include <QStandardPaths>
 
@@ -39,9 +40,10 @@ struct DesktopServices::Parts {
     LaunchedHelpViewer help{joinPath(appPath, QStringLiteral("help")), files, launcher, messageBoxes};
     QtTimerSource timers;
     EventModalLoop modalLoop;
+    EventYielder yielder;
     XdgFileClasses fileClasses{currentXdgPlaces(), startInBackground};
     Services services{messageBoxes, commonDialogs, settings, files,       launcher,  clipboard, clock,
-                      random,       help,          timers,   fileClasses, modalLoop, appPath};
+                      random,       help,          timers,   fileClasses, modalLoop, yielder,   appPath};
 };
 
 DesktopServices::DesktopServices() : parts(std::make_unique<Parts>()) {}

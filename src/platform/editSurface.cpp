@@ -69,6 +69,11 @@ void EditSurface::setText(const QString &text)
     horizontalScrollBar()->setValue(0);
 }
 
+QString EditSurface::textPart(qsizetype start, qsizetype length) const
+{
+    return start < 0 || length < 0 ? QString() : m_text.mid(start, length);
+}
+
 qsizetype EditSurface::textLength() const
 {
     return m_text.length();

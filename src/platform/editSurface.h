@@ -25,6 +25,7 @@ public:
 
     QString Text() const override;
     void setText(const QString &text) override;
+    QString textPart(qsizetype start, qsizetype length) const override;
     qsizetype textLength() const override;
 
     qsizetype SelStart() const override;

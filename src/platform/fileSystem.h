@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/fileErrors.h"
+#include "common/fileStamp.h"
 
 #include <QByteArray>
 #include <QDateTime>
@@ -12,15 +13,6 @@
 struct FileContents {
     QByteArray bytes;
     std::optional<FileError> error;
-};
-
-/// Tells one state of a file from another, also where a write kept the size. Two writes into the same file within the
-/// few milliseconds that the system counts times in may look alike.
-struct FileStamp {
-    qint64 size = 0;
-    qint64 modifiedNanoseconds = 0; ///< since 1970
-    quint64 inode = 0;
-    bool operator==(const FileStamp &) const = default;
 };
 
 /// What a properties window shows of a file.
@@ -56,6 +48,10 @@ public:
     virtual ~FileSystem() = default;
 
     virtual FileContents readAll(const QString &path) = 0;
+
+    /// Opens the file and closes it again: nothing, or why it cannot be read. What only the reading itself would meet, such
+    /// as a bad disk, is not found.
+    virtual std::optional<FileError> checkReadable(const QString &path) = 0;
 
     /// Replaces or makes the file as a whole: after a failure, a full disk or a kill at any moment, the file has either
     /// its old contents or the new ones. An existing file keeps its permissions, and its owner where the system lets

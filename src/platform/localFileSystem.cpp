@@ -151,6 +151,18 @@ FileContents LocalFileSystem::readAll(const QString &path)
     return contents;
 }
 
+std::optional<FileError> LocalFileSystem::checkReadable(const QString &path)
+{
+    const std::optional<QByteArray> name = systemPath(path);
+    if (!name)
+        return badName(FileAction::Read);
+    OpenFile file;
+    qint64 size = 0;
+    if (const int error = openToRead(*name, file, size))
+        return failure(error, FileAction::Read, *name);
+    return std::nullopt;
+}
+
 std::optional<FileError> LocalFileSystem::writeWhole(const QString &path, const QByteArray &bytes)
 {
     const std::optional<QByteArray> name = systemPath(path);

@@ -10,6 +10,7 @@ public:
     LocalFileSystem();
 
     FileContents readAll(const QString &path) override;
+    std::optional<FileError> checkReadable(const QString &path) override;
     std::optional<FileError> writeWhole(const QString &path, const QByteArray &bytes) override;
 
     bool exists(const QString &path) override;

@@ -9,6 +9,7 @@ struct Services;
 class FileCommands;
 class Form;
 class FormRuntime;
+class SiteProject;
 class ScreenPointer;
 
 /// What every form is given: the desktop's services, the forms of the session and the state that they share.
@@ -17,9 +18,11 @@ struct ProgramContext {
     FormRuntime &forms;
     ProgramState &state;
     ScreenPointer &screenPointer;
-    MainWindow *mainWindow = nullptr;                 ///< set by the main window's form for as long as it exists
-    FileCommands *files = nullptr;                    ///< what opens, saves and closes documents
-    QString version = {};                             ///< the program's: major.minor.revision
-    std::function<Form &(const QString &)> form = {}; ///< a form of the session by its name
-    std::function<void()> end = {};                   ///< ends the program at once; no further handler of a form runs
+    MainWindow *mainWindow = nullptr; ///< set by the main window's form for as long as it exists
+    FileCommands *files = nullptr;    ///< what opens, saves and closes documents
+    SiteProject *project = nullptr;   ///< the open project; nothing until there is a project pane
+    QString version = {};             ///< the program's: major.minor.revision
+    std::function<Document *()> newBlankDocument = {}; ///< shows a new, empty document; nothing if memory ran out
+    std::function<Form &(const QString &)> form = {};  ///< a form of the session by its name
+    std::function<void()> end = {};                    ///< ends the program at once; no further handler of a form runs
 };

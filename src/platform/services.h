@@ -14,6 +14,7 @@ class ModalLoop;
 class Random;
 class SettingsStore;
 class TimerSource;
+class Yielder;
 
 /// What the program needs of the desktop, handed down to all that use it. Its owner outlives every user.
 struct Services {
@@ -29,5 +30,6 @@ struct Services {
     TimerSource &timers;
     FileClasses &fileClasses;
     ModalLoop &modalLoop;
+    Yielder &yielder;
     QString appPath; ///< the program's folder (`App.Path`), without a final separator
 };

@@ -1,5 +1,6 @@
 #include "shell/application.h"
 
+#include "document/modDocument.h"
 #include "shell/frmMdi.h"
 #include "shell/frmSplash.h"
 #include "shell/frmWelcome.h"
@@ -11,6 +12,7 @@ Application::Application(Services &services)
 {
     m_context.version = QStringLiteral(TAGWRIGHTER_VERSION);
     m_context.form = [this](const QString &name) -> Form & { return *form(name); };
+    m_context.newBlankDocument = [this] { return NewBlankDocument(m_context); };
     m_context.end = [this] { End(); };
     m_mdi = &own<frmMdi>(m_context, m_commandLine);
     m_splash = &own<frmSplash>(m_context, *m_mdi);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "common/colouringOptions.h"
 #include "common/mainWindow.h"
 #include "platform/form.h"
 
@@ -38,6 +37,11 @@ public:
     void showDocumentSelector(bool shown) override;
     void setWordWrapChecked(bool checked) override;
     void clearStructureTree() override {}
+    bool structurePageShown() const override { return false; }
+    void addStructureNode(qsizetype, const QString &, const QString &, const QString &) override {}
+    void enableResetBar() override;
+    void showFileFormat(const QString &text) override;
+    void showRecentFiles(const QStringList &) override {}
 
     QObject *control(const QString &name) const override;
     QMainWindow *frame() const;
@@ -72,10 +76,8 @@ private:
     QTabBar *tabDocSel = nullptr;
     QWidget *picDocSelector = nullptr;
     QLabel *m_message = nullptr;
+    QLabel *m_fileFormat = nullptr;
     QStatusBar *StatusBar1 = nullptr;
     Timer *tmrResetBar = nullptr;
     bool m_tabsFollow = false; ///< the strip is being changed by the program, not by a click
-
-public:
-    ColouringOptions colouring; ///< read at the load; documents read it here, never from the store
 };

@@ -1,6 +1,8 @@
 // The main window's status bar and document selector.
 #include "shell/frmMdi.h"
 
+#include "platform/timer.h"
+
 #include <QLabel>
 #include <QScopedValueRollback>
 #include <QTabBar>
@@ -14,6 +16,17 @@ void frmMdi::SetStatusText(const QString &text)
 void frmMdi::SetStatusReady()
 {
     SetStatusText(QStringLiteral("Ready"));
+}
+
+void frmMdi::enableResetBar()
+{
+    tmrResetBar->setEnabled(true);
+}
+
+void frmMdi::showFileFormat(const QString &text)
+{
+    m_fileFormat->setText(text);
+    m_fileFormat->setVisible(!text.isEmpty());
 }
 
 QString frmMdi::statusText() const

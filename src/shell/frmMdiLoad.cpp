@@ -87,6 +87,9 @@ void frmMdi::buildStatusBar()
     m_message->setObjectName(QStringLiteral("lblStatusMessage"));
     m_message->setTextFormat(Qt::PlainText);
     StatusBar1->addWidget(m_message, 1);
+    m_fileFormat = new QLabel;
+    m_fileFormat->setObjectName(QStringLiteral("lblFileFormat"));
+    StatusBar1->addPermanentWidget(m_fileFormat);
     tmrResetBar = new Timer(
         services().timers, QStringLiteral("tmrResetBar"),
         [this] {

@@ -1,0 +1,118 @@
+#include "document/colouringPass.h"
+
+#include "document/frmWrite.h"
+#include "platform/editSurface.h"
+#include "platform/screenPointer.h"
+#include "platform/services.h"
+#include "platform/timer.h"
+#include "platform/yielder.h"
+
+namespace
+{
+constexpr int DefaultPointer = 0;
+constexpr int ArrowHourglassPointer = 13;
+} // namespace
+
+ColouringPass::ColouringPass(frmWrite &form, ProgramContext &context)
+    : m_context(context),
+      m_form(&form),
+      m_edit(dynamic_cast<EditSurface *>(&form.txtEdit())),
+      m_scanner(form.txtEdit().Text(), context.mainWindow->colouring)
+{
+}
+
+void ColouringPass::run()
+{
+    begin();
+    const auto watch = QObject::connect(m_edit, &EditSurface::Change, m_edit, [this] { m_textChanged = true; });
+    const bool stillThere = scan();
+    QObject::disconnect(watch);
+    if (stillThere) {
+        if (!m_textChanged)
+            paint();
+        end();
+    } else {
+        m_context.screenPointer.setMousePointer(DefaultPointer);
+        m_context.mainWindow->SetStatusReady();
+    }
+}
+
+void ColouringPass::begin()
+{
+    m_context.mainWindow->SetStatusText(
+        QStringLiteral("Updating document's syntax colouring... [press any key to cancel]"));
+    m_form->CancelColouring = false;
+    m_context.mainWindow->clearStructureTree();
+    m_context.screenPointer.setMousePointer(ArrowHourglassPointer);
+    m_edit->setPaintingHeld(true);
+    if (m_context.mainWindow->activeDocument() == m_form)
+        m_edit->SetFocus();
+    m_edit->setHideSelection(true);
+    m_edit->setLocked(true);
+    m_form->ColouringActive = true;
+    m_wasDirty = m_form->boolDirty;
+    if (const auto interval = refreshInterval(m_context.mainWindow->colouring.ColourCodeUpdateTime))
+        m_form->refreshTimer().setInterval(*interval);
+    if (m_edit->textLength() < UncolouredLength) {
+        m_selection = {m_edit->SelStart(), m_edit->SelLength()};
+        m_topLine = m_edit->firstVisibleLine();
+    }
+}
+
+bool ColouringPass::scan()
+{
+    m_context.services.yielder.beginPass();
+    m_scanner.setStructureShown(m_context.mainWindow->structurePageShown());
+    while (m_scanner.advance()) {
+        addNewNodes();
+        m_context.services.yielder.yield();
+        if (!m_form || !m_form->isLoaded())
+            return false;
+        if (m_textChanged)
+            return true;
+        if (m_form->CancelColouring)
+            m_scanner.cancel();
+        m_scanner.setStructureShown(m_context.mainWindow->structurePageShown());
+    }
+    addNewNodes();
+    return true;
+}
+
+void ColouringPass::addNewNodes()
+{
+    const auto &nodes = m_scanner.structure().nodes();
+    for (; m_nodesShown < nodes.size(); ++m_nodesShown) {
+        const StructureNode &node = nodes[m_nodesShown];
+        m_context.mainWindow->addStructureNode(node.parent, node.key(), node.text, node.image);
+    }
+}
+
+void ColouringPass::paint()
+{
+    m_edit->setFormats(m_scanner.paints().formats(m_context.mainWindow->colouring));
+    restoreView();
+}
+
+void ColouringPass::restoreView()
+{
+    // A key that stopped the pass may have moved the caret. The caret of a document too large for colours goes to its
+    // start at each pass.
+    if (m_edit->SelStart() != m_selection.start || m_edit->SelLength() != m_selection.length) {
+        m_edit->setSelStart(m_selection.start);
+        m_edit->setSelLength(m_selection.length);
+    }
+    if (m_edit->textLength() < UncolouredLength && m_edit->firstVisibleLine() != m_topLine)
+        m_edit->scrollToLine(m_topLine);
+}
+
+void ColouringPass::end()
+{
+    m_form->refreshTimer().setEnabled(m_textChanged);
+    m_form->boolDirty = m_wasDirty || m_textChanged;
+    m_edit->setHideSelection(false);
+    m_edit->setPaintingHeld(false);
+    m_context.screenPointer.setMousePointer(DefaultPointer);
+    m_edit->setLocked(false);
+    m_context.mainWindow->SetStatusReady();
+    m_form->ColouringActive = false;
+}
