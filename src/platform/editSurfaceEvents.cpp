@@ -129,6 +129,7 @@ void EditSurface::keyPressEvent(QKeyEvent *event)
         return;
     if (!character.isEmpty() && discards(m_hooks.keyPress, {character}))
         return;
+    const Step step(this); // a key over a selection is one change, though the widget makes it in two
     if (m_locked && !onlyReads(*event))
         event->setAccepted(!event->text().isEmpty());
     else if (event->matches(QKeySequence::InsertLineSeparator))
@@ -152,10 +153,12 @@ void EditSurface::inputMethodEvent(QInputMethodEvent *event)
     if (m_locked)
         return event->ignore();
     if (committed.isEmpty()) {
+        const Step step(this);
         const QScopedValueRollback<bool> composing(m_formatsOnly, true); // reported as a change of the line
         return QPlainTextEdit::inputMethodEvent(event);
     }
     const bool unwanted = discards(m_hooks.keyPress, {committed});
+    const Step step(this);
     if (!unwanted && !SurfaceText::needsCare(committed))
         return QPlainTextEdit::inputMethodEvent(event);
     QInputMethodEvent rest(event->preeditString(), event->attributes());
