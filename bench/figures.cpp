@@ -1,0 +1,59 @@
+#include "figures.h"
+
+#include <QFile>
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+
+void Figures::add(const QString &name, double measured, const QString &unit, std::optional<double> limit)
+{
+    m_figures.push_back({name, measured, unit, limit});
+}
+
+bool Figures::print() const
+{
+    bool held = true;
+    std::printf("%-62s | %-14s | %s\n", "figure", "measured", "limit");
+    for (const Figure &figure : m_figures) {
+        const bool over = figure.limit && figure.measured > *figure.limit;
+        const QString measured = QString::number(figure.measured, 'g', 3) + u' ' + figure.unit;
+        const QString limit = figure.limit ? QString::number(*figure.limit) + u' ' + figure.unit : QStringLiteral("-");
+        std::printf("%-62s | %-14s | %s%s\n", qUtf8Printable(figure.name), qUtf8Printable(measured),
+                    qUtf8Printable(limit), over ? "  EXCEEDED" : "");
+        held = held && !over;
+    }
+    return held;
+}
+
+double processorTime()
+{
+    timespec time{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+}
+
+double medianTime(int runs, const std::function<void()> &run, const std::function<void()> &prepare)
+{
+    std::vector<double> times;
+    for (int i = 0; i < runs; ++i) {
+        if (prepare)
+            prepare();
+        const double start = processorTime();
+        run();
+        times.push_back(processorTime() - start);
+    }
+    std::sort(times.begin(), times.end());
+    return times[times.size() / 2];
+}
+
+double memoryInUse()
+{
+    QFile rollup(QStringLiteral("/proc/self/smaps_rollup"));
+    if (!rollup.open(QIODevice::ReadOnly))
+        return 0;
+    for (const QByteArray &line : rollup.readAll().split('\n')) {
+        if (line.startsWith("Pss:"))
+            return line.mid(4).simplified().split(' ').first().toDouble() * 1024;
+    }
+    return 0;
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <optional>
+#include <vector>
+
+/// What was measured, printed as a table "figure | measured | limit".
+class Figures
+{
+public:
+    /// The limit is in the unit of what was measured; without one the figure is reported, not promised.
+    void add(const QString &name, double measured, const QString &unit, std::optional<double> limit = std::nullopt);
+    /// Whether every limit held.
+    bool print() const;
+
+private:
+    struct Figure {
+        QString name;
+        double measured;
+        QString unit;
+        std::optional<double> limit;
+    };
+    std::vector<Figure> m_figures;
+};
+
+/// Processor time of this process in seconds.
+double processorTime();
+/// The processor time of a run in seconds: the median of `runs`. `prepare` goes ahead of each and is not counted.
+double medianTime(int runs, const std::function<void()> &run, const std::function<void()> &prepare = {});
+/// The memory that this process alone accounts for (its proportional set size), in bytes.
+double memoryInUse();
+
+// The groups of figures, one for each subject.
+void surfaceMapping(Figures &figures);
+void surfaceSetting(Figures &figures);
+void surfaceTyping(Figures &figures);
+void surfaceColouring(Figures &figures);
+void surfaceSingleLine(Figures &figures);
+/// Runs in a process of its own: prints the memory that a text of so many characters costs the surface, in bytes.
+int printSurfaceMemory(qsizetype characters);

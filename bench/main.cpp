@@ -1,0 +1,36 @@
+#include "figures.h"
+
+#include <QApplication>
+
+namespace
+{
+struct Group {
+    const char *name;
+    void (*measure)(Figures &);
+};
+
+constexpr Group groups[] = {
+    {"surface-mapping", surfaceMapping},        {"surface-setting", surfaceSetting},
+    {"surface-typing", surfaceTyping},          {"surface-colouring", surfaceColouring},
+    {"surface-single-line", surfaceSingleLine},
+};
+} // namespace
+
+// Measures the program's figures and prints them, or those only whose group's name holds the one argument; ends with 1
+// if a limit was exceeded.
+int main(int argc, char **argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.size() == 3 && arguments[1] == QStringLiteral("--surface-memory"))
+        return printSurfaceMemory(arguments[2].toLongLong());
+    Figures figures;
+    for (const Group &group : groups) {
+        const auto name = QString::fromLatin1(group.name);
+        if (arguments.size() < 2 || name.contains(arguments[1]))
+            group.measure(figures);
+    }
+    return figures.print() ? 0 : 1;
+}
