@@ -12,21 +12,33 @@
 
 namespace
 {
-// The rows as the toolkit wants them, patterns in brackets at the end and parted by blanks. It names a row by its text
-// alone, so rows that look the same are told apart by blanks at the end, which it does not show.
-QStringList nameFiltersOf(const QString &filter)
+// A filter as the toolkit takes it, and tells back which row was chosen: by the whole text or by what it shows of it.
+struct NameFilters {
+    QStringList shown;
+    QStringList whole; // what is shown, and behind it the patterns in brackets, parted by blanks
+};
+
+NameFilters nameFiltersOf(const QString &filter)
 {
-    QStringList filters;
+    NameFilters filters;
     for (const DialogFilterRow &row : parseDialogFilter(filter)) {
+        QString shown = row.description.simplified();
+        while (filters.shown.contains(shown)) // rows that look the same are told apart by what nobody sees
+            shown += QChar(0x200B);
         QStringList patterns = row.patterns;
         patterns.replaceInStrings(QStringLiteral("*.*"), QStringLiteral("*"));
-        QString before = row.description + QLatin1Char(' ');
-        const QString behind = QLatin1Char('(') + patterns.join(u' ') + QLatin1Char(')');
-        while (filters.contains(before + behind))
-            before += QLatin1Char(' ');
-        filters += before + behind;
+        filters.shown += shown;
+        filters.whole += shown + QStringLiteral(" (") + patterns.join(u' ') + QLatin1Char(')');
     }
-    return filters.isEmpty() ? QStringList{QStringLiteral("*")} : filters;
+    if (filters.whole.isEmpty())
+        return {{QStringLiteral("*")}, {QStringLiteral("*")}};
+    return filters;
+}
+
+int chosenIndex(const NameFilters &filters, const QString &selected, int otherwise)
+{
+    const qsizetype place = qMax(filters.whole.indexOf(selected), filters.shown.indexOf(selected));
+    return place < 0 ? otherwise : static_cast<int>(place) + 1;
 }
 
 void setStartingPoint(QFileDialog &dialog, const FileDialogRequest &request)
@@ -42,18 +54,19 @@ void setStartingPoint(QFileDialog &dialog, const FileDialogRequest &request)
 
 std::optional<FileDialogResult> runFileDialog(QFileDialog &dialog, const FileDialogRequest &request)
 {
-    const QStringList filters = nameFiltersOf(request.Filter);
+    const NameFilters filters = nameFiltersOf(request.Filter);
+    const int proposed = qBound(1, request.FilterIndex, static_cast<int>(filters.whole.size()));
     if (!request.DialogTitle.isEmpty())
         dialog.setWindowTitle(request.DialogTitle);
     // The descriptions name their patterns themselves.
     dialog.setOption(QFileDialog::HideNameFilterDetails);
-    dialog.setNameFilters(filters);
-    dialog.selectNameFilter(filters.value(qBound(1, request.FilterIndex, static_cast<int>(filters.size())) - 1));
+    dialog.setNameFilters(filters.whole);
+    dialog.selectNameFilter(filters.whole.at(proposed - 1));
     setStartingPoint(dialog, request);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
-    const auto chosen = static_cast<int>(filters.indexOf(dialog.selectedNameFilter()));
-    return FileDialogResult{dialog.selectedFiles().constFirst(), chosen < 0 ? request.FilterIndex : chosen + 1};
+    return FileDialogResult{dialog.selectedFiles().constFirst(),
+                            chosenIndex(filters, dialog.selectedNameFilter(), proposed)};
 }
 
 QColor shownColour(ColourValue colour)

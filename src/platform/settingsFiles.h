@@ -7,9 +7,9 @@
 
 /// The settings as files of one folder, one for each application name, shared with the other programs that run.
 ///
-/// A change is written at once, as a whole and under a lock, into what the file holds at that moment, so that nobody's
-/// other keys are lost. A value that cannot be written holds for this run and goes along with the next write that can
-/// be made. Writes do not wait for the disk but when the store goes.
+/// A change is added to the file at once, as one step and under a lock, so that nobody's other keys are lost. A value
+/// that cannot be written holds for this run and goes along with the next write that can be made. Writes do not wait
+/// for the disk but when the store goes.
 class SettingsFiles final : public SettingsStore
 {
 public:

@@ -80,28 +80,50 @@ qsizetype placeOf(QStringView line, QChar separator)
     return -1;
 }
 
+struct ReadKey {
+    std::optional<QString> section;
+    std::optional<QString> key;
+};
+
+ReadKey readKey(QStringView text)
+{
+    const qsizetype slash = placeOf(text, u'/');
+    if (slash < 0)
+        return {};
+    return {unescaped(text.first(slash)), unescaped(text.sliced(slash + 1))};
+}
+
 void readLine(SettingsMap &settings, QStringView line)
 {
     const qsizetype equals = placeOf(line, u'=');
-    const qsizetype slash = placeOf(line.first(qMax<qsizetype>(equals, 0)), u'/');
-    if (slash < 0)
+    const bool removal = equals < 0 && line.startsWith(u'-');
+    if (equals < 0 && !removal)
         return;
-    const std::optional<QString> section = unescaped(line.first(slash));
-    const std::optional<QString> key = unescaped(line.sliced(slash + 1, equals - slash - 1));
-    const std::optional<QString> value = unescaped(line.sliced(equals + 1));
-    if (section && key && value)
-        settings.insert({*section, *key}, *value);
+    const ReadKey read = readKey(removal ? line.sliced(1) : line.first(equals));
+    const std::optional<QString> value = removal ? std::nullopt : unescaped(line.sliced(equals + 1));
+    if (!read.section || !read.key)
+        return;
+    if (removal)
+        settings.remove({*read.section, *read.key});
+    else if (value)
+        settings.insert({*read.section, *read.key}, *value);
 }
 } // namespace
 
 QByteArray settingsText(const SettingsMap &settings)
 {
-    QString text;
-    for (auto setting = settings.begin(); setting != settings.end(); ++setting) {
-        text += escaped(setting.key().first, u"/=") + QLatin1Char('/') + escaped(setting.key().second, u"=") +
-                QLatin1Char('=') + escaped(setting.value(), u"") + QLatin1Char('\n');
-    }
-    return text.toUtf8();
+    QByteArray text;
+    for (auto setting = settings.begin(); setting != settings.end(); ++setting)
+        text += settingLine(setting.key(), setting.value());
+    return text;
+}
+
+QByteArray settingLine(const std::pair<QString, QString> &key, const std::optional<QString> &value)
+{
+    const QString minus = key.first.startsWith(u'-') ? QStringLiteral("\\") : QString();
+    const QString name = minus + escaped(key.first, u"/=") + QLatin1Char('/') + escaped(key.second, u"=");
+    const QString line = value ? name + QLatin1Char('=') + escaped(*value, u"") : QLatin1Char('-') + name;
+    return line.toUtf8() + '\n';
 }
 
 SettingsMap parseSettings(const QByteArray &bytes)
