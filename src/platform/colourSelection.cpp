@@ -19,6 +19,7 @@ ColourSelection::ColourSelection(CommonDialogs &dialogs, QWidget *parent)
     layout->addWidget(m_text, 1);
     layout->addWidget(m_change);
     setFocusProxy(m_text);
+    setFocusPolicy(Qt::StrongFocus); // tells those who ask the picker itself
     m_text->setMaxLength(7);
     m_change->setObjectName(QStringLiteral("cmdChange"));
     m_change->setAccessibleName(tr("Choose colour"));

@@ -61,13 +61,24 @@ Button *pressable(const QString &name, const QString &caption, const Handler &cl
     return control;
 }
 
-/// Coming back from another window leaves caret and selection as they were.
-void selectAllOnFocus(QWidget *watched)
+bool isOfWindow(const QEvent &event)
 {
-    new ControlWatch(watched, QEvent::FocusIn, [watched](const QEvent &event) {
-        const Qt::FocusReason reason = static_cast<const QFocusEvent &>(event).reason();
-        if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason)
-            SelectAllText(watched);
+    const Qt::FocusReason reason = static_cast<const QFocusEvent &>(event).reason();
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason;
+}
+
+/// Selects the text when the field is entered. Coming back from another window is no entering: caret and selection
+/// stay.
+void selectAllOnFocus(QWidget *field)
+{
+    const auto left = std::make_shared<bool>(true); // false: only its window was
+    new ControlWatch(field, QEvent::FocusOut, [left](const QEvent &event) {
+        *left = !isOfWindow(event);
+        return false;
+    });
+    new ControlWatch(field, QEvent::FocusIn, [field, left](const QEvent &) {
+        if (*left)
+            SelectAllText(field);
         return false;
     });
 }

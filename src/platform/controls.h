@@ -69,17 +69,17 @@ QListWidget *multiList(const QString &name, const Handler &click = {}, const Han
 CheckList *checkList(const QString &name, const IndexHandler &tick = {}, const Handler &click = {});
 
 struct ListViewHandlers {
-    Handler selection; ///< another row is selected, or none
-    IndexHandler dblClick;
-    IndexHandler enter; ///< without it, Enter presses the form's default button
-    IndexHandler tick;
+    Handler selection = {}; ///< another row is selected, or none
+    IndexHandler dblClick = {};
+    IndexHandler enter = {}; ///< without it, Enter presses the form's default button
+    IndexHandler tick = {};
 };
 ListView *listView(const QString &name, const QList<QString> &columns, const ListViewHandlers &handlers = {});
 
 struct TreeHandlers {
-    IndexHandler nodeClick;
-    IndexHandler nodeDblClick;
-    IndexHandler nodeEnter;
+    IndexHandler nodeClick = {};
+    IndexHandler nodeDblClick = {};
+    IndexHandler nodeEnter = {};
 };
 NodeTree *tree(const QString &name, const TreeHandlers &handlers = {});
 
@@ -99,11 +99,11 @@ QCalendarWidget *calendar(const QString &name, const Handler &change = {});
 QScrollBar *scrollBar(const QString &name, Qt::Orientation orientation, const Handler &change = {});
 
 struct PictureHandlers {
-    Handler click; ///< makes the picture a control that the keyboard reaches, too
-    Handler dblClick;
-    PointerHandler mouseDown;
-    PointerHandler mouseMove;
-    PointerHandler mouseUp;
+    Handler click = {}; ///< makes the picture a control that the keyboard reaches, too
+    Handler dblClick = {};
+    PointerHandler mouseDown = {};
+    PointerHandler mouseMove = {};
+    PointerHandler mouseUp = {};
 };
 PictureBox *picture(const QString &name, const PictureHandlers &handlers = {});
 

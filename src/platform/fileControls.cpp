@@ -115,6 +115,16 @@ void FolderList::openRow(const QListWidgetItem *item)
         setPath(item->data(PathRole).toString());
 }
 
+std::optional<int> FolderList::rowTowards(const QString &path) const
+{
+    int best = -1;
+    for (int row = 0; row < count(); ++row) { // a longer way that still leads there is a nearer one
+        if (isUnder(path, item(row)->data(PathRole).toString()))
+            best = row;
+    }
+    return best < 0 || item(best)->data(PathRole).toString() == m_path ? std::optional<int>() : best;
+}
+
 QSize FolderList::sizeHint() const
 {
     return QSize(fontMetrics().averageCharWidth() * 30, fontMetrics().lineSpacing() * 8);

@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QListWidget>
+#include <optional>
 
 class FileSystem;
 
@@ -28,6 +29,8 @@ public:
     /// Opens a folder; raises pathChanged if it is another one. False, and nothing changed, if it cannot be listed.
     bool setPath(const QString &path);
     QStringList subfolders() const { return m_subfolders; } ///< full paths, in order of name
+    /// The row that leads nearest to a folder, from where the list stands; nothing if none leads on.
+    std::optional<int> rowTowards(const QString &path) const;
     QSize sizeHint() const override;
 
 Q_SIGNALS:

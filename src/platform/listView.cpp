@@ -30,7 +30,7 @@ void ListView::setSmallIcons(const QList<QIcon> &icons)
 {
     m_icons = icons;
     for (int row = 0; row < rowCount(); ++row)
-        show(*topLevelItem(row), rowAt(row));
+        fillItem(*topLevelItem(row), rowAt(row));
 }
 
 void ListView::setMultiSelect(bool on)
@@ -54,7 +54,7 @@ bool ListView::addRow(const ListRow &row, std::optional<int> before)
     if (isTaken(row.key, nullptr))
         return false;
     auto *item = new QTreeWidgetItem;
-    show(*item, row);
+    fillItem(*item, row);
     if (!row.key.isEmpty())
         m_byKey.insert(row.key, item);
     insertTopLevelItem(std::clamp(before.value_or(rowCount()), 0, rowCount()), item);
@@ -94,11 +94,11 @@ bool ListView::setRow(int row, const ListRow &value)
     m_byKey.remove(rowAt(row).key);
     if (!value.key.isEmpty())
         m_byKey.insert(value.key, item);
-    show(*item, value);
+    fillItem(*item, value);
     return true;
 }
 
-void ListView::show(QTreeWidgetItem &item, const ListRow &row)
+void ListView::fillItem(QTreeWidgetItem &item, const ListRow &row)
 {
     const QScopedValueRollback<bool> quiet(m_showing, true);
     item.setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren |

@@ -25,6 +25,7 @@ public:
     void setSmallIcons(const QList<QIcon> &icons);
     void setMultiSelect(bool on);
     void setCheckBoxes(bool on); ///< before the first row is added
+    bool hasCheckBoxes() const { return m_checkBoxes; }
 
     /// Adds the row in front of the row `before`, at the end without one. False, and no row, if its key is in the list.
     bool addRow(const ListRow &row, std::optional<int> before = {});
@@ -53,7 +54,7 @@ protected:
 
 private:
     bool isTaken(const QString &key, const QTreeWidgetItem *except) const;
-    void show(QTreeWidgetItem &item, const ListRow &row);
+    void fillItem(QTreeWidgetItem &item, const ListRow &row);
 
     QHash<QString, QTreeWidgetItem *> m_byKey;
     QList<QIcon> m_icons;

@@ -1,0 +1,88 @@
+#pragma once
+
+#include "controlAdapter.h"
+#include "platform/commonDialogs.h"
+#include "platform/desktopServices.h"
+#include "platform/formRuntime.h"
+#include "platform/modalLoop.h"
+#include "platform/programContext.h"
+#include "platform/screenPointer.h"
+#include "platform/timer.h"
+#include "testForm.h"
+
+#include <QRegularExpression>
+#include <gmock/gmock.h>
+
+namespace drive
+{
+inline QString str(const char *text)
+{
+    return QString::fromUtf8(text);
+}
+
+/// Leaves every dialog but the colour dialog, which gives `colour`.
+class ColourAnswer final : public CommonDialogs
+{
+public:
+    std::optional<FileDialogResult> showOpen(const FileDialogRequest &) override { return {}; }
+    std::optional<FileDialogResult> showSave(const FileDialogRequest &) override { return {}; }
+    std::optional<QString> showFolder(const QString &, const QString &) override { return {}; }
+    std::optional<ColourValue> showColour(ColourValue) override { return colour; }
+    std::optional<FontChoice> showFont(const FontChoice &) override { return {}; }
+    std::optional<int> showPrint() override { return {}; }
+
+    std::optional<ColourValue> colour;
+};
+
+/// The test form on show, with its controls by name.
+class TestFormTest : public testing::Test
+{
+protected:
+    TestFormTest() { form.Show(); }
+
+    QObject &control(const char *name)
+    {
+        QObject *found = form.control(str(name));
+        if (!found)
+            throw std::invalid_argument(name);
+        return *found;
+    }
+
+    QString read(const char *name, const char *property)
+    {
+        return readProperty(control(name), str(property)).value_or(str("(no such property)"));
+    }
+
+    void turnTo(const char *page) { EXPECT_TRUE(pick(control("tabPages"), str(page)).done); }
+
+    /// What the form's handlers have recorded since the last call.
+    QStringList events()
+    {
+        QStringList lines = read("txtEvents", "Text").split(str("\r\n"), Qt::SkipEmptyParts);
+        return lines.mid(std::exchange(m_seen, lines.size()));
+    }
+    /// The same, without what tells of the focus.
+    QStringList deeds() { return events().filter(QRegularExpression(str("^(?!.*(Focus|Activate|Deactivate)$)"))); }
+
+    ColourAnswer dialogs;
+    EventModalLoop modalLoop;
+    DesktopServices desktop;
+    Services services = scripted(desktop.services());
+    FormRuntime forms;
+    ProgramState state;
+    ScreenPointer pointer;
+    ProgramContext context{.services = services, .forms = forms, .state = state, .screenPointer = pointer};
+    frmTestControls form{context};
+
+private:
+    /// The services of the desktop, with dialogs that are answered.
+    Services scripted(Services &real)
+    {
+        return {real.messageBoxes, dialogs,    real.settings, real.files, real.launcher,
+                real.clipboard,    real.clock, real.random,   real.help,  real.timers,
+                real.fileClasses,  modalLoop,  real.yielder,  QString()};
+    }
+
+    qsizetype m_seen = 0;
+};
+} // namespace drive
