@@ -22,8 +22,8 @@ std::optional<QString> Mid(QStringView text, qsizetype start, std::optional<qsiz
 /// Every line break (CR LF, LF, lone CR) as CR LF, which is how documents hold them in memory.
 QString withCrLf(const QString &text);
 
-/// Lower case character by character, so that every position stays what it was (a string's own lower case may be
-/// longer).
+/// Lower case character by character, so that every position stays what it was; a letter whose lower case is longer
+/// stays as it is.
 QString LCase(QStringView text);
 inline QChar LCase(QChar c)
 {

@@ -7,12 +7,14 @@
 #include <algorithm>
 #include <array>
 
-namespace
-{
 struct BlockElement {
     QStringView opening;
     QStringView closing;
 };
+
+namespace
+{
+constexpr QStringView LineBreak = u"\r\n";
 
 // The first whose opening stands in a line is taken.
 constexpr std::array BlockElements = {
@@ -42,33 +44,64 @@ bool SyntaxOptimiser::advance()
 
 void SyntaxOptimiser::lookAtLine()
 {
-    const qsizetype lineBreak = m_pos == 0 ? 0 : Find(m_text, u"\r\n", m_pos).value_or(0);
-    if (m_pos != 0 && lineBreak == 0) { // going on would start over from the top, for ever
+    const std::optional<qsizetype> start = nextLineStart();
+    if (!start) {
         m_place = Place::End;
         return;
     }
-    const qsizetype lineStart = m_pos == 0 ? 0 : lineBreak + 1;
-    qsizetype lineEnd = Find(m_text, u"\r\n", lineStart + 1).value_or(0) - 1;
-    if (lineEnd == -1 && lineStart != 0)
-        lineEnd = m_text.size();
-    // A text that is one line has no end of line to select up to: nothing is looked at.
-    const qsizetype length = std::max<qsizetype>(lineEnd - lineStart, 0);
-    if (const BlockElement *element = blockElementIn(LCase(QStringView(m_text).mid(lineStart, length))))
-        indentContents(element->closing, lineEnd);
-    else
-        m_pos = lineStart + length + 1;
+    const Line line = lineAt(*start);
+    m_pos = positionBehind(line);
+    if (line.element && m_pos < m_text.size())
+        indentContents(line.element->closing);
 }
 
-void SyntaxOptimiser::indentContents(QStringView closing, qsizetype lineEnd)
+// Where no line break follows, the search's "not found" leads back to the top of the text, less its first character.
+std::optional<qsizetype> SyntaxOptimiser::nextLineStart() const
 {
-    const qsizetype lineBreak = Find(m_text, u"\r", lineEnd + 1).value_or(0);
-    if (lineBreak == 0) { // no line follows that could be indented
-        m_pos = m_text.size();
-        return;
+    if (m_pos == 0)
+        return 0;
+    const qsizetype lineBreak = Find(m_text, LineBreak, m_pos).value_or(0);
+    if (lineBreak == 0 && wouldTurnInACircle())
+        return std::nullopt;
+    return lineBreak + 1;
+}
+
+// Whether going on from the top would lead back to the top: it would do so without end, for indenting lines changes
+// neither which of them are looked at nor what opens in them.
+bool SyntaxOptimiser::wouldTurnInACircle() const
+{
+    qsizetype position = positionBehind(lineAt(1));
+    while (position < m_text.size()) {
+        const qsizetype lineBreak = Find(m_text, LineBreak, position).value_or(0);
+        if (lineBreak == 0)
+            return true;
+        position = positionBehind(lineAt(lineBreak + 1));
     }
-    TextSelection contents{lineBreak + 1, 0};
-    m_pos = contents.start;
-    contents.length = FindInLCase(m_text, closing, contents.start) - (contents.start + 2);
+    return false;
+}
+
+SyntaxOptimiser::Line SyntaxOptimiser::lineAt(qsizetype start) const
+{
+    qsizetype end = Find(m_text, LineBreak, start + 1).value_or(0) - 1;
+    if (end == -1 && start != 0)
+        end = m_text.size();
+    // A text that is one line has no end to select up to: the selection is refused, and nothing is found in it.
+    const qsizetype length = std::max<qsizetype>(end - start, 0);
+    return {start, end, blockElementIn(LCase(QStringView(m_text).mid(start, length)))};
+}
+
+// Where the next line break is sought: in the contents' first line behind an opening tag, which is thus passed over.
+qsizetype SyntaxOptimiser::positionBehind(const Line &line) const
+{
+    if (!line.element)
+        return std::max(line.start, line.end) + 1;
+    const qsizetype lineBreak = Find(m_text, u"\r", line.end + 1).value_or(0);
+    return lineBreak == 0 ? m_text.size() : lineBreak + 1;
+}
+
+void SyntaxOptimiser::indentContents(QStringView closing)
+{
+    TextSelection contents{m_pos, FindInLCase(m_text, closing, m_pos) - (m_pos + 2)};
     if (contents.length <= 0) // the closing tag is missing, or nothing stands before it
         return;
     const QStringView selected = QStringView(m_text).mid(contents.start, contents.length);

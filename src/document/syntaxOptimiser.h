@@ -3,6 +3,9 @@
 #include "document/undoHistory.h"
 
 #include <QString>
+#include <optional>
+
+struct BlockElement;
 
 /// Indents the contents of block elements through a whole document, line by line, apart from any window.
 ///
@@ -28,8 +31,18 @@ public:
 private:
     enum class Place { Start, AtLine, End };
 
+    struct Line {
+        qsizetype start = 0; // from 0
+        qsizetype end = 0;   // from 0; -1 where the text is one line
+        const BlockElement *element = nullptr;
+    };
+
     void lookAtLine();
-    void indentContents(QStringView closing, qsizetype lineEnd);
+    std::optional<qsizetype> nextLineStart() const;
+    bool wouldTurnInACircle() const;
+    Line lineAt(qsizetype start) const;
+    qsizetype positionBehind(const Line &line) const;
+    void indentContents(QStringView closing);
     void indent(TextSelection selection);
 
     QString m_text;

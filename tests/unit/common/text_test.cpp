@@ -51,7 +51,7 @@ TEST(WithCrLf, MakesEveryBreakTwoCharacters)
 
 TEST(LCase, KeepsEveryPosition)
 {
-    EXPECT_EQ(LCase(u"aZ[@\u00C4\u0130x\r\n"), QStringLiteral("az[@\u00E4ix\r\n"));
+    EXPECT_EQ(LCase(u"aZ[@\u00C4\u0130x\r\n"), QStringLiteral("az[@\u00E4\u0130x\r\n"));
     EXPECT_EQ(LCase(QStringView()), QString());
 }
 } // namespace

@@ -1,22 +1,15 @@
 #include "document/syntaxScanner.h"
 #include "unit/document/colouringReference.h"
+#include "unit/document/randomTexts.h"
 #include "unit/document/scanHelpers.h"
 
 #include <gtest/gtest.h>
-#include <random>
 
 namespace
 {
-const QStringList Characters = {
-    QStringLiteral("<"), QStringLiteral(">"), QStringLiteral("="),    QStringLiteral("\""),
-    QStringLiteral("'"), QStringLiteral(" "), QStringLiteral("\r"),   QStringLiteral("\n"),
-    QStringLiteral("!"), QStringLiteral("-"), QStringLiteral("%"),    QStringLiteral("/"),
-    QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("www."), QStringLiteral("http:"),
-};
-
 // What single letters would hit upon too rarely.
 const QStringList Words =
-    Characters +
+    MarkupCharacters +
     QStringList{
         QStringLiteral("\r\n"),    QStringLiteral("<!--"),    QStringLiteral("-->"),     QStringLiteral("<%"),
         QStringLiteral("%>"),      QStringLiteral("<p>"),     QStringLiteral("<p "),     QStringLiteral("<P "),
@@ -36,38 +29,18 @@ struct RandomPass {
     int toggleAt = 0; ///< the place at which the tree is shown or hidden
 };
 
-class Generator
+RandomPass randomPass(RandomTexts &random, const QStringList &alphabet)
 {
-public:
-    explicit Generator(unsigned seed) : m_engine(seed) {}
-
-    int below(int bound) { return static_cast<int>(m_engine() % static_cast<unsigned>(bound)); }
-    bool onceIn(int bound) { return below(bound) == 0; }
-
-    QString text(const QStringList &alphabet, int longest)
-    {
-        QString text;
-        for (int i = below(longest + 1); i > 0; --i)
-            text += alphabet[below(static_cast<int>(alphabet.size()))];
-        return text;
-    }
-
-    RandomPass pass(const QStringList &alphabet)
-    {
-        RandomPass pass;
-        pass.text = text(alphabet, onceIn(8) ? 120 : 24);
-        pass.options.ColourCodeSyntax = !onceIn(16);
-        pass.options.ColourCodeHyperlink = !onceIn(16);
-        pass.before = {0x010203, onceIn(2), onceIn(2)};
-        pass.structureShown = !onceIn(4);
-        pass.cancelAt = onceIn(8) ? 1 + below(12) : 0;
-        pass.toggleAt = onceIn(8) ? 1 + below(12) : 0;
-        return pass;
-    }
-
-private:
-    std::mt19937 m_engine;
-};
+    RandomPass pass;
+    pass.text = random.text(alphabet, random.onceIn(8) ? 120 : 24);
+    pass.options.ColourCodeSyntax = !random.onceIn(16);
+    pass.options.ColourCodeHyperlink = !random.onceIn(16);
+    pass.before = {0x010203, random.onceIn(2), random.onceIn(2)};
+    pass.structureShown = !random.onceIn(4);
+    pass.cancelAt = random.onceIn(8) ? 1 + random.below(12) : 0;
+    pass.toggleAt = random.onceIn(8) ? 1 + random.below(12) : 0;
+    return pass;
+}
 
 int placesOf(SyntaxScanner &scanner, const RandomPass &pass)
 {
@@ -129,27 +102,27 @@ testing::AssertionResult agrees(const RandomPass &pass)
 
 TEST(SyntaxScannerRandom, AgreesWithTheReferenceOnShortTexts)
 {
-    Generator generator(20260301);
+    RandomTexts random(20260301);
     for (int i = 0; i < 100000; ++i)
-        ASSERT_TRUE(agrees(generator.pass(Characters))) << "text " << i;
+        ASSERT_TRUE(agrees(randomPass(random, MarkupCharacters))) << "text " << i;
 }
 
 TEST(SyntaxScannerRandom, AgreesWithTheReferenceOnTextsOfWords)
 {
-    Generator generator(20260302);
+    RandomTexts random(20260302);
     for (int i = 0; i < 60000; ++i)
-        ASSERT_TRUE(agrees(generator.pass(Words))) << "text " << i;
+        ASSERT_TRUE(agrees(randomPass(random, Words))) << "text " << i;
 }
 
 TEST(SyntaxScannerRandom, AgreesWithTheReferenceAroundTheLimit)
 {
-    Generator generator(20260303);
+    RandomTexts random(20260303);
     for (const int size : {63999, 64000, 64001}) {
-        RandomPass pass = generator.pass(Words);
+        RandomPass pass = randomPass(random, Words);
         pass.options = {};
         pass.cancelAt = 0;
         while (pass.text.size() < size)
-            pass.text += generator.text(Words, 40) + QString(200, u'x');
+            pass.text += random.text(Words, 40) + QString(200, u'x');
         pass.text.truncate(size);
         ASSERT_TRUE(agrees(pass)) << size;
     }

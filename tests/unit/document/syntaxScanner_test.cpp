@@ -165,6 +165,29 @@ TEST(SyntaxScanner, UnderlinesLinksUpToTheirTerminator)
     expectLooks(rows);
 }
 
+TEST(SyntaxScanner, KeepsNeighboursApart)
+{
+    // Between a character in front and a blank behind, each next to each; only a link runs on through what follows it,
+    // unless that starts with "<".
+    const LookRow units[] = {
+        {"x", "."}, {"<b>", "TTT"}, {"<!-- -->", "cccccccc"}, {"<%a%>", "%%%%%"}, {"www.a", "lllll"},
+    };
+    for (const LookRow &left : units) {
+        for (const LookRow &right : units) {
+            const std::string text = std::string("y") + left.text + right.text + " ";
+            const bool runsOn = *left.look == 'l' && *right.text != '<';
+            const std::string rightLook = runsOn ? std::string(strlen(right.text), 'l') : right.look;
+            EXPECT_EQ(lookAfterPass(text.c_str()), std::string(".") + left.look + rightLook + ".") << text;
+        }
+    }
+    const LookRow insideTags[] = {
+        {"<a b=www.c> ", "TTTaalllllL."},         {"<a www.b c>", "TTTlllllaaT"},
+        {"<a b=\"<%c%>\" d>", "TTTaav%%%%%...."}, {"<a <%b%> c>", "TTT%%%%%..."},
+        {"<a b=\"www.c\"> ", "TTTaavlllllvT."},
+    };
+    expectLooks(insideTags);
+}
+
 TEST(SyntaxScanner, SwitchedOffTagsLeaveLinksAndAspCode)
 {
     ColouringOptions options;

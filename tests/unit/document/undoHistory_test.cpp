@@ -1,0 +1,154 @@
+#include "document/undoHistory.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+UndoSnapshot snapshot(int number)
+{
+    return {QStringLiteral("text %1").arg(number), {number, number + 1}};
+}
+
+/// A history with the snapshots 1 to `count`, the last being the newest.
+UndoHistory historyOf(int count)
+{
+    UndoHistory history;
+    for (int i = 1; i <= count; ++i)
+        history.UndoRedoChange(snapshot(i));
+    return history;
+}
+
+int numberOf(const std::optional<UndoSnapshot> &entry)
+{
+    return entry ? static_cast<int>(entry->selection.start) : 0;
+}
+
+TEST(UndoHistory, StartsAtEntryOneWithNothingToDo)
+{
+    UndoHistory history;
+    EXPECT_EQ(history.UndoPosition(), 1);
+    EXPECT_FALSE(history.Undo());
+    EXPECT_FALSE(history.Redo());
+    EXPECT_EQ(history.UndoPosition(), 1);
+    EXPECT_EQ(history.IsUndoRedoPossible(), (UndoHistory::Possible{false, false}));
+}
+
+TEST(UndoHistory, StepsBackAndForth)
+{
+    UndoHistory history = historyOf(3);
+    const std::optional<UndoSnapshot> undone = history.Undo();
+    ASSERT_TRUE(undone);
+    EXPECT_EQ(undone->text, QStringLiteral("text 2"));
+    EXPECT_EQ(undone->selection, (TextSelection{2, 3}));
+    EXPECT_EQ(history.UndoPosition(), 2);
+    EXPECT_EQ(numberOf(history.Undo()), 1);
+    EXPECT_EQ(numberOf(history.Undo()), 0);
+    EXPECT_EQ(history.UndoPosition(), 3);
+    EXPECT_EQ(numberOf(history.Redo()), 2);
+    EXPECT_EQ(numberOf(history.Redo()), 3);
+    EXPECT_EQ(numberOf(history.Redo()), 0);
+    EXPECT_EQ(history.UndoPosition(), 1);
+}
+
+TEST(UndoHistory, CountsAnEmptyTextAsNoSnapshot)
+{
+    UndoHistory history;
+    history.UndoRedoChange({QString(), {0, 0}}); // taken when the window was made
+    history.UndoRedoChange(snapshot(1));
+    EXPECT_EQ(history.UndoPosition(), 1);
+    EXPECT_FALSE(history.Undo());
+    EXPECT_EQ(history.UndoPosition(), 1);
+}
+
+TEST(UndoHistory, StopsAtAnEmptySnapshotOnTheWay)
+{
+    UndoHistory history = historyOf(1);
+    history.UndoRedoChange({QString(), {0, 0}});
+    history.UndoRedoChange(snapshot(2));
+    EXPECT_FALSE(history.Undo());
+    EXPECT_EQ(history.UndoPosition(), 1);
+}
+
+TEST(UndoHistory, HoldsThirtySnapshots)
+{
+    UndoHistory history = historyOf(31); // the first has fallen off
+    int steps = 0;
+    int last = 0;
+    while (const auto entry = history.Undo()) {
+        ++steps;
+        last = numberOf(entry);
+    }
+    EXPECT_EQ(steps, 29);
+    EXPECT_EQ(last, 2);
+    EXPECT_EQ(history.UndoPosition(), 30);
+    EXPECT_FALSE(history.Undo());
+    EXPECT_EQ(history.UndoPosition(), 30);
+    EXPECT_EQ(numberOf(history.Redo()), 3);
+}
+
+TEST(UndoHistory, IsMeantToMoveTowardsTheNewestWithASnapshotAfterAnUndo)
+{
+    UndoHistory history = historyOf(4); // 4 3 2 1
+    history.Undo();
+    EXPECT_EQ(numberOf(history.Undo()), 2);
+    EXPECT_EQ(history.UndoPosition(), 3);
+    history.UndoRedoChange(snapshot(5)); // 5 4 3 2 1
+    EXPECT_EQ(history.UndoPosition(), 2);
+    EXPECT_EQ(numberOf(history.Undo()), 3);
+    EXPECT_EQ(history.UndoPosition(), 3);
+    EXPECT_EQ(numberOf(history.Redo()), 4);
+    EXPECT_EQ(numberOf(history.Redo()), 5);
+    EXPECT_EQ(numberOf(history.Redo()), 0);
+    EXPECT_EQ(history.UndoPosition(), 1);
+}
+
+TEST(UndoHistory, StaysAtEntryOneWhenASnapshotIsTakenThere)
+{
+    UndoHistory history = historyOf(2);
+    history.UndoRedoChange(snapshot(3));
+    EXPECT_EQ(history.UndoPosition(), 1);
+    history.Undo(); // 2
+    history.UndoRedoChange(snapshot(4));
+    EXPECT_EQ(history.UndoPosition(), 1);
+    history.UndoRedoChange(snapshot(5));
+    EXPECT_EQ(history.UndoPosition(), 1);
+}
+
+TEST(UndoHistory, OffersUndoByTheEntryItStandsAt)
+{
+    UndoHistory history = historyOf(1);
+    // Meant so: there is a snapshot at entry 1, but none behind it that could be written back.
+    EXPECT_EQ(history.IsUndoRedoPossible(), (UndoHistory::Possible{true, false}));
+    EXPECT_FALSE(history.Undo());
+
+    history.UndoRedoChange(snapshot(2));
+    history.Undo();
+    EXPECT_EQ(history.IsUndoRedoPossible(), (UndoHistory::Possible{true, true}));
+}
+
+TEST(UndoHistory, SharesTheTextsThatDoNotDiffer)
+{
+    UndoHistory history;
+    const QString text(1000, u'x');
+    for (int i = 0; i < 30; ++i)
+        history.UndoRedoChange({QString(text.constData(), text.size()), {0, 0}}); // an equal text, but another string
+    const auto second = history.Undo();
+    const auto third = history.Undo();
+    ASSERT_TRUE(second && third);
+    EXPECT_EQ(static_cast<const void *>(second->text.constData()), static_cast<const void *>(third->text.constData()));
+
+    history.UndoRedoChange({text, {0, 0}});
+    EXPECT_EQ(static_cast<const void *>(history.Redo()->text.constData()),
+              static_cast<const void *>(second->text.constData()));
+}
+
+TEST(UndoHistory, KeepsASnapshotApartFromTheTextThatGoesOnChanging)
+{
+    UndoHistory history;
+    QString text = QStringLiteral("abc");
+    history.UndoRedoChange({text, {0, 0}});
+    text += u'd';
+    history.UndoRedoChange({text, {4, 0}});
+    EXPECT_EQ(history.Undo()->text, QStringLiteral("abc"));
+}
+} // namespace
