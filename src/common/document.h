@@ -25,10 +25,11 @@ public:
     QString InternetOriginURL;      ///< where it was downloaded from; empty otherwise
     bool UnsuccessfulClose = false; ///< Save As was cancelled during a close
 
-    FileFormat fileFormat;              ///< how the file stands as bytes, and how it is written back
-    bool mixedLineEnds = false;         ///< the file has line ends of more than one kind; a save makes them one
-    std::optional<FileStamp> fileStamp; ///< the file's state when it was opened or saved last; nothing if unknown
-    qint16 autoSaveTicks = 0;           ///< minutes since the last automatic save
+    FileFormat fileFormat;                   ///< how the file stands as bytes
+    Encoding plainEncoding = Encoding::Utf8; ///< what it is written in unless as Unicode
+    bool mixedLineEnds = false;              ///< the file has line ends of more than one kind; a save makes them one
+    std::optional<FileStamp> fileStamp;      ///< the file's state when it was opened or saved last; nothing if unknown
+    qint16 autoSaveTicks = 0;                ///< minutes since the last automatic save
 
     virtual QString documentCaption() const = 0; ///< window title: "Untitled" and the number, or the full path
     virtual void setDocumentCaption(const QString &caption) = 0;

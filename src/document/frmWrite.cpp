@@ -1,6 +1,7 @@
 #include "document/frmWrite.h"
 
 #include "common/fileCommands.h"
+#include "common/fileFormatText.h"
 #include "common/paths.h"
 #include "platform/editSurface.h"
 #include "platform/services.h"
@@ -133,6 +134,7 @@ void frmWrite::Form_Activate()
     if (m_unloading)
         return;
     frmMdi().selectDocumentTab(DocKeyDescription);
+    frmMdi().showFileFormat(fileFormatText(*this));
     CheckWordWrapSettings();
 }
 
@@ -150,6 +152,7 @@ void frmWrite::Form_Unload()
         frmMdi().SetStatusText(
             QStringLiteral("There are no documents open. Choose New or Open from the File menu to begin."));
         frmMdi().clearStructureTree();
+        frmMdi().showFileFormat({});
     }
     frmMdi().removeDocumentTab(DocKeyDescription);
 }

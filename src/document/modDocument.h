@@ -2,9 +2,8 @@
 
 #include <QString>
 
-struct ProgramContext;
-
 class Document;
+struct ProgramContext;
 
 /// Makes a new, empty document and shows it. A failure is told by the box for memory errors, with no further effect,
 /// and gives nothing.

@@ -16,7 +16,7 @@ constexpr int WelcomeFileCount = 20;
 /// A path as its entry in the File menu shows it: in full up to 40 characters, else its start and the file's name.
 QString recentFileCaption(const QString &path);
 /// The list with the path in front; the last one falls off where the path is new. Slots may be empty.
-QStringList withRecentFile(QStringList slots, const QString &path);
+QStringList withRecentFile(QStringList paths, const QString &path);
 
 /// Fills the four entries of the File menu.
 void LoadRecentFilesMenu(ProgramContext &context);

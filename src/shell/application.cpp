@@ -1,6 +1,12 @@
 #include "shell/application.h"
 
 #include "document/modDocument.h"
+#include "files/documentFiles.h"
+#include "files/frmMsgAddSavedFileToProject.h"
+#include "files/frmMsgNoFileForAutoSave.h"
+#include "files/frmMsgSaveChanges.h"
+#include "files/frmProperties.h"
+#include "files/frmUnsavedFiles.h"
 #include "shell/frmMdi.h"
 #include "shell/frmSplash.h"
 #include "shell/frmWelcome.h"
@@ -17,7 +23,19 @@ Application::Application(Services &services)
     m_mdi = &own<frmMdi>(m_context, m_commandLine);
     m_splash = &own<frmSplash>(m_context, *m_mdi);
     own<frmWelcome>(m_context);
+    addFiles();
     connect(m_mdi, &Form::unloaded, this, &Application::End);
+}
+
+void Application::addFiles()
+{
+    m_files = std::make_unique<DocumentFiles>(m_context);
+    m_context.files = m_files.get();
+    own<frmMsgSaveChanges>(m_context);
+    own<frmUnsavedFiles>(m_context);
+    own<frmMsgNoFileForAutoSave>(m_context);
+    own<frmMsgAddSavedFileToProject>(m_context);
+    own<frmProperties>(m_context);
 }
 
 Application::~Application()

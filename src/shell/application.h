@@ -8,6 +8,7 @@
 #include <memory>
 #include <vector>
 
+class FileCommands;
 class frmMdi;
 class frmSplash;
 
@@ -41,6 +42,7 @@ Q_SIGNALS:
 private:
     template <class T, class... Arguments>
     T &own(Arguments &&...arguments);
+    void addFiles();
 
     ProgramState m_state;
     FormRuntime m_forms;
@@ -48,6 +50,7 @@ private:
     ProgramContext m_context;
     QString m_commandLine;
     bool m_ended = false;
+    std::unique_ptr<FileCommands> m_files;
     std::vector<std::unique_ptr<Form>> m_owned;
     frmMdi *m_mdi = nullptr;
     frmSplash *m_splash = nullptr;

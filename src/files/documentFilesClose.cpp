@@ -1,0 +1,135 @@
+// What is asked before documents close, and automatic saving.
+#include "files/documentFiles.h"
+
+#include "common/mainWindow.h"
+#include "files/autoSavePause.h"
+#include "files/frmMsgNoFileForAutoSave.h"
+#include "platform/form.h"
+#include "platform/messageBoxes.h"
+#include "platform/screenPointer.h"
+#include "platform/services.h"
+#include "shell/settings.h"
+
+#include <cmath>
+#include <utility>
+
+namespace
+{
+MessageBox unsavedChangesQuestion(const QString &caption)
+{
+    return {.title = QStringLiteral("Unsaved Changes"),
+            .text = QStringLiteral("The changes you have made to ") + caption +
+                    QStringLiteral(
+                        " have not yet been saved. Do you wish to save these changes before you close the document?"
+                        "\r\n\r\n· Choose 'Yes' to save the changes before the document is closed."
+                        "\r\n\r\n· Choose 'Cancel' to abort the close and return to the document."
+                        "\r\n\r\n· Choose 'No' to close the document without saving your changes."),
+            .icon = MessageIcon::Exclamation,
+            .buttons = MessageButtons::YesNoCancel};
+}
+
+/// The minutes between automatic saves, without their fraction; nothing where the setting is no such number.
+std::optional<qint16> autoSaveMinutes(SettingsStore &store)
+{
+    bool isNumber = false;
+    const double minutes = std::floor(settings::read(store, settings::AutoSaveTime).toDouble(&isNumber));
+    if (!isNumber || !(std::abs(minutes) < 32768))
+        return std::nullopt;
+    return static_cast<qint16>(minutes);
+}
+} // namespace
+
+bool DocumentFiles::mayClose(Document &document)
+{
+    if (m_context.state.FormUnloadHandled)
+        return true;
+    if (m_context.mainWindow->ExitInProgress && m_context.mainWindow->openDocuments().size() >= 2)
+        return mayCloseByExitList();
+    if (!document.boolDirty || askBeforeClose(document))
+        return true;
+    m_context.mainWindow->ExitInProgress = false;
+    return false;
+}
+
+bool DocumentFiles::askBeforeClose(Document &document)
+{
+    const AutoSavePause pause(document);
+    switch (m_context.services.messageBoxes.show(unsavedChangesQuestion(document.documentCaption()))) {
+    case MessageAnswer::No:
+        return true;
+    case MessageAnswer::Yes:
+        if (m_context.mainWindow->activeDocument() != &document)
+            document.activate();
+        saveDocument(document, true);
+        return !std::exchange(document.UnsuccessfulClose, false);
+    default:
+        document.txtEdit().SetFocus();
+        return false;
+    }
+}
+
+bool DocumentFiles::mayCloseByExitList()
+{
+    MainWindow &frmMdi = *m_context.mainWindow;
+    if (frmMdi.SaveListShown)
+        return frmMdi.ExitInProgress;
+    Form &list = m_context.form(QStringLiteral("frmMsgSaveChanges"));
+    list.Load();
+    frmMdi.SaveListShown = true;
+    frmMdi.setEnabled(false);
+    if (!m_context.state.NoUnsavedDocuments)
+        list.Show();
+    m_context.state.FormUnloadHandled = true;
+    return m_context.state.NoUnsavedDocuments;
+}
+
+void DocumentFiles::autoSaveTick(Document &document)
+{
+    SettingsStore &store = m_context.services.settings;
+    // The counter is one of 16 bits and wraps as such.
+    document.autoSaveTicks = static_cast<qint16>(static_cast<quint16>(document.autoSaveTicks) + 1U);
+    if (document.autoSaveTicks != autoSaveMinutes(store) || !settings::isOn(store, settings::AutoSaveUse))
+        return;
+    const bool saved = AutoSaveDocument(document);
+    document.autoSaveTicks = 0;
+    if (!saved)
+        return;
+    QString text =
+        QStringLiteral("The document \"") + document.DocSavePath + QStringLiteral("\" has been automatically saved.");
+    if (!m_remark.isEmpty())
+        text += QStringLiteral(" ") + m_remark;
+    m_context.mainWindow->SetStatusText(text);
+    m_context.mainWindow->enableResetBar();
+}
+
+bool DocumentFiles::AutoSaveDocument(Document &document)
+{
+    if (document.NewDoc || document.DocSavePath.isEmpty()) {
+        autoSaveNameless(document);
+        return false;
+    }
+    if (isChangedOnDisk(document)) {
+        m_context.mainWindow->SetStatusText(
+            QStringLiteral("The document \"") + document.DocSavePath +
+            QStringLiteral("\" has not been automatically saved: another program has changed its file."));
+        return false;
+    }
+    // A dialog that is open keeps its hold on the main window.
+    const bool enabled = m_context.mainWindow->Enabled();
+    const bool saved = writeAndTell(document, {document.DocSavePath, SaveForm::AsOpened});
+    if (saved)
+        noteWritten(document);
+    m_context.mainWindow->setEnabled(enabled);
+    return saved;
+}
+
+void DocumentFiles::autoSaveNameless(Document &document)
+{
+    m_context.screenPointer.setMousePointer(0);
+    Form &form = m_context.form(QStringLiteral("frmMsgNoFileForAutoSave"));
+    if (form.isLoaded() || // it waits for an answer already
+        !settings::isOn(m_context.services.settings, settings::AutoSaveUnsavedNotification))
+        return;
+    static_cast<frmMsgNoFileForAutoSave &>(form).setDocument(document);
+    form.ShowModal();
+}

@@ -1,0 +1,220 @@
+// Opening files, and what all commands on files share.
+#include "files/documentFiles.h"
+
+#include "common/fileFormatText.h"
+#include "common/mainWindow.h"
+#include "files/fileDialogRows.h"
+#include "files/modFileErrors.h"
+#include "files/modRecentFiles.h"
+#include "platform/commonDialogs.h"
+#include "platform/fileSystem.h"
+#include "platform/programContext.h"
+#include "platform/screenPointer.h"
+#include "platform/services.h"
+#include "shell/settings.h"
+
+#include <new>
+
+namespace
+{
+constexpr int DefaultPointer = 0;
+constexpr int HourglassPointer = 11;
+} // namespace
+
+/// A file's text in its new document, which knows nothing of the file yet.
+struct DocumentFiles::Opened {
+    Document *document = nullptr;
+    DecodedText contents;
+    std::optional<FileStamp> stamp;
+};
+
+void DocumentFiles::begin()
+{
+    m_context.screenPointer.setMousePointer(HourglassPointer);
+    m_context.mainWindow->setEnabled(false);
+}
+
+void DocumentFiles::finish()
+{
+    m_context.screenPointer.setMousePointer(DefaultPointer);
+    m_context.mainWindow->setEnabled(true);
+}
+
+void DocumentFiles::failWith(const FileError &error)
+{
+    finish();
+    FileErrors(error.code, error.description);
+}
+
+void DocumentFiles::FileErrors(int errorNumber, const QString &description)
+{
+    m_context.services.messageBoxes.show(fileErrorBox(errorNumber, description));
+}
+
+void DocumentFiles::MemoryErrors(int errorNumber)
+{
+    if (const std::optional<MessageBox> box = memoryErrorBox(errorNumber))
+        m_context.services.messageBoxes.show(*box);
+}
+
+void DocumentFiles::tellComesLater(const QString &what)
+{
+    finish();
+    m_context.services.messageBoxes.show(
+        {.title = QStringLiteral("Not Available Yet"),
+         .text = what + QStringLiteral(" This will come with a later version of Tagwrighter."),
+         .icon = MessageIcon::Information,
+         .buttons = MessageButtons::OK});
+}
+
+void DocumentFiles::showFormat(const Document &document)
+{
+    if (m_context.mainWindow->activeDocument() == &document)
+        m_context.mainWindow->showFileFormat(fileFormatText(document));
+}
+
+void DocumentFiles::ShowOpenDialog()
+{
+    const std::optional<FileDialogResult> chosen = m_context.services.commonDialogs.showOpen(
+        {.DialogTitle = {},
+         .Filter = openFilter(),
+         .FilterIndex = PreselectedRow,
+         .InitDir = settings::read(m_context.services.settings, settings::WorkingDir),
+         .FileName = {}});
+    if (chosen && !chosen->fileName.isEmpty())
+        openAsChosen(*chosen);
+}
+
+void DocumentFiles::openAsChosen(const FileDialogResult &chosen)
+{
+    switch (openAs(chosen.filterIndex)) {
+    case OpenAs::Text:
+        OpenDocumentFile(chosen.fileName, false);
+        break;
+    case OpenAs::UnicodeText:
+        OpenDocumentFile(chosen.fileName, true);
+        break;
+    case OpenAs::Template:
+        tellComesLater(QStringLiteral("Templates can not be opened from this dialog yet."));
+        break;
+    case OpenAs::CombinedTemplate:
+        OpenCombinedTemplate(chosen.fileName);
+        break;
+    case OpenAs::SiteProject:
+        OpenProject(chosen.fileName);
+        break;
+    }
+}
+
+void DocumentFiles::OpenCombinedTemplate(const QString & /*path*/)
+{
+    tellComesLater(QStringLiteral("Combined templates can not be opened yet."));
+}
+
+void DocumentFiles::OpenProject(const QString & /*path*/)
+{
+    tellComesLater(QStringLiteral("Site projects can not be opened yet."));
+}
+
+void DocumentFiles::OpenRecentFile(int index)
+{
+    const QString path = settings::read(m_context.services.settings, settings::RecentFile, index);
+    if (!path.isEmpty())
+        OpenDocumentFile(path, false);
+}
+
+void DocumentFiles::OpenDocumentFile(const QString &path, bool unicode)
+{
+    if (refuseOpenTwice(path))
+        return;
+    const std::optional<Opened> opened = openIntoNewDocument(path, unicode);
+    if (!opened)
+        return;
+    Document &document = *opened->document;
+    document.setDocumentCaption(path);
+    document.DocSavePath = path;
+    document.fileStamp = opened->stamp;
+    noteOpened(document, opened->contents, unicode);
+    document.DocSelUpdate(path);
+    AddToRecentFiles(path);
+    document.NewDoc = false;
+    finishOpened(document);
+}
+
+void DocumentFiles::OpenTemplateFile(const QString &path, bool asTemplate)
+{
+    if (!asTemplate) {
+        OpenDocumentFile(path, false);
+        return;
+    }
+    // The text starts a page of its own: it has no file, and is written as any new page is.
+    if (const std::optional<Opened> opened = openIntoNewDocument(path, false))
+        finishOpened(*opened->document);
+}
+
+bool DocumentFiles::refuseOpenTwice(const QString &path)
+{
+    for (const Document *document : m_context.mainWindow->openDocuments())
+        if (document->DocSavePath == path) {
+            finish();
+            m_context.services.messageBoxes.show(
+                {.title = QStringLiteral("File Already Open"),
+                 .text = QStringLiteral("The file, ") + path + QStringLiteral(", is already open."),
+                 .icon = MessageIcon::Exclamation,
+                 .buttons = MessageButtons::OK});
+            return true;
+        }
+    return false;
+}
+
+std::optional<DocumentFiles::Opened> DocumentFiles::openIntoNewDocument(const QString &path, bool unicode)
+{
+    begin();
+    // The file is found before there is a window; what only the reading meets leaves an empty one.
+    if (const std::optional<FileError> error = m_context.services.files.checkReadable(path)) {
+        failWith(*error);
+        return std::nullopt;
+    }
+    if (Document *document = m_context.newBlankDocument())
+        return readInto(*document, path, unicode);
+    finish();
+    return std::nullopt;
+}
+
+std::optional<DocumentFiles::Opened> DocumentFiles::readInto(Document &document, const QString &path, bool unicode)
+{
+    // Taken before the reading: a change in between is asked about once too often rather than never.
+    const std::optional<FileStamp> stamp = m_context.services.files.stamp(path);
+    const FileContents file = m_context.services.files.readAll(path);
+    if (file.error) {
+        failWith(*file.error);
+        return std::nullopt;
+    }
+    try {
+        Opened opened{&document, decode(file.bytes, unicode), stamp};
+        document.txtEdit().setText(opened.contents.text);
+        return opened;
+    } catch (const std::bad_alloc &) {
+        failWith({.code = OutOfMemoryError, .systemError = 0, .description = {}});
+        return std::nullopt;
+    }
+}
+
+void DocumentFiles::finishOpened(Document &document)
+{
+    document.boolDirty = false;
+    m_context.mainWindow->SetStatusReady();
+    showFormat(document);
+    finish();
+    document.txtEdit().SetFocus();
+}
+
+void DocumentFiles::LoadRecentFilesMenu()
+{
+    ::LoadRecentFilesMenu(m_context);
+}
+
+void DocumentFiles::AddToRecentFiles(const QString &path)
+{
+    ::AddToRecentFiles(m_context, path);
+}

@@ -1,0 +1,257 @@
+// Saving documents.
+#include "files/documentFiles.h"
+
+#include "common/mainWindow.h"
+#include "common/siteProject.h"
+#include "files/autoSavePause.h"
+#include "files/fileDialogRows.h"
+#include "files/modFileNames.h"
+#include "files/unsavedDocuments.h"
+#include "platform/commonDialogs.h"
+#include "platform/fileSystem.h"
+#include "platform/form.h"
+#include "platform/messageBoxes.h"
+#include "platform/services.h"
+#include "shell/settings.h"
+
+#include <new>
+
+namespace
+{
+QString quoted(const QString &name)
+{
+    return QStringLiteral("\"") + name + QStringLiteral("\"");
+}
+
+MessageBox documentOpenBox(const QString &path)
+{
+    return {.title = QStringLiteral("Document Open"),
+            .text = QStringLiteral("Tagwrighter can not give a document the same name as an open document.\r\n(") +
+                    path + QStringLiteral(")"),
+            .icon = MessageIcon::Information,
+            .buttons = MessageButtons::OK};
+}
+
+MessageBox replaceQuestion(const QString &path)
+{
+    return {.title = QStringLiteral("File Already Exists"),
+            .text = QStringLiteral("The file ") + quoted(path) +
+                    QStringLiteral(" already exists.\r\nDo you want to replace it?"),
+            .icon = MessageIcon::Exclamation,
+            .buttons = MessageButtons::YesNoCancel};
+}
+
+MessageBox fileChangedQuestion(const QString &path)
+{
+    return {.title = QStringLiteral("File Changed"),
+            .text = QStringLiteral("The file ") + quoted(path) +
+                    QStringLiteral(" has been changed by another program since it was opened or saved here.\r\n"
+                                   "Do you want to save over those changes?"),
+            .icon = MessageIcon::Exclamation,
+            .buttons = MessageButtons::YesNo};
+}
+} // namespace
+
+bool DocumentFiles::SaveDocument(bool closing)
+{
+    Document *document = m_context.mainWindow->activeDocument();
+    return document && saveDocument(*document, closing);
+}
+
+bool DocumentFiles::SaveDocumentAs(bool closing, const QString &title)
+{
+    Document *document = m_context.mainWindow->activeDocument();
+    return document && saveDocumentAs(*document, closing, title);
+}
+
+void DocumentFiles::SaveAll()
+{
+    for (Document *document : m_context.mainWindow->openDocuments())
+        if (document->boolDirty) {
+            document->activate();
+            saveDocument(*document, false);
+        }
+}
+
+bool DocumentFiles::saveDocument(Document &document, bool closing)
+{
+    if (document.NewDoc || document.DocSavePath.isEmpty()) {
+        m_context.mainWindow->setEnabled(true);
+        return saveDocumentAs(document, closing, saveAsTitle(document));
+    }
+    if (!mayWriteOver(document) || !writeAndTell(document, {document.DocSavePath, SaveForm::AsOpened}))
+        return notSaved(document, closing);
+    noteWritten(document);
+    return true;
+}
+
+bool DocumentFiles::saveDocumentAs(Document &document, bool closing, const QString &title)
+{
+    const QString folder = settings::read(m_context.services.settings, settings::WorkingDir);
+    const QString proposed = document.NewDoc
+                                 ? DefaultFileNameFromTitle(document.txtEdit().Text(), folder, m_context.services.files)
+                                 : document.DocSavePath;
+    std::optional<FileDialogResult> chosen;
+    {
+        const AutoSavePause pause(document);
+        chosen = m_context.services.commonDialogs.showSave({.DialogTitle = title,
+                                                            .Filter = saveFilter(),
+                                                            .FilterIndex = PreselectedRow,
+                                                            .InitDir = folder,
+                                                            .FileName = proposed});
+    }
+    if (chosen && !chosen->fileName.isEmpty())
+        return saveAsChosen(document, closing, *chosen);
+    notSaved(document, closing);
+    document.txtEdit().SetFocus();
+    return false;
+}
+
+bool DocumentFiles::saveAsChosen(Document &document, bool closing, const FileDialogResult &chosen)
+{
+    switch (saveAs(chosen.filterIndex)) {
+    case SaveAs::Text:
+        return WriteDocumentTo(document, closing, {chosen.fileName, SaveForm::Plain});
+    case SaveAs::UnicodeText:
+        return WriteDocumentTo(document, closing, {chosen.fileName, SaveForm::UnicodeRow});
+    case SaveAs::CombinedTemplate:
+        tellComesLater(QStringLiteral("Documents can not be saved as combined templates yet."));
+        break;
+    case SaveAs::TextWithoutTags:
+        tellComesLater(QStringLiteral("Documents can not be saved without their tags yet."));
+        break;
+    }
+    return notSaved(document, closing);
+}
+
+bool DocumentFiles::WriteDocumentTo(Document &document, bool closing, const Target &target)
+{
+    if (IsFileOpen(*m_context.mainWindow, target.path, document.DocSavePath)) {
+        m_context.services.messageBoxes.show(documentOpenBox(target.path));
+        document.txtEdit().SetFocus();
+        return notSaved(document, closing);
+    }
+    if (target.path == document.DocSavePath) {
+        if (!mayWriteOver(document))
+            return notSaved(document, closing);
+    } else if (FileExists(m_context.services.files, target.path)) {
+        const AutoSavePause pause(document);
+        const MessageAnswer answer = m_context.services.messageBoxes.show(replaceQuestion(target.path));
+        if (answer == MessageAnswer::No)
+            return saveDocumentAs(document, closing, {});
+        if (answer != MessageAnswer::Yes) {
+            notSaved(document, closing);
+            document.txtEdit().SetFocus();
+            return false;
+        }
+    }
+    return writeToNewName(document, closing, target);
+}
+
+bool DocumentFiles::writeToNewName(Document &document, bool closing, const Target &target)
+{
+    if (!writeAndTell(document, target))
+        return notSaved(document, closing);
+    document.setDocumentCaption(target.path);
+    document.DocSavePath = target.path;
+    noteWritten(document);
+    if (!m_context.mainWindow->SaveListShown)
+        document.txtEdit().SetFocus();
+    offerToProject(document);
+    return true;
+}
+
+bool DocumentFiles::isChangedOnDisk(const Document &document) const
+{
+    const std::optional<FileStamp> now = m_context.services.files.stamp(document.DocSavePath);
+    return now && now != document.fileStamp; // a file that has gone holds nothing to be lost
+}
+
+bool DocumentFiles::mayWriteOver(Document &document)
+{
+    if (!isChangedOnDisk(document))
+        return true;
+    const AutoSavePause pause(document);
+    const MessageAnswer answer = m_context.services.messageBoxes.show(fileChangedQuestion(document.DocSavePath));
+    document.txtEdit().SetFocus();
+    return answer == MessageAnswer::Yes;
+}
+
+std::optional<FileError> DocumentFiles::write(Document &document, const Target &target)
+{
+    FileSystem &files = m_context.services.files;
+    try {
+        const EncodedText encoded = encodedForSave(document, target.form);
+        if (std::optional<FileError> error = files.writeWhole(target.path, encoded.bytes))
+            return error;
+        document.fileStamp = files.stamp(target.path);
+        showRemark(saveRemark(document, target.form, encoded));
+        noteSaved(document, encoded.encoding);
+    } catch (const std::bad_alloc &) {
+        return FileError{.code = OutOfMemoryError, .systemError = 0, .description = {}};
+    }
+    return std::nullopt;
+}
+
+bool DocumentFiles::writeAndTell(Document &document, const Target &target)
+{
+    begin();
+    if (const std::optional<FileError> error = write(document, target)) {
+        failWith(*error);
+        return false;
+    }
+    finish();
+    return true;
+}
+
+void DocumentFiles::noteWritten(Document &document)
+{
+    document.boolDirty = false;
+    document.NewDoc = false;
+    document.DocSelUpdate(document.DocSavePath);
+    AddToRecentFiles(document.DocSavePath);
+    showFormat(document);
+}
+
+bool DocumentFiles::notSaved(Document &document, bool closing)
+{
+    m_context.mainWindow->setEnabled(true);
+    if (!closing)
+        return false;
+    document.UnsuccessfulClose = true;
+    if (m_context.state.FormUnloadHandled) {
+        // The exit list is at work: the whole exit stops, and what is still open stays so.
+        m_context.state.FormUnloadHandled = false;
+        m_context.mainWindow->ExitInProgress = false;
+    }
+    return false;
+}
+
+void DocumentFiles::showRemark(const QString &remark)
+{
+    if (!remark.isEmpty())
+        m_context.mainWindow->SetStatusText(remark);
+    else if (!m_remark.isEmpty() && m_context.mainWindow->statusText() == m_remark)
+        m_context.mainWindow->SetStatusReady(); // it told of the save before this one
+    m_remark = remark;
+}
+
+void DocumentFiles::offerToProject(Document &document)
+{
+    SiteProject *project = m_context.project;
+    if (!project || !project->isOpen())
+        return;
+    MainWindow &frmMdi = *m_context.mainWindow;
+    bool add = settings::isOn(m_context.services.settings, settings::ShowAddFileToProjectAnswer);
+    if (settings::isOn(m_context.services.settings, settings::ShowAddFileToProjectQuestion) &&
+        !frmMdi.AskedForThisSession) {
+        frmMdi.AddSavedFileAnswer = false;
+        document.setAutoSaveEnabled(false);
+        m_context.form(QStringLiteral("frmMsgAddSavedFileToProject")).ShowModal();
+        document.setAutoSaveEnabled(true);
+        document.txtEdit().SetFocus();
+        add = frmMdi.AddSavedFileAnswer;
+    }
+    if (add)
+        project->AddFileToProject(document.DocSavePath, true);
+}

@@ -1,0 +1,139 @@
+#include "files/modRecentFiles.h"
+
+#include "common/encodings.h"
+#include "common/paths.h"
+#include "platform/fileSystem.h"
+#include "platform/programContext.h"
+#include "platform/services.h"
+#include "shell/settings.h"
+
+#include <QComboBox>
+
+namespace
+{
+constexpr qsizetype LongestCaption = 40;
+
+QStringList readSlots(SettingsStore &store, const settings::Key &key, int count)
+{
+    QStringList paths;
+    for (int slot = 1; slot <= count; ++slot)
+        paths.append(settings::read(store, key, slot));
+    return paths;
+}
+
+void writeSlots(SettingsStore &store, const settings::Key &key, const QStringList &paths)
+{
+    for (int slot = 1; slot <= paths.size(); ++slot)
+        settings::write(store, key, paths[slot - 1], slot);
+}
+
+bool recordsAddresses(ProgramContext &context)
+{
+    return settings::read(context.services.settings, settings::AddrBarRec) != u"0";
+}
+
+QString addressFile(const ProgramContext &context)
+{
+    return joinPath(context.services.appPath, QStringLiteral("AddrBar.dat"));
+}
+
+/// The history's lines; the text behind the last break is a line only if there is some.
+QStringList linesOf(const QString &text)
+{
+    QStringList lines = text.split(QStringLiteral("\r\n"));
+    if (lines.last().isEmpty())
+        lines.removeLast();
+    return lines;
+}
+
+bool listHolds(const QComboBox &combo, const QString &address)
+{
+    for (int row = 0; row < combo.count(); ++row)
+        if (combo.itemText(row).toLower() == address.toLower())
+            return true;
+    return false;
+}
+
+/// Adds rows and leaves the edit field alone, which the first row of an empty list would otherwise take over.
+void addRows(QComboBox &combo, const QStringList &rows)
+{
+    const QString shown = combo.currentText();
+    combo.addItems(rows);
+    combo.setCurrentIndex(-1);
+    combo.setEditText(shown);
+}
+
+bool appendToHistory(ProgramContext &context, const QString &address)
+{
+    FileSystem &files = context.services.files;
+    const QString path = addressFile(context);
+    const FileContents old = files.readAll(path);
+    if (old.error && files.exists(path)) // what cannot be read is not to be replaced
+        return false;
+    QString text = decodeOwnFile(old.bytes);
+    if (!text.isEmpty() && !text.endsWith(QStringLiteral("\r\n")))
+        text += QStringLiteral("\r\n");
+    return !files.writeWhole(path, encodeOwnFile(text + address + QStringLiteral("\r\n")));
+}
+} // namespace
+
+QString recentFileCaption(const QString &path)
+{
+    if (path.size() <= LongestCaption)
+        return path;
+    return path.first(3) + QStringLiteral(" ... ") + FileNameOnly(path).left(LongestCaption);
+}
+
+QStringList withRecentFile(QStringList paths, const QString &path)
+{
+    const qsizetype standing = paths.indexOf(path);
+    if (standing < 0)
+        paths.removeLast();
+    else
+        paths.removeAt(standing);
+    paths.prepend(path);
+    return paths;
+}
+
+void LoadRecentFilesMenu(ProgramContext &context)
+{
+    QStringList captions;
+    for (const QString &path : readSlots(context.services.settings, settings::RecentFile, RecentFileCount))
+        captions.append(recentFileCaption(path));
+    context.mainWindow->showRecentFiles(captions);
+}
+
+void AddToRecentFiles(ProgramContext &context, const QString &path)
+{
+    SettingsStore &store = context.services.settings;
+    AddToWelcomeList(store, path);
+    const QStringList paths = readSlots(store, settings::RecentFile, RecentFileCount);
+    writeSlots(store, settings::RecentFile, withRecentFile(paths, path));
+    LoadRecentFilesMenu(context);
+}
+
+void AddToWelcomeList(SettingsStore &store, const QString &path)
+{
+    QStringList paths = readSlots(store, settings::RecentWelcome, WelcomeFileCount);
+    paths.removeLast();
+    paths.prepend(path);
+    writeSlots(store, settings::RecentWelcome, paths);
+}
+
+void LoadAddressHistory(ProgramContext &context, QComboBox &combo)
+{
+    if (!recordsAddresses(context))
+        return;
+    const FileContents history = context.services.files.readAll(addressFile(context));
+    if (!history.error)
+        addRows(combo, linesOf(decodeOwnFile(history.bytes)));
+}
+
+void RecordAddress(ProgramContext &context, QComboBox &combo)
+{
+    const QString address = combo.currentText();
+    if (!recordsAddresses(context) || address.isEmpty() || listHolds(combo, address))
+        return;
+    if (appendToHistory(context, address))
+        addRows(combo, {address});
+}

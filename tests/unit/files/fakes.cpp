@@ -1,0 +1,68 @@
+#include "fakes.h"
+
+#include <QFile>
+
+FilesTest::FilesTest()
+    : m_services{boxes,    dialogs, settings, disk,          m_launcher, m_clipboard, m_clock,
+                 m_random, m_help,  m_timers, m_fileClasses, modal,      m_yielder,   m_folder.path()},
+      context{.services = m_services, .forms = m_runtime, .state = state, .screenPointer = m_pointer}
+{
+    context.mainWindow = &mainWindow;
+    context.files = &files;
+    context.newBlankDocument = [this]() -> Document * { return &newDocument(); };
+    context.form = [this](const QString &name) -> Form & { return *m_forms.at(name); };
+    context.end = [this] { ended = true; };
+    setting("AppPaths", QStringLiteral("WorkingDir"), m_folder.path());
+}
+
+FilesTest::~FilesTest()
+{
+    m_runtime.discardAll();
+}
+
+FakeDocument &FilesTest::newDocument()
+{
+    m_documents.push_back(std::make_unique<FakeDocument>(mainWindow));
+    FakeDocument &document = *m_documents.back();
+    document.NewDoc = true;
+    document.caption = QStringLiteral("Untitled") + QString::number(m_documents.size());
+    mainWindow.documents.append(&document);
+    mainWindow.active = &document;
+    return document;
+}
+
+FakeDocument &FilesTest::openedDocument(const QString &name, const QByteArray &bytes)
+{
+    writeFile(name, bytes);
+    files.OpenDocumentFile(path(name), false);
+    return *m_documents.back();
+}
+
+void FilesTest::writeFile(const QString &name, const QByteArray &bytes)
+{
+    QFile file(path(name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    ASSERT_EQ(file.write(bytes), bytes.size());
+}
+
+QByteArray FilesTest::bytesOf(const QString &name) const
+{
+    QFile file(path(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArrayLiteral("(no file)");
+}
+
+void FilesTest::setting(const char *section, const QString &key, const QString &value)
+{
+    settings.SaveSetting(QStringLiteral("QWRK77XE"), QString::fromLatin1(section), key, value);
+}
+
+QString FilesTest::storedSetting(const char *section, const QString &key)
+{
+    return settings.GetSetting(QStringLiteral("QWRK77XE"), QString::fromLatin1(section), key);
+}
+
+MessageBox FilesTest::takeBox()
+{
+    EXPECT_EQ(boxes.shown.size(), 1);
+    return boxes.shown.isEmpty() ? MessageBox() : boxes.shown.takeFirst();
+}
