@@ -1,4 +1,5 @@
 #include "platform/desktopServices.h"
+#include "platform/programIcon.h"
 #include "shell/application.h"
 #include "shell/commandLine.h"
 
@@ -10,6 +11,7 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(QStringLiteral("tagwrighter"));
     QApplication::setApplicationDisplayName(QString());
     QApplication::setDesktopFileName(QStringLiteral("tagwrighter"));
+    QApplication::setWindowIcon(applicationIcon());
     QApplication::setQuitOnLastWindowClosed(false); // between the splash and the main window there is none
 
     DesktopServices services;

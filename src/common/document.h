@@ -54,6 +54,10 @@ public:
 
     virtual void CheckWordWrapSettings() = 0;
 
+    /// Shows or hides the preview beside the source, as the setting says, and lays the two out.
+    virtual void SplitEditingPreviewWindows() {}
+    virtual void RepositionEditingandPreviewWindows() {}
+
     /// Takes the text and its selection into the document's history.
     virtual void UndoRedoChange() = 0;
     /// Go one step through the history; nothing at its ends.

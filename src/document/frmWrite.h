@@ -6,9 +6,11 @@
 #include "platform/mdiForm.h"
 
 class EditSurface;
+class QPoint;
 class Timer;
 struct SurfaceCharacter;
 struct SurfaceKey;
+struct SurfaceMouse;
 
 /// A document window. The window is the document: it holds the source in its edit surface, and the document's
 /// properties.
@@ -69,9 +71,13 @@ private:
 
     void txtEdit_Change();
     void txtEdit_KeyDown(SurfaceKey &key);
+    void txtEdit_MouseUp(SurfaceMouse &mouse);
+    void showPopup(const QPoint &point);
     void txtEdit_KeyPress(SurfaceCharacter &character);
     void txtEdit_GotFocus();
     void txtEdit_LostFocus();
+    bool leavesForPane(const SurfaceKey &key);
+    bool opensPopup(const SurfaceKey &key);
     bool indentByTab(const SurfaceKey &key);
     bool startIndentedLine();
     bool runEditingKey(int key);

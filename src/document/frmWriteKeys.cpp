@@ -68,8 +68,25 @@ void frmWrite::txtEdit_KeyDown(SurfaceKey &key)
     }
     if (endsAStep(key))
         UndoRedoChange();
+    if (leavesForPane(key) || opensPopup(key))
+        key.discard = true;
     if ((key.modifiers & RealModifiers) == Qt::ControlModifier && runEditingKey(key.key))
         key.discard = true;
+}
+
+bool frmWrite::leavesForPane(const SurfaceKey &key)
+{
+    constexpr int KeyF6 = 117;
+    return key.key == Qt::Key_F6 && frmMdi().MoveToNextPane(KeyF6, QStringLiteral("editor"));
+}
+
+/// The keyboard's menu key does what a right click at the caret does.
+bool frmWrite::opensPopup(const SurfaceKey &key)
+{
+    if (key.key != Qt::Key_Menu)
+        return false;
+    showPopup(m_edit->positionOfCharacter(m_edit->SelStart()).bottomLeft());
+    return true;
 }
 
 bool frmWrite::indentByTab(const SurfaceKey &key)

@@ -18,6 +18,7 @@ Application::Application(Services &services)
 {
     m_context.version = QStringLiteral(TAGWRIGHTER_VERSION);
     m_context.form = [this](const QString &name) -> Form & { return *form(name); };
+    m_context.hasForm = [this](const QString &name) { return form(name) != nullptr; };
     m_context.newBlankDocument = [this] { return NewBlankDocument(m_context); };
     m_context.end = [this] { End(); };
     m_mdi = &own<frmMdi>(m_context, m_commandLine);

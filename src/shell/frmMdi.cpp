@@ -5,9 +5,12 @@
 #include "platform/inputGate.h"
 #include "platform/mainWindowFrame.h"
 #include "platform/mdiForm.h"
+#include "platform/nodeTree.h"
 #include "shell/frmMdiCommands.h"
+#include "shell/frmMdiPane.h"
 
 #include <QAction>
+#include <QComboBox>
 #include <QMainWindow>
 
 frmMdi::frmMdi(ProgramContext &context, const QString &commandLine)
@@ -95,6 +98,8 @@ QObject *frmMdi::control(const QString &name) const
 void frmMdi::SetDocumentControlsEnabled(bool enabled)
 {
     m_commands->setDocumentControlsEnabled(enabled);
+    for (QWidget *control : QList<QWidget *>{cboFont, cboFontSize, cboSize, m_pane->treCodes})
+        control->setEnabled(enabled);
 }
 
 void frmMdi::setWordWrapChecked(bool checked)

@@ -3,12 +3,19 @@
 #include "common/mainWindow.h"
 #include "platform/form.h"
 
+#include <memory>
+
+class CoolBar;
 class InputGate;
 class MainCommands;
+class QBoxLayout;
+class QComboBox;
+class QFrame;
 class QLabel;
 class QMainWindow;
 class QStatusBar;
-class QTabBar;
+class TabStrip;
+class TaskManagerPane;
 class Timer;
 
 /// The main window: the frame that holds the documents and everything that is not per document.
@@ -28,6 +35,9 @@ public:
     void SetStatusText(const QString &text) override;
     void SetStatusReady() override;
     QString statusText() const override;
+    void enableResetBar() override;
+    void showFileFormat(const QString &text) override;
+    void showRecentFiles(const QStringList &captions) override;
     void SetDocumentControlsEnabled(bool enabled) override;
 
     void addDocumentTab(const QString &key, const QString &caption) override;
@@ -36,12 +46,16 @@ public:
     void showDocumentTabs(bool shown) override;
     void showDocumentSelector(bool shown) override;
     void setWordWrapChecked(bool checked) override;
-    void clearStructureTree() override {}
-    bool structurePageShown() const override { return false; }
-    void addStructureNode(qsizetype, const QString &, const QString &, const QString &) override {}
-    void enableResetBar() override;
-    void showFileFormat(const QString &text) override;
-    void showRecentFiles(const QStringList &) override {}
+    void clearStructureTree() override;
+    bool structurePageShown() const override;
+    void addStructureNode(qsizetype parent, const QString &key, const QString &text, const QString &image) override;
+
+    void PopupMenu(const QString &name, const QPoint &position) override;
+    bool MoveToNextPane(int keyCode, const QString &from) override;
+
+    /// Shows or hides a bar, by the name of its entry in the View menu, whose check mark and setting follow.
+    void showBar(const QString &entry, bool shown);
+    void toggleBar(const QString &entry);
 
     QObject *control(const QString &name) const override;
     QMainWindow *frame() const;
@@ -55,29 +69,62 @@ protected:
 
 private:
     void buildControls();
+    void buildBands();
+    void buildFontCombos();
+    void buildAddressPanel();
     void buildDocumentSelector();
     void buildStatusBar();
+    void layOut();
+
     void restoreState();
+    void fillFontCombos();
     void readColouringOptions();
+    void readWordWrap();
+    void sizeDocumentSelector();
+    void loadRecentLists();
+    void placePane();
     void restoreBars();
+    void restoreSplit();
+    void restoreBands();
     void restorePlacement();
-    void savePlacement();
+    void picAddress_Resize();
     void openCommandLineFile();
     void decideWelcome();
+
+    void savePlacement();
+    void saveBands();
+    bool projectMayClose();
     bool documentsMayClose();
+
+    bool isBarShown(const QString &entry) const;
+    void setBarShown(const QString &entry, bool shown);
     void raiseDialogs();
     void openDropped(const QStringList &paths);
     void tabDocSel_Click();
-    int tabOfKey(const QString &key) const;
+    void treStructure_NodeClick(int node);
+    void cmdGo_Click();
+    void cboFont_Click();
+    void cboFont_LostFocus();
+    void cboSize_Click();
+    void cboFontSize_Click();
 
     const QString &m_commandLine;
     InputGate *m_gate = nullptr;
     std::unique_ptr<MainCommands> m_commands;
-    QTabBar *tabDocSel = nullptr;
+    CoolBar *cbrMain = nullptr;
+    QComboBox *cboFont = nullptr;
+    QComboBox *cboSize = nullptr;
+    QComboBox *cboFontSize = nullptr;
+    QWidget *picAddress = nullptr;
+    QComboBox *cboAddress = nullptr;
+    TaskManagerPane *m_pane = nullptr;
+    QBoxLayout *m_middle = nullptr; ///< the pane beside the documents
+    TabStrip *tabDocSel = nullptr;
     QWidget *picDocSelector = nullptr;
-    QLabel *m_message = nullptr;
-    QLabel *m_fileFormat = nullptr;
+    QFrame *fmeDocSelDiv = nullptr;
     QStatusBar *StatusBar1 = nullptr;
+    QLabel *m_message = nullptr;
+    QLabel *m_format = nullptr;
     Timer *tmrResetBar = nullptr;
-    bool m_tabsFollow = false; ///< the strip is being changed by the program, not by a click
+    bool m_fontTyped = false; ///< a face was typed into cboFont and not yet taken
 };

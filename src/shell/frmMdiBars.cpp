@@ -1,21 +1,99 @@
-// The main window's status bar and document selector.
+// The main window's bars: showing and hiding them, the status bar, the document selector and the lists.
 #include "shell/frmMdi.h"
 
+#include "document/structureTree.h"
+#include "files/modRecentFiles.h"
+#include "insertion/modFontTags.h"
+#include "internet/modViewInBrowser.h"
+#include "platform/coolBar.h"
+#include "platform/nodeTree.h"
+#include "platform/programIcon.h"
+#include "platform/services.h"
+#include "platform/sidePane.h"
+#include "platform/tabStrip.h"
 #include "platform/timer.h"
+#include "shell/frmMdiBands.h"
+#include "shell/frmMdiCommands.h"
+#include "shell/frmMdiPane.h"
+#include "shell/settings.h"
 
+#include <QAction>
+#include <QComboBox>
 #include <QLabel>
-#include <QScopedValueRollback>
-#include <QTabBar>
+#include <QMenu>
+#include <QStatusBar>
+
+namespace
+{
+/// The bars that the View menu shows and hides, with the settings that remember it.
+struct Bar {
+    const char *entry;
+    const settings::Key &setting;
+};
+const Bar bars[] = {{"mnuShowbar", settings::AddrBarVisible},
+                    {"mnuShowPrjWindow", settings::CodeWinVis},
+                    {"mnuShowCodeBar", settings::CodeBarVis},
+                    {"mnuShowDocSelBar", settings::DocSelBarVis},
+                    {"mnuShowStatusBar", settings::StatusBarVis}};
+} // namespace
+
+bool frmMdi::isBarShown(const QString &entry) const
+{
+    // The entry's check mark does not tell: it has turned already when its command runs.
+    if (entry == u"mnuShowbar")
+        return cbrMain->bandVisible(bands::Address);
+    if (entry == u"mnuShowCodeBar")
+        return cbrMain->bandVisible(bands::Code);
+    if (entry == u"mnuShowPrjWindow")
+        return !m_pane->picProject()->isHidden();
+    return entry == u"mnuShowDocSelBar" ? !picDocSelector->isHidden() : !StatusBar1->isHidden();
+}
+
+void frmMdi::toggleBar(const QString &entry)
+{
+    showBar(entry, !isBarShown(entry));
+}
+
+/// Shows or hides without a note in the settings.
+void frmMdi::setBarShown(const QString &entry, bool shown)
+{
+    if (entry == u"mnuShowbar")
+        cbrMain->setBandVisible(bands::Address, shown);
+    else if (entry == u"mnuShowCodeBar")
+        cbrMain->setBandVisible(bands::Code, shown);
+    else if (entry == u"mnuShowPrjWindow")
+        m_pane->picProject()->setVisible(shown);
+    else if (entry == u"mnuShowDocSelBar")
+        picDocSelector->setVisible(shown);
+    else if (entry == u"mnuShowStatusBar")
+        StatusBar1->setVisible(shown);
+    m_commands->action(entry)->setChecked(shown);
+}
+
+void frmMdi::showBar(const QString &entry, bool shown)
+{
+    setBarShown(entry, shown);
+    for (const Bar &bar : bars)
+        if (entry == QLatin1String(bar.entry))
+            settings::writeBoolean(services().settings, bar.setting, shown);
+}
 
 void frmMdi::SetStatusText(const QString &text)
 {
-    if (m_message)
-        m_message->setText(text);
+    if (!m_message)
+        return;
+    m_message->setText(text);
+    m_message->setToolTip(text);
 }
 
 void frmMdi::SetStatusReady()
 {
     SetStatusText(QStringLiteral("Ready"));
+}
+
+QString frmMdi::statusText() const
+{
+    return m_message ? m_message->text() : QString();
 }
 
 void frmMdi::enableResetBar()
@@ -25,44 +103,37 @@ void frmMdi::enableResetBar()
 
 void frmMdi::showFileFormat(const QString &text)
 {
-    m_fileFormat->setText(text);
-    m_fileFormat->setVisible(!text.isEmpty());
+    m_format->setText(text);
+    m_format->setVisible(!text.isEmpty());
 }
 
-QString frmMdi::statusText() const
+void frmMdi::showRecentFiles(const QStringList &captions)
 {
-    return m_message ? m_message->text() : QString();
-}
-
-int frmMdi::tabOfKey(const QString &key) const
-{
-    for (int i = 0; i < tabDocSel->count(); ++i)
-        if (tabDocSel->tabData(i).toString() == key)
-            return i;
-    return -1;
+    bool any = false;
+    for (int slot = 1; slot <= RecentFileCount; ++slot) {
+        QAction *entry = m_commands->action(controlName(QStringLiteral("mnuRecentFile"), slot));
+        const QString caption = captions.value(slot - 1);
+        entry->setText(QString(caption).replace(u'&', QStringLiteral("&&")));
+        entry->setVisible(!caption.isEmpty());
+        any = any || !caption.isEmpty();
+    }
+    m_commands->action(QStringLiteral("mnuDashUpdates"))->setVisible(any);
 }
 
 void frmMdi::addDocumentTab(const QString &key, const QString &caption)
 {
-    if (tabOfKey(key) >= 0)
-        return;
-    const QScopedValueRollback guard(m_tabsFollow, true);
-    const int tab = tabDocSel->addTab(QString(caption).replace(u'&', QStringLiteral("&&")));
-    tabDocSel->setTabData(tab, key);
-    tabDocSel->setTabToolTip(tab, caption);
+    if (tabDocSel->addKeyedTab(key, caption, programIcon(QStringLiteral("file-code"))))
+        tabDocSel->setTabToolTip(tabDocSel->count() - 1, caption);
 }
 
 void frmMdi::removeDocumentTab(const QString &key)
 {
-    const QScopedValueRollback guard(m_tabsFollow, true);
-    if (const int tab = tabOfKey(key); tab >= 0)
-        tabDocSel->removeTab(tab);
+    tabDocSel->removeKeyedTab(key);
 }
 
 void frmMdi::selectDocumentTab(const QString &key)
 {
-    const QScopedValueRollback guard(m_tabsFollow, true);
-    tabDocSel->setCurrentIndex(tabOfKey(key));
+    tabDocSel->selectKey(key);
 }
 
 void frmMdi::showDocumentTabs(bool shown)
@@ -77,12 +148,88 @@ void frmMdi::showDocumentSelector(bool shown)
 
 void frmMdi::tabDocSel_Click()
 {
-    if (m_tabsFollow)
-        return;
-    const QString key = tabDocSel->tabData(tabDocSel->currentIndex()).toString();
+    const QString key = tabDocSel->selectedKey();
     for (Document *document : openDocuments())
         if (document->DocKeyDescription == key) {
             document->activate();
             return;
         }
+}
+
+void frmMdi::clearStructureTree()
+{
+    m_pane->treStructure->clearNodes();
+}
+
+bool frmMdi::structurePageShown() const
+{
+    return !m_pane->picProject()->isHidden() && m_pane->page() == TaskManagerPane::StructurePage;
+}
+
+void frmMdi::addStructureNode(qsizetype parent, const QString &key, const QString &text, const QString &image)
+{
+    m_pane->treStructure->addNode({.text = text, .key = key, .imageKey = image, .parent = static_cast<int>(parent)});
+}
+
+void frmMdi::treStructure_NodeClick(int node)
+{
+    Document *document = activeDocument();
+    if (!document)
+        return;
+    const TextSelection selection = selectionOfNode(m_pane->treStructure->nodeAt(node).key);
+    document->txtEdit().setSelStart(selection.start);
+    document->txtEdit().setSelLength(selection.length);
+}
+
+void frmMdi::PopupMenu(const QString &name, const QPoint &position)
+{
+    if (QMenu *menu = m_commands->menu(name))
+        menu->popup(position);
+}
+
+bool frmMdi::MoveToNextPane(int keyCode, const QString &from)
+{
+    constexpr int KeyF6 = 117;
+    if (keyCode != KeyF6)
+        return false;
+    if (from == u"editor") {
+        if (m_pane->picProject()->isHidden())
+            return false;
+        m_pane->pageControl()->setFocus(Qt::TabFocusReason);
+        return true;
+    }
+    Document *document = activeDocument();
+    if (document)
+        document->txtEdit().SetFocus();
+    return document != nullptr;
+}
+
+void frmMdi::cmdGo_Click()
+{
+    if (cboAddress->currentText().isEmpty())
+        return;
+    RecordAddress(context(), *cboAddress);
+    OpenInBrowser(context(), cboAddress->currentText());
+}
+
+void frmMdi::cboFont_Click()
+{
+    m_fontTyped = false;
+    ApplyFontFace(context(), cboFont->currentText());
+}
+
+void frmMdi::cboFont_LostFocus()
+{
+    if (m_fontTyped)
+        cboFont_Click();
+}
+
+void frmMdi::cboSize_Click()
+{
+    ApplyPointSize(context(), cboSize->currentText());
+}
+
+void frmMdi::cboFontSize_Click()
+{
+    ApplyHeading(context(), headingLevel(cboFontSize->currentText()));
 }

@@ -1,120 +1,57 @@
+// What the main window's commands do. Each handler is short: it opens a form, calls the active document or a module.
 #include "shell/frmMdiCommands.h"
 
+#include "common/fileCommands.h"
+#include "common/tags.h"
 #include "document/modClipboard.h"
 #include "document/modDocument.h"
+#include "insertion/modCode.h"
+#include "insertion/modExcludePath.h"
+#include "internet/modViewInBrowser.h"
+#include "platform/commonDialogs.h"
+#include "platform/formRuntime.h"
+#include "platform/helpViewer.h"
+#include "platform/mdiArrange.h"
+#include "platform/messageBoxes.h"
+#include "platform/services.h"
 #include "shell/frmMdi.h"
+#include "shell/settings.h"
 
 #include <QAction>
-#include <QMainWindow>
-#include <QMenu>
-#include <QMenuBar>
-#include <QToolBar>
+#include <QWhatsThis>
 
 namespace
 {
-using C = MainCommands;
+const QString MakerSite = QStringLiteral(TAGWRIGHTER_MAKER_SITE);
 
-// clang-format off
-constexpr MenuCommand menuTable[] = {
-    {"mnuFile", "", "&File", "", false, nullptr},
-    {"mnuClose", "mnuFile", "&Close", "Ctrl+W", true, &C::mnuClose_Click},
-    {"mnuExit", "mnuFile", "E&xit", "Ctrl+Q", false, &C::mnuExit_Click},
-    {"mnuEdit", "", "&Edit", "", true, nullptr},
-    {"mnuCut", "mnuEdit", "Cu&t", "Ctrl+X", true, &C::mnuCut_Click},
-    {"mnuCopy", "mnuEdit", "&Copy", "Ctrl+C", true, &C::mnuCopy_Click},
-    {"mnuPaste", "mnuEdit", "&Paste", "Ctrl+V", true, &C::mnuPaste_Click},
-    {"mnuSelectAll", "mnuEdit", "Select &All", "Ctrl+A", true, &C::mnuSelectAll_Click},
-    {"mnuView", "", "&View", "", false, nullptr},
-    {"mnuWordWrap", "mnuView", "Word &Wrap Text", "", false, &C::mnuWordWrap_Click},
-};
-
-constexpr ToolCommand toolTable[] = {
-    {"tbrMain", "New", "New page", "document-new", false, &C::newBlankDocument},
-    {"tbrMain", "Cut", "Cut", "edit-cut", true, &C::mnuCut_Click},
-    {"tbrMain", "Copy", "Copy", "edit-copy", true, &C::mnuCopy_Click},
-    {"tbrMain", "Paste", "Paste", "edit-paste", true, &C::mnuPaste_Click},
-};
-// clang-format on
-
-QString toolName(const ToolCommand &command)
+MessageBox optimiseBox()
 {
-    return QStringLiteral("%1(%2)").arg(QLatin1String(command.bar), QLatin1String(command.key));
+    return {.title = QStringLiteral("Code Optimisation for Readability"),
+            .text = QStringLiteral(
+                "This function will make live changes to your entire document. You may not be able to undo these "
+                "changes. You should always save your work and make a backup before using this function.\r\n\r\n"
+                "Do you wish to continue now?\r\n\r\n"
+                " Click Yes to begin the code optimisation."
+                " Click No to cancel the code optimisation so that you can save your work."),
+            .icon = MessageIcon::None,
+            .buttons = MessageButtons::YesNo};
 }
 } // namespace
-
-std::span<const MenuCommand> menuCommands()
-{
-    return menuTable;
-}
-
-std::span<const ToolCommand> toolCommands()
-{
-    return toolTable;
-}
-
-MainCommands::MainCommands(frmMdi &form, ProgramContext &context) : m_form(form), m_context(context) {}
-
-void MainCommands::build(QMainWindow &window)
-{
-    m_actions.clear();
-    for (const MenuCommand &command : menuCommands())
-        addMenuEntry(window, command);
-    for (const ToolCommand &command : toolCommands())
-        addToolButton(window, command);
-    m_actions.value(QStringLiteral("mnuWordWrap"))->setCheckable(true);
-}
-
-void MainCommands::addMenuEntry(QMainWindow &window, const MenuCommand &command)
-{
-    const QAction *parent = m_actions.value(QLatin1String(command.menu));
-    QWidget *menu = parent ? static_cast<QWidget *>(parent->menu<QMenu *>()) : window.menuBar();
-    const QString name = QLatin1String(command.name);
-    if (name.startsWith(u'-')) {
-        static_cast<QMenu *>(menu)->addSeparator();
-        return;
-    }
-    auto *action = new QAction(QString::fromUtf8(command.caption), &window);
-    action->setObjectName(name);
-    action->setShortcut(QKeySequence(QLatin1String(command.shortcut)));
-    action->setMenuRole(QAction::NoRole);
-    if (command.run)
-        QObject::connect(action, &QAction::triggered, &window, [this, run = command.run] { (this->*run)(); });
-    else
-        action->setMenu(new QMenu(&window));
-    menu->addAction(action);
-    m_actions.insert(name, action);
-}
-
-void MainCommands::addToolButton(QMainWindow &window, const ToolCommand &command)
-{
-    const QString bar = QLatin1String(command.bar);
-    auto *toolBar = window.findChild<QToolBar *>(bar);
-    if (!toolBar) {
-        toolBar = window.addToolBar(bar);
-        toolBar->setObjectName(bar);
-    }
-    auto *action =
-        new QAction(QIcon::fromTheme(QLatin1String(command.icon)), QString::fromUtf8(command.toolTip), &window);
-    action->setObjectName(toolName(command));
-    action->setData(QLatin1String(command.key));
-    QObject::connect(action, &QAction::triggered, &window, [this, run = command.run] { (this->*run)(); });
-    toolBar->addAction(action);
-    m_actions.insert(action->objectName(), action);
-}
-
-void MainCommands::setDocumentControlsEnabled(bool enabled)
-{
-    for (const MenuCommand &command : menuCommands())
-        if (command.needsDocument)
-            m_actions.value(QLatin1String(command.name))->setEnabled(enabled);
-    for (const ToolCommand &command : toolCommands())
-        if (command.needsDocument)
-            m_actions.value(toolName(command))->setEnabled(enabled);
-}
 
 Document *MainCommands::document() const
 {
     return m_form.activeDocument();
+}
+
+void MainCommands::wrapSelection(const CommandAction &action)
+{
+    WrapSelection(m_context, QLatin1String(action.open), QLatin1String(action.close));
+}
+
+void MainCommands::mnuOpen_Click()
+{
+    if (m_context.files)
+        m_context.files->ShowOpenDialog();
 }
 
 void MainCommands::mnuClose_Click()
@@ -123,9 +60,55 @@ void MainCommands::mnuClose_Click()
         active->unload();
 }
 
+void MainCommands::mnuSave_Click()
+{
+    if (m_context.files && document())
+        m_context.files->SaveDocument(false);
+}
+
+void MainCommands::mnuSaveAs_Click()
+{
+    if (m_context.files && document())
+        m_context.files->SaveDocumentAs(false, QString());
+}
+
+void MainCommands::mnuSaveAll_Click()
+{
+    if (m_context.files)
+        m_context.files->SaveAll();
+}
+
+void MainCommands::openRecentFile(int index)
+{
+    if (m_context.files)
+        m_context.files->OpenRecentFile(index);
+}
+
 void MainCommands::mnuExit_Click()
 {
     m_form.Unload();
+}
+
+void MainCommands::newBlankDocument()
+{
+    NewBlankDocument(m_context);
+    FillBlankDocument(m_context);
+    if (Document *active = document()) {
+        active->DocSelUpdate(QString());
+        active->txtEdit().SetFocus();
+    }
+}
+
+void MainCommands::mnuUndo_Click()
+{
+    if (Document *active = document())
+        active->Undo();
+}
+
+void MainCommands::mnuRedo_Click()
+{
+    if (Document *active = document())
+        active->Redo();
 }
 
 void MainCommands::mnuCut_Click()
@@ -148,17 +131,195 @@ void MainCommands::mnuSelectAll_Click()
     SelectAllInActiveControl(m_context);
 }
 
+void MainCommands::deleteSelection()
+{
+    if (Document *active = document())
+        active->txtEdit().setSelText(QString());
+}
+
+void MainCommands::mnuPreviousTag_Click()
+{
+    moveToTag(false);
+}
+
+void MainCommands::mnuNextTag_Click()
+{
+    moveToTag(true);
+}
+
+void MainCommands::moveToTag(bool forwards)
+{
+    Document *active = document();
+    if (!active)
+        return;
+    TextSurface &edit = active->txtEdit();
+    const auto tag = forwards ? NextTagFrom(edit.SelStart() + edit.SelLength(), edit.Text())
+                              : PreviousTagFrom(edit.SelStart(), edit.Text());
+    if (tag) {
+        edit.setSelStart(tag->start);
+        edit.setSelLength(tag->length);
+    }
+    edit.SetFocus();
+}
+
+void MainCommands::mnuShowbar_Click()
+{
+    m_form.toggleBar(QStringLiteral("mnuShowbar"));
+}
+
+void MainCommands::mnuShowPrjWindow_Click()
+{
+    m_form.toggleBar(QStringLiteral("mnuShowPrjWindow"));
+}
+
+void MainCommands::mnuShowCodeBar_Click()
+{
+    m_form.toggleBar(QStringLiteral("mnuShowCodeBar"));
+}
+
+void MainCommands::mnuShowDocSelBar_Click()
+{
+    m_form.toggleBar(QStringLiteral("mnuShowDocSelBar"));
+}
+
+void MainCommands::mnuShowStatusBar_Click()
+{
+    m_form.toggleBar(QStringLiteral("mnuShowStatusBar"));
+}
+
+void MainCommands::mnuHideAddressBar_Click()
+{
+    m_form.showBar(QStringLiteral("mnuShowbar"), false);
+}
+
+void MainCommands::mnuSplitEditingWindows_Click()
+{
+    const bool split = !settings::isOn(m_context.services.settings, settings::SplitEditPreview);
+    settings::writeBoolean(m_context.services.settings, settings::SplitEditPreview, split);
+    action(QStringLiteral("mnuSplitEditingWindows"))->setChecked(split);
+    if (Document *active = document()) {
+        active->SplitEditingPreviewWindows();
+        active->RepositionEditingandPreviewWindows();
+    }
+}
+
 void MainCommands::mnuWordWrap_Click()
 {
     ApplyWordWrapSetting(m_context, !m_form.WordWrap);
 }
 
-void MainCommands::newBlankDocument()
+void MainCommands::mnuInsExternalCSS_Click()
 {
-    NewBlankDocument(m_context);
-    FillBlankDocument(m_context);
+    const auto cdlInsExternalCSS = m_context.services.commonDialogs.showOpen(
+        {.DialogTitle = {},
+         .Filter = QStringLiteral("All Files (*.*)|*.*|Cascading Style Sheets (*.css)|*.css"),
+         .FilterIndex = 1,
+         .InitDir = settings::read(m_context.services.settings, settings::WorkingDir),
+         .FileName = {}});
+    Document *active = document();
+    if (!cdlInsExternalCSS || !active)
+        return;
+    const QString name = ExcludePath(m_context, cdlInsExternalCSS->fileName);
+    active->txtEdit().setSelText(QStringLiteral("<LINK REL=\"stylesheet\" TYPE=\"text/css\" HREF=\"%1\">").arg(name));
+    active->txtEdit().SetFocus();
+}
+
+void MainCommands::mnuOmitBasePath_Click()
+{
+    const bool exclude = !settings::isOn(m_context.services.settings, settings::ExcludeBasePath);
+    settings::writeBoolean(m_context.services.settings, settings::ExcludeBasePath, exclude);
+    action(QStringLiteral("mnuOmitBasePath"))->setChecked(exclude);
+}
+
+void MainCommands::mnuIndent_Click()
+{
+    indent(true);
+}
+
+void MainCommands::mnuOutdent_Click()
+{
+    indent(false);
+}
+
+void MainCommands::indent(bool further)
+{
     if (Document *active = document()) {
-        active->DocSelUpdate(QString());
+        active->IndentText(further);
         active->txtEdit().SetFocus();
     }
+}
+
+void MainCommands::mnuCodeOptimise_Click()
+{
+    if (m_context.services.messageBoxes.show(optimiseBox()) != MessageAnswer::Yes)
+        return;
+    if (Document *active = document()) {
+        active->OptimiseSyntax();
+        active->txtEdit().SetFocus();
+    }
+}
+
+void MainCommands::mnuWinTile_Click()
+{
+    arrangeWindows(*m_context.forms.mdiArea(), MdiArrangement::TileHorizontally);
+}
+
+void MainCommands::mnuWinTileVert_Click()
+{
+    arrangeWindows(*m_context.forms.mdiArea(), MdiArrangement::TileVertically);
+}
+
+void MainCommands::mnuWinCascade_Click()
+{
+    arrangeWindows(*m_context.forms.mdiArea(), MdiArrangement::Cascade);
+}
+
+void MainCommands::mnuWinArrangeIcons_Click()
+{
+    arrangeWindows(*m_context.forms.mdiArea(), MdiArrangement::ArrangeIcons);
+}
+
+void MainCommands::mnuHelpContents_Click()
+{
+    m_context.services.help.contents();
+}
+
+void MainCommands::mnuHelpIndex_Click()
+{
+    m_context.services.help.index();
+}
+
+void MainCommands::mnuWhatsThisMode_Click()
+{
+    QWhatsThis::enterWhatsThisMode();
+}
+
+void MainCommands::mnuHarblineWebsite_Click()
+{
+    OpenLink(m_context, MakerSite);
+}
+
+void MainCommands::mnuCustomerBenefits_Click()
+{
+    m_context.services.help.show(QStringLiteral("::/topics/customers.html"));
+}
+
+void MainCommands::mnuHtmLangReg_Click()
+{
+    m_context.services.help.show(QStringLiteral("::/topics/reference/ReferenceIndex.htm"));
+}
+
+void MainCommands::mnuTutorial_Click()
+{
+    m_context.services.help.show(QStringLiteral("::/topics/tutorial/TutorialIndex.htm"));
+}
+
+void MainCommands::openBenefitsPage()
+{
+    OpenLink(m_context, MakerSite + QStringLiteral("/customers/index.html"));
+}
+
+void MainCommands::openLibraryPage()
+{
+    OpenLink(m_context, MakerSite + QStringLiteral("/onlinelibrary/index.html"));
 }

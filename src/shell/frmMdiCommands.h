@@ -1,66 +1,116 @@
 #pragma once
 
 #include "platform/programContext.h"
+#include "shell/frmMdiTables.h"
 
 #include <QHash>
 #include <QString>
-#include <span>
 
+class CoolBar;
 class QAction;
 class QMainWindow;
 class QMenu;
+class QToolBar;
 class frmMdi;
-class MainCommands;
 
-/// One entry of the menus, in the order of the menus.
-struct MenuCommand {
-    const char *name;            ///< the control's name; a name that starts with "-" is a separator
-    const char *menu;            ///< name of the menu that it stands in; empty for a menu of the menu bar
-    const char *caption;         ///< with its accelerator mark
-    const char *shortcut;        ///< as in "Ctrl+S"; empty for none
-    bool needsDocument;          ///< enabled only while there is a document
-    void (MainCommands::*run)(); ///< nothing: the head of a menu
-};
-
-/// One button of a toolbar, in the order of the toolbars.
-struct ToolCommand {
-    const char *bar; ///< the toolbar's name
-    const char *key; ///< what the button is known by within its bar
-    const char *toolTip;
-    const char *icon;
-    bool needsDocument;
-    void (MainCommands::*run)();
-};
-
-std::span<const MenuCommand> menuCommands();
-std::span<const ToolCommand> toolCommands();
-
-/// The commands of the main window: makes its menus and toolbars from the two tables and runs what the user chooses.
+/// The commands of the main window: makes its menus and toolbars from the tables, keeps each enabled as its rules say, and
+/// runs what the user chooses. A handler that finds no document does nothing.
 class MainCommands
 {
 public:
     MainCommands(frmMdi &form, ProgramContext &context);
 
-    /// Makes the menus and toolbars of a newly loaded window.
+    /// Makes the menus, the pop-ups and the toolbars of a newly loaded window; the toolbars are not placed yet.
     void build(QMainWindow &window);
     void setDocumentControlsEnabled(bool enabled);
+    /// A menu entry by its name, a toolbar's button as "bar(key)"; nothing if there is none.
     QAction *action(const QString &name) const { return m_actions.value(name); }
+    QToolBar *toolBar(const QString &name) const { return m_toolBars.value(name); }
+    QMenu *menu(const QString &name) const;
 
+    // File
+    void mnuOpen_Click();
     void mnuClose_Click();
+    void mnuSave_Click();
+    void mnuSaveAs_Click();
+    void mnuSaveAll_Click();
+    template <int Index>
+    void mnuRecentFile_Click()
+    {
+        openRecentFile(Index);
+    }
     void mnuExit_Click();
+    void newBlankDocument();
+    // Edit
+    void mnuUndo_Click();
+    void mnuRedo_Click();
     void mnuCut_Click();
     void mnuCopy_Click();
     void mnuPaste_Click();
     void mnuSelectAll_Click();
+    void deleteSelection();
+    void mnuPreviousTag_Click();
+    void mnuNextTag_Click();
+    // View
+    void mnuShowbar_Click();
+    void mnuShowPrjWindow_Click();
+    void mnuShowCodeBar_Click();
+    void mnuShowDocSelBar_Click();
+    void mnuShowStatusBar_Click();
+    void mnuHideAddressBar_Click();
+    void mnuSplitEditingWindows_Click();
     void mnuWordWrap_Click();
-    void newBlankDocument();
+    // Insert, Format, Tools
+    void mnuInsExternalCSS_Click();
+    void mnuOmitBasePath_Click();
+    void mnuIndent_Click();
+    void mnuOutdent_Click();
+    void mnuCodeOptimise_Click();
+    // Window
+    void mnuWinTile_Click();
+    void mnuWinTileVert_Click();
+    void mnuWinCascade_Click();
+    void mnuWinArrangeIcons_Click();
+    // Help
+    void mnuHelpContents_Click();
+    void mnuHelpIndex_Click();
+    void mnuWhatsThisMode_Click();
+    void mnuHarblineWebsite_Click();
+    void mnuCustomerBenefits_Click();
+    void mnuHtmLangReg_Click();
+    void mnuTutorial_Click();
+    void openBenefitsPage();
+    void openLibraryPage();
 
 private:
     void addMenuEntry(QMainWindow &window, const MenuCommand &command);
+    QAction *makeMenu(QMainWindow &window, const MenuCommand &command);
     void addToolButton(QMainWindow &window, const ToolCommand &command);
+    void addDropEntry(const ToolCommand &command);
+    void addDropLists(QMainWindow &window);
+    QString shortcutOf(const ToolCommand &command) const;
+    void makeCheckable();
+    void followMenus();
+    bool isAvailable(const CommandAction &action) const;
+    void enable(const QString &name, const CommandAction &action, Needs needs);
+    void run(const CommandAction &action);
+    void wrapSelection(const CommandAction &action);
+
+    void mnuEdit_Open();
+    void mnuFormat_Open();
+    void mnuPopup_Open();
+
+    void openRecentFile(int index);
+    void moveToTag(bool forwards);
+    void indent(bool further);
     Document *document() const;
 
     frmMdi &m_form;
     ProgramContext &m_context;
-    QHash<QString, QAction *> m_actions; ///< menu entries by name, toolbar buttons as "bar(key)"
+    bool m_documentControls = false;
+    QHash<QString, QAction *> m_actions;
+    QHash<QString, QToolBar *> m_toolBars;
 };
+
+/// The name of a toolbar's button as a control: "tbrMain(Save)".
+QString toolName(const ToolCommand &command);

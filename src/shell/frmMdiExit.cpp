@@ -2,15 +2,22 @@
 #include "shell/frmMdi.h"
 
 #include "common/fileCommands.h"
+#include "platform/coolBar.h"
 #include "platform/formRuntime.h"
 #include "platform/mdiForm.h"
+#include "platform/messageBoxes.h"
 #include "platform/services.h"
+#include "platform/sidePane.h"
+#include "shell/frmMdiBands.h"
+#include "shell/frmMdiPane.h"
 #include "shell/settings.h"
 
 #include <QMainWindow>
 
 namespace
 {
+constexpr int TwipsPerPixel = 15;
+
 int windowStateCode(const QWidget &window)
 {
     if (window.isMaximized())
@@ -24,8 +31,26 @@ bool frmMdi::Form_QueryUnload()
     // The placement is kept even if the user then stays.
     if (settings::isOn(services().settings, settings::SaveSettingsOnExit))
         savePlacement();
+    if (!projectMayClose())
+        return false;
     ExitInProgress = true;
     return documentsMayClose();
+}
+
+bool frmMdi::projectMayClose()
+{
+    ProjectState &project = context().state.project;
+    if (m_pane->projectPath() == NoProject || !project.ProjectChanged)
+        return true;
+    const MessageAnswer answer = services().messageBoxes.show(
+        {.title = QStringLiteral("Save Changes to Project File"),
+         .text = QStringLiteral("The open project file has not been saved since it was last modified. Do you want to "
+                                "save changes now?"),
+         .icon = MessageIcon::Exclamation,
+         .buttons = MessageButtons::YesNoCancel});
+    if (answer == MessageAnswer::Yes && project.save)
+        project.save();
+    return answer != MessageAnswer::Cancel;
 }
 
 void frmMdi::savePlacement()
@@ -52,4 +77,16 @@ void frmMdi::Form_Unload()
     for (Form *form : context().forms.loaded())
         if (form->MDIChild())
             form->unloadAgreed();
+    settings::write(services().settings, settings::CodebarWidth,
+                    QString::number(m_pane->picProject()->paneWidth() * TwipsPerPixel));
+    saveBands();
+}
+
+void frmMdi::saveBands()
+{
+    SettingsStore &store = services().settings;
+    for (int band = 1; band <= bands::Kept; ++band) {
+        settings::write(store, settings::BarNewRow, bands::flagText(cbrMain->NewRow(band)), band);
+        settings::write(store, settings::BarWidth, bands::widthText(cbrMain->Width(band)), band);
+    }
 }

@@ -1,26 +1,31 @@
-// The main window's load, in the fixed order in which its state is restored, and its bars.
+// The main window's load, in the fixed order in which its state is restored.
 #include "shell/frmMdi.h"
 
 #include "common/fileCommands.h"
 #include "document/modDocument.h"
-#include "platform/formRuntime.h"
-#include "platform/inputGate.h"
+#include "files/modRecentFiles.h"
+#include "insertion/modFonts.h"
+#include "platform/controls.h"
+#include "platform/coolBar.h"
+#include "platform/nodeTree.h"
 #include "platform/services.h"
-#include "platform/timer.h"
+#include "platform/sidePane.h"
+#include "platform/tabStrip.h"
 #include "shell/commandLine.h"
+#include "shell/frmMdiBands.h"
 #include "shell/frmMdiCommands.h"
+#include "shell/frmMdiPane.h"
 #include "shell/settings.h"
 
-#include <QLabel>
+#include <QAction>
+#include <QBoxLayout>
+#include <QComboBox>
 #include <QMainWindow>
-#include <QMdiArea>
-#include <QStatusBar>
-#include <QTabBar>
-#include <QVBoxLayout>
+#include <QScreen>
 
 namespace
 {
-constexpr int StatusMilliseconds = 3000;
+constexpr int TwipsPerPixel = 15;
 
 ColourValue storedColour(SettingsStore &store, const settings::Key &key)
 {
@@ -38,77 +43,39 @@ void frmMdi::Form_Load()
     }
     restoreState();
     openCommandLineFile();
+    picAddress_Resize();
     decideWelcome();
     context().state.AlreadyStarted = true;
-}
-
-void frmMdi::buildControls()
-{
-    OpenDocumentCount = 0;
-    auto *client = new QWidget;
-    auto *layout = new QVBoxLayout(client);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    auto *area = new QMdiArea;
-    area->setObjectName(QStringLiteral("mdiArea"));
-    area->setOption(QMdiArea::DontMaximizeSubWindowOnActivation, false);
-    layout->addWidget(area, 1);
-    frame()->setCentralWidget(client);
-    context().forms.setMdiArea(area);
-    m_gate = new InputGate(*window(), [this] { raiseDialogs(); });
-    m_commands->build(*frame());
-    buildDocumentSelector();
-    layout->addWidget(picDocSelector);
-    buildStatusBar();
-    window()->resize(1100, 720);
-}
-
-void frmMdi::buildDocumentSelector()
-{
-    picDocSelector = new QWidget;
-    picDocSelector->setObjectName(QStringLiteral("picDocSelector"));
-    auto *layout = new QVBoxLayout(picDocSelector);
-    layout->setContentsMargins(0, 0, 0, 0);
-    tabDocSel = new QTabBar;
-    tabDocSel->setObjectName(QStringLiteral("tabDocSel"));
-    tabDocSel->setAccessibleName(QStringLiteral("Open documents"));
-    tabDocSel->setShape(QTabBar::RoundedSouth);
-    tabDocSel->setExpanding(false);
-    tabDocSel->setVisible(false);
-    layout->addWidget(tabDocSel);
-    connect(tabDocSel, &QTabBar::currentChanged, this, [this] { tabDocSel_Click(); });
-}
-
-void frmMdi::buildStatusBar()
-{
-    StatusBar1 = frame()->statusBar();
-    StatusBar1->setObjectName(QStringLiteral("StatusBar1"));
-    m_message = new QLabel;
-    m_message->setObjectName(QStringLiteral("lblStatusMessage"));
-    m_message->setTextFormat(Qt::PlainText);
-    StatusBar1->addWidget(m_message, 1);
-    m_fileFormat = new QLabel;
-    m_fileFormat->setObjectName(QStringLiteral("lblFileFormat"));
-    StatusBar1->addPermanentWidget(m_fileFormat);
-    tmrResetBar = new Timer(
-        services().timers, QStringLiteral("tmrResetBar"),
-        [this] {
-            SetStatusReady();
-            tmrResetBar->setEnabled(false);
-        },
-        window());
-    tmrResetBar->setInterval(StatusMilliseconds);
+    m_pane->refreshLocalFiles();
 }
 
 void frmMdi::restoreState()
 {
+    while (tabDocSel->count())
+        tabDocSel->removeTab(0);
+    fillFontCombos();
+    m_pane->picProject()->setPaneWidth(
+        qRound(settings::read(services().settings, settings::CodebarWidth).toDouble() / TwipsPerPixel));
     readColouringOptions();
-    WordWrap = settings::isOn(services().settings, settings::WordWrap);
-    setWordWrapChecked(WordWrap);
+    readWordWrap();
+    sizeDocumentSelector();
     SetDocumentControlsEnabled(false);
     SetStatusReady();
+    loadRecentLists();
+    placePane();
     restoreBars();
+    restoreSplit();
+    restoreBands();
     restorePlacement();
+}
+
+void frmMdi::fillFontCombos()
+{
+    cboFontSize->setCurrentIndex(cboFontSize->findText(QStringLiteral("Normal")));
+    SetNumbersOnly(cboSize);
+    cboSize->setCurrentText(QStringLiteral("12"));
+    cboFont->addItems(systemFonts());
+    cboFont->setCurrentIndex(-1);
 }
 
 void frmMdi::readColouringOptions()
@@ -125,12 +92,60 @@ void frmMdi::readColouringOptions()
     colouring.ColourCodeURL = storedColour(store, settings::ColourCodeURL);
 }
 
+void frmMdi::readWordWrap()
+{
+    WordWrap = settings::isOn(services().settings, settings::WordWrap);
+    setWordWrapChecked(WordWrap);
+}
+
+void frmMdi::sizeDocumentSelector()
+{
+    tabDocSel->setMaximumWidth(window()->screen()->size().width());
+}
+
+void frmMdi::loadRecentLists()
+{
+    showRecentFiles({});
+    if (context().files)
+        context().files->LoadRecentFilesMenu();
+    LoadAddressHistory(context(), *cboAddress);
+    cboAddress->clearEditText();
+}
+
+void frmMdi::placePane()
+{
+    const bool right =
+        settings::read(services().settings, settings::TaskManagerAlignLeft).toLower() == QStringLiteral("false");
+    SidePane *pane = m_pane->picProject();
+    pane->setSide(right ? SidePane::Side::Right : SidePane::Side::Left);
+    m_middle->setDirection(right ? QBoxLayout::RightToLeft : QBoxLayout::LeftToRight);
+}
+
 void frmMdi::restoreBars()
 {
     SettingsStore &store = services().settings;
-    picDocSelector->setVisible(settings::isOn(store, settings::DocSelBarVis));
-    StatusBar1->setVisible(settings::isOn(store, settings::StatusBarVis));
-    settings::writeBoolean(store, settings::SplitEditPreview, settings::isOn(store, settings::SplitEditPreview));
+    setBarShown(QStringLiteral("mnuShowPrjWindow"), settings::isOn(store, settings::CodeWinVis));
+    setBarShown(QStringLiteral("mnuShowCodeBar"), settings::isOn(store, settings::CodeBarVis));
+    setBarShown(QStringLiteral("mnuShowbar"), settings::isOn(store, settings::AddrBarVisible));
+    setBarShown(QStringLiteral("mnuShowDocSelBar"), settings::isOn(store, settings::DocSelBarVis));
+    setBarShown(QStringLiteral("mnuShowStatusBar"), settings::isOn(store, settings::StatusBarVis));
+}
+
+void frmMdi::restoreSplit()
+{
+    const bool split = settings::isOn(services().settings, settings::SplitEditPreview);
+    m_commands->action(QStringLiteral("mnuSplitEditingWindows"))->setChecked(split);
+    settings::writeBoolean(services().settings, settings::SplitEditPreview, split);
+}
+
+void frmMdi::restoreBands()
+{
+    for (int band = 1; band <= cbrMain->Count(); ++band) {
+        if (const auto newRow = bands::flagOf(settings::read(services().settings, settings::BarNewRow, band)))
+            cbrMain->setNewRow(band, *newRow);
+        if (const auto width = bands::widthOf(settings::read(services().settings, settings::BarWidth, band)))
+            cbrMain->setWidth(band, *width);
+    }
 }
 
 void frmMdi::restorePlacement()
@@ -147,6 +162,11 @@ void frmMdi::restorePlacement()
     const int width = pixels(settings::WinWidth);
     window()->move(left, top);
     window()->resize(width, height);
+}
+
+void frmMdi::picAddress_Resize()
+{
+    picAddress->layout()->activate();
 }
 
 void frmMdi::openCommandLineFile()

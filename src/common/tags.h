@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+#include <optional>
+
+/// A tag as it stands in a text, from its "<" to its ">".
+struct TagSpan {
+    QString text;
+    qsizetype start = 0; ///< of the "<", counted from 0
+    qsizetype length = 0;
+    bool operator==(const TagSpan &) const = default;
+};
+
+/// The next tag behind a position counted from 0: its "<" stands there or later. Nothing if no "<" follows, or no ">"
+/// follows that.
+std::optional<TagSpan> NextTagFrom(qsizetype position, const QString &text);
+
+/// The last tag whose "<" stands in front of a position counted from 0. Nothing if there is none, or no ">" follows it.
+std::optional<TagSpan> PreviousTagFrom(qsizetype position, const QString &text);

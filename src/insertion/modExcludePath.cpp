@@ -1,0 +1,26 @@
+#include "insertion/modExcludePath.h"
+
+#include "common/paths.h"
+#include "common/text.h"
+#include "platform/programContext.h"
+#include "platform/services.h"
+#include "shell/settings.h"
+
+QString withoutDocumentFolder(const QString &path, const QString &documentPath)
+{
+    if (documentPath.isEmpty())
+        return path;
+    const QString base = FolderOfPath(documentPath).toLower();
+    if (Find(path.toLower(), base).value_or(0) < 1)
+        return path;
+    const QString rest = path.mid(base.size());
+    return rest.isEmpty() ? path : rest;
+}
+
+QString ExcludePath(ProgramContext &context, const QString &path)
+{
+    const Document *document = context.mainWindow->activeDocument();
+    if (!document || !settings::isOn(context.services.settings, settings::ExcludeBasePath))
+        return path;
+    return withoutDocumentFolder(path, document->DocSavePath);
+}

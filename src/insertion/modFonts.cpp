@@ -1,0 +1,8 @@
+#include "insertion/modFonts.h"
+
+#include <QFontDatabase>
+
+QStringList systemFonts()
+{
+    return QFontDatabase::families();
+}
