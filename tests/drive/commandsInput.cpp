@@ -1,0 +1,199 @@
+// Keys, mouse, clipboard, drag and drop: what the user does without regard to what is under it.
+#include "common/document.h"
+#include "drive/commands.h"
+#include "drive/controlAdapter.h"
+#include "drive/events.h"
+#include "drive/input.h"
+#include "drive/stage.h"
+#include "drive/targets.h"
+#include "platform/form.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QMimeData>
+#include <QUrl>
+#include <QWidget>
+
+namespace drive
+{
+namespace
+{
+Chord chordNamed(Stage &stage, const QString &text)
+{
+    const auto chord = parseChord(text);
+    if (!chord)
+        stage.referee.wrong(QStringLiteral("%1 is no key, such as Ctrl+Z, Enter or F1").arg(text));
+    return *chord;
+}
+
+void key(Stage &stage, const Line &line)
+{
+    stage.program();
+    for (const QString &word : line.words) {
+        const Chord chord = chordNamed(stage, word);
+        insideEvent([&] { pressKey(stage, chord); });
+        settle();
+    }
+}
+
+void type(Stage &stage, const Line &line)
+{
+    stage.program();
+    typeText(stage, line.words[0]);
+}
+
+std::optional<int> wholeNumber(const QString &word)
+{
+    bool ok = false;
+    const int number = word.toInt(&ok);
+    return ok ? std::optional(number) : std::nullopt;
+}
+
+/// The widget that a target's mouse events go to: the control, or the form's window.
+QWidget &widgetOf(Stage &stage, const Target &target)
+{
+    QObject *object = target.control ? target.control : target.form->window();
+    auto *widget = qobject_cast<QWidget *>(object);
+    if (!widget)
+        stage.referee.wrong(QStringLiteral("%1 is nothing that a mouse can point at").arg(target.name));
+    if (!widget->isVisible())
+        stage.referee.fail(QStringLiteral("%1 on show").arg(target.name), QStringLiteral("it hidden"));
+    return *widget;
+}
+
+std::optional<MouseAct> mouseAct(const QString &name)
+{
+    static const QHash<QString, MouseAct> acts = {
+        {QStringLiteral("press"), MouseAct::Press},
+        {QStringLiteral("release"), MouseAct::Release},
+        {QStringLiteral("move"), MouseAct::Move},
+        {QStringLiteral("click"), MouseAct::Click},
+        {QStringLiteral("dblclick"), MouseAct::DoubleClick},
+        {QStringLiteral("rclick"), MouseAct::RightClick},
+    };
+    const auto found = acts.find(name);
+    return found == acts.end() ? std::nullopt : std::optional(*found);
+}
+
+Qt::KeyboardModifiers modifiersOf(Stage &stage, const QStringList &words)
+{
+    Qt::KeyboardModifiers modifiers;
+    for (const QString &word : words) {
+        if (word == QStringLiteral("Ctrl"))
+            modifiers |= Qt::ControlModifier;
+        else if (word == QStringLiteral("Shift"))
+            modifiers |= Qt::ShiftModifier;
+        else if (word == QStringLiteral("Alt"))
+            modifiers |= Qt::AltModifier;
+        else
+            stage.referee.wrong(QStringLiteral("%1 is none of Ctrl, Shift and Alt").arg(word));
+    }
+    return modifiers;
+}
+
+void mouse(Stage &stage, const Line &line)
+{
+    const Target target = findTarget(stage, line.words[0]);
+    const auto act = mouseAct(line.words[1]);
+    const auto x = wholeNumber(line.words[2]);
+    const auto y = wholeNumber(line.words[3]);
+    if (!act || !x || !y)
+        stage.referee.wrong(QStringLiteral("mouse takes press, release, move, click, dblclick or rclick and a place"));
+    const auto modifiers = modifiersOf(stage, line.words.mid(4));
+    const QPointer<QWidget> widget = &widgetOf(stage, target);
+    // A click on a window that takes no input does nothing, so it does not activate the window either.
+    if (*act != MouseAct::Move && *act != MouseAct::Release && takesInput(stage, *target.form))
+        activateWindowOf(*target.form);
+    settle();
+    if (widget)
+        moveMouse(*widget, *act, {*x, *y}, modifiers);
+}
+
+void select(Stage &stage, const Line &line)
+{
+    auto &document = stage.activeDocument();
+    auto *form = dynamic_cast<Form *>(&document);
+    requireInput(stage, *form, QStringLiteral("a selection"));
+    activate(stage, *form);
+    settle();
+    const auto start = wholeNumber(line.words[0]);
+    const auto length = wholeNumber(line.words[1]);
+    if (!start || !length || *start < 0 || *length < 0)
+        stage.referee.wrong(QStringLiteral("a selection is a start and a length, counted from 0"));
+    document.txtEdit().setSelStart(*start);
+    document.txtEdit().setSelLength(*length);
+}
+
+void setClipboard(Stage &, const Line &line)
+{
+    QGuiApplication::clipboard()->setText(line.words[0]);
+}
+
+void drop(Stage &stage, const Line &line)
+{
+    const Target target = findTarget(stage, line.words[0]);
+    QMimeData data;
+    if (line.words[1] == QStringLiteral("text") && line.words.size() == 3) {
+        data.setText(line.words[2]);
+    } else if (line.words[1] == QStringLiteral("files")) {
+        QList<QUrl> files;
+        for (const QString &path : line.words.mid(2))
+            files.append(QUrl::fromLocalFile(path));
+        data.setUrls(files);
+    } else {
+        stage.referee.wrong(QStringLiteral("drop takes `text TEXT` or `files PATH...`"));
+    }
+    dropOn(widgetOf(stage, target), data);
+}
+
+void clickNamed(Stage &stage, const QString &name)
+{
+    const Target target = findTarget(stage, name);
+    if (!target.control) {
+        requireInput(stage, *target.form, target.name);
+        activate(stage, *target.form);
+        return;
+    }
+    if (const ActionResult result = click(readyControl(stage, target)); !result.done)
+        stage.referee.fail(QStringLiteral("%1 to be clicked").arg(name), result.reason);
+}
+
+void clickTarget(Stage &stage, const Line &line)
+{
+    clickNamed(stage, line.words[0]);
+}
+
+void during(Stage &stage, const Line &line)
+{
+    const auto number = wholeNumber(line.words[0]);
+    const QString &what = line.words[1];
+    const QString &object = line.words[2];
+    const bool isKey = what == QStringLiteral("key");
+    if (!number || *number < 1 || (!isKey && what != QStringLiteral("click")))
+        stage.referee.wrong(QStringLiteral("during takes a number from 1 on and `key CHORD` or `click TARGET`"));
+    if (isKey)
+        chordNamed(stage, object);
+    const auto act = [&stage, isKey, object] {
+        insideEvent([&] {
+            if (isKey)
+                pressKey(stage, chordNamed(stage, object));
+            else
+                clickNamed(stage, object);
+        });
+        settle();
+    };
+    stage.desktop.yielder.queue({line.number, *number, act});
+}
+
+constexpr Command commands[] = {
+    {"key", 1, -1, key},          {"type", 1, 1, type},     {"mouse", 4, 7, mouse},
+    {"select", 2, 2, select},     {"drop", 3, -1, drop},    {"clipboard", 1, 1, setClipboard},
+    {"click", 1, 1, clickTarget}, {"during", 3, 3, during},
+};
+} // namespace
+
+std::span<const Command> inputCommands()
+{
+    return commands;
+}
+} // namespace drive

@@ -1,0 +1,140 @@
+#include "drive/desktop.h"
+
+#include "common/paths.h"
+#include "drive/world.h"
+
+#include <QDir>
+#include <QScopedValueRollback>
+#include <QStandardPaths>
+#include <algorithm>
+
+namespace drive
+{
+namespace
+{
+class StillTicker final : public Ticker
+{
+public:
+    void start(int) override {}
+    void stop() override {}
+};
+
+/// Where the program keeps its settings.
+QString settingsFolder()
+{
+    return joinPath(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation),
+                    QStringLiteral("tagwrighter"));
+}
+} // namespace
+
+bool ScriptedLauncher::launch(const QString &what)
+{
+    launched.add(what);
+    if (m_refusals == 0)
+        return true;
+    --m_refusals;
+    return false;
+}
+
+std::unique_ptr<Ticker> StillTimers::makeTicker(std::function<void()>)
+{
+    return std::make_unique<StillTicker>();
+}
+
+std::optional<FileError> ScriptedFiles::failure(const QString &path, bool write)
+{
+    const auto isIt = [&](const Failing &failing) {
+        return failing.write == write && QDir::cleanPath(failing.path) == QDir::cleanPath(path);
+    };
+    const auto found = std::find_if(m_failing.begin(), m_failing.end(), isIt);
+    if (found == m_failing.end())
+        return std::nullopt;
+    const FileError error{found->code, 0, QStringLiteral("Error %1").arg(found->code)};
+    m_failing.erase(found);
+    return error;
+}
+
+FileContents ScriptedFiles::readAll(const QString &path)
+{
+    if (const auto error = failure(path, false))
+        return {{}, error};
+    return m_real.readAll(path);
+}
+
+std::optional<FileError> ScriptedFiles::writeWhole(const QString &path, const QByteArray &bytes)
+{
+    if (const auto error = failure(path, true))
+        return error;
+    return m_real.writeWhole(path, bytes);
+}
+
+FolderListing ScriptedFiles::list(const QString &folder)
+{
+    if (const auto error = failure(folder, false))
+        return {{}, error};
+    return m_real.list(folder);
+}
+
+std::optional<FileError> ScriptedFiles::makeFolder(const QString &folder)
+{
+    if (const auto error = failure(folder, true))
+        return error;
+    return m_real.makeFolder(folder);
+}
+
+std::optional<FileError> ScriptedFiles::copyFile(const QString &from, const QString &to)
+{
+    if (const auto error = failure(from, false))
+        return error;
+    if (const auto error = failure(to, true))
+        return error;
+    return m_real.copyFile(from, to);
+}
+
+void ScriptedYielder::beginPass()
+{
+    if (m_acting) // a pass that an act has caused is not the one that the script means
+        return;
+    for (const Act &act : m_ofPass)
+        m_missed.append({act.line, act.number, m_yields});
+    m_ofPass = std::exchange(m_queued, {});
+    m_yields = 0;
+}
+
+void ScriptedYielder::yield()
+{
+    if (m_acting)
+        return;
+    ++m_yields;
+    const QScopedValueRollback guard(m_acting, true);
+    const auto isDue = [this](const Act &act) { return act.number == m_yields; };
+    for (auto due = std::find_if(m_ofPass.begin(), m_ofPass.end(), isDue); due != m_ofPass.end();
+         due = std::find_if(m_ofPass.begin(), m_ofPass.end(), isDue)) {
+        const Act act = *due;
+        m_ofPass.erase(due);
+        act.run();
+    }
+}
+
+QList<ScriptedYielder::MissedAct> ScriptedYielder::missed() const
+{
+    QList<MissedAct> all = m_missed;
+    for (const Act &act : m_ofPass)
+        all.append({act.line, act.number, m_yields});
+    for (const Act &act : m_queued)
+        all.append({act.line, act.number, std::nullopt});
+    return all;
+}
+
+Desktop::Desktop(Referee &referee, const World &world)
+    : boxes(referee),
+      dialogs(referee),
+      files(m_realFiles),
+      m_settings(settingsFolder()),
+      // The desktop's own tools are left alone: what they make of the registered files is not the program's.
+      m_fileClasses(currentXdgPlaces(), [](const QString &, const QStringList &) {}),
+      m_services{boxes,  dialogs, m_settings, files,         launcher,  m_clipboard, clock,
+                 random, help,    m_timers,   m_fileClasses, modalLoop, yielder,     world.app()}
+{
+}
+} // namespace drive

@@ -1,0 +1,162 @@
+#pragma once
+
+#include "drive/answers.h"
+#include "platform/clock.h"
+#include "platform/desktopClipboard.h"
+#include "platform/helpViewer.h"
+#include "platform/launcher.h"
+#include "platform/localFileSystem.h"
+#include "platform/modalLoop.h"
+#include "platform/random.h"
+#include "platform/services.h"
+#include "platform/settingsFiles.h"
+#include "platform/timer.h"
+#include "platform/xdgFileClasses.h"
+#include "platform/yielder.h"
+
+#include <functional>
+
+namespace drive
+{
+class World;
+
+class ScriptedLauncher final : public Launcher
+{
+public:
+    bool openUrl(const QString &target) override { return launch(target); }
+    bool start(const QString &command) override { return launch(command); }
+    void refuseNext() { ++m_refusals; }
+
+    Recorded<QString> launched;
+
+private:
+    bool launch(const QString &what);
+    int m_refusals = 0;
+};
+
+class ScriptedHelp final : public HelpViewer
+{
+public:
+    void show(const QString &topic) override { shown.add(topic); }
+    void contents() override { shown.add(QStringLiteral("contents")); }
+    void index() override { shown.add(QStringLiteral("index")); }
+
+    Recorded<QString> shown;
+};
+
+/// A clock that stands until the script sets it.
+class ScriptedClock final : public Clock
+{
+public:
+    QDateTime now() override { return moment; }
+
+    QDateTime moment = QDateTime(QDate(2026, 1, 1), QTime(12, 0));
+};
+
+/// Timers that never fire by themselves.
+class StillTimers final : public TimerSource
+{
+public:
+    std::unique_ptr<Ticker> makeTicker(std::function<void()> tick) override;
+};
+
+/// Does to the files of the machine what the program asks for, but for what the script lets fail.
+class ScriptedFiles final : public FileSystem
+{
+public:
+    explicit ScriptedFiles(FileSystem &real) : m_real(real) {}
+
+    void failNextWrite(const QString &path, int code) { m_failing.append({path, code, true}); }
+    void failNextRead(const QString &path, int code) { m_failing.append({path, code, false}); }
+
+    FileContents readAll(const QString &path) override;
+    std::optional<FileError> writeWhole(const QString &path, const QByteArray &bytes) override;
+    bool exists(const QString &path) override { return m_real.exists(path); }
+    bool isFolder(const QString &path) override { return m_real.isFolder(path); }
+    std::optional<qint64> size(const QString &path) override { return m_real.size(path); }
+    std::optional<FileStamp> stamp(const QString &path) override { return m_real.stamp(path); }
+    std::optional<FileDetails> details(const QString &path) override { return m_real.details(path); }
+    FolderListing list(const QString &folder) override;
+    std::optional<FileError> makeFolder(const QString &folder) override;
+    std::optional<FileError> removeFile(const QString &path) override { return m_real.removeFile(path); }
+    std::optional<FileError> copyFile(const QString &from, const QString &to) override;
+
+private:
+    struct Failing {
+        QString path;
+        int code = 0;
+        bool write = false;
+    };
+    std::optional<FileError> failure(const QString &path, bool write);
+
+    FileSystem &m_real;
+    QList<Failing> m_failing;
+};
+
+/// Hands a form that is shown modally to the script.
+class ScriptedModalLoop final : public ModalLoop
+{
+public:
+    void run(Form &form) override { shown(form); }
+
+    std::function<void(Form &)> shown;
+};
+
+/// Counts the yields of long passes and acts at those that the script has named.
+class ScriptedYielder final : public Yielder
+{
+public:
+    struct Act {
+        int line = 0;   ///< of the script
+        int number = 0; ///< of the yield, counted from 1
+        std::function<void()> run;
+    };
+    struct MissedAct {
+        int line = 0;
+        int number = 0;
+        std::optional<int> yields; ///< that the pass had; nothing if there was no pass
+    };
+
+    void queue(const Act &act) { m_queued.push_back(act); }
+    void beginPass() override;
+    void yield() override;
+    QList<MissedAct> missed() const;
+
+private:
+    std::vector<Act> m_queued; ///< for the next pass
+    std::vector<Act> m_ofPass; ///< for the pass that runs
+    QList<MissedAct> m_missed;
+    int m_yields = 0;
+    bool m_acting = false;
+};
+
+/// The desktop as a script sees it: what a user would be shown is answered and recorded, the rest is real.
+class Desktop
+{
+public:
+    Desktop(Referee &referee, const World &world);
+
+    Services &services() { return m_services; }
+
+private:
+    LocalFileSystem m_realFiles;
+
+public:
+    ScriptedBoxes boxes;
+    ScriptedDialogs dialogs;
+    ScriptedLauncher launcher;
+    ScriptedHelp help;
+    ScriptedClock clock;
+    ScriptedFiles files;
+    ScriptedModalLoop modalLoop;
+    ScriptedYielder yielder;
+    Random random{1};
+
+private:
+    SettingsFiles m_settings;
+    DesktopClipboard m_clipboard;
+    StillTimers m_timers;
+    XdgFileClasses m_fileClasses;
+    Services m_services;
+};
+} // namespace drive

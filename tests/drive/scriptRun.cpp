@@ -1,0 +1,155 @@
+#include "drive/scriptRun.h"
+
+#include "drive/commands.h"
+#include "drive/events.h"
+#include "drive/referee.h"
+#include "drive/stage.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QLocale>
+#include <QPalette>
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <cstring>
+#include <new>
+#include <sys/mman.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace drive
+{
+namespace
+{
+QPalette darkPalette()
+{
+    const QColor window(45, 45, 48);
+    const QColor base(30, 30, 30);
+    const QColor text(220, 220, 220);
+    QPalette palette(text, window, window.lighter(), window.darker(), Qt::gray, text, base);
+    palette.setColor(QPalette::Button, window);
+    palette.setColor(QPalette::AlternateBase, window);
+    palette.setColor(QPalette::Highlight, QColor(38, 79, 120));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, QColor(86, 156, 214));
+    palette.setColor(QPalette::ToolTipBase, window);
+    palette.setColor(QPalette::ToolTipText, text);
+    palette.setColor(QPalette::PlaceholderText, Qt::gray);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, QColor(120, 120, 120));
+    return palette;
+}
+
+/// The same looks on every machine.
+void setLooks()
+{
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    if (qEnvironmentVariable("TAGWRIGHTER_DRIVE_DARK") == QStringLiteral("1"))
+        QApplication::setPalette(darkPalette());
+    for (const auto effect : {Qt::UI_AnimateMenu, Qt::UI_FadeMenu, Qt::UI_AnimateCombo, Qt::UI_AnimateTooltip,
+                              Qt::UI_FadeTooltip, Qt::UI_AnimateToolBox})
+        QApplication::setEffectEnabled(effect, false);
+    QApplication::setCursorFlashTime(0);
+}
+
+Script readScript(const QString &file, const Referee &referee)
+{
+    QFile source(file);
+    if (!source.open(QIODevice::ReadOnly))
+        referee.wrongAt(0, QStringLiteral("the script cannot be read: %1").arg(source.errorString()));
+    Script script = parseScript(QString::fromUtf8(source.readAll()));
+    if (!script.error)
+        script.error = checkCommands(script.lines);
+    if (script.error)
+        referee.wrongAt(script.error->line, script.error->reason);
+    return script;
+}
+
+/// What the new process does.
+int playScript(const QString &file, const World &world, const RunOptions &options, Progress &progress)
+{
+    Referee referee(file, progress);
+    const Script script = readScript(file, referee);
+    world.setEnvironment();
+    world.seedProgramFolder(options.installedData);
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+
+    int count = 1;
+    QByteArray name("tagwrighter");
+    char *arguments[] = {name.data(), nullptr};
+    QApplication application(count, arguments);
+    QApplication::setApplicationName(QStringLiteral("tagwrighter"));
+    QApplication::setApplicationDisplayName(QString());
+    QApplication::setQuitOnLastWindowClosed(false);
+    setLooks();
+    {
+        Stage stage(referee, world);
+        insideEvent([&] { stage.play(script.lines); });
+        stage.checkNothingIsLeft();
+    }
+    progress.finished = true;
+    return StatusHeld;
+}
+
+/// Memory that the new process shares with this one.
+Progress *sharedProgress()
+{
+    void *memory = mmap(nullptr, sizeof(Progress), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+    return memory == MAP_FAILED ? nullptr : new (memory) Progress;
+}
+
+int waitFor(pid_t process)
+{
+    int status = 0;
+    while (waitpid(process, &status, 0) < 0 && errno == EINTR) {
+    }
+    return status;
+}
+
+void tellUnfinished(const QString &file, const Progress &progress, int status)
+{
+    const QByteArray how = WIFSIGNALED(status)
+                               ? QByteArray("ended by signal ") + QByteArray::number(WTERMSIG(status)) + " (" +
+                                     strsignal(WTERMSIG(status)) + ")"
+                               : QByteArray("ended with status ") + QByteArray::number(WEXITSTATUS(status));
+    std::fprintf(stderr, "%s:%d: expected the program to live until the script's end, got it %s\n",
+                 file.toUtf8().constData(), progress.line.load(), how.constData());
+}
+
+/// The status of a script whose process has ended; 0 only if all of it was played.
+int judge(const QString &file, const Progress &progress, int status)
+{
+    const int code = WIFEXITED(status) ? WEXITSTATUS(status) : StatusFailed;
+    if (progress.finished && (code == StatusHeld || code == StatusFailed || code == StatusScriptWrong))
+        return code;
+    tellUnfinished(file, progress, status);
+    return StatusFailed;
+}
+} // namespace
+
+int runScript(const QString &file, const RunOptions &options)
+{
+    const auto world = World::make();
+    Progress *progress = sharedProgress();
+    if (!world || !progress) {
+        std::fprintf(stderr, "%s: there is no room for the script's files\n", file.toUtf8().constData());
+        return StatusFailed;
+    }
+    std::fflush(nullptr);
+    const pid_t process = fork();
+    if (process == 0) {
+        prctl(PR_SET_PDEATHSIG, SIGKILL); // a script whose test was given up must not play on
+        std::exit(playScript(file, *world, options, *progress));
+    }
+    const int status = process > 0 ? waitFor(process) : -1;
+    const int result = judge(file, *progress, status);
+    if (options.keepWorld)
+        std::printf("%s: its world is kept in %s\n", file.toUtf8().constData(), world->root().toUtf8().constData());
+    else
+        world->remove();
+    munmap(progress, sizeof(Progress));
+    return result;
+}
+} // namespace drive

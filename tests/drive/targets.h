@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+class Document;
+class Form;
+class QAction;
+class QObject;
+class QToolBar;
+class QWidget;
+
+namespace drive
+{
+class Stage;
+
+/// A form, or one of its controls, timers, menu entries, toolbars and toolbar buttons.
+struct Target {
+    QString name; ///< as the script writes it
+    Form *form = nullptr;
+    QObject *control = nullptr; ///< nothing for a form alone
+};
+
+/// What a target's name stands for. The script is wrong if there is no such form or control, and fails if the control's
+/// form is not loaded or the document is not there.
+Target findTarget(Stage &stage, const QString &name);
+/// The same for one that may come yet; nothing as long as its form is not loaded.
+std::optional<Target> awaitTarget(Stage &stage, const QString &name);
+
+/// The form of a target that is to be a form alone.
+Form &findForm(Stage &stage, const QString &name);
+/// A timer by its name: one of the active document or the main window, or a target like any other.
+Target findTimer(Stage &stage, const QString &name);
+
+/// The document that a form is; nothing for other forms.
+Document *documentOf(Form &form);
+
+/// A form's control by its name, toolbar buttons by their key, text or number too: "tbrMain(Save)".
+QObject *findControl(Form &form, const QString &name);
+/// The names of a form's controls, in the order of the alphabet.
+QStringList controlNames(Form &form);
+
+/// One of several things by its 0-based number, its key or its text. Nothing if it is none of them.
+struct Named {
+    QString key;
+    QString text;
+};
+std::optional<int> findNamed(const QList<Named> &things, const QString &name);
+
+/// A caption without the marks of its accelerator.
+QString withoutAccelerator(const QString &caption);
+} // namespace drive

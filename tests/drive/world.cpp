@@ -1,0 +1,114 @@
+#include "drive/world.h"
+
+#include "platform/programFolder.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+namespace drive
+{
+namespace
+{
+void setVariable(const char *name, const QString &value)
+{
+    qputenv(name, QFile::encodeName(value));
+}
+
+/// Lets its owner list, enter and change the folder and every folder in it.
+void openFolders(const QString &path)
+{
+    constexpr auto owner = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
+    QFile::setPermissions(path, owner);
+    const auto folders = QDir(path).entryInfoList(QDir::Dirs | QDir::NoSymLinks | QDir::Hidden | QDir::NoDotAndDotDot);
+    for (const QFileInfo &folder : folders)
+        openFolders(folder.filePath());
+}
+} // namespace
+
+std::optional<World> World::make()
+{
+    QTemporaryDir folder(QDir::tempPath() + QStringLiteral("/tagwrighter-drive-XXXXXX"));
+    if (!folder.isValid())
+        return std::nullopt;
+    folder.setAutoRemove(false);
+    World world;
+    world.m_root = QFileInfo(folder.path()).canonicalFilePath();
+    for (const QString &path : {world.app(), world.site(), world.home()})
+        QDir().mkpath(path);
+    return world;
+}
+
+QString World::app() const
+{
+    return m_root + QStringLiteral("/tagwrighter");
+}
+
+QString World::site() const
+{
+    return m_root + QStringLiteral("/site");
+}
+
+QString World::home() const
+{
+    return m_root + QStringLiteral("/home");
+}
+
+void World::setEnvironment() const
+{
+    setVariable("HOME", home());
+    setVariable("XDG_CONFIG_HOME", home() + QStringLiteral("/.config"));
+    setVariable("XDG_DATA_HOME", home() + QStringLiteral("/.local/share"));
+    setVariable("XDG_STATE_HOME", home() + QStringLiteral("/.local/state"));
+    setVariable("XDG_CACHE_HOME", home() + QStringLiteral("/.cache"));
+    // A copy of the program that is installed on this machine must not show in the script's world.
+    setVariable("XDG_DATA_DIRS", home() + QStringLiteral("/.system/share"));
+    setVariable("XDG_CONFIG_DIRS", home() + QStringLiteral("/.system/etc"));
+    qputenv("TZ", "UTC");
+    qputenv("LC_ALL", "C.UTF-8");
+    qputenv("LANG", "C.UTF-8");
+    qputenv("LANGUAGE", "en");
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+void World::seedProgramFolder(const QString &installedData) const
+{
+    ProgramPlaces places;
+    places.installedData = installedData;
+    places.userDataHome = m_root;
+    programFolder(places);
+}
+
+void World::remove() const
+{
+    removeAll(m_root);
+}
+
+QString World::expanded(QString text) const
+{
+    return text.replace(QStringLiteral("%APP%"), app())
+        .replace(QStringLiteral("%SITE%"), site())
+        .replace(QStringLiteral("%HOME%"), home());
+}
+
+bool World::holds(const QString &path) const
+{
+    const QString clean = QDir::cleanPath(path);
+    const QString folder = QFileInfo(QFileInfo(clean).path()).canonicalFilePath();
+    const auto inside = [this](const QString &place) { return place == m_root || place.startsWith(m_root + u'/'); };
+    return inside(clean) && (folder.isEmpty() || inside(folder));
+}
+
+bool removeAll(const QString &path)
+{
+    const QFileInfo info(path);
+    if (info.isDir() && !info.isSymLink()) {
+        openFolders(path);
+        return QDir(path).removeRecursively();
+    }
+    return !(info.exists() || info.isSymLink()) || QFile::remove(path);
+}
+} // namespace drive
