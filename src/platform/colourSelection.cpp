@@ -2,7 +2,7 @@
 
 #include "common/colourText.h"
 #include "platform/commonDialogs.h"
-#include "platform/layout.h"
+#include "platform/controls.h"
 #include "platform/themeColour.h"
 
 #include <QEvent>

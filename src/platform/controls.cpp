@@ -26,6 +26,7 @@
 #include <QScrollBar>
 #include <QTextCharFormat>
 #include <QTextDocument>
+#include <memory>
 
 namespace ui
 {

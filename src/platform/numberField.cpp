@@ -1,6 +1,6 @@
 #include "platform/numberField.h"
 
-#include "platform/layout.h"
+#include "platform/controls.h"
 
 #include <algorithm>
 

@@ -4,12 +4,12 @@
 #include "controlPick.h"
 #include "controlRows.h"
 #include "controlText.h"
-#include "userInput.h"
 #include "platform/colourSelection.h"
 #include "platform/fileControls.h"
 #include "platform/inputGate.h"
 #include "platform/nodeTree.h"
 #include "platform/spinButton.h"
+#include "userInput.h"
 
 #include <QApplication>
 #include <QCalendarWidget>

@@ -61,6 +61,13 @@ FileContents ScriptedFiles::readAll(const QString &path)
     return m_real.readAll(path);
 }
 
+std::optional<FileError> ScriptedFiles::checkReadable(const QString &path)
+{
+    if (const auto error = failure(path, false))
+        return error;
+    return m_real.checkReadable(path);
+}
+
 std::optional<FileError> ScriptedFiles::writeWhole(const QString &path, const QByteArray &bytes)
 {
     if (const auto error = failure(path, true))

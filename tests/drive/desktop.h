@@ -70,6 +70,7 @@ public:
     void failNextRead(const QString &path, int code) { m_failing.append({path, code, false}); }
 
     FileContents readAll(const QString &path) override;
+    std::optional<FileError> checkReadable(const QString &path) override;
     std::optional<FileError> writeWhole(const QString &path, const QByteArray &bytes) override;
     bool exists(const QString &path) override { return m_real.exists(path); }
     bool isFolder(const QString &path) override { return m_real.isFolder(path); }

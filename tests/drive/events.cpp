@@ -34,19 +34,15 @@ void dealWithEvents()
             return;
 }
 
-/// When the active window goes, a desktop activates the one below it.
-bool activateTopWindow()
+bool activateLastWindow()
 {
     if (QApplication::activeWindow() || QApplication::activePopupWidget())
         return false;
-    QWidget *top = QApplication::activeModalWidget();
-    const auto widgets = QApplication::topLevelWidgets();
-    for (QWidget *widget : widgets)
-        if (!top && widget->isVisible() && widget->windowType() != Qt::ToolTip)
-            top = widget;
-    if (top)
-        top->activateWindow();
-    return top != nullptr;
+    const auto *order = QCoreApplication::instance()->findChild<ActivationOrder *>();
+    QWidget *last = order ? order->lastVisible() : nullptr;
+    if (last)
+        last->activateWindow();
+    return last != nullptr;
 }
 } // namespace
 
@@ -60,7 +56,31 @@ void insideEvent(const std::function<void()> &act)
 void settle()
 {
     dealWithEvents();
-    if (activateTopWindow())
+    if (activateLastWindow())
         dealWithEvents();
+}
+
+ActivationOrder::ActivationOrder(QObject &application) : QObject(&application)
+{
+    application.installEventFilter(this);
+}
+
+QWidget *ActivationOrder::lastVisible() const
+{
+    for (auto window = m_windows.rbegin(); window != m_windows.rend(); ++window)
+        if (*window && (*window)->isVisible() && !(*window)->isMinimized())
+            return *window;
+    return nullptr;
+}
+
+bool ActivationOrder::eventFilter(QObject *watched, QEvent *event)
+{
+    auto *window = event->type() == QEvent::WindowActivate ? qobject_cast<QWidget *>(watched) : nullptr;
+    if (window && window->isWindow()) {
+        m_windows.removeAll(window);
+        m_windows.removeAll(nullptr);
+        m_windows.append(window);
+    }
+    return QObject::eventFilter(watched, event);
 }
 } // namespace drive

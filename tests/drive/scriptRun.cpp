@@ -84,6 +84,7 @@ int playScript(const QString &file, const World &world, const RunOptions &option
     QApplication::setApplicationDisplayName(QString());
     QApplication::setQuitOnLastWindowClosed(false);
     setLooks();
+    new ActivationOrder(application);
     {
         Stage stage(referee, world);
         insideEvent([&] { stage.play(script.lines); });
