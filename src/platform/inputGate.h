@@ -11,6 +11,7 @@ class QWidget;
 /// run handlers that must not run; behind a closed gate nothing happens at all.
 class InputGate final : public QObject
 {
+    Q_OBJECT
 public:
     /// `refused` runs when the user presses a mouse button on the window in vain.
     InputGate(QWidget &window, std::function<void()> refused);

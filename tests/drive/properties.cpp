@@ -103,6 +103,11 @@ bool isMenuShown(const QAction &entry)
     return entry.isVisible();
 }
 
+constexpr Property<TextSurface> surfaceProperties[] = {
+    {"WordWrap", [](const TextSurface &surface) { return truth(surface.wrapToWindow()); }},
+    {"LineCount", [](const TextSurface &surface) { return QString::number(surface.lineCount()); }},
+};
+
 constexpr Property<QAction> entryProperties[] = {
     {"Visible", [](const QAction &entry) { return truth(isMenuShown(entry)); }},
     {"Checked", [](const QAction &entry) { return truth(entry.isChecked()); }},
@@ -113,6 +118,9 @@ std::optional<QString> controlProperty(QObject &control, const QString &property
 {
     if (const auto *entry = qobject_cast<QAction *>(&control))
         if (const auto value = propertyOf(entryProperties, *entry, property))
+            return value;
+    if (const auto *surface = dynamic_cast<TextSurface *>(&control))
+        if (const auto value = propertyOf(surfaceProperties, *surface, property))
             return value;
     if (const auto *bar = qobject_cast<QToolBar *>(&control))
         if (const auto value = toolBarProperty(*bar, property))
@@ -141,8 +149,8 @@ QString readTarget(Stage &stage, const Target &target, const QString &property)
 QStringList dumpForm(Stage &stage, Form &form)
 {
     QStringList lines;
-    for (const QString &name : controlNames(form)) {
-        QObject *control = findControl(form, name);
+    for (const QString &name : controlNames(stage, form)) {
+        QObject *control = findControl(stage, form, name);
         if (!control)
             continue;
         QString line = QStringLiteral("%1.%2").arg(form.Name(), name);

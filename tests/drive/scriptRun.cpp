@@ -54,6 +54,13 @@ void setLooks()
     QApplication::setCursorFlashTime(0);
 }
 
+/// The platform without a screen tells at every turn what it lacks; everything else is worth reading.
+void tellMessage(QtMsgType, const QMessageLogContext &, const QString &message)
+{
+    if (!message.startsWith(QStringLiteral("This plugin does not support")))
+        std::fprintf(stderr, "%s\n", message.toUtf8().constData());
+}
+
 Script readScript(const QString &file, const Referee &referee)
 {
     QFile source(file);
@@ -76,6 +83,7 @@ int playScript(const QString &file, const World &world, const RunOptions &option
     world.seedProgramFolder(options.installedData);
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
 
+    qInstallMessageHandler(tellMessage);
     int count = 1;
     QByteArray name("tagwrighter");
     char *arguments[] = {name.data(), nullptr};

@@ -64,12 +64,42 @@ Form *formOf(Stage &stage, const TargetName &name)
     return form;
 }
 
+/// Whether an object under a form's window is the form's own: the windows of dialogs and documents lie in the main
+/// window's, and their controls in theirs.
+bool isOwn(Stage &stage, Form &form, const QObject &object)
+{
+    const auto loaded = stage.program().forms().loaded();
+    for (const QObject *place = &object; place && place != form.window(); place = place->parent())
+        for (const Form *other : loaded)
+            if (other != &form && other->window() == place)
+                return false;
+    return true;
+}
+
+QObject *ownControl(Stage &stage, Form &form, const QString &name)
+{
+    QObject *control = form.control(name);
+    if (!control || !form.window() || isOwn(stage, form, *control))
+        return control;
+    const auto namesakes = form.window()->findChildren<QObject *>(name);
+    for (QObject *namesake : namesakes)
+        if (isOwn(stage, form, *namesake))
+            return namesake;
+    return nullptr;
+}
+
+/// Whether it is the name of a control, not one that the toolkit gives to parts of its own.
+bool isName(const QString &name)
+{
+    return !name.isEmpty() && !name.startsWith(u'_') && !name.startsWith(QStringLiteral("qt_"));
+}
+
 QObject *controlOf(Stage &stage, Form &form, const QString &name)
 {
-    QObject *control = findControl(form, name);
+    QObject *control = findControl(stage, form, name);
     if (!control)
         stage.referee.wrong(QStringLiteral("%1 has no control %2; it has %3")
-                                .arg(form.Name(), name, controlNames(form).join(QStringLiteral(", "))));
+                                .arg(form.Name(), name, controlNames(stage, form).join(QStringLiteral(", "))));
     return control;
 }
 
@@ -113,7 +143,7 @@ Target findTimer(Stage &stage, const QString &name)
         return findTarget(stage, name);
     MainWindow *window = stage.program().context().mainWindow;
     auto *document = dynamic_cast<Form *>(window ? window->activeDocument() : nullptr);
-    if (QObject *timer = document ? findControl(*document, name) : nullptr)
+    if (QObject *timer = document ? findControl(stage, *document, name) : nullptr)
         return {name, document, timer};
     return findTarget(stage, QStringLiteral("frmMdi.") + name);
 }
@@ -123,13 +153,13 @@ Document *documentOf(Form &form)
     return dynamic_cast<Document *>(&form);
 }
 
-QObject *findControl(Form &form, const QString &name)
+QObject *findControl(Stage &stage, Form &form, const QString &name)
 {
-    QObject *control = form.control(name);
+    QObject *control = ownControl(stage, form, name);
     if (!control) {
         static const QRegularExpression button(QStringLiteral(R"(^([A-Za-z]\w*)\((.*)\)$)"));
         const auto match = button.match(name);
-        auto *bar = match.hasMatch() ? qobject_cast<QToolBar *>(form.control(match.captured(1))) : nullptr;
+        auto *bar = match.hasMatch() ? qobject_cast<QToolBar *>(ownControl(stage, form, match.captured(1))) : nullptr;
         control = bar ? findToolButton(*bar, match.captured(2)) : nullptr;
     }
     if (auto *menu = qobject_cast<QMenu *>(control))
@@ -137,14 +167,14 @@ QObject *findControl(Form &form, const QString &name)
     return control;
 }
 
-QStringList controlNames(Form &form)
+QStringList controlNames(Stage &stage, Form &form)
 {
     QStringList names;
     if (!form.window())
         return names;
     const auto objects = form.window()->findChildren<QObject *>();
     for (const QObject *object : objects)
-        if (!object->objectName().isEmpty() && !object->objectName().startsWith(QStringLiteral("qt_")))
+        if (isName(object->objectName()) && isOwn(stage, form, *object))
             names.append(object->objectName());
     names.removeDuplicates();
     names.sort();

@@ -37,9 +37,9 @@ Target findTimer(Stage &stage, const QString &name);
 Document *documentOf(Form &form);
 
 /// A form's control by its name, toolbar buttons by their key, text or number too: "tbrMain(Save)".
-QObject *findControl(Form &form, const QString &name);
+QObject *findControl(Stage &stage, Form &form, const QString &name);
 /// The names of a form's controls, in the order of the alphabet.
-QStringList controlNames(Form &form);
+QStringList controlNames(Stage &stage, Form &form);
 
 /// One of several things by its 0-based number, its key or its text. Nothing if it is none of them.
 struct Named {

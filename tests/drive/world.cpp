@@ -62,6 +62,10 @@ void World::setEnvironment() const
     setVariable("XDG_CONFIG_HOME", home() + QStringLiteral("/.config"));
     setVariable("XDG_DATA_HOME", home() + QStringLiteral("/.local/share"));
     setVariable("XDG_STATE_HOME", home() + QStringLiteral("/.local/state"));
+    const QString running = home() + QStringLiteral("/.run");
+    QDir().mkpath(running);
+    QFile::setPermissions(running, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    setVariable("XDG_RUNTIME_DIR", running);
     setVariable("XDG_CACHE_HOME", home() + QStringLiteral("/.cache"));
     // A copy of the program that is installed on this machine must not show in the script's world.
     setVariable("XDG_DATA_DIRS", home() + QStringLiteral("/.system/share"));
