@@ -28,7 +28,9 @@ void settingsOfOneStart(benchmark::State &state)
         for (int i = 0; i < 15; ++i)
             store.SaveSetting(app, section, key(i), QString::number(round));
         state.PauseTiming();
-        { const SettingsFiles closing = SettingsFiles(folder.path()); }
+        {
+            const SettingsFiles closing = SettingsFiles(folder.path());
+        }
         state.ResumeTiming();
     }
 }

@@ -1,10 +1,11 @@
-// The headers that nearly every test includes, parsed once for all test programs.
+// The headers that most tests include, parsed once for all test programs.
 #pragma once
-#include <QList>
-#include <QMap>
-#include <QString>
-#include <QWidget>
+#include <QtTest>
+#include <QtWidgets>
+#include <algorithm>
+#include <functional>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <memory>
 #include <optional>
+#include <vector>

@@ -2,6 +2,7 @@
 
 #include "common/dialogFilter.h"
 #include "common/paths.h"
+#include "platform/themeColour.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -68,23 +69,6 @@ std::optional<FileDialogResult> runFileDialog(QFileDialog &dialog, const FileDia
     return FileDialogResult{dialog.selectedFiles().constFirst(),
                             chosenIndex(filters, dialog.selectedNameFilter(), proposed)};
 }
-
-QColor shownColour(ColourValue colour)
-{
-    if (!isSystemColour(colour))
-        return QColor(redOf(colour), greenOf(colour), blueOf(colour));
-    const QPalette palette = QApplication::palette();
-    switch (colour) {
-    case WindowColour:
-        return palette.color(QPalette::Base);
-    case HighlightColour:
-        return palette.color(QPalette::Highlight);
-    case ButtonFaceColour:
-        return palette.color(QPalette::Button);
-    default:
-        return palette.color(QPalette::WindowText);
-    }
-}
 } // namespace
 
 std::optional<FileDialogResult> DesktopCommonDialogs::showOpen(const FileDialogRequest &request)
@@ -116,11 +100,10 @@ std::optional<QString> DesktopCommonDialogs::showFolder(const QString &title, co
 
 std::optional<ColourValue> DesktopCommonDialogs::showColour(ColourValue initial)
 {
-    QColorDialog dialog(shownColour(initial), QApplication::activeWindow());
+    QColorDialog dialog(shownColour(initial, QApplication::palette()), QApplication::activeWindow());
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
-    const QColor chosen = dialog.selectedColor();
-    return colourOf(chosen.red(), chosen.green(), chosen.blue());
+    return colourValue(dialog.selectedColor());
 }
 
 std::optional<FontChoice> DesktopCommonDialogs::showFont(const FontChoice &initial)

@@ -30,6 +30,7 @@ constexpr Property<Document> documentProperties[] = {
     {"DocSavePath", [](const Document &document) { return document.DocSavePath; }},
     {"boolDirty", [](const Document &document) { return truth(document.boolDirty); }},
     {"NewDoc", [](const Document &document) { return truth(document.NewDoc); }},
+    {"UndoPosition", [](const Document &document) { return QString::number(document.UndoPosition()); }},
     {"DocNumber", [](const Document &document) { return QString::number(document.DocNumber); }},
     {"DocKeyDescription", [](const Document &document) { return document.DocKeyDescription; }},
     {"IsInUnicode", [](const Document &document) { return truth(document.IsInUnicode); }},
