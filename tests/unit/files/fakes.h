@@ -8,6 +8,7 @@
 #include "platform/commonDialogs.h"
 #include "platform/editSurface.h"
 #include "platform/fileClasses.h"
+#include "platform/form.h"
 #include "platform/formRuntime.h"
 #include "platform/helpViewer.h"
 #include "platform/launcher.h"

@@ -90,7 +90,7 @@ TEST_F(WholeSaves, SurviveAKillAtAnyMoment)
             files.SaveDocument(false);
             ::_exit(0);
         }
-        ::usleep(random() % (duration + duration / 2));
+        ::usleep(static_cast<useconds_t>(random() % (duration + duration / 2)));
         ::kill(child, SIGKILL);
         ::waitpid(child, nullptr, 0);
         const QByteArray found = bytesOf(page);
