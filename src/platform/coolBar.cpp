@@ -10,7 +10,7 @@
 
 namespace
 {
-constexpr int GripWidth = 10;
+constexpr int GripWidth = 8;
 constexpr int RowGap = 1;
 constexpr int RowPull = 8; ///< how far the mouse leaves a row before its band follows
 } // namespace

@@ -87,7 +87,7 @@ void frmMdi::buildFontCombos()
         QStringLiteral("cboFont"), {}, {}, [this] { cboFont_Click(); });
     cboFont->setAccessibleName(QStringLiteral("Font"));
     cboFont->setToolTip(QStringLiteral("Font"));
-    cboFont->setMinimumContentsLength(9);
+    cboFont->setMinimumContentsLength(8);
     cboFont->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     connect(cboFont->lineEdit(), &QLineEdit::textEdited, this, [this] { m_fontTyped = true; });
     connect(cboFont->lineEdit(), &QLineEdit::returnPressed, this, [this] { cboFont_LostFocus(); });
@@ -98,8 +98,7 @@ void frmMdi::buildFontCombos()
         QStringLiteral("cboSize"), sizes, {}, [this] { cboSize_Click(); });
     cboSize->setAccessibleName(QStringLiteral("Point size"));
     cboSize->setToolTip(QStringLiteral("Point size"));
-    cboSize->setMinimumContentsLength(2);
-    cboSize->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    cboSize->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     // Enter picks a size that the list has; another one is taken as it was typed.
     connect(cboSize->lineEdit(), &QLineEdit::returnPressed, this, [this] {
         if (cboSize->findText(cboSize->currentText()) < 0)

@@ -7,7 +7,7 @@
 
 namespace
 {
-constexpr int Grip = 10;
+constexpr int Grip = 8;
 
 /// A band's contents of a known size.
 class Piece final : public QWidget
@@ -53,7 +53,7 @@ TEST_F(CoolBarTest, bandsStandInTheirRowsAndTheLastTakesTheRest)
 {
     EXPECT_EQ(bar.Count(), 3);
     EXPECT_EQ(bar.bandRect(1), QRect(0, 0, 100 + Grip, 30));
-    EXPECT_EQ(bar.bandRect(2), QRect(110, 0, 490, 30));
+    EXPECT_EQ(bar.bandRect(2), QRect(108, 0, 492, 30));
     EXPECT_EQ(bar.bandRect(3), QRect(0, 31, 600, 24));
     EXPECT_EQ(bar.sizeHint().height(), 31 + 25);
 }
@@ -61,11 +61,11 @@ TEST_F(CoolBarTest, bandsStandInTheirRowsAndTheLastTakesTheRest)
 TEST_F(CoolBarTest, aRowThatIsTooNarrowTakesFromItsLastBandFirst)
 {
     bar.resize(250, 60);
-    EXPECT_EQ(bar.bandRect(1).width(), 110);
-    EXPECT_EQ(bar.bandRect(2).width(), 140);
+    EXPECT_EQ(bar.bandRect(1).width(), 108);
+    EXPECT_EQ(bar.bandRect(2).width(), 142);
     bar.resize(120, 60);
-    EXPECT_EQ(bar.bandRect(2).width(), 40); // its smallest
-    EXPECT_EQ(bar.bandRect(1).width(), 80);
+    EXPECT_EQ(bar.bandRect(2).width(), 38); // its smallest
+    EXPECT_EQ(bar.bandRect(1).width(), 82);
 }
 
 TEST_F(CoolBarTest, aGivenWidthHoldsWhereThereIsRoom)
@@ -74,7 +74,7 @@ TEST_F(CoolBarTest, aGivenWidthHoldsWhereThereIsRoom)
     EXPECT_EQ(bar.Width(1), 250.5);
     EXPECT_EQ(bar.bandRect(2).left(), 251);
     bar.setWidth(1, 3);
-    EXPECT_EQ(bar.Width(1), 40);
+    EXPECT_EQ(bar.Width(1), 38);
 }
 
 TEST_F(CoolBarTest, aHiddenBandLeavesItsRowToTheOthers)
@@ -95,14 +95,14 @@ TEST_F(CoolBarTest, draggingDownStartsANewRowAndDraggingUpJoinsTheRowAbove)
     EXPECT_EQ(bar.bandRect(2).topLeft(), QPoint(0, 25));
     drag(2, QPoint(0, -25));
     EXPECT_FALSE(bar.NewRow(2));
-    EXPECT_EQ(bar.bandRect(2).topLeft(), QPoint(110, 0));
+    EXPECT_EQ(bar.bandRect(2).topLeft(), QPoint(108, 0));
 }
 
 TEST_F(CoolBarTest, draggingAlongTheRowWidensTheBandBefore)
 {
     drag(2, QPoint(50, 0));
-    EXPECT_EQ(bar.Width(1), 160);
-    EXPECT_EQ(bar.bandRect(2).left(), 160);
+    EXPECT_EQ(bar.Width(1), 158);
+    EXPECT_EQ(bar.bandRect(2).left(), 158);
     drag(1, QPoint(50, 0)); // the first of a row has none before it
     EXPECT_EQ(bar.bandRect(1).left(), 0);
 }
