@@ -21,6 +21,8 @@ Form *FormRuntime::loaded(const QString &name) const
 
 void FormRuntime::setActiveChild(MdiForm *child)
 {
+    if (m_activationHeld)
+        return;
     m_activation.removeAll(child);
     m_activation.append(child);
     if (m_activated == child)

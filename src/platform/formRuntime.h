@@ -34,6 +34,7 @@ public:
     /// Makes a child the active one and runs the Deactivate and Activate of the two, once each change.
     void setActiveChild(MdiForm *child);
     void forgetChild(MdiForm *child);
+    void setActivationHeld(bool held) { m_activationHeld = held; } ///< meanwhile setActiveChild does nothing
 
     /// Takes over a form that lives only as long as its window, such as a document; it is deleted once it is unloaded
     /// and the running handlers have returned.
@@ -52,6 +53,7 @@ private:
     std::vector<std::unique_ptr<Form>> m_adopted;
     Form *m_mainForm = nullptr;
     QMdiArea *m_mdiArea = nullptr;
+    bool m_activationHeld = false;
     MdiForm *m_activated = nullptr; ///< the child whose Activate ran last
     QList<MdiForm *> m_activation;  ///< the most recently active one last
 };

@@ -63,9 +63,13 @@ void MdiForm::presentWindow()
 
 void MdiForm::detachWindow()
 {
+    FormRuntime &forms = context().forms;
+    forms.forgetChild(this);
+    // The area would make another child active by an order of its own; the next one is the one that was active before.
+    forms.setActivationHeld(true);
     window()->hide();
-    context().forms.forgetChild(this);
-    context().forms.mdiArea()->removeSubWindow(window());
-    if (MdiForm *next = context().forms.activeChild())
+    forms.mdiArea()->removeSubWindow(window());
+    forms.setActivationHeld(false);
+    if (MdiForm *next = forms.activeChild())
         next->bringToFront();
 }

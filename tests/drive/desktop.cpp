@@ -41,13 +41,17 @@ std::unique_ptr<Ticker> StillTimers::makeTicker(std::function<void()>)
     return std::make_unique<StillTicker>();
 }
 
+QList<ScriptedFiles::Failing>::const_iterator ScriptedFiles::waiting(const QString &path, bool write) const
+{
+    return std::find_if(m_failing.cbegin(), m_failing.cend(), [&](const Failing &failing) {
+        return failing.write == write && QDir::cleanPath(failing.path) == QDir::cleanPath(path);
+    });
+}
+
 std::optional<FileError> ScriptedFiles::failure(const QString &path, bool write)
 {
-    const auto isIt = [&](const Failing &failing) {
-        return failing.write == write && QDir::cleanPath(failing.path) == QDir::cleanPath(path);
-    };
-    const auto found = std::find_if(m_failing.begin(), m_failing.end(), isIt);
-    if (found == m_failing.end())
+    const auto found = waiting(path, write);
+    if (found == m_failing.cend())
         return std::nullopt;
     const FileError error{found->code, 0, QStringLiteral("Error %1").arg(found->code)};
     m_failing.erase(found);
@@ -63,9 +67,10 @@ FileContents ScriptedFiles::readAll(const QString &path)
 
 std::optional<FileError> ScriptedFiles::checkReadable(const QString &path)
 {
-    if (const auto error = failure(path, false))
-        return error;
-    return m_real.checkReadable(path);
+    // A bad disk or too little memory is met by the reading itself: the file can be opened.
+    const auto found = waiting(path, false);
+    const bool opens = found == m_failing.cend() || QList<int>{7, 57, 61, 62, 71}.contains(found->code);
+    return opens ? m_real.checkReadable(path) : failure(path, false);
 }
 
 std::optional<FileError> ScriptedFiles::writeWhole(const QString &path, const QByteArray &bytes)

@@ -88,6 +88,7 @@ private:
         int code = 0;
         bool write = false;
     };
+    QList<Failing>::const_iterator waiting(const QString &path, bool write) const;
     std::optional<FileError> failure(const QString &path, bool write);
 
     FileSystem &m_real;

@@ -89,6 +89,8 @@ public:
     void showDocumentTabs(bool) override {}
     void showDocumentSelector(bool) override {}
     void setWordWrapChecked(bool) override {}
+    void PopupMenu(const QString &, const QPoint &) override {}
+    bool MoveToNextPane(int, const QString &) override { return false; }
     void clearStructureTree() override {}
     bool structurePageShown() const override { return false; }
     void addStructureNode(qsizetype, const QString &, const QString &, const QString &) override {}

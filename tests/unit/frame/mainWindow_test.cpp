@@ -100,7 +100,7 @@ private:
     {
         return {messageBoxes,  real.commonDialogs, real.settings, real.files,  real.launcher,    real.clipboard,
                 real.clock,    real.random,        real.help,     real.timers, real.fileClasses, real.modalLoop,
-                real.appPath};
+                real.yielder,  real.appPath};
     }
 };
 } // namespace
@@ -198,9 +198,11 @@ TEST_F(MainWindowTest, everyButtonHasAToolTipAndAnIcon)
 TEST_F(MainWindowTest, everyIconInTheMenusHasItsDrawing)
 {
     start();
-    for (const MenuCommand &command : menuCommands())
-        if (*command.icon)
+    for (const MenuCommand &command : menuCommands()) {
+        if (*command.icon) {
             EXPECT_FALSE(control<QAction>(command.name).icon().isNull()) << command.name;
+        }
+    }
 }
 
 TEST_F(MainWindowTest, theRecentFilesAreShownWithTheirDash)
