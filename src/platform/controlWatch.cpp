@@ -31,14 +31,6 @@ QLineEdit *lineEditOf(QWidget *control)
     return combo ? combo->lineEdit() : nullptr;
 }
 
-/// The widget that gets the control's focus events and keys.
-QWidget *keysOf(QWidget *control)
-{
-    if (QLineEdit *edit = lineEditOf(control))
-        return edit;
-    return control->focusProxy() ? control->focusProxy() : control;
-}
-
 /// Keys with Ctrl are commands, such as Paste, and no characters.
 bool isRefused(const QKeyEvent &key)
 {
@@ -46,6 +38,12 @@ bool isRefused(const QKeyEvent &key)
     return !typed.isEmpty() && typed[0].isPrint() && (typed[0] < u'0' || typed[0] > u'9');
 }
 } // namespace
+
+QWidget *keysOf(QWidget *control)
+{
+    // An editable combo gets these events for its field, and hands them on past any filter.
+    return control->focusProxy() ? control->focusProxy() : control;
+}
 
 namespace ui
 {
@@ -76,7 +74,7 @@ void SetNumbersOnly(QWidget *control)
 {
     // Pasted text is left alone, as the keyboard alone is bound.
     if (QLineEdit *edit = lineEditOf(control))
-        new ControlWatch(edit, QEvent::KeyPress,
+        new ControlWatch(keysOf(edit), QEvent::KeyPress,
                          [](const QEvent &event) { return isRefused(static_cast<const QKeyEvent &>(event)); });
 }
 

@@ -4,6 +4,11 @@
 #include <QObject>
 #include <functional>
 
+class QWidget;
+
+/// The widget that gets a control's focus events and keys.
+QWidget *keysOf(QWidget *control);
+
 /// Runs a handler at the control's events of one kind, before the control's own handling: a click that brings the focus
 /// still places the caret afterwards. The handler returns true for an event that is to go no further.
 class ControlWatch final : public QObject

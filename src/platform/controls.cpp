@@ -73,11 +73,12 @@ bool isOfWindow(const QEvent &event)
 void selectAllOnFocus(QWidget *field)
 {
     const auto left = std::make_shared<bool>(true); // false: only its window was
-    new ControlWatch(field, QEvent::FocusOut, [left](const QEvent &event) {
+    QWidget *keys = keysOf(field);
+    new ControlWatch(keys, QEvent::FocusOut, [left](const QEvent &event) {
         *left = !isOfWindow(event);
         return false;
     });
-    new ControlWatch(field, QEvent::FocusIn, [field, left](const QEvent &) {
+    new ControlWatch(keys, QEvent::FocusIn, [field, left](const QEvent &) {
         if (*left)
             SelectAllText(field);
         return false;
@@ -167,6 +168,8 @@ QComboBox *combo(const QString &name, const QList<QString> &rows, const Handler 
     control->addItems(rows);
     control->setCurrentIndex(-1);
     run(control, &QComboBox::editTextChanged, change);
+    // A row is picked from the list alone: leaving the field with a row's text in it picks nothing.
+    QObject::disconnect(control->lineEdit(), &QLineEdit::editingFinished, control, nullptr);
     run(control, &QComboBox::activated, click);
     selectAllOnFocus(control->lineEdit());
     return control;

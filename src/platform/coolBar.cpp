@@ -147,7 +147,7 @@ void CoolBar::placeRow(const Row &row, int top, int height)
 
 QSize CoolBar::sizeHint() const
 {
-    QSize size;
+    QSize size(0, 0);
     for (const Row &row : rows()) {
         const int width = std::accumulate(row.begin(), row.end(), 0,
                                           [this](int sum, int band) { return sum + naturalWidth(band); });

@@ -221,7 +221,8 @@ void EditSurface::SetFocus()
     // The window of a document may be an inner one, and a focus that moves into it would bring it to the front.
     for (const QWidget *widget = this; widget; widget = widget->parentWidget()) {
         const auto *inner = qobject_cast<const QMdiSubWindow *>(widget);
-        if (inner && inner->mdiArea() && inner->mdiArea()->activeSubWindow() != inner)
+        const QMdiSubWindow *current = inner && inner->mdiArea() ? inner->mdiArea()->currentSubWindow() : inner;
+        if (current && current != inner)
             return;
     }
     setFocus();

@@ -99,11 +99,7 @@ void frmMdi::buildFontCombos()
     cboSize->setAccessibleName(QStringLiteral("Point size"));
     cboSize->setToolTip(QStringLiteral("Point size"));
     cboSize->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    // Enter picks a size that the list has; another one is taken as it was typed.
-    connect(cboSize->lineEdit(), &QLineEdit::returnPressed, this, [this] {
-        if (cboSize->findText(cboSize->currentText()) < 0)
-            cboSize_Click();
-    });
+    connect(cboSize->lineEdit(), &QLineEdit::returnPressed, this, [this] { cboSize_Click(); });
 
     cboFontSize = ui::dropList(QStringLiteral("cboFontSize"), headingNames(), [this] { cboFontSize_Click(); });
     cboFontSize->setAccessibleName(QStringLiteral("Heading"));

@@ -86,6 +86,8 @@ std::optional<Chord> keyOf(const QString &name, Qt::KeyboardModifiers modifiers)
     Chord chord = chordOf(name);
     if (modifiers.testFlag(Qt::ControlModifier))
         chord = {chord.key, {}, controlText(name[0])};
+    else if (modifiers.testFlag(Qt::AltModifier))
+        chord = {chord.key, {}, name.toLower()}; // an accelerator is named by its capital letter
     else if (modifiers.testFlag(Qt::ShiftModifier))
         chord.text = name.toUpper();
     chord.modifiers |= modifiers;

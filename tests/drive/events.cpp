@@ -36,7 +36,9 @@ void dealWithEvents()
 
 bool activateLastWindow()
 {
-    if (QApplication::activeWindow() || QApplication::activePopupWidget())
+    // A popup that has gone may still pass for the active window.
+    const QWidget *active = QApplication::activeWindow();
+    if ((active && active->isVisible()) || QApplication::activePopupWidget())
         return false;
     const auto *order = QCoreApplication::instance()->findChild<ActivationOrder *>();
     QWidget *last = order ? order->lastVisible() : nullptr;

@@ -8,7 +8,9 @@
 #include "platform/form.h"
 #include "shell/application.h"
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QMimeData>
@@ -152,6 +154,24 @@ void activate(Stage &stage, Form &form)
         document->activate();
 }
 
+/// An accelerator shows its button pressed for a moment before it clicks it; a user sees the click, so wait for it.
+void waitForAnimatedClicks()
+{
+    constexpr int LongestMilliseconds = 1000;
+    const auto isPressed = [](const QWidget *widget) {
+        const auto *button = qobject_cast<const QAbstractButton *>(widget);
+        return button && button->isDown();
+    };
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < LongestMilliseconds) {
+        const QWidgetList widgets = QApplication::allWidgets();
+        if (std::none_of(widgets.begin(), widgets.end(), isPressed))
+            return;
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+    }
+}
+
 void pressKey(Stage &stage, const Chord &chord)
 {
     const QPointer<QWindow> window = windowWithKeyboard();
@@ -172,6 +192,8 @@ void pressKey(Stage &stage, const Chord &chord)
         held &= ~Qt::KeyboardModifiers(modifier.modifier);
         sendKey(window, QEvent::KeyRelease, modifier.key, held, QString());
     }
+    if (chord.modifiers.testFlag(Qt::AltModifier))
+        waitForAnimatedClicks();
 }
 
 void typeText(Stage &stage, const QString &text)

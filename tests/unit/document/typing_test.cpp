@@ -22,7 +22,7 @@ TEST(LeadingBlanks, CountsTheBlanksInFrontOfTheCaretsLine)
         {u"x  text", 7, 2},
         {u"   text", 0, 0}, // the search fails at the very start
         {u"", 0, 0},
-        {u"a\r\n    \r\n  b", 13, 2},
+        {u"a\r\n    \r\n  b", 12, 2},
     };
     for (const Row &row : rows)
         EXPECT_EQ(leadingBlanksBefore(row.text, row.caret), row.blanks) << row.caret;

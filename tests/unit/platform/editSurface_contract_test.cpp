@@ -86,6 +86,7 @@ TEST_F(EditSurfaceTest, ASelectionMadeBackwardsStartsAtItsLowerEnd)
     sendKey(Qt::Key_Left, Qt::ShiftModifier, QString()); // passes the break in one
     EXPECT_EQ(selection(), Selection(4, 4));
     EXPECT_EQ(surface.SelText(), QStringLiteral("\r\ncd"));
+    surface.setSelStart(0); // a press on what is selected would begin to drag it
     const QPoint from = surface.positionOfCharacter(8).center();
     const QPoint to = surface.positionOfCharacter(6).center();
     const QPoint origin = surface.viewport()->pos();
