@@ -149,8 +149,8 @@ QSize CoolBar::sizeHint() const
 {
     QSize size(0, 0);
     for (const Row &row : rows()) {
-        const int width = std::accumulate(row.begin(), row.end(), 0,
-                                          [this](int sum, int band) { return sum + naturalWidth(band); });
+        const int width =
+            std::accumulate(row.begin(), row.end(), 0, [this](int sum, int band) { return sum + naturalWidth(band); });
         size = QSize(std::max(size.width(), width), size.height() + heightOf(row) + RowGap);
     }
     return size;

@@ -19,7 +19,8 @@ public:
     bool NewRow(int band) const { return at(band).newRow; }
     void setNewRow(int band, bool newRow);
     /// The width in logical pixels that the band is given where its row has the room, the grip included: what its
-    /// contents ask for as long as no other was set. What is left over goes to the row's band that wants to expand, else to its last.
+    /// contents ask for as long as no other was set. What is left over goes to the row's band that wants to expand,
+    /// else to its last.
     double Width(int band) const;
     void setWidth(int band, double width); ///< below the smallest width counts as that
     bool bandVisible(int band) const { return at(band).shown; }

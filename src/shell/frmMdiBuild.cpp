@@ -83,8 +83,7 @@ void frmMdi::layOut()
 
 void frmMdi::buildFontCombos()
 {
-    cboFont = ui::combo(
-        QStringLiteral("cboFont"), {}, {}, [this] { cboFont_Click(); });
+    cboFont = ui::combo(QStringLiteral("cboFont"), {}, {}, [this] { cboFont_Click(); });
     cboFont->setAccessibleName(QStringLiteral("Font"));
     cboFont->setToolTip(QStringLiteral("Font"));
     cboFont->setMinimumContentsLength(8);
@@ -94,8 +93,7 @@ void frmMdi::buildFontCombos()
     ui::onLostFocus(cboFont->lineEdit(), [this] { cboFont_LostFocus(); });
 
     const QStringList sizes = QStringLiteral("7 8 9 10 11 12 14 16 18 20 22 24 26 28 36 48 72").split(u' ');
-    cboSize = ui::combo(
-        QStringLiteral("cboSize"), sizes, {}, [this] { cboSize_Click(); });
+    cboSize = ui::combo(QStringLiteral("cboSize"), sizes, {}, [this] { cboSize_Click(); });
     cboSize->setAccessibleName(QStringLiteral("Point size"));
     cboSize->setToolTip(QStringLiteral("Point size"));
     cboSize->setSizeAdjustPolicy(QComboBox::AdjustToContents);

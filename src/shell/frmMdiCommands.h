@@ -13,8 +13,8 @@ class QMenu;
 class QToolBar;
 class frmMdi;
 
-/// The commands of the main window: makes its menus and toolbars from the tables, keeps each enabled as its rules say, and
-/// runs what the user chooses. A handler that finds no document does nothing.
+/// The commands of the main window: makes its menus and toolbars from the tables, keeps each enabled as its rules say,
+/// and runs what the user chooses. A handler that finds no document does nothing.
 class MainCommands
 {
 public:

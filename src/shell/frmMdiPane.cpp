@@ -215,8 +215,8 @@ void TaskManagerPane::loadImageLists()
 
 void TaskManagerPane::passKeys()
 {
-    for (QWidget *control : QList<QWidget *>{treCodes, treStructure, lstEditorFiles, lstOtherFiles, lstLocal, dirLocal,
-                                             drvLocal})
+    for (QWidget *control :
+         QList<QWidget *>{treCodes, treStructure, lstEditorFiles, lstOtherFiles, lstLocal, dirLocal, drvLocal})
         ui::onKeyDown(control, [this](const QKeyEvent &event) {
             const int keyCode = event.key() == Qt::Key_F6 ? 117 : 0;
             return m_context.mainWindow->MoveToNextPane(keyCode, QStringLiteral("project"));
@@ -279,12 +279,13 @@ void TaskManagerPane::filTempLocal_PathChange()
     for (const QString &name : filTempLocal->names()) {
         const QString path = joinPath(folder, name);
         const auto size = m_context.services.files.size(path);
-        lstLocal->addRow({.key = path,
-                          .text = name,
-                          .smallIcon = localIcon(path),
-                          .subItems = {(size ? QString::number(GetFileSizeKB(*size)) : QString()) + QStringLiteral("KB")},
-                          .tag = {},
-                          .checked = false});
+        lstLocal->addRow(
+            {.key = path,
+             .text = name,
+             .smallIcon = localIcon(path),
+             .subItems = {(size ? QString::number(GetFileSizeKB(*size)) : QString()) + QStringLiteral("KB")},
+             .tag = {},
+             .checked = false});
         if (!size)
             break; // the rest of a folder whose files cannot be looked at is not tried
     }

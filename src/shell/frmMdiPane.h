@@ -19,8 +19,8 @@ class SidePane;
 /// What stands in place of the open project's path while there is none.
 inline constexpr QLatin1String NoProject("(no project open)");
 
-/// The Task Manager Pane of the main window: the pages for the codes, the open project, the document's structure and the
-/// local files, one a tab.
+/// The Task Manager Pane of the main window: the pages for the codes, the open project, the document's structure and
+/// the local files, one a tab.
 class TaskManagerPane final : public QObject
 {
     Q_OBJECT

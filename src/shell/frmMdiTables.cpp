@@ -8,12 +8,30 @@ namespace
 using C = MainCommands;
 using K = CommandAction::Kind;
 
-constexpr CommandAction head() { return {.kind = K::Head}; }
-constexpr CommandAction runs(void (C::*handler)()) { return {.kind = K::Run, .run = handler}; }
-constexpr CommandAction shows(const char *form) { return {.kind = K::Form, .form = form}; }
-constexpr CommandAction wraps(const char *open, const char *close) { return {.kind = K::Wrap, .open = open, .close = close}; }
-constexpr CommandAction nothing() { return {.kind = K::Nothing}; }
-constexpr CommandAction later() { return {}; }
+constexpr CommandAction head()
+{
+    return {.kind = K::Head};
+}
+constexpr CommandAction runs(void (C::*handler)())
+{
+    return {.kind = K::Run, .run = handler};
+}
+constexpr CommandAction shows(const char *form)
+{
+    return {.kind = K::Form, .form = form};
+}
+constexpr CommandAction wraps(const char *open, const char *close)
+{
+    return {.kind = K::Wrap, .open = open, .close = close};
+}
+constexpr CommandAction nothing()
+{
+    return {.kind = K::Nothing};
+}
+constexpr CommandAction later()
+{
+    return {};
+}
 constexpr MenuCommand line(const char *name, const char *menu)
 {
     return {name, menu, "", "", "", Needs::Nothing, {.kind = K::Separator}};

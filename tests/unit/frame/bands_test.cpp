@@ -11,8 +11,8 @@ TEST(BandLayout, aFlagIsWrittenAsAWord)
 TEST(BandLayout, aFlagIsReadAsAWordInAnyCaseOrAsANumber)
 {
     const QList<std::pair<QString, std::optional<bool>>> rows{
-        {QStringLiteral("True"), true},  {QStringLiteral("FALSE"), false}, {QStringLiteral("-1"), true},
-        {QStringLiteral("0"), false},    {QString(), std::nullopt},        {QStringLiteral("yes"), std::nullopt},
+        {QStringLiteral("True"), true}, {QStringLiteral("FALSE"), false}, {QStringLiteral("-1"), true},
+        {QStringLiteral("0"), false},   {QString(), std::nullopt},        {QStringLiteral("yes"), std::nullopt},
         {QStringLiteral("2.5"), true},
     };
     for (const auto &[text, flag] : rows)

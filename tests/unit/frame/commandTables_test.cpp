@@ -301,10 +301,11 @@ TEST(CommandTables, toolbarsHaveTheirKeysInOrder)
 
 TEST(CommandTables, theCommandsThatNeedADocumentAreTheListedOnes)
 {
-    const QSet<QString> expected{
-        "mnuClose",  "mnuSave",   "mnuSaveAs", "mnuSaveAll", "mnuSavetoInternet", "mnuProperties",     "mnuViewPage",
-        "mnuPrint",  "mnuScriptLibrary", "mnuEdit", "mnuInsert",  "mnuFormat",    "mnuTools",          "mnuUnsaved",
-        "mnuBrwNavigate(0)", "mnuBrwNavigate(1)", "mnuBrwNavigate(2)", "mnuBrwNavigate(3)"};
+    const QSet<QString> expected{"mnuClose",          "mnuSave",          "mnuSaveAs",         "mnuSaveAll",
+                                 "mnuSavetoInternet", "mnuProperties",    "mnuViewPage",       "mnuPrint",
+                                 "mnuScriptLibrary",  "mnuEdit",          "mnuInsert",         "mnuFormat",
+                                 "mnuTools",          "mnuUnsaved",       "mnuBrwNavigate(0)", "mnuBrwNavigate(1)",
+                                 "mnuBrwNavigate(2)", "mnuBrwNavigate(3)"};
     QSet<QString> needing;
     for (const MenuCommand &command : menuCommands())
         if (isEntry(command) && command.needs == Needs::Document)

@@ -71,7 +71,10 @@ protected:
         return project;
     }
 
-    QString stored(const settings::Key &key, int number = 0) { return settings::readStored(services.settings, key, number); }
+    QString stored(const settings::Key &key, int number = 0)
+    {
+        return settings::readStored(services.settings, key, number);
+    }
 
     static void settle()
     {
@@ -98,9 +101,9 @@ private:
 
     static Services servicesOver(Services &real, MessageBoxes &messageBoxes)
     {
-        return {messageBoxes,  real.commonDialogs, real.settings, real.files,  real.launcher,    real.clipboard,
-                real.clock,    real.random,        real.help,     real.timers, real.fileClasses, real.modalLoop,
-                real.yielder,  real.appPath};
+        return {messageBoxes,     real.commonDialogs, real.settings, real.files,  real.launcher,
+                real.clipboard,   real.clock,         real.random,   real.help,   real.timers,
+                real.fileClasses, real.modalLoop,     real.yielder,  real.appPath};
     }
 };
 } // namespace
@@ -114,8 +117,9 @@ TEST_F(MainWindowTest, anExitAsksAboutAChangedProjectFirst)
     EXPECT_FALSE(mdi.Unload());
     ASSERT_EQ(boxes.shown.size(), 1);
     EXPECT_EQ(boxes.shown[0].title, QStringLiteral("Save Changes to Project File"));
-    EXPECT_EQ(boxes.shown[0].text, QStringLiteral("The open project file has not been saved since it was last modified. "
-                                                  "Do you want to save changes now?"));
+    EXPECT_EQ(boxes.shown[0].text,
+              QStringLiteral("The open project file has not been saved since it was last modified. "
+                             "Do you want to save changes now?"));
     EXPECT_EQ(boxes.shown[0].icon, MessageIcon::Exclamation);
     EXPECT_EQ(boxes.shown[0].buttons, MessageButtons::YesNoCancel);
     EXPECT_EQ(saves, 0);
@@ -155,7 +159,8 @@ TEST_F(MainWindowTest, theUnloadKeepsThePanesWidthAndFiveBands)
     start().Unload();
     EXPECT_EQ(stored(settings::CodebarWidth), QStringLiteral("4125"));
     for (int band = 1; band <= 5; ++band) {
-        EXPECT_EQ(stored(settings::BarNewRow, band), band == 2 || band == 4 ? QStringLiteral("False") : QStringLiteral("True"));
+        EXPECT_EQ(stored(settings::BarNewRow, band),
+                  band == 2 || band == 4 ? QStringLiteral("False") : QStringLiteral("True"));
         EXPECT_GT(stored(settings::BarWidth, band).toDouble(), 0) << band;
     }
     EXPECT_TRUE(stored(settings::BarNewRow, 6).isEmpty());

@@ -8,11 +8,26 @@ TEST(PointSizes, eachStepHasItsNumberAndAStyleUnlessItIsExact)
         return QStringLiteral(" size=%1 style=\"font-size: %2pt\"").arg(number).arg(points);
     };
     const QList<std::pair<int, QString>> rows{
-        {6, styled(1, 6)},   {7, QStringLiteral(" size=1")},  {8, styled(2, 8)},   {10, QStringLiteral(" size=2")},
-        {11, styled(2, 11)}, {12, QStringLiteral(" size=3")}, {13, styled(3, 13)}, {14, QStringLiteral(" size=4")},
-        {15, styled(4, 15)}, {16, styled(4, 16)},             {17, styled(5, 17)}, {18, QStringLiteral(" size=5")},
-        {21, styled(5, 21)}, {22, styled(6, 22)},             {24, QStringLiteral(" size=6")}, {30, styled(6, 30)},
-        {31, styled(7, 31)}, {36, QStringLiteral(" size=7")}, {72, styled(7, 72)}, {0, styled(1, 0)},
+        {6, styled(1, 6)},
+        {7, QStringLiteral(" size=1")},
+        {8, styled(2, 8)},
+        {10, QStringLiteral(" size=2")},
+        {11, styled(2, 11)},
+        {12, QStringLiteral(" size=3")},
+        {13, styled(3, 13)},
+        {14, QStringLiteral(" size=4")},
+        {15, styled(4, 15)},
+        {16, styled(4, 16)},
+        {17, styled(5, 17)},
+        {18, QStringLiteral(" size=5")},
+        {21, styled(5, 21)},
+        {22, styled(6, 22)},
+        {24, QStringLiteral(" size=6")},
+        {30, styled(6, 30)},
+        {31, styled(7, 31)},
+        {36, QStringLiteral(" size=7")},
+        {72, styled(7, 72)},
+        {0, styled(1, 0)},
     };
     for (const auto &[points, attributes] : rows)
         EXPECT_EQ(pointSizeAttributes(points), attributes) << points;

@@ -27,8 +27,8 @@ protected:
     {
         const QPoint start(from, 50);
         QTest::mousePress(pane, Qt::LeftButton, {}, start);
-        QMouseEvent move(QEvent::MouseMove, start + QPoint(by, 0), pane->mapToGlobal(start + QPoint(by, 0)), Qt::NoButton,
-                         Qt::LeftButton, {});
+        QMouseEvent move(QEvent::MouseMove, start + QPoint(by, 0), pane->mapToGlobal(start + QPoint(by, 0)),
+                         Qt::NoButton, Qt::LeftButton, {});
         QApplication::sendEvent(pane, &move);
         QTest::mouseRelease(pane, Qt::LeftButton, {}, start);
         QApplication::processEvents();
