@@ -1,5 +1,6 @@
 #include "platform/editSurface.h"
 
+#include "common/darkGround.h"
 #include "common/text.h"
 #include "platform/lineMargin.h"
 
@@ -35,6 +36,7 @@ EditSurface::EditSurface(QWidget *parent)
       m_formats(document(), [this](ColourValue colour) { return colourFor(colour); }),
       m_margin(new LineMargin(this))
 {
+    m_darkGround = isOnDarkGround();
     setUndoRedoEnabled(false);
     setLineWrapMode(NoWrap);
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
@@ -339,10 +341,26 @@ void EditSurface::keepPastChange(int from, int removed, int added)
         m_textChanged = true;
 }
 
+bool EditSurface::isOnDarkGround() const
+{
+    return palette().color(QPalette::Base).lightness() < palette().color(QPalette::Text).lightness();
+}
+
+void EditSurface::followGround()
+{
+    const bool dark = isOnDarkGround();
+    if (dark == m_darkGround)
+        return;
+    m_darkGround = dark;
+    const QScopedValueRollback<bool> formatsOnly(m_formatsOnly, true);
+    m_formats.redraw();
+}
+
 /// The colour that a value is drawn with.
 QColor EditSurface::colourFor(ColourValue colour) const
 {
     if (isSystemColour(colour))
         return palette().color(roleOf(colour));
-    return QColor(redOf(colour), greenOf(colour), blueOf(colour));
+    const ColourValue drawn = isOnDarkGround() ? readableOnDark(colour) : colour;
+    return QColor(redOf(drawn), greenOf(drawn), blueOf(drawn));
 }

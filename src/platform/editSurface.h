@@ -125,6 +125,8 @@ private:
     void tellScrolling();
     void keepPastChange(int from, int removed, int added);
     QColor colourFor(ColourValue colour) const;
+    bool isOnDarkGround() const;
+    void followGround();
     void followFont();
     void placeMargin();
     void moveMargin(const QRect &rect, int dy);
@@ -140,6 +142,7 @@ private:
     int m_steps = 0;            ///< those being taken, one within another
     bool m_formatsOnly = false; ///< what the document reports now changes no text
     bool m_textChanged = false; ///< reported by the document and not yet told by Change
+    bool m_darkGround = false; ///< the formats are drawn for a dark ground
     bool m_locked = false;
     bool m_hideSelection = false;
 };

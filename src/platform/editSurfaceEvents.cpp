@@ -92,6 +92,8 @@ void EditSurface::changeEvent(QEvent *event)
     QPlainTextEdit::changeEvent(event);
     if (event->type() == QEvent::FontChange)
         followFont();
+    if (event->type() == QEvent::PaletteChange)
+        followGround();
 }
 
 void EditSurface::resizeEvent(QResizeEvent *event)

@@ -65,6 +65,24 @@ void SurfaceFormats::apply(const QList<Range> &ranges)
     cursor.endEditBlock();
 }
 
+void SurfaceFormats::redraw()
+{
+    std::vector<Change> runs;
+    forEachRun(0, m_document->characterCount(), [&](int from, int to, const Look &look) {
+        if (look.colour != WindowTextColour)
+            runs.push_back({from, to, look});
+    });
+    m_charFormats.clear();
+    QTextCursor cursor(m_document);
+    cursor.beginEditBlock();
+    for (const Change &run : runs) {
+        cursor.setPosition(run.from);
+        cursor.setPosition(run.to, QTextCursor::KeepAnchor);
+        cursor.setCharFormat(formatOf(run.look));
+    }
+    cursor.endEditBlock();
+}
+
 TextFormat SurfaceFormats::read(int from, int to) const
 {
     if (from >= to)

@@ -30,6 +30,8 @@ public:
     /// Lays the ranges over what is there, later ones over earlier ones. The document is touched only where a character
     /// comes to look different.
     void apply(const QList<Range> &ranges);
+    /// Draws what is there anew, once values have come to be drawn with other colours.
+    void redraw();
     /// What all characters of a range have in common.
     TextFormat read(int from, int to) const;
     TextFormat read(const QTextCharFormat &format) const;

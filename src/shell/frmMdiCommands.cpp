@@ -31,7 +31,7 @@ MessageBox optimiseBox()
                 "This function will make live changes to your entire document. You may not be able to undo these "
                 "changes. You should always save your work and make a backup before using this function.\r\n\r\n"
                 "Do you wish to continue now?\r\n\r\n"
-                " Click Yes to begin the code optimisation."
+                " Click Yes to begin the code optimisation.\r\n"
                 " Click No to cancel the code optimisation so that you can save your work."),
             .icon = MessageIcon::None,
             .buttons = MessageButtons::YesNo};

@@ -260,4 +260,32 @@ TEST_F(EditSurfaceView, TheFontHasOneWidthForAllCharacters)
 {
     EXPECT_EQ(surface.fontMetrics().horizontalAdvance(u'i'), surface.fontMetrics().horizontalAdvance(u'W'));
 }
+
+TEST_F(EditSurfaceView, DefaultColoursFollowTheGroundAndAnUsersOwnStay)
+{
+    constexpr ColourValue Navy = 8388608;
+    constexpr ColourValue Own = 255;
+    const auto drawn = [this](int position) {
+        QTextCursor cursor(surface.document());
+        cursor.setPosition(position + 1);
+        return cursor.charFormat().foreground().color();
+    };
+    surface.setText(QStringLiteral("ab"));
+    surface.setFormat(0, 1, {Navy, true, {}});
+    surface.setFormat(1, 1, {Own, {}, {}});
+    EXPECT_EQ(drawn(0), QColor(0, 0, 128));
+    int changes = 0;
+    QObject::connect(&surface, &EditSurface::Change, &surface, [&changes] { ++changes; });
+    QPalette dark = surface.palette();
+    dark.setColor(QPalette::Base, QColor(30, 30, 30));
+    dark.setColor(QPalette::Text, QColor(230, 230, 230));
+    const QPalette light = surface.palette();
+    surface.setPalette(dark);
+    EXPECT_GT(drawn(0).lightness(), 128);
+    EXPECT_EQ(drawn(1), QColor(255, 0, 0));
+    EXPECT_EQ(surface.formatOf(0, 1), (TextFormat{Navy, true, false})) << "the value is as it was given";
+    surface.setPalette(light);
+    EXPECT_EQ(drawn(0), QColor(0, 0, 128));
+    EXPECT_EQ(changes, 0);
+}
 } // namespace

@@ -1,0 +1,7 @@
+#pragma once
+
+#include "common/colour.h"
+
+/// The colours of the source are chosen for a light ground. On a dark one, those that a user has left as they come are
+/// drawn in readable counterparts of the same hue; colours of a user's own are drawn as they are on any ground.
+ColourValue readableOnDark(ColourValue colour);
