@@ -37,5 +37,8 @@ void surfaceSetting(Figures &figures);
 void surfaceTyping(Figures &figures);
 void surfaceColouring(Figures &figures);
 void surfaceSingleLine(Figures &figures);
+void documentFigures(Figures &figures);
+/// Runs the benchmarks of the services whose names hold `filter`, and prints them in a table of their own.
+void runServiceBenchmarks(const QString &filter);
 /// Runs in a process of its own: prints the memory that a text of so many characters costs the surface, in bytes.
 int printSurfaceMemory(qsizetype characters);

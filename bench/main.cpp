@@ -12,7 +12,7 @@ struct Group {
 constexpr Group groups[] = {
     {"surface-mapping", surfaceMapping},        {"surface-setting", surfaceSetting},
     {"surface-typing", surfaceTyping},          {"surface-colouring", surfaceColouring},
-    {"surface-single-line", surfaceSingleLine},
+    {"surface-single-line", surfaceSingleLine}, {"document", documentFigures},
 };
 } // namespace
 
@@ -32,5 +32,7 @@ int main(int argc, char **argv)
         if (arguments.size() < 2 || name.contains(arguments[1]))
             group.measure(figures);
     }
-    return figures.print() ? 0 : 1;
+    const bool held = figures.print();
+    runServiceBenchmarks(arguments.value(1));
+    return held ? 0 : 1;
 }

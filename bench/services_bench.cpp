@@ -1,9 +1,11 @@
 #include "common/encodings.h"
+#include "figures.h"
 #include "platform/localFileSystem.h"
 #include "platform/settingsFiles.h"
 
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
+#include <vector>
 
 namespace
 {
@@ -70,3 +72,15 @@ void writeWhole(benchmark::State &state)
 }
 BENCHMARK(writeWhole)->Unit(benchmark::kMillisecond)->UseRealTime();
 } // namespace
+
+void runServiceBenchmarks(const QString &filter)
+{
+    QByteArray arguments[] = {"tagwrighter-bench", "--benchmark_filter=" + (filter.isEmpty() ? "." : filter.toUtf8()),
+                              "--benchmark_repetitions=5", "--benchmark_report_aggregates_only=true"};
+    std::vector<char *> pointers;
+    for (QByteArray &argument : arguments)
+        pointers.push_back(argument.data());
+    int count = static_cast<int>(pointers.size());
+    benchmark::Initialize(&count, pointers.data());
+    benchmark::RunSpecifiedBenchmarks();
+}

@@ -52,6 +52,8 @@ std::vector<SurfaceFormats::Range> flattened(const QList<SurfaceFormats::Range> 
 
 void SurfaceFormats::apply(const QList<Range> &ranges)
 {
+    if (ranges.size() == 1 && changesNoLook(ranges.first().format))
+        return;
     const std::vector<Change> changes = changesFor(flattened(ranges));
     if (changes.empty())
         return;
@@ -162,6 +164,17 @@ const QTextCharFormat &SurfaceFormats::formatOf(const Look &look) const
     if (look.hidden)
         format.setProperty(HiddenCharacterProperty, int(look.hidden));
     return *m_charFormats.insert(key, format);
+}
+
+/// Whether all characters look as the format would have them look already, as far as the document's store of formats
+/// tells without a walk through its text: a document that was never coloured holds one format.
+bool SurfaceFormats::changesNoLook(const TextFormat &format) const
+{
+    const QList<QTextFormat> formats = m_document->allFormats();
+    return std::all_of(formats.begin(), formats.end(), [&](const QTextFormat &known) {
+        const Look look = lookOf(known.toCharFormat());
+        return !known.isCharFormat() || merged(look, format) == look;
+    });
 }
 
 /// What has to be changed for the segments, neighbours that come to look the same in one.

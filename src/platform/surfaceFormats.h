@@ -59,6 +59,7 @@ private:
     static Look merged(Look look, const TextFormat &change);
     Look lookOf(int formatIndex) const;
     const QTextCharFormat &formatOf(const Look &look) const;
+    bool changesNoLook(const TextFormat &format) const;
     std::vector<Change> changesFor(const std::vector<Range> &segments) const;
     template <typename Visit>
     void forEachRun(int from, int to, Visit visit) const;

@@ -1,0 +1,130 @@
+#include "document/frmWrite.h"
+#include "document/syntaxScanner.h"
+#include "figures.h"
+#include "pages.h"
+#include "platform/desktopServices.h"
+#include "platform/settingsStore.h"
+#include "shell/application.h"
+#include "shell/frmMdi.h"
+#include "shell/settings.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QTemporaryDir>
+#include <QWidget>
+
+namespace
+{
+constexpr int Runs = 9;
+constexpr qsizetype LargestColoured = 63900;
+
+/// The program with one document on show, over an empty home.
+class RunningProgram
+{
+public:
+    RunningProgram() : m_services(servicesAt(m_home.path())), m_program(m_services->services())
+    {
+        settings::write(m_services->services().settings, settings::WelcomeScreen, QStringLiteral("false"));
+        m_program.Main({});
+        while (!document())
+            QApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 50);
+        settle();
+    }
+
+    Document *document() { return m_program.context().mainWindow->activeDocument(); }
+    QWidget *surface() { return dynamic_cast<QWidget *>(&document()->txtEdit()); }
+    static void settle() { QApplication::processEvents(); }
+
+private:
+    static std::unique_ptr<DesktopServices> servicesAt(const QString &home)
+    {
+        qputenv("XDG_CONFIG_HOME", home.toUtf8());
+        qputenv("XDG_DATA_HOME", home.toUtf8());
+        return std::make_unique<DesktopServices>();
+    }
+
+    QTemporaryDir m_home;
+    std::unique_ptr<DesktopServices> m_services;
+    Application m_program;
+};
+
+double scanTime(qsizetype characters)
+{
+    const QString text = page(characters, 1);
+    const ColouringOptions options;
+    return medianTime(Runs, [&] {
+        SyntaxScanner scanner(text, options);
+        scanner.setStructureShown(true);
+        while (scanner.advance())
+            ;
+    });
+}
+
+void press(QWidget &widget, Qt::Key key, const QString &text)
+{
+    QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QApplication::sendEvent(&widget, &down);
+    QKeyEvent up(QEvent::KeyRelease, key, Qt::NoModifier, text);
+    QApplication::sendEvent(&widget, &up);
+    RunningProgram::settle();
+}
+
+/// The processor time of one key at the middle of a document, its handlers and the painting included.
+double keyTime(RunningProgram &program, qsizetype characters, Qt::Key key, const QString &text)
+{
+    constexpr int Keys = 20;
+    TextSurface &edit = program.document()->txtEdit();
+    edit.setText(page(characters, 1));
+    RunningProgram::settle();
+    return medianTime(
+               Runs,
+               [&] {
+                   for (int i = 0; i < Keys; ++i)
+                       press(*program.surface(), key, text);
+               },
+               [&] {
+                   edit.setSelStart(edit.textLength() / 2);
+                   RunningProgram::settle();
+               }) /
+           Keys;
+}
+
+double passTime(RunningProgram &program, qsizetype characters)
+{
+    auto &document = dynamic_cast<frmWrite &>(*program.document());
+    const QString text = page(characters, 1);
+    return medianTime(
+        Runs,
+        [&] {
+            document.ExternalInitiateColourCodeAndDocStructure();
+            RunningProgram::settle();
+        },
+        [&] {
+            document.txtEdit().setText(text);
+            RunningProgram::settle();
+        });
+}
+} // namespace
+
+void documentFigures(Figures &figures)
+{
+    constexpr double Milli = 1000;
+    figures.add(QStringLiteral("scanning, 63,900 characters"), scanTime(LargestColoured) * Milli, QStringLiteral("ms"),
+                2);
+    figures.add(QStringLiteral("scanning, 63,900 against 8,000 characters, a character"),
+                scanTime(LargestColoured) / scanTime(8000) * 8000 / double(LargestColoured), QStringLiteral("times"),
+                1.2);
+    RunningProgram program;
+    figures.add(QStringLiteral("colouring pass to painted, 63,900 characters"),
+                passTime(program, LargestColoured) * Milli, QStringLiteral("ms"), 30);
+    figures.add(QStringLiteral("colouring pass of an uncoloured document, 1 MB"), passTime(program, 1'000'000) * Milli,
+                QStringLiteral("ms"), 5);
+    for (const qsizetype size : {LargestColoured, qsizetype(1'000'000)}) {
+        const QString name = QStringLiteral(", %L1 characters").arg(size);
+        figures.add(QStringLiteral("typed letter in the program") + name,
+                    keyTime(program, size, Qt::Key_A, QStringLiteral("a")) * Milli, QStringLiteral("ms"), 0.7);
+        figures.add(QStringLiteral("typed Space in the program") + name,
+                    keyTime(program, size, Qt::Key_Space, QStringLiteral(" ")) * Milli, QStringLiteral("ms"),
+                    size == LargestColoured ? 1 : 4);
+    }
+}
