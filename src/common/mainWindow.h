@@ -59,8 +59,8 @@ public:
 
     /// Shows one of the pop-up menus at a point of the screen; its entries are enabled by its rules first.
     virtual void PopupMenu(const QString &name, const QPoint &position) = 0;
-    /// For F6, key code 117, moves the focus: from "editor" to the control of the Task Manager pane's page on show, from
-    /// "project" to the active document. False, and nothing done, for another key or where there is nowhere to go.
+    /// For F6, key code 117, moves the focus: from "editor" to the control of the Task Manager pane's page on show,
+    /// from "project" to the active document. False, and nothing done, for another key or where there is nowhere to go.
     virtual bool MoveToNextPane(int keyCode, const QString &from) = 0;
 
     // The document structure tree. One tree serves all documents; it is filled only while its page is on show.

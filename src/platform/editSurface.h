@@ -142,7 +142,7 @@ private:
     int m_steps = 0;            ///< those being taken, one within another
     bool m_formatsOnly = false; ///< what the document reports now changes no text
     bool m_textChanged = false; ///< reported by the document and not yet told by Change
-    bool m_darkGround = false; ///< the formats are drawn for a dark ground
+    bool m_darkGround = false;  ///< the formats are drawn for a dark ground
     bool m_locked = false;
     bool m_hideSelection = false;
 };

@@ -49,8 +49,8 @@ public:
 
     virtual FileContents readAll(const QString &path) = 0;
 
-    /// Opens the file and closes it again: nothing, or why it cannot be read. What only the reading itself would meet, such
-    /// as a bad disk, is not found.
+    /// Opens the file and closes it again: nothing, or why it cannot be read. What only the reading itself would meet,
+    /// such as a bad disk, is not found.
     virtual std::optional<FileError> checkReadable(const QString &path) = 0;
 
     /// Replaces or makes the file as a whole: after a failure, a full disk or a kill at any moment, the file has either

@@ -45,6 +45,7 @@ QWidget *MdiForm::createWindow()
     m_contents->setSpacing(0);
     child->setWidget(client);
     child->setWindowTitle(Caption());
+    child->setWindowIcon(context().forms.mdiArea()->window()->windowIcon());
     context().forms.mdiArea()->addSubWindow(child);
     connect(child, &QMdiSubWindow::aboutToActivate, this, [this] { context().forms.setActiveChild(this); });
     return child;

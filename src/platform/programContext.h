@@ -18,10 +18,10 @@ struct ProgramContext {
     FormRuntime &forms;
     ProgramState &state;
     ScreenPointer &screenPointer;
-    MainWindow *mainWindow = nullptr; ///< set by the main window's form for as long as it exists
-    FileCommands *files = nullptr;    ///< what opens, saves and closes documents
-    SiteProject *project = nullptr;   ///< the open project; nothing until there is a project pane
-    QString version = {};             ///< the program's: major.minor.revision
+    MainWindow *mainWindow = nullptr;                  ///< set by the main window's form for as long as it exists
+    FileCommands *files = nullptr;                     ///< what opens, saves and closes documents
+    SiteProject *project = nullptr;                    ///< the open project; nothing until there is a project pane
+    QString version = {};                              ///< the program's: major.minor.revision
     std::function<Document *()> newBlankDocument = {}; ///< shows a new, empty document; nothing if memory ran out
     std::function<Form &(const QString &)> form = {};  ///< a form of the session by its name
     std::function<bool(const QString &)> hasForm = {}; ///< whether the session has a form of that name

@@ -64,8 +64,8 @@ void frmMdi::layOut()
 
     auto *documents = new QVBoxLayout;
     documents->setSpacing(0);
-    documents->addWidget(picDocSelector);
     documents->addWidget(area, 1);
+    documents->addWidget(picDocSelector);
 
     m_middle = new QHBoxLayout;
     m_middle->setSpacing(0);
@@ -160,6 +160,7 @@ void frmMdi::buildDocumentSelector()
     fmeDocSelDiv->setForegroundRole(QPalette::Mid);
     tabDocSel = ui::keyedTabs(QStringLiteral("tabDocSel"), [this](int) { tabDocSel_Click(); });
     tabDocSel->setAccessibleName(QStringLiteral("Open documents"));
+    tabDocSel->setShape(QTabBar::RoundedSouth);
     tabDocSel->setDrawBase(false);
     tabDocSel->setVisible(false);
 

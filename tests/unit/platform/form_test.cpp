@@ -190,7 +190,8 @@ TEST_F(FormTest, AnAdoptedFormLivesAsLongAsItsWindow)
 
 TEST_F(FormTest, ModalShowReturnsOnceTheFormIsUnloaded)
 {
-    QMetaObject::invokeMethod(&form, [this] { form.Unload(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        &form, [this] { form.Unload(); }, Qt::QueuedConnection);
     form.ShowModal();
     EXPECT_FALSE(form.isLoaded());
     EXPECT_EQ(form.events.last(), QStringLiteral("unload"));

@@ -9,7 +9,8 @@
 class MemorySettings final : public SettingsStore
 {
 public:
-    QString GetSetting(const QString &app, const QString &section, const QString &key, const QString &fallback = {}) override
+    QString GetSetting(const QString &app, const QString &section, const QString &key,
+                       const QString &fallback = {}) override
     {
         return m_values.value({app, section, key}, fallback);
     }

@@ -20,8 +20,8 @@ struct Row {
 
 constexpr const char *Main = "QWRK77XE";
 
-// What the store's format promises, written out once more: names, homes, defaults and spellings are read by other programs
-// and by other versions of this one.
+// What the store's format promises, written out once more: names, homes, defaults and spellings are read by other
+// programs and by other versions of this one.
 const Row expected[] = {
     {"AddMetaInfo", Main, "Settings", "true", nullptr, Spelling::Word},
     {"AddrBarRec", Main, "Settings", "", nullptr, Spelling::One},
@@ -145,14 +145,14 @@ struct SpellingRow {
 TEST(SettingsTable, ReadsEachSpellingOfTrueAndFalse)
 {
     const SpellingRow rows[] = {
-        {settings::WordWrap, "true", true},        {settings::WordWrap, "TRUE", true},
-        {settings::WordWrap, "False", false},      {settings::WordWrap, "yes", false},
-        {settings::AutoSaveUse, "True", true},     {settings::AutoSaveUse, "true", false},
-        {settings::DocSelBarVis, "False", false},  {settings::DocSelBarVis, "false", true},
-        {settings::DocSelBarVis, "1", true},       {settings::WelcomeScreen, "false", false},
-        {settings::WelcomeScreen, "False", true},  {settings::AddrBarVisible, "1", true},
-        {settings::AddrBarVisible, "True", false}, {settings::ColourCodeSyntax, "0", false},
-        {settings::ColourCodeSyntax, "no", true},  {settings::ColourCodeHyperlink, "1", true},
+        {settings::WordWrap, "true", true},          {settings::WordWrap, "TRUE", true},
+        {settings::WordWrap, "False", false},        {settings::WordWrap, "yes", false},
+        {settings::AutoSaveUse, "True", true},       {settings::AutoSaveUse, "true", false},
+        {settings::DocSelBarVis, "False", false},    {settings::DocSelBarVis, "false", true},
+        {settings::DocSelBarVis, "1", true},         {settings::WelcomeScreen, "false", false},
+        {settings::WelcomeScreen, "False", true},    {settings::AddrBarVisible, "1", true},
+        {settings::AddrBarVisible, "True", false},   {settings::ColourCodeSyntax, "0", false},
+        {settings::ColourCodeSyntax, "no", true},    {settings::ColourCodeHyperlink, "1", true},
         {settings::ColourCodeHyperlink, "2", false},
     };
     for (const SpellingRow &row : rows) {
