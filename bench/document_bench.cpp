@@ -104,6 +104,41 @@ double passTime(RunningProgram &program, qsizetype characters)
             RunningProgram::settle();
         });
 }
+double undoTime(RunningProgram &program, qsizetype characters)
+{
+    Document &document = *program.document();
+    document.txtEdit().setText(page(characters, 1));
+    document.UndoRedoChange();
+    document.txtEdit().setSelText(QStringLiteral("x "));
+    document.UndoRedoChange();
+    return medianTime(
+        Runs,
+        [&] {
+            document.Undo();
+            RunningProgram::settle();
+        },
+        [&] {
+            document.Redo();
+            RunningProgram::settle();
+        });
+}
+
+/// A page of block elements in lines of 40 characters, as the optimiser finds them.
+QString blocksPage()
+{
+    QString text = QStringLiteral("<body>\r\n");
+    for (int row = 0; row < 250; ++row)
+        text += QStringLiteral("<table>\r\n<tr>\r\n<td>") + QString(110, u'x') +
+                QStringLiteral("\r\n</td>\r\n</tr>\r\n</table>\r\n") + QString(70, u'y') + QStringLiteral("\r\n");
+    return text + QStringLiteral("</body>\r\n");
+}
+
+double optimiseTime(RunningProgram &program)
+{
+    const QString text = blocksPage();
+    return medianTime(
+        5, [&] { program.document()->OptimiseSyntax(); }, [&] { program.document()->txtEdit().setText(text); });
+}
 } // namespace
 
 void documentFigures(Figures &figures)
@@ -119,6 +154,11 @@ void documentFigures(Figures &figures)
                 passTime(program, LargestColoured) * Milli, QStringLiteral("ms"), 30);
     figures.add(QStringLiteral("colouring pass of an uncoloured document, 1 MB"), passTime(program, 1'000'000) * Milli,
                 QStringLiteral("ms"), 5);
+    figures.add(QStringLiteral("undo, 63,900 characters"), undoTime(program, LargestColoured) * Milli,
+                QStringLiteral("ms"), 20);
+    figures.add(QStringLiteral("undo, 1 MB"), undoTime(program, 1'000'000) * Milli, QStringLiteral("ms"), 120);
+    figures.add(QStringLiteral("optimising 60,000 characters in 1,750 lines"), optimiseTime(program) * Milli,
+                QStringLiteral("ms"), 300);
     for (const qsizetype size : {LargestColoured, qsizetype(1'000'000)}) {
         const QString name = QStringLiteral(", %L1 characters").arg(size);
         figures.add(QStringLiteral("typed letter in the program") + name,

@@ -159,9 +159,13 @@ void frmWrite::txtEdit_GotFocus()
 
 void frmWrite::txtEdit_LostFocus()
 {
-    if (m_unloading)
-        return;
-    const Document *active = frmMdi().activeDocument();
-    if (active && active->DocNumber != DocNumber)
-        frmMdi().clearStructureTree();
+    // Which document the focus goes to is only known once the windows have changed places.
+    const auto clearForAnother = [this] {
+        if (!isLoaded() || m_unloading)
+            return;
+        const Document *active = frmMdi().activeDocument();
+        if (active && active->DocNumber != DocNumber)
+            frmMdi().clearStructureTree();
+    };
+    QMetaObject::invokeMethod(this, clearForAnother, Qt::QueuedConnection);
 }

@@ -5,6 +5,7 @@
 #include <QCloseEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QVBoxLayout>
 
 namespace
@@ -46,6 +47,9 @@ QWidget *MdiForm::createWindow()
     child->setWidget(client);
     child->setWindowTitle(Caption());
     child->setWindowIcon(context().forms.mdiArea()->window()->windowIcon());
+    // The window's own menu has keys that would stand in the way of the main window's commands.
+    for (QAction *action : child->systemMenu()->actions())
+        action->setShortcut(QKeySequence());
     context().forms.mdiArea()->addSubWindow(child);
     connect(child, &QMdiSubWindow::aboutToActivate, this, [this] { context().forms.setActiveChild(this); });
     return child;

@@ -5,6 +5,7 @@
 #include "platform/inputGate.h"
 #include "platform/mainWindowFrame.h"
 #include "platform/mdiForm.h"
+#include "platform/programIcon.h"
 #include "platform/nodeTree.h"
 #include "shell/frmMdiCommands.h"
 #include "shell/frmMdiPane.h"
@@ -41,6 +42,7 @@ QWidget *frmMdi::createWindow()
     });
     frame->setDropHandler([this](const QStringList &paths) { openDropped(paths); });
     frame->setWindowTitle(Caption());
+    frame->setWindowIcon(applicationIcon());
     context().forms.setMainForm(this);
     return frame;
 }

@@ -153,6 +153,28 @@ TEST_F(MainWindowTest, withoutAChangedProjectThereIsNoQuestion)
     EXPECT_TRUE(boxes.shown.isEmpty());
 }
 
+TEST_F(MainWindowTest, aSecondRunIsAWindowOfItsOwnOverTheSameSettings)
+{
+    settings::write(services.settings, settings::WelcomeScreen, QStringLiteral("false"));
+    frmMdi &first = start();
+    const std::unique_ptr<Application> firstRun = std::move(application);
+    frmMdi &second = start();
+    ASSERT_NE(&first, &second);
+    EXPECT_EQ(first.activeDocument()->documentCaption(), QStringLiteral("Untitled1"));
+    EXPECT_EQ(second.activeDocument()->documentCaption(), QStringLiteral("Untitled1")) << "numbering is each run's own";
+    firstRun->context().newBlankDocument();
+    EXPECT_EQ(first.openDocuments().size(), 2);
+    EXPECT_EQ(second.openDocuments().size(), 1);
+    second.window()->setWindowState(Qt::WindowNoState);
+    first.window()->setWindowState(Qt::WindowMaximized);
+    settle();
+    EXPECT_TRUE(second.Unload());
+    EXPECT_EQ(stored(settings::WinState), QStringLiteral("0"));
+    EXPECT_FALSE(firstRun->hasEnded());
+    EXPECT_TRUE(first.Unload());
+    EXPECT_EQ(stored(settings::WinState), QStringLiteral("2")) << "the last to close writes its placement over";
+}
+
 TEST_F(MainWindowTest, theUnloadKeepsThePanesWidthAndFiveBands)
 {
     settings::write(services.settings, settings::SaveSettingsOnExit, QStringLiteral("false"));
