@@ -127,9 +127,9 @@ double undoTime(RunningProgram &program, qsizetype characters)
 QString blocksPage()
 {
     QString text = QStringLiteral("<body>\r\n");
-    for (int row = 0; row < 250; ++row)
-        text += QStringLiteral("<table>\r\n<tr>\r\n<td>") + QString(110, u'x') +
-                QStringLiteral("\r\n</td>\r\n</tr>\r\n</table>\r\n") + QString(70, u'y') + QStringLiteral("\r\n");
+    for (int row = 0; row < 214; ++row)
+        text += QStringLiteral("<table>\r\n<tr>\r\n<td>") + QString(140, u'x') +
+                QStringLiteral("\r\n</td>\r\n</tr>\r\n</table>\r\n") + QString(93, u'y') + QStringLiteral("\r\n");
     return text + QStringLiteral("</body>\r\n");
 }
 
@@ -157,7 +157,7 @@ void documentFigures(Figures &figures)
     figures.add(QStringLiteral("undo, 63,900 characters"), undoTime(program, LargestColoured) * Milli,
                 QStringLiteral("ms"), 20);
     figures.add(QStringLiteral("undo, 1 MB"), undoTime(program, 1'000'000) * Milli, QStringLiteral("ms"), 120);
-    figures.add(QStringLiteral("optimising 60,000 characters in 1,750 lines"), optimiseTime(program) * Milli,
+    figures.add(QStringLiteral("optimising 60,000 characters in 1,500 lines"), optimiseTime(program) * Milli,
                 QStringLiteral("ms"), 300);
     for (const qsizetype size : {LargestColoured, qsizetype(1'000'000)}) {
         const QString name = QStringLiteral(", %L1 characters").arg(size);

@@ -19,6 +19,9 @@ class Node;
 /// Loading builds the window and its controls anew from their design values and then runs Form_Load; the form's own
 /// fields live on through Unload into the next Load. Each control's objectName is its name in the code; members of a
 /// control array are named with their index, as in "picBullet(3)".
+///
+/// Whoever destroys a form that may still be loaded discards it first, as FormRuntime::discardAll does for a whole
+/// session: handlers that run while the window goes are the derived class's.
 class Form : public QObject
 {
     Q_OBJECT

@@ -39,6 +39,7 @@ class TestFormTest : public testing::Test
 {
 protected:
     TestFormTest() { form.Show(); }
+    ~TestFormTest() override { form.discard(); }
 
     QObject &control(const char *name)
     {
