@@ -5,8 +5,8 @@
 #include "platform/inputGate.h"
 #include "platform/mainWindowFrame.h"
 #include "platform/mdiForm.h"
-#include "platform/programIcon.h"
 #include "platform/nodeTree.h"
+#include "platform/programIcon.h"
 #include "shell/frmMdiCommands.h"
 #include "shell/frmMdiPane.h"
 

