@@ -1,8 +1,10 @@
 #include "platform/desktopServices.h"
 #include "platform/formRuntime.h"
 #include "platform/messageBoxes.h"
+#include "platform/screenPointer.h"
 #include "platform/services.h"
 #include "platform/settingsStore.h"
+#include "platform/timer.h"
 #include "shell/application.h"
 #include "shell/frmMdi.h"
 #include "shell/frmMdiTables.h"
@@ -13,6 +15,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QTemporaryDir>
@@ -151,6 +154,25 @@ TEST_F(MainWindowTest, withoutAChangedProjectThereIsNoQuestion)
     application->context().state.project.ProjectChanged = true; // but no project is open
     EXPECT_TRUE(application->form(QStringLiteral("frmMdi"))->Unload());
     EXPECT_TRUE(boxes.shown.isEmpty());
+}
+
+TEST_F(MainWindowTest, theSplashTellsTheVersionAndHandsOverAfterItsTime)
+{
+    application = std::make_unique<Application>(services);
+    application->Main({});
+    Form &splash = *application->form(QStringLiteral("frmSplash"));
+    ASSERT_TRUE(splash.Visible());
+    const auto *version = qobject_cast<QLabel *>(splash.control(QStringLiteral("lblVersion")));
+    EXPECT_EQ(version->text(), QStringLiteral("Release Version: ") + application->context().version);
+    auto *timer = dynamic_cast<Timer *>(splash.control(QStringLiteral("Timer1")));
+    ASSERT_TRUE(timer);
+    EXPECT_EQ(timer->Interval(), 850);
+    EXPECT_TRUE(timer->Enabled());
+    EXPECT_FALSE(application->form(QStringLiteral("frmMdi"))->isLoaded());
+    timer->fire();
+    EXPECT_FALSE(splash.isLoaded());
+    EXPECT_TRUE(application->form(QStringLiteral("frmMdi"))->Visible());
+    EXPECT_EQ(application->context().screenPointer.MousePointer(), 0);
 }
 
 TEST_F(MainWindowTest, aSecondRunIsAWindowOfItsOwnOverTheSameSettings)
