@@ -1,6 +1,13 @@
 #pragma once
 
+#include <QList>
 #include <QString>
+
+/// One file of the open project, as its lists show it.
+struct ProjectItem {
+    QString text; ///< what the list shows
+    QString key;  ///< the file's full path
+};
 
 /// The open site project as the other subsystems know it.
 class SiteProject
@@ -12,6 +19,9 @@ public:
     virtual ~SiteProject() = default;
 
     virtual bool isOpen() const = 0;
+    /// The project's pages, and its other files, in the order of their lists.
+    virtual QList<ProjectItem> editorFiles() const { return {}; }
+    virtual QList<ProjectItem> otherFiles() const { return {}; }
     /// Adds one file to the open project's pages, or to its other files. What stands in the way is told to the user.
     virtual void AddFileToProject(const QString &path, bool isEditorFile) = 0;
 };

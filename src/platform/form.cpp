@@ -167,11 +167,15 @@ void Form::setContent(const ui::Node &content)
     auto *layout = new QVBoxLayout;
     content.addTo(*layout);
     m_window->setLayout(layout);
+    if (m_defaultButton)
+        m_defaultButton->setDefault(true);
 }
 
 void Form::setDefaultButton(QPushButton *button)
 {
-    button->setDefault(true);
+    m_defaultButton = button;
+    if (button->window() == m_window) // outside a dialog, a default button is not known to one
+        button->setDefault(true);
 }
 
 void Form::setCancelButton(QAbstractButton *button)

@@ -82,7 +82,8 @@ protected:
 
     /// Fills the window with the described controls, once a Load.
     void setContent(const ui::Node &content);
-    /// The button that Enter presses where no other button has the focus, and the one that Escape presses.
+    /// The button that Enter presses where no other button has the focus, and the one that Escape presses; before or
+    /// after setContent.
     void setDefaultButton(QPushButton *button);
     void setCancelButton(QAbstractButton *button);
 
@@ -100,6 +101,7 @@ private:
     QString m_name;
     QString m_caption;
     QPointer<QWidget> m_window;
+    QPointer<QPushButton> m_defaultButton;
     QPointer<QAbstractButton> m_cancelButton;
     bool m_loaded = false;
 };

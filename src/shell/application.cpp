@@ -7,6 +7,7 @@
 #include "files/frmMsgSaveChanges.h"
 #include "files/frmProperties.h"
 #include "files/frmUnsavedFiles.h"
+#include "insertion/insertionForms.h"
 #include "shell/frmMdi.h"
 #include "shell/frmSplash.h"
 #include "shell/frmWelcome.h"
@@ -25,6 +26,8 @@ Application::Application(Services &services)
     m_splash = &own<frmSplash>(m_context, *m_mdi);
     own<frmWelcome>(m_context);
     addFiles();
+    for (std::unique_ptr<Form> &form : insertionForms(m_context))
+        add(std::move(form));
     connect(m_mdi, &Form::unloaded, this, &Application::End);
 }
 

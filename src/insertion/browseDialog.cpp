@@ -1,0 +1,14 @@
+#include "insertion/browseDialog.h"
+
+#include "platform/commonDialogs.h"
+#include "platform/programContext.h"
+#include "platform/services.h"
+
+QString BrowseDialog::browse(ProgramContext &context)
+{
+    const FileDialogRequest request{
+        .DialogTitle = {}, .Filter = m_filter, .FilterIndex = 2, .InitDir = {}, .FileName = m_fileName};
+    if (const std::optional<FileDialogResult> chosen = context.services.commonDialogs.showOpen(request))
+        m_fileName = chosen->fileName;
+    return m_fileName;
+}

@@ -1,0 +1,60 @@
+#include "insertion/insertionForm.h"
+
+#include "platform/layout.h"
+#include "platform/modLaunchHTMLHelp.h"
+#include "platform/screenPointer.h"
+
+#include <QPushButton>
+
+namespace
+{
+constexpr int DefaultPointer = 0;
+constexpr int BusyPointer = 13;
+} // namespace
+
+InsertionForm::InsertionForm(ProgramContext &context, const Design &design)
+    : DialogForm(context, design.name), m_design(design)
+{
+    setCaption(design.caption);
+}
+
+void InsertionForm::prepareLoad()
+{
+    DialogForm::prepareLoad();
+    setCaption(m_design.caption);
+}
+
+ui::Node InsertionForm::dialogButtons()
+{
+    m_ok = ui::button(m_design.okName, QStringLiteral("&OK"), [this] { confirm(); });
+    QPushButton *cancelButton = ui::button(m_design.cancelName, QStringLiteral("Cancel"), [this] { cancel(); });
+    QList<QPushButton *> all{m_ok, cancelButton};
+    if (!m_design.helpTopic.isEmpty()) {
+        const auto help = [this] { OpenHelpTopic(context(), m_design.helpTopic); };
+        all.append(ui::button(QStringLiteral("cmdHelp"), QStringLiteral("Help"), help));
+    }
+    setDefaultButton(m_ok);
+    setCancelButton(cancelButton);
+    return ui::buttons(all);
+}
+
+void InsertionForm::confirm()
+{
+    context().screenPointer.setMousePointer(BusyPointer);
+    if (const std::optional<QString> text = markup())
+        insert(*text);
+    context().screenPointer.setMousePointer(DefaultPointer);
+}
+
+void InsertionForm::insert(const QString &text, qsizetype caretBack)
+{
+    if (Document *document = frmMdi().activeDocument()) {
+        TextSurface &edit = document->txtEdit();
+        edit.setSelText(text);
+        if (caretBack > 0)
+            edit.setSelStart(edit.SelStart() - caretBack);
+    }
+    Unload();
+    if (Document *document = frmMdi().activeDocument())
+        document->txtEdit().SetFocus();
+}

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "platform/dialogForm.h"
+
+#include <functional>
+#include <optional>
+
+class QPushButton;
+namespace ui
+{
+class Node;
+}
+
+/// A dialog that collects a few fields and puts one piece of markup in place of the active document's selection.
+///
+/// A form of this kind consists of a struct of its fields, a pure function from them to markup, and a class that builds
+/// the controls (`Form_Load`) and reads them back (`markup`); all else is done here:
+///
+///     frmInsList::frmInsList(ProgramContext &context)
+///         : InsertionForm(context, {.name = QStringLiteral("frmInsList"), .caption = …, .helpTopic = …}) {}
+///
+///     void frmInsList::Form_Load()
+///     {
+///         setContent(ui::beside({ui::rows({…}), dialogButtons()}));
+///     }
+class InsertionForm : public DialogForm
+{
+    Q_OBJECT
+public:
+    struct Design {
+        QString name;
+        QString caption;
+        QString helpTopic = {}; ///< "::/topics/…"; a dialog without one has no Help button
+        QString okName = QStringLiteral("cmdOK");
+        QString cancelName = QStringLiteral("cmdCancel");
+    };
+
+    InsertionForm(ProgramContext &context, const Design &design);
+
+protected:
+    void prepareLoad() override;
+
+    /// Applies the path rules where the dialog has them and builds the markup from the fields. Nothing keeps the dialog
+    /// open, as where a field is missing; then the user has been told.
+    virtual std::optional<QString> markup() = 0;
+
+    /// OK, Cancel and Help, one below the other; OK is the default button and Escape presses Cancel. Once a load.
+    ui::Node dialogButtons();
+    QPushButton *okButton() const { return m_ok; }
+
+    /// What OK does: the markup goes in place of the selection, the dialog is unloaded and the document has the focus.
+    void confirm();
+    /// The end of every insertion: `text` in place of the selection, then the dialog goes and the document takes the
+    /// focus. The caret stands behind the text, or `caretBack` characters before its end.
+    void insert(const QString &text, qsizetype caretBack = 0);
+
+private:
+    Design m_design;
+    QPushButton *m_ok = nullptr;
+};

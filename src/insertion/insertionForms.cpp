@@ -1,0 +1,6 @@
+#include "insertion/insertionForms.h"
+
+std::vector<std::unique_ptr<Form>> insertionForms(ProgramContext &)
+{
+    return {};
+}
