@@ -2,52 +2,17 @@
 #include "document/syntaxScanner.h"
 #include "figures.h"
 #include "pages.h"
-#include "platform/desktopServices.h"
-#include "platform/settingsStore.h"
 #include "platform/yielder.h"
-#include "shell/application.h"
-#include "shell/frmMdi.h"
-#include "shell/settings.h"
+#include "runningProgram.h"
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QTemporaryDir>
 #include <QWidget>
 
 namespace
 {
 constexpr int Runs = 9;
 constexpr qsizetype LargestColoured = 63900;
-
-/// The program with one document on show, over an empty home.
-class RunningProgram
-{
-public:
-    RunningProgram() : m_services(servicesAt(m_home.path())), m_program(m_services->services())
-    {
-        settings::write(m_services->services().settings, settings::WelcomeScreen, QStringLiteral("false"));
-        m_program.Main({});
-        while (!document())
-            QApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 50);
-        settle();
-    }
-
-    Document *document() { return m_program.context().mainWindow->activeDocument(); }
-    QWidget *surface() { return dynamic_cast<QWidget *>(&document()->txtEdit()); }
-    static void settle() { QApplication::processEvents(); }
-
-private:
-    static std::unique_ptr<DesktopServices> servicesAt(const QString &home)
-    {
-        qputenv("XDG_CONFIG_HOME", home.toUtf8());
-        qputenv("XDG_DATA_HOME", home.toUtf8());
-        return std::make_unique<DesktopServices>();
-    }
-
-    QTemporaryDir m_home;
-    std::unique_ptr<DesktopServices> m_services;
-    Application m_program;
-};
 
 double scanTime(qsizetype characters)
 {

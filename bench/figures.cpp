@@ -1,6 +1,8 @@
 #include "figures.h"
 
+#include <QCoreApplication>
 #include <QFile>
+#include <QProcess>
 #include <algorithm>
 #include <cstdio>
 #include <ctime>
@@ -56,4 +58,12 @@ double memoryInUse()
             return line.mid(4).simplified().split(' ').first().toDouble() * 1024;
     }
     return 0;
+}
+
+double printedByChild(const QStringList &arguments)
+{
+    QProcess child;
+    child.start(QCoreApplication::applicationFilePath(), arguments);
+    child.waitForFinished(-1);
+    return child.readAllStandardOutput().trimmed().toDouble();
 }

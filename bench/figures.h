@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -38,7 +39,14 @@ void surfaceTyping(Figures &figures);
 void surfaceColouring(Figures &figures);
 void surfaceSingleLine(Figures &figures);
 void documentFigures(Figures &figures);
+void openingFigures(Figures &figures);
+void idleFigures(Figures &figures);
+void startFigures(Figures &figures);
 /// Runs the benchmarks of the services whose names hold `filter`, and prints them in a table of their own.
 void runServiceBenchmarks(const QString &filter);
 /// Runs in a process of its own: prints the memory that a text of so many characters costs the surface, in bytes.
 int printSurfaceMemory(qsizetype characters);
+/// The same for a page of 10 MB that is opened in the program.
+int printOpeningMemory();
+/// What a process of this program prints when it is started with `arguments`.
+double printedByChild(const QStringList &arguments);

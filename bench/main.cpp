@@ -10,9 +10,15 @@ struct Group {
 };
 
 constexpr Group groups[] = {
-    {"surface-mapping", surfaceMapping},        {"surface-setting", surfaceSetting},
-    {"surface-typing", surfaceTyping},          {"surface-colouring", surfaceColouring},
-    {"surface-single-line", surfaceSingleLine}, {"document", documentFigures},
+    {"surface-mapping", surfaceMapping},
+    {"surface-setting", surfaceSetting},
+    {"surface-typing", surfaceTyping},
+    {"surface-colouring", surfaceColouring},
+    {"surface-single-line", surfaceSingleLine},
+    {"document", documentFigures},
+    {"opening", openingFigures},
+    {"idle", idleFigures},
+    {"start", startFigures},
 };
 } // namespace
 
@@ -26,6 +32,8 @@ int main(int argc, char **argv)
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() == 3 && arguments[1] == QStringLiteral("--surface-memory"))
         return printSurfaceMemory(arguments[2].toLongLong());
+    if (arguments.size() == 2 && arguments[1] == QStringLiteral("--opening-memory"))
+        return printOpeningMemory();
     Figures figures;
     for (const Group &group : groups) {
         const auto name = QString::fromLatin1(group.name);

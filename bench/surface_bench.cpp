@@ -4,7 +4,6 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QProcess>
 #include <QRandomGenerator>
 #include <algorithm>
 #include <cstdio>
@@ -166,10 +165,8 @@ void colour(Figures &figures)
 
 double memoryPerCharacter(qsizetype characters)
 {
-    QProcess child;
-    child.start(QApplication::applicationFilePath(), {QStringLiteral("--surface-memory"), QString::number(characters)});
-    child.waitForFinished(-1);
-    return child.readAllStandardOutput().trimmed().toDouble() / static_cast<double>(characters);
+    const double memory = printedByChild({QStringLiteral("--surface-memory"), QString::number(characters)});
+    return memory / static_cast<double>(characters);
 }
 } // namespace
 

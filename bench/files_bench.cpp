@@ -1,0 +1,108 @@
+// What opening files costs, and what a program at rest does.
+#include "common/fileCommands.h"
+#include "figures.h"
+#include "pages.h"
+#include "runningProgram.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QFile>
+#include <QTimer>
+#include <cstdio>
+
+namespace
+{
+constexpr int Runs = 5;
+constexpr double Milli = 1000;
+constexpr qsizetype Huge = 10'000'000;
+
+QString fileWith(const RunningProgram &program, const QString &name, const QString &text)
+{
+    const QString path = program.home() + u'/' + name;
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly))
+        file.write(text.toUtf8());
+    return path;
+}
+
+void open(RunningProgram &program, const QString &path)
+{
+    program.program().context().files->OpenDocumentFile(path, false);
+    RunningProgram::settle();
+}
+
+void closeDocument(RunningProgram &program)
+{
+    program.document()->boolDirty = false;
+    program.document()->unload();
+    RunningProgram::settle();
+}
+
+/// From the command to the painted page, with its colouring if it is coloured.
+double openingTime(RunningProgram &program, const QString &path)
+{
+    const double time = medianTime(
+        Runs, [&] { open(program, path); },
+        [&, first = true]() mutable {
+            if (!first)
+                closeDocument(program);
+            first = false;
+        });
+    closeDocument(program);
+    return time;
+}
+
+QString singleLine(qsizetype characters)
+{
+    return QStringLiteral("<p class=\"a\">some words</p> ").repeated(characters / 27);
+}
+
+/// The processor time that the program takes within so many seconds of which nobody does anything.
+double idleTime(int seconds)
+{
+    QEventLoop loop;
+    QTimer::singleShot(seconds * 1000, &loop, &QEventLoop::quit);
+    const double start = processorTime();
+    loop.exec();
+    return processorTime() - start;
+}
+} // namespace
+
+void openingFigures(Figures &figures)
+{
+    RunningProgram program;
+    const QString small = fileWith(program, QStringLiteral("small.htm"), page(1'000'000, 1));
+    const QString large = fileWith(program, QStringLiteral("large.htm"), page(Huge, 1));
+    const QString line = fileWith(program, QStringLiteral("line.htm"), singleLine(1'000'000));
+    figures.add(QStringLiteral("opening a page, 1 MB"), openingTime(program, small) * Milli, QStringLiteral("ms"), 100);
+    figures.add(QStringLiteral("opening a page, 10 MB"), openingTime(program, large) * Milli, QStringLiteral("ms"),
+                900);
+    figures.add(QStringLiteral("opening a single line of 1 MB"), openingTime(program, line) * Milli,
+                QStringLiteral("ms"), 500);
+    figures.add(QStringLiteral("memory of a character of an opened page, 10 MB"),
+                printedByChild({QStringLiteral("--opening-memory")}) / double(Huge), QStringLiteral("bytes"), 20);
+}
+
+int printOpeningMemory()
+{
+    RunningProgram program;
+    const QString path = fileWith(program, QStringLiteral("large.htm"), page(Huge, 1));
+    const double before = memoryInUse();
+    open(program, path);
+    std::printf("%.0f\n", memoryInUse() - before);
+    return 0;
+}
+
+void idleFigures(Figures &figures)
+{
+    RunningProgram program;
+    const QString path = fileWith(program, QStringLiteral("page.htm"), page(60'000, 1));
+    open(program, path);
+    for (int i = 0; i < 4; ++i)
+        program.program().context().newBlankDocument();
+    const int blinking = QApplication::cursorFlashTime();
+    QApplication::setCursorFlashTime(0);
+    idleTime(2); // the colouring, and what else follows an opening
+    figures.add(QStringLiteral("at rest for 10 s, five documents"), idleTime(10) * Milli, QStringLiteral("ms"), 1);
+    QApplication::setCursorFlashTime(blinking);
+}

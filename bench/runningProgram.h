@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/desktopServices.h"
+#include "shell/application.h"
+
+#include <QTemporaryDir>
+#include <memory>
+
+class Document;
+class QWidget;
+
+/// The program with a new document on show, over an empty home; for as long as the object lives.
+class RunningProgram
+{
+public:
+    RunningProgram();
+
+    Application &program() { return m_program; }
+    Document *document() { return m_program.context().mainWindow->activeDocument(); }
+    /// The edit surface of the active document.
+    QWidget *surface();
+    QString home() const { return m_home.path(); }
+    /// Lets everything that waits happen, painting included.
+    static void settle();
+
+private:
+    QTemporaryDir m_home;
+    std::unique_ptr<DesktopServices> m_services;
+    Application m_program;
+};
