@@ -46,10 +46,11 @@ QString dateText(const QDateTime &moment)
     return moment.isValid() ? moment.toLocalTime().toString(QStringLiteral("yyyy-MM-dd hh:mm:ss")) : QString();
 }
 
-/// What kind of file the desktop takes it for, by its name.
+/// What kind of file the desktop takes it for, by its name; a desktop that knows no kinds tells the extension.
 QString typeText(const QString &path)
 {
-    return QMimeDatabase().mimeTypeForFile(path, QMimeDatabase::MatchExtension).comment();
+    const QString kind = QMimeDatabase().mimeTypeForFile(path, QMimeDatabase::MatchExtension).comment();
+    return kind.isEmpty() ? GetFileExtension(path).toUpper() + QStringLiteral(" file") : kind;
 }
 } // namespace
 
