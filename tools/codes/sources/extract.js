@@ -1,0 +1,118 @@
+// Takes from the unpacked packages what the generator needs, and writes it beside this script.
+//
+//     node extract.js FOLDER
+//
+// FOLDER holds each package as `npm pack NAME@VERSION` and `tar xzf` leave it, under html-validate/,
+// browser-compat-data/, webref-idl/ and mdn-data/. Only who moves to newer versions runs this.
+"use strict";
+
+const fs = require("fs");
+const path = require("path");
+
+const packages = path.resolve(process.argv[2] || ".");
+
+function inPackage(...names) {
+    return path.join(packages, ...names);
+}
+
+function sortedByKey(object) {
+    return Object.fromEntries(Object.entries(object).sort(([a], [b]) => (a < b ? -1 : a > b ? 1 : 0)));
+}
+
+function write(folder, name, value) {
+    const file = path.join(__dirname, folder, name);
+    fs.mkdirSync(path.dirname(file), { recursive: true });
+    fs.writeFileSync(file, JSON.stringify(value, null, 1) + "\n");
+}
+
+// Patterns, which are written /.../, are no words that one could offer.
+function htmlValidateAttribute(attribute) {
+    const kept = {};
+    if (attribute.deprecated) kept.deprecated = true;
+    if (attribute.boolean) kept.boolean = true;
+    if (attribute.omit) kept.omit = true;
+    const words = (attribute.enum || []).filter((value) => typeof value === "string" && /^[^/]/.test(value));
+    if (words.length > 0) kept.values = words;
+    return kept;
+}
+
+function htmlValidateElements() {
+    const { html5 } = require(inPackage("html-validate", "dist", "cjs", "elements.js"));
+    const kept = {};
+    for (const [name, element] of Object.entries(html5)) {
+        const attributes = {};
+        for (const [attribute, value] of Object.entries(element.attributes || {})) {
+            attributes[attribute] = htmlValidateAttribute(value);
+        }
+        kept[name] = { attributes: sortedByKey(attributes) };
+        if (element.deprecated) kept[name].deprecated = true;
+        if (element.void) kept[name].void = true;
+    }
+    return sortedByKey(kept);
+}
+
+// Where a feature stands: on its way out, not yet settled, or in no standard at all.
+function standing(feature) {
+    const status = (feature.__compat && feature.__compat.status) || {};
+    const kept = {};
+    if (status.deprecated) kept.deprecated = true;
+    if (status.experimental) kept.experimental = true;
+    if (status.standard_track === false) kept.nonstandard = true;
+    return kept;
+}
+
+function features(parent) {
+    const kept = {};
+    for (const [name, feature] of Object.entries(parent)) {
+        if (name === "__compat") continue;
+        kept[name] = standing(feature);
+        const inner = features(feature);
+        if (Object.keys(inner).length > 0) kept[name].features = inner;
+    }
+    return sortedByKey(kept);
+}
+
+function browserCompatData() {
+    const { html } = JSON.parse(fs.readFileSync(inPackage("browser-compat-data", "data.json"), "utf8"));
+    return { elements: features(html.elements), globalAttributes: features(html.global_attributes) };
+}
+
+function handlersIn(text, mixin) {
+    const names = [];
+    const block = new RegExp(`interface mixin ${mixin} \\{([^}]*)\\}`, "g");
+    for (const [, body] of text.matchAll(block)) {
+        for (const [, name] of body.matchAll(/attribute \w*EventHandler (\w+);/g)) names.push(name);
+    }
+    return names;
+}
+
+function eventHandlers() {
+    const kept = {};
+    const folder = inPackage("webref-idl");
+    for (const file of fs.readdirSync(folder).filter((name) => name.endsWith(".idl")).sort()) {
+        const text = fs.readFileSync(path.join(folder, file), "utf8");
+        const found = {};
+        for (const mixin of ["GlobalEventHandlers", "WindowEventHandlers"]) {
+            const names = handlersIn(text, mixin);
+            if (names.length > 0) found[mixin] = names;
+        }
+        if (Object.keys(found).length > 0) kept[path.basename(file, ".idl")] = found;
+    }
+    return kept;
+}
+
+function css() {
+    const read = (name) => JSON.parse(fs.readFileSync(inPackage("mdn-data", "css", name), "utf8"));
+    const properties = {};
+    for (const [name, property] of Object.entries(read("properties.json"))) {
+        properties[name] = { syntax: property.syntax, status: property.status };
+    }
+    const syntaxes = {};
+    for (const [name, syntax] of Object.entries(read("syntaxes.json"))) syntaxes[name] = syntax.syntax;
+    return { properties: sortedByKey(properties), syntaxes: sortedByKey(syntaxes) };
+}
+
+write("html-validate", "elements.json", htmlValidateElements());
+write("browser-compat-data", "html.json", browserCompatData());
+write("webref-idl", "eventHandlers.json", eventHandlers());
+write("mdn-data", "css.json", css());
