@@ -1,0 +1,144 @@
+"""The help pages of the elements, and of the attributes that all of them have."""
+
+import re
+
+from knowledge import ARIA, EVENTS, GLOBAL
+from markup import code, codes, example, heading, link, page, paragraph, table, text
+
+INDEX = "ReferenceIndex.htm"
+_COMMON = {
+    GLOBAL: ("GlobalAttributes.htm", "Global attributes", "global attributes"),
+    ARIA: ("AriaAttributes.htm", "Attributes for assistive technology", "attributes for assistive technology"),
+    EVENTS: ("EventAttributes.htm", "Event attributes", "event attributes"),
+}
+_OF_COMMON = {
+    GLOBAL: "These attributes can stand on nearly every element, whatever it is for.",
+    ARIA: "These attributes tell programs that read a page aloud, or show it on a braille display, what its parts are "
+    "and how they stand. Where an element of HTML says so by itself, none of them is needed.",
+    EVENTS: "Each of these attributes holds a piece of script, which runs when the event happens. They can stand on "
+    "every element.",
+}
+
+
+def title(element):
+    return f"{element.name} element" if element.name != "!doctype" else "!doctype declaration"
+
+
+def file_name(element):
+    return f"Tag_{element.name.upper()}.htm"
+
+
+def tag(name):
+    return f"<{name}>"
+
+
+def pages(elements):
+    """{file name: page} of all elements."""
+    known = {element.name: element for element in elements}
+    most = known["div"].attributes  # as many as an element can have in common with others
+    common = {group: {attribute.name for attribute in most if attribute.group == group} for group in _COMMON}
+    return {file_name(element): _page(element, known, common) for element in elements}
+
+
+def common_pages(elements):
+    """{file name: (title, page)} of the attributes that the elements have in common."""
+    found = {}
+    for group, (name, caption, _) in _COMMON.items():
+        attributes = _all_of(elements, group)
+        parts = [paragraph(_OF_COMMON[group]), *_tables(attributes), way_back()]
+        found[name] = (caption, page(caption, caption, parts))
+    return found
+
+
+def syntax_line(element):
+    """The line that the code assistant shows once the element's name is complete."""
+    line = "<" + element.name
+    for attribute in element.attributes:
+        line += f" {attribute.name}" if attribute.bare else ""
+        line += f" {attribute.name}=" + (f"[{attribute.hint}]" if attribute.hint else "") if attribute.valued else ""
+    return line + ">"
+
+
+def _page(element, known, common):
+    parts = [
+        paragraph(text(element.sentence)),
+        _standing(element),
+        heading("Example"),
+        example(element.example),
+        *_tables(element.own()),
+        _common_attributes(element, common),
+        heading("Syntax"),
+        paragraph(code(syntax_line(element)), "syntax"),
+        _related(element, known),
+        way_back(),
+    ]
+    return page(title(element), tag(element.name), parts)
+
+
+def _standing(element):
+    told = []
+    if element.deprecated:
+        told.append("This element is deprecated. Browsers may still know it, but new pages do better without it.")
+    if element.void and element.name != "!doctype":
+        told.append("It has no content and no end tag.")
+    return paragraph(" ".join(told), "deprecated" if element.deprecated else None) if told else ""
+
+
+def _tables(attributes):
+    """One table of the attributes in use, one of those that are not to be used any more."""
+    parts = []
+    for deprecated, caption in ((False, "Attributes"), (True, "Deprecated attributes")):
+        chosen = [attribute for attribute in attributes if attribute.deprecated == deprecated]
+        if chosen:
+            rows = [(_forms(attribute), text(attribute.meaning), _values(attribute)) for attribute in chosen]
+            parts += [heading(caption), table(("Attribute", "What it says", "Values"), rows)]
+    return parts
+
+
+def _forms(attribute):
+    forms = [attribute.name] * attribute.bare + [attribute.name + "="] * attribute.valued
+    return "<br>".join(code(form) for form in forms)
+
+
+def _values(attribute):
+    """The values that are known by name, or else what is to be written."""
+    told = [codes(value for value, deprecated in attribute.values if not deprecated)]
+    if attribute.hint:
+        told.insert(0, text(attribute.hint))
+    deprecated = codes(value for value, deprecated in attribute.values if deprecated)
+    if deprecated:
+        told.append(f"Deprecated: {deprecated}")
+    return "<br>".join(part for part in told if part) or ("none" if attribute.bare else "&nbsp;")
+
+
+def _common_attributes(element, common):
+    """Which of the attributes that elements have in common this one takes; `common` is {group: their names}."""
+    links = []
+    for group, (name, _, words) in _COMMON.items():
+        taken = {attribute.name for attribute in element.attributes if attribute.group == group}
+        if taken:
+            links.append(("the " if common[group] <= taken else "some of the ") + link(name, words))
+    if not links:
+        return ""
+    return paragraph(f"It also takes {' and '.join([', '.join(links[:-1]), links[-1]] if links[1:] else links)}.")
+
+
+def _all_of(elements, group):
+    """The group's attributes in alphabetic order, from whichever element has them."""
+    found = {}
+    for element in elements:
+        for attribute in element.attributes:
+            if attribute.group == group:
+                found.setdefault(attribute.name, attribute)
+    return [found[name] for name in sorted(found)]
+
+
+def _related(element, known):
+    """Links to the other elements of the example."""
+    names = dict.fromkeys(re.findall(r"<(\w+)", element.example))
+    links = [link(file_name(known[name]), code(tag(name))) for name in names if name in known and name != element.name]
+    return paragraph("See also: " + ", ".join(links)) if links else ""
+
+
+def way_back():
+    return paragraph(link(INDEX, "All elements and properties"))
