@@ -144,10 +144,10 @@ QString withOnlyCrLf(const QString &text, const Breaks &breaks)
 
 QString withLineEnd(const QString &text, LineEnd lineEnd)
 {
-    const QString normal = withOnlyCrLf(text, breaksOf(text));
-    if (lineEnd == LineEnd::CrLf)
-        return normal;
-    return QString(normal).remove(lineEnd == LineEnd::Lf ? u'\r' : u'\n');
+    QString normal = withOnlyCrLf(text, breaksOf(text));
+    if (lineEnd != LineEnd::CrLf)
+        normal.remove(lineEnd == LineEnd::Lf ? u'\r' : u'\n');
+    return normal;
 }
 
 EncodedText asUtf8(const QString &text, bool mark)

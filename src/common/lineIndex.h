@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QStringView>
+#include <iterator>
 #include <vector>
 
 /// Where the lines of a text start, kept up to date through edits.
@@ -18,7 +19,7 @@ public:
     /// break in two.
     void replace(qsizetype position, qsizetype removed, QStringView inserted);
 
-    qsizetype lineCount() const { return static_cast<qsizetype>(m_front.size() + m_back.size()); }
+    qsizetype lineCount() const { return std::ssize(m_front) + std::ssize(m_back); }
     qsizetype length() const { return m_length; } ///< wide
     qsizetype narrowLength() const { return m_length - (lineCount() - 1); }
 

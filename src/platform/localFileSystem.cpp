@@ -265,7 +265,7 @@ std::optional<FileError> LocalFileSystem::copyFile(const QString &from, const QS
     const FileContents contents = readAll(from);
     if (contents.error)
         return contents.error;
-    if (const std::optional<FileError> error = writeWhole(to, contents.bytes))
+    if (std::optional<FileError> error = writeWhole(to, contents.bytes))
         return error;
     const std::optional<struct stat> status = statusOf(from);
     const QByteArray target = QFile::encodeName(to);

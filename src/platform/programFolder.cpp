@@ -79,7 +79,7 @@ QString programFolder(const ProgramPlaces &places)
 {
     if (holdsDataFiles(places.executableFolder) && QFileInfo(places.executableFolder).isWritable())
         return withoutFinalSeparator(places.executableFolder);
-    const QString folder = joinPath(places.userDataHome, QStringLiteral("tagwrighter"));
+    QString folder = joinPath(places.userDataHome, QStringLiteral("tagwrighter"));
     if (!places.installedData.isEmpty())
         seedFolder(places.installedData, folder);
     return folder;
