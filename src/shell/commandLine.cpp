@@ -7,7 +7,7 @@
 
 QString commandLineText(const QStringList &arguments)
 {
-    const QString text = arguments.join(u' ');
+    QString text = arguments.join(u' ');
     if (text.isEmpty() || text.startsWith(u'"') || !QDir::isRelativePath(text))
         return text;
     return QDir::cleanPath(QDir::current().absoluteFilePath(text));

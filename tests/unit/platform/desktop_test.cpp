@@ -276,7 +276,7 @@ protected:
     QByteArray noted() const
     {
         (void)QTest::qWaitFor([&] { return get("note") != "(missing)"; }, 5000);
-        const QByteArray note = get("note");
+        QByteArray note = get("note");
         QFile::remove(path("note"));
         return note;
     }

@@ -33,9 +33,9 @@ QByteArray Sandbox::get(const char *name) const
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArrayLiteral("(missing)");
 }
 
-QStringList Sandbox::names(const char *inside) const
+QStringList Sandbox::names(const char *folder) const
 {
-    return QDir(path(inside))
+    return QDir(path(folder))
         .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
 }
 
