@@ -13,6 +13,7 @@ namespace
 constexpr int smallestZoom = -4;
 constexpr int largestZoom = 12;
 constexpr qreal pageMargin = 18;
+constexpr qreal listIndent = 26;
 } // namespace
 
 HelpBrowser::HelpBrowser(HelpFolder &folder, QWidget *parent) : QTextBrowser(parent), m_folder(folder)
@@ -22,6 +23,7 @@ HelpBrowser::HelpBrowser(HelpFolder &folder, QWidget *parent) : QTextBrowser(par
     setFrameShape(QFrame::NoFrame);
     setOpenLinks(false);
     document()->setDocumentMargin(pageMargin);
+    document()->setIndentWidth(listIndent);
     applyTheme();
     connect(this, &QTextBrowser::anchorClicked, this, &HelpBrowser::follow);
 }

@@ -92,6 +92,14 @@ QString withCharacters(const QString &text)
     return result;
 }
 
+/// Without its first heading, which says what the title says.
+QString withoutHeading(const QString &html)
+{
+    const qsizetype begin = html.indexOf(QLatin1String("<h1"), 0, Qt::CaseInsensitive);
+    const qsizetype end = begin < 0 ? -1 : html.indexOf(QLatin1String("</h1>"), begin, Qt::CaseInsensitive);
+    return end < 0 ? html : html.first(begin) + html.sliced(end);
+}
+
 QString plainText(const QString &html)
 {
     return withCharacters(withoutTags(html)).simplified();
@@ -101,5 +109,5 @@ QString plainText(const QString &html)
 HelpText helpTextOf(const QString &page, const QString &html)
 {
     const QString body = insideOf(html, QStringLiteral("body"));
-    return {page, plainText(insideOf(html, QStringLiteral("title"))), plainText(body.isEmpty() ? html : body)};
+    return {page, plainText(insideOf(html, QStringLiteral("title"))), plainText(withoutHeading(body.isEmpty() ? html : body))};
 }

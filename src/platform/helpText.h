@@ -6,7 +6,7 @@
 struct HelpText {
     QString page;
     QString title;
-    QString text; ///< in one line, the words parted by single blanks
+    QString text; ///< in one line, the words parted by single blanks, without the first heading
 };
 
 /// The title and the text of a page's source. Of the character entities those are known that the pages use: amp, lt,

@@ -59,7 +59,6 @@ HelpWindow::HelpWindow(const QString &folder, FileSystem &files, Launcher &launc
     connect(m_navigator, &HelpNavigator::pageChosen, m_browser, &HelpBrowser::showPage);
     connect(m_browser, &QTextBrowser::sourceChanged, this, &HelpWindow::pageShown);
     connect(m_browser, &HelpBrowser::linkOutside, this, &HelpWindow::openOutside);
-    resize(firstSize(screen()));
 }
 
 QAction *HelpWindow::command(const QString &text, const QString &icon, const QList<QKeySequence> &keys,
@@ -142,8 +141,10 @@ void HelpWindow::layOut()
     halves->addWidget(reading);
     halves->setStretchFactor(1, 1);
     halves->setChildrenCollapsible(false);
-    halves->setSizes({navigatorWidth, wantedSize.width() - navigatorWidth});
     setCentralWidget(halves);
+    resize(firstSize(screen()));
+    const int side = qMin(navigatorWidth, width() / 3);
+    halves->setSizes({side, width() - side});
 }
 
 void HelpWindow::showTopic(const QString &topic)
