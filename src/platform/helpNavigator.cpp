@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QTabBar>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -63,6 +64,7 @@ HelpNavigator::HelpNavigator(HelpFolder &folder, QWidget *parent) : QTabWidget(p
     addTab(contentsTab(), QStringLiteral("&Contents"));
     addTab(indexTab(), QStringLiteral("&Index"));
     addTab(searchTab(), QStringLiteral("&Search"));
+    setMinimumWidth(tabBar()->sizeHint().width());
 }
 
 void HelpNavigator::openTab(Tab tab)
