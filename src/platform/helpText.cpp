@@ -109,5 +109,6 @@ QString plainText(const QString &html)
 HelpText helpTextOf(const QString &page, const QString &html)
 {
     const QString body = insideOf(html, QStringLiteral("body"));
-    return {page, plainText(insideOf(html, QStringLiteral("title"))), plainText(withoutHeading(body.isEmpty() ? html : body))};
+    return {page, plainText(insideOf(html, QStringLiteral("title"))),
+            plainText(withoutHeading(body.isEmpty() ? html : body))};
 }
