@@ -231,7 +231,7 @@ TEST(HelpPages, AreWellFormed)
 /// The links of a page that lead to no page of the help, and the marks that are on no page.
 QStringList deadLinks(const QString &page)
 {
-    const QRegularExpression links(q("<a href=\"([^\"]*)\""));
+    const QRegularExpression links(q("<a\\s+href=\"([^\"]*)\""));
     QStringList dead;
     for (auto i = links.globalMatch(textOf(page)); i.hasNext();) {
         const QUrl target = helpUrl(page).resolved(QUrl(i.next().captured(1)));
