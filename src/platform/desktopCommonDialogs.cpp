@@ -2,6 +2,7 @@
 
 #include "common/dialogFilter.h"
 #include "common/paths.h"
+#include "platform/boxOwner.h"
 #include "platform/themeColour.h"
 
 #include <QApplication>
@@ -73,7 +74,7 @@ std::optional<FileDialogResult> runFileDialog(QFileDialog &dialog, const FileDia
 
 std::optional<FileDialogResult> DesktopCommonDialogs::showOpen(const FileDialogRequest &request)
 {
-    QFileDialog dialog(QApplication::activeWindow());
+    QFileDialog dialog(boxOwner());
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::ExistingFile);
     return runFileDialog(dialog, request);
@@ -81,7 +82,7 @@ std::optional<FileDialogResult> DesktopCommonDialogs::showOpen(const FileDialogR
 
 std::optional<FileDialogResult> DesktopCommonDialogs::showSave(const FileDialogRequest &request)
 {
-    QFileDialog dialog(QApplication::activeWindow());
+    QFileDialog dialog(boxOwner());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
@@ -90,7 +91,7 @@ std::optional<FileDialogResult> DesktopCommonDialogs::showSave(const FileDialogR
 
 std::optional<QString> DesktopCommonDialogs::showFolder(const QString &title, const QString &initialFolder)
 {
-    QFileDialog dialog(QApplication::activeWindow(), title, initialFolder);
+    QFileDialog dialog(boxOwner(), title, initialFolder);
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
@@ -100,7 +101,7 @@ std::optional<QString> DesktopCommonDialogs::showFolder(const QString &title, co
 
 std::optional<ColourValue> DesktopCommonDialogs::showColour(ColourValue initial)
 {
-    QColorDialog dialog(shownColour(initial, QApplication::palette()), QApplication::activeWindow());
+    QColorDialog dialog(shownColour(initial, QApplication::palette()), boxOwner());
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     return colourValue(dialog.selectedColor());
@@ -108,7 +109,7 @@ std::optional<ColourValue> DesktopCommonDialogs::showColour(ColourValue initial)
 
 std::optional<FontChoice> DesktopCommonDialogs::showFont(const FontChoice &initial)
 {
-    QFontDialog dialog(QFont(initial.family, qMax(initial.points, 1)), QApplication::activeWindow());
+    QFontDialog dialog(QFont(initial.family, qMax(initial.points, 1)), boxOwner());
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     return FontChoice{dialog.selectedFont().family(), dialog.selectedFont().pointSize()};
@@ -117,7 +118,7 @@ std::optional<FontChoice> DesktopCommonDialogs::showFont(const FontChoice &initi
 std::optional<int> DesktopCommonDialogs::showPrint()
 {
     QPrinter printer;
-    QPrintDialog dialog(&printer, QApplication::activeWindow());
+    QPrintDialog dialog(&printer, boxOwner());
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     return qMax(printer.copyCount(), 1);

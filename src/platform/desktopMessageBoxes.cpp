@@ -1,5 +1,7 @@
 #include "platform/desktopMessageBoxes.h"
 
+#include "platform/boxOwner.h"
+
 #include <QApplication>
 #include <QMessageBox>
 
@@ -74,7 +76,7 @@ MessageAnswer answerOf(int button)
 
 MessageAnswer DesktopMessageBoxes::show(const MessageBox &box)
 {
-    QMessageBox window(iconOf(box.icon), box.title, QString(), buttonsOf(box.buttons), QApplication::activeWindow());
+    QMessageBox window(iconOf(box.icon), box.title, QString(), buttonsOf(box.buttons), boxOwner());
     // File names and pages are quoted in messages: none of it is ever markup.
     window.setTextFormat(Qt::PlainText);
     window.setText(QString(box.text).replace(QLatin1String("\r\n"), QLatin1String("\n")));

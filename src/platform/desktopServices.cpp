@@ -4,9 +4,9 @@
 #include "platform/clock.h"
 #include "platform/desktopClipboard.h"
 #include "platform/desktopCommonDialogs.h"
+#include "platform/desktopHelpViewer.h"
 #include "platform/desktopLauncher.h"
 #include "platform/desktopMessageBoxes.h"
-#include "platform/launchedHelpViewer.h"
 #include "platform/localFileSystem.h"
 #include "platform/modalLoop.h"
 #include "platform/programFolder.h"
@@ -37,7 +37,7 @@ struct DesktopServices::Parts {
     DesktopClipboard clipboard;
     SystemClock clock;
     Random random;
-    LaunchedHelpViewer help{joinPath(appPath, QStringLiteral("help")), files, launcher, messageBoxes};
+    DesktopHelpViewer help{joinPath(appPath, QStringLiteral("help")), files, launcher};
     QtTimerSource timers;
     EventModalLoop modalLoop;
     EventYielder yielder;

@@ -8,12 +8,14 @@
 #include <QAbstractButton>
 #include <QCloseEvent>
 #include <QDialog>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 namespace
 {
-/// A dialog's window: its close box unloads the form, and Escape presses the cancel button or does nothing.
+/// A dialog's window: its close box unloads the form, Escape presses the cancel button or does nothing, and F1 presses
+/// the button that shows the form's help, where it has one.
 class DialogWindow final : public QDialog
 {
 public:
@@ -30,6 +32,15 @@ protected:
     {
         event->ignore();
         m_unload();
+    }
+
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        auto *help = findChild<QAbstractButton *>(QStringLiteral("cmdHelp"));
+        if (event->key() == Qt::Key_F1 && event->modifiers() == Qt::NoModifier && help)
+            help->click(); // does nothing while the button is disabled
+        else
+            QDialog::keyPressEvent(event);
     }
 
 private:

@@ -13,6 +13,7 @@
 #include "platform/helpViewer.h"
 #include "platform/mdiArrange.h"
 #include "platform/messageBoxes.h"
+#include "platform/modLaunchHTMLHelp.h"
 #include "platform/services.h"
 #include "shell/frmMdi.h"
 #include "shell/settings.h"
@@ -301,17 +302,17 @@ void MainCommands::mnuHarblineWebsite_Click()
 
 void MainCommands::mnuCustomerBenefits_Click()
 {
-    m_context.services.help.show(QStringLiteral("::/topics/customers.html"));
+    OpenHelpTopic(m_context, QStringLiteral("::/topics/customers.html"));
 }
 
 void MainCommands::mnuHtmLangReg_Click()
 {
-    m_context.services.help.show(QStringLiteral("::/topics/reference/ReferenceIndex.htm"));
+    OpenHelpTopic(m_context, QStringLiteral("::/topics/reference/ReferenceIndex.htm"));
 }
 
 void MainCommands::mnuTutorial_Click()
 {
-    m_context.services.help.show(QStringLiteral("::/topics/tutorial/TutorialIndex.htm"));
+    OpenHelpTopic(m_context, QStringLiteral("::/topics/tutorial/TutorialIndex.htm"));
 }
 
 void MainCommands::openBenefitsPage()

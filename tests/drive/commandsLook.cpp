@@ -1,20 +1,25 @@
 // Looking at forms, controls and documents.
 #include "common/document.h"
 #include "common/mainWindow.h"
+#include "common/paths.h"
 #include "drive/commands.h"
 #include "drive/patterns.h"
 #include "drive/properties.h"
 #include "drive/stage.h"
 #include "drive/targets.h"
 #include "drive/told.h"
+#include "platform/desktopHelpViewer.h"
 #include "platform/form.h"
+#include "platform/helpWindow.h"
 #include "shell/application.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QPixmap>
 #include <QRegularExpression>
+#include <QTest>
 #include <QWidget>
 #include <cstdio>
 
@@ -210,17 +215,37 @@ void dump(Stage &stage, const Line &line)
         tell(dumpForm(stage, *form).join(u'\n'));
 }
 
+void savePicture(Stage &stage, QWidget &window, const QString &path)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    if (!window.grab().save(path, "PNG"))
+        stage.referee.fail(QStringLiteral("a picture in %1").arg(path),
+                           QStringLiteral("a file that cannot be written"));
+}
+
 void shot(Stage &stage, const Line &line)
 {
     stage.program();
     QWidget *window = windowOnTop();
     if (!window)
         stage.referee.fail(QStringLiteral("a window on top"), QStringLiteral("none"));
-    const QString path = line.words[0];
-    QDir().mkpath(QFileInfo(path).path());
-    if (!window->grab().save(path, "PNG"))
-        stage.referee.fail(QStringLiteral("a picture in %1").arg(path),
-                           QStringLiteral("a file that cannot be written"));
+    savePicture(stage, *window, line.words[0]);
+}
+
+// The help's calls are only recorded, so that its window comes up for the picture alone. What is searched for is typed.
+void shotHelp(Stage &stage, const Line &line)
+{
+    DesktopHelpViewer viewer(joinPath(stage.world.app(), QStringLiteral("help")), stage.desktop.files,
+                             stage.desktop.launcher);
+    viewer.show(line.words[1]);
+    const QString tab = line.words.value(2);
+    if (tab == QLatin1String("index"))
+        viewer.index();
+    else if (tab == QLatin1String("search"))
+        QTest::keyClicks(viewer.window()->findChild<QLineEdit *>(QStringLiteral("helpSearch")), line.words.value(3));
+    viewer.window()->resize(980, 680); // whatever the screen of the test is like
+    QCoreApplication::processEvents();
+    savePicture(stage, *viewer.window(), line.words[0]);
 }
 
 constexpr Command commands[] = {
@@ -236,6 +261,7 @@ constexpr Command commands[] = {
     {"print", 2, 2, print},
     {"dump", 0, 1, dump},
     {"shot", 1, 1, shot},
+    {"shot-help", 2, 4, shotHelp},
 };
 } // namespace
 

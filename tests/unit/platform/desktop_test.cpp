@@ -2,7 +2,6 @@
 #include "platform/desktopCommonDialogs.h"
 #include "platform/desktopLauncher.h"
 #include "platform/desktopMessageBoxes.h"
-#include "platform/launchedHelpViewer.h"
 #include "platform/localFileSystem.h"
 #include "platform/random.h"
 #include "sandbox.h"
@@ -306,56 +305,6 @@ TEST_F(Launching, StartsProgramsWithTheirArguments)
     EXPECT_FALSE(launcher.start(path("none")));
     EXPECT_FALSE(launcher.start(QString()));
     EXPECT_FALSE(launcher.start(q("   ")));
-}
-
-class MockLauncher : public Launcher
-{
-public:
-    MOCK_METHOD(bool, openUrl, (const QString &), (override));
-    MOCK_METHOD(bool, start, (const QString &), (override));
-};
-
-class NotedBoxes : public MessageBoxes
-{
-public:
-    MessageAnswer show(const MessageBox &box) override
-    {
-        texts += box.text;
-        return MessageAnswer::OK;
-    }
-    QStringList texts;
-};
-
-class Help : public Sandbox
-{
-protected:
-    LocalFileSystem files;
-    testing::StrictMock<MockLauncher> launcher;
-    NotedBoxes boxes;
-    LaunchedHelpViewer help{path("help"), files, launcher, boxes};
-};
-
-TEST_F(Help, IsOpenedWhereThePageIs)
-{
-    put("help/topics/Index.htm", "page");
-    put("help/contents.htm", "page");
-    put("help/index.htm", "page");
-    EXPECT_CALL(launcher, openUrl(path("help/topics/Index.htm"))).WillOnce(testing::Return(true));
-    EXPECT_CALL(launcher, openUrl(path("help/contents.htm"))).WillOnce(testing::Return(true));
-    EXPECT_CALL(launcher, openUrl(path("help/index.htm"))).WillOnce(testing::Return(true));
-    help.show(q("::/topics/Index.htm"));
-    help.contents();
-    help.index();
-    EXPECT_EQ(boxes.texts, QStringList());
-}
-
-TEST_F(Help, SaysWhereAPageIsMissing)
-{
-    put("secret.htm", "not help");
-    help.show(q("::/topics/None.htm"));
-    help.show(q("::/../secret.htm"));
-    EXPECT_EQ(boxes.texts, QStringList({q("The help page \"topics/None.htm\" could not be shown."),
-                                        q("The help page \"../secret.htm\" could not be shown.")}));
 }
 
 TEST(Random, GivesTheSameNumbersForTheSameSeed)

@@ -22,6 +22,7 @@ public:
     bool leavesInLoad = false;
     QLineEdit *txtName = nullptr;
     QPushButton *cmdOK = nullptr;
+    bool hasHelp = false;
 
 protected:
     void Form_Load() override
@@ -32,9 +33,11 @@ protected:
             return;
         }
         QPushButton *cmdCancel = nullptr;
+        const QString help = hasHelp ? QStringLiteral("cmdHelp") : QStringLiteral("cmdOther");
         setContent(ui::column(
             {ui::rows({ui::row(QStringLiteral("&Name:"), txtName = ui::text(QStringLiteral("txtName")))}),
              ui::button(controlName(QStringLiteral("picBullet"), 3), QStringLiteral("3"), {}),
+             ui::button(help, QStringLiteral("Help"), [this] { events << QStringLiteral("help"); }),
              ui::buttons({cmdOK = ui::button(QStringLiteral("cmdOK"), QStringLiteral("&OK"), [this] { cmdOK_Click(); }),
                           cmdCancel = ui::button(QStringLiteral("cmdCancel"), QStringLiteral("Cancel"), [this] {
                               events << QStringLiteral("cancel");
@@ -151,6 +154,30 @@ TEST_F(FormTest, EnterPressesTheDefaultButtonAndEscapeTheCancelButton)
     form.Show();
     QTest::keyClick(form.window(), Qt::Key_Return);
     EXPECT_EQ(form.events.last(), QStringLiteral("clicked cmdOK"));
+}
+
+TEST_F(FormTest, F1PressesTheHelpButton)
+{
+    form.hasHelp = true;
+    form.Show();
+    form.txtName->setFocus();
+    QTest::keyClick(form.txtName, Qt::Key_F1, Qt::ShiftModifier);
+    EXPECT_FALSE(form.events.contains(QStringLiteral("help")));
+    QTest::keyClick(form.txtName, Qt::Key_F1);
+    EXPECT_EQ(form.events.last(), QStringLiteral("help"));
+    EXPECT_TRUE(form.Visible());
+    form.events.clear();
+    qobject_cast<QPushButton *>(form.control(QStringLiteral("cmdHelp")))->setEnabled(false);
+    QTest::keyClick(form.txtName, Qt::Key_F1);
+    EXPECT_EQ(form.events, QStringList());
+}
+
+TEST_F(FormTest, F1DoesNothingWithoutAHelpButton)
+{
+    form.Show();
+    form.events.clear();
+    QTest::keyClick(form.txtName, Qt::Key_F1);
+    EXPECT_EQ(form.events, QStringList());
 }
 
 TEST_F(FormTest, ListsFormsInLoadingOrder)
