@@ -85,8 +85,8 @@ constexpr MenuCommand menuTable[] = {
     line("mnuDashGoto", "mnuEdit"),
     {"mnuGoto", "mnuEdit", "&Go To Line...", "Ctrl+G", "", Any, shows("frmGoToLine")},
     {"mnuGotoCharacter", "mnuEdit", "Go To &Character...", "Ctrl+Shift+G", "", Any, shows("frmGoToCharacter")},
-    {"mnuPreviousTag", "mnuEdit", "&Previous Element", "", "", Any, runs(&C::mnuPreviousTag_Click)},
-    {"mnuNextTag", "mnuEdit", "&Next Element", "", "", Any, runs(&C::mnuNextTag_Click)},
+    {"mnuPreviousTag", "mnuEdit", "&Previous Element", "F11", "", Any, runs(&C::mnuPreviousTag_Click)},
+    {"mnuNextTag", "mnuEdit", "&Next Element", "F12", "", Any, runs(&C::mnuNextTag_Click)},
     line("mnuDashLibrary", "mnuEdit"),
     {"mnuAddToCodeLibrary", "mnuEdit", "Add Code Selection to Library...", "", "", Any, shows("frmAddToCodeLib")},
 
