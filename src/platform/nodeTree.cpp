@@ -20,6 +20,18 @@ NodeTree::NodeTree(QWidget *parent) : QTreeView(parent), m_model(new NodeTreeMod
 
 NodeTree::~NodeTree() = default;
 
+void NodeTree::showNodesOf(NodeTreeModel &model)
+{
+    QItemSelectionModel *oldSelection = selectionModel();
+    NodeTreeModel *oldModel = m_model;
+    m_model = &model;
+    m_model->publish();
+    setModel(m_model);
+    delete oldSelection;
+    if (oldModel->QObject::parent() == this)
+        delete oldModel;
+}
+
 void NodeTree::setImages(const QHash<QString, QIcon> &images)
 {
     m_model->setImages(images);
