@@ -43,8 +43,8 @@ std::optional<QString> textOfFile(FileSystem &files, const QString &path)
 
 CodeLibraries::CodeLibraries()
 {
-    m_tree.setImages(treeImages());
-    m_elementNodes.setImages(elementImages());
+    m_tree->setImages(treeImages());
+    m_elementNodes->setImages(elementImages());
 }
 
 void CodeLibraries::LoadCodeLibraries(FileSystem &files, const QString &folder)
@@ -62,7 +62,7 @@ bool CodeLibraries::loadHtml(FileSystem &files, const QString &folder)
     addBranch(codes.branch);
     m_elements = std::move(codes.elements);
     if (codes.branch.complete)
-        m_htmlNodes = m_tree.size();
+        m_htmlNodes = m_tree->size();
     return codes.branch.complete;
 }
 
@@ -78,11 +78,11 @@ bool CodeLibraries::loadCss(FileSystem &files, const QString &folder)
 
 void CodeLibraries::addBranch(const CodeBranch &branch)
 {
-    const int offset = m_tree.size();
+    const int offset = m_tree->size();
     for (TreeNode node : branch.nodes) {
         if (node.parent >= 0)
             node.parent += offset;
-        m_tree.add(node);
+        m_tree->add(node);
     }
 }
 
@@ -90,8 +90,8 @@ void CodeLibraries::addElementNodes()
 {
     for (const QString &row : m_elements.lstCodeAssistantElementsFull) {
         const bool current = row.startsWith(u'e');
-        m_elementNodes.add({.text = row.sliced(1),
-                            .key = row.toLower(),
-                            .imageKey = current ? QStringLiteral("Element") : QStringLiteral("ElementDepr")});
+        m_elementNodes->add({.text = row.sliced(1),
+                             .key = row.toLower(),
+                             .imageKey = current ? QStringLiteral("Element") : QStringLiteral("ElementDepr")});
     }
 }

@@ -19,13 +19,13 @@ public:
 
     const CodeElements &elements() const override { return m_elements; }
     int HtmlCodeNodeCount() const override { return m_htmlNodes; }
-    int nodeCount() const override { return m_tree.size(); }
-    const TreeNode &node(int number) const override { return m_tree.at(number); }
+    int nodeCount() const override { return m_tree->size(); }
+    const TreeNode &node(int number) const override { return m_tree->at(number); }
 
     /// The nodes of the code tree.
-    NodeTreeModel &tree() { return m_tree; }
+    std::shared_ptr<NodeTreeModel> tree() { return m_tree; }
     /// The elements as the code assistant offers them, one root node for each row of lstCodeAssistantElementsFull.
-    NodeTreeModel &elementNodes() { return m_elementNodes; }
+    std::shared_ptr<NodeTreeModel> elementNodes() { return m_elementNodes; }
 
 private:
     bool loadHtml(FileSystem &files, const QString &folder);
@@ -33,8 +33,8 @@ private:
     void addBranch(const CodeBranch &branch);
     void addElementNodes();
 
-    NodeTreeModel m_tree;
-    NodeTreeModel m_elementNodes;
+    std::shared_ptr<NodeTreeModel> m_tree = std::make_shared<NodeTreeModel>();
+    std::shared_ptr<NodeTreeModel> m_elementNodes = std::make_shared<NodeTreeModel>();
     CodeElements m_elements;
     int m_htmlNodes = 0;
     bool m_complete = false;

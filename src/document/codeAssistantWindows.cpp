@@ -33,7 +33,7 @@ void CodeAssistant::buildList()
         ui::tree(QStringLiteral("treCodeAssistantElements"), {.nodeClick = [this](int node) { pick(node); },
                                                               .nodeDblClick = [this](int node) { pickTwice(node); }});
     if (m_context.codeElements)
-        treCodeAssistantElements->showNodesOf(*m_context.codeElements);
+        treCodeAssistantElements->showNodesOf(m_context.codeElements);
     treCodeAssistantElements->setAccessibleName(QStringLiteral("Elements"));
     treCodeAssistantElements->setFrameStyle(QFrame::NoFrame);
     treCodeAssistantElements->setRootIsDecorated(false);

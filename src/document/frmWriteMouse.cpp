@@ -45,6 +45,7 @@ void frmWrite::buildAssistant()
     tmrLineCount->setInterval(LineCountMilliseconds);
     tmrLineCount->setEnabled(true);
     connect(m_edit, &EditSurface::scrolled, tmrLineCount, &Timer::fire);
+    UpdateLineInformation();
 }
 
 void frmWrite::tmrLineCount_Timer()

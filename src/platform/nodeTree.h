@@ -4,6 +4,7 @@
 
 #include <QIcon>
 #include <QTreeView>
+#include <memory>
 #include <optional>
 
 class NodeTreeModel;
@@ -17,9 +18,9 @@ public:
     explicit NodeTree(QWidget *parent = nullptr);
     ~NodeTree() override;
 
-    /// Shows the nodes of a model that other trees may show as well, in place of its own. The model outlives the tree's
-    /// last use; selection and expansion are each tree's own.
-    void showNodesOf(NodeTreeModel &model);
+    /// Shows the nodes of a model that other trees may show as well, in place of its own; selection and expansion are
+    /// each tree's own.
+    void showNodesOf(std::shared_ptr<NodeTreeModel> model);
 
     void setImages(const QHash<QString, QIcon> &images);
     /// The number of the new node, the last child of its parent. Nothing, and no node, if the key is in the tree
@@ -49,5 +50,5 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    NodeTreeModel *m_model;
+    std::shared_ptr<NodeTreeModel> m_model;
 };

@@ -4,6 +4,7 @@
 #include "common/programState.h"
 
 #include <functional>
+#include <memory>
 
 struct Services;
 class CodeKnowledge;
@@ -24,7 +25,7 @@ struct ProgramContext {
     FileCommands *files = nullptr;                     ///< what opens, saves and closes documents
     SiteProject *project = nullptr;                    ///< the open project; nothing until there is a project pane
     const CodeKnowledge *codes = nullptr;              ///< what the program knows of HTML and CSS
-    NodeTreeModel *codeElements = nullptr;             ///< the elements that the code assistant offers in all documents
+    std::shared_ptr<NodeTreeModel> codeElements = {};  ///< the elements that the code assistant offers in all documents
     QString version = {};                              ///< the program's: major.minor.revision
     std::function<Document *()> newBlankDocument = {}; ///< shows a new, empty document; nothing if memory ran out
     std::function<Form &(const QString &)> form = {};  ///< a form of the session by its name

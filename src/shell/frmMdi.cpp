@@ -23,7 +23,7 @@ frmMdi::frmMdi(ProgramContext &context, const QString &commandLine)
 {
     context.mainWindow = this;
     context.codes = m_codes.get();
-    context.codeElements = &m_codes->elementNodes();
+    context.codeElements = m_codes->elementNodes();
     setCaption(QStringLiteral("Tagwrighter"));
 }
 
@@ -32,7 +32,7 @@ frmMdi::~frmMdi()
     discard();
     context().mainWindow = nullptr;
     context().codes = nullptr;
-    context().codeElements = nullptr;
+    context().codeElements.reset();
 }
 
 QMainWindow *frmMdi::frame() const

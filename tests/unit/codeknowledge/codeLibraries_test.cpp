@@ -45,11 +45,11 @@ TEST_F(CodeLibrariesTest, JoinsBothFilesInOneTree)
     EXPECT_EQ(codes.node(6),
               (TreeNode{QStringLiteral("color:"), QStringLiteral("color"), QStringLiteral("ImgNodeCSSProperty"), 5}));
     EXPECT_EQ(codes.node(7).parent, 6);
-    EXPECT_EQ(codes.tree().size(), 8);
-    ASSERT_EQ(codes.elementNodes().size(), 2);
-    EXPECT_EQ(codes.elementNodes().at(0),
+    EXPECT_EQ(codes.tree()->size(), 8);
+    ASSERT_EQ(codes.elementNodes()->size(), 2);
+    EXPECT_EQ(codes.elementNodes()->at(0),
               (TreeNode{QStringLiteral("<p"), QStringLiteral("e<p"), QStringLiteral("Element"), -1}));
-    EXPECT_EQ(codes.elementNodes().at(1),
+    EXPECT_EQ(codes.elementNodes()->at(1),
               (TreeNode{QStringLiteral("<u"), QStringLiteral("d<u"), QStringLiteral("ElementDepr"), -1}));
 }
 
@@ -88,7 +88,7 @@ TEST_F(CodeLibrariesTest, EndsAtALineWithoutAPlaceInTheHtmlFile)
     EXPECT_EQ(codes.nodeCount(), 3);
     EXPECT_EQ(codes.HtmlCodeNodeCount(), 0) << "it is told once the file is read";
     EXPECT_FALSE(codes.isComplete());
-    EXPECT_EQ(codes.elementNodes().size(), 2);
+    EXPECT_EQ(codes.elementNodes()->size(), 2);
     EXPECT_EQ(codes.elements().lstCodeAssistantSyntax, QStringList{QStringLiteral("<p>")});
 }
 
@@ -108,7 +108,7 @@ TEST_F(CodeLibrariesTest, GivesAnElementThatComesAgainNoSecondNodeInTheAssistant
     put("Css.tcb", "");
     load();
     EXPECT_EQ(codes.elements().lstCodeAssistantElements.size(), 4);
-    EXPECT_EQ(codes.elementNodes().size(), 3) << "its key is in the tree; a deprecated one has another";
+    EXPECT_EQ(codes.elementNodes()->size(), 3) << "its key is in the tree; a deprecated one has another";
 }
 
 class ChosenCodeTest : public CodeLibrariesTest
