@@ -5,10 +5,6 @@
 #include "platform/yielder.h"
 #include "runningProgram.h"
 
-#include <QApplication>
-#include <QKeyEvent>
-#include <QWidget>
-
 namespace
 {
 constexpr int Runs = 9;
@@ -41,15 +37,6 @@ double yieldTime(qsizetype characters)
     });
 }
 
-void press(QWidget &widget, Qt::Key key, const QString &text)
-{
-    QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier, text);
-    QApplication::sendEvent(&widget, &down);
-    QKeyEvent up(QEvent::KeyRelease, key, Qt::NoModifier, text);
-    QApplication::sendEvent(&widget, &up);
-    RunningProgram::settle();
-}
-
 /// The processor time of one key at the middle of a document, its handlers and the painting included.
 double keyTime(RunningProgram &program, qsizetype characters, Qt::Key key, const QString &text)
 {
@@ -61,7 +48,7 @@ double keyTime(RunningProgram &program, qsizetype characters, Qt::Key key, const
                Runs,
                [&] {
                    for (int i = 0; i < Keys; ++i)
-                       press(*program.surface(), key, text);
+                       program.press(key, text);
                },
                [&] {
                    edit.setSelStart(edit.textLength() / 2);

@@ -16,6 +16,7 @@ constexpr Group groups[] = {
     {"surface-colouring", surfaceColouring},
     {"surface-single-line", surfaceSingleLine},
     {"document", documentFigures},
+    {"codes", codeFigures},
     {"opening", openingFigures},
     {"idle", idleFigures},
     {"start", startFigures},

@@ -4,6 +4,7 @@
 #include "shell/settings.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QWidget>
 
 namespace
@@ -16,8 +17,11 @@ std::unique_ptr<DesktopServices> servicesAt(const QString &home)
 }
 } // namespace
 
-RunningProgram::RunningProgram() : m_services(servicesAt(m_home.path())), m_program(m_services->services())
+RunningProgram::RunningProgram(const std::function<void(const QString &)> &prepare)
+    : m_services(servicesAt(m_home.path())), m_program(m_services->services())
 {
+    if (prepare)
+        prepare(m_services->services().appPath);
     settings::write(m_services->services().settings, settings::WelcomeScreen, QStringLiteral("false"));
     m_program.Main({});
     while (!document())
@@ -28,6 +32,15 @@ RunningProgram::RunningProgram() : m_services(servicesAt(m_home.path())), m_prog
 QWidget *RunningProgram::surface()
 {
     return dynamic_cast<QWidget *>(&document()->txtEdit());
+}
+
+void RunningProgram::press(Qt::Key key, const QString &text)
+{
+    QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QApplication::sendEvent(surface(), &down);
+    QKeyEvent up(QEvent::KeyRelease, key, Qt::NoModifier, text);
+    QApplication::sendEvent(surface(), &up);
+    settle();
 }
 
 void RunningProgram::settle()

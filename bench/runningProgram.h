@@ -4,6 +4,7 @@
 #include "shell/application.h"
 
 #include <QTemporaryDir>
+#include <functional>
 #include <memory>
 
 class Document;
@@ -13,7 +14,8 @@ class QWidget;
 class RunningProgram
 {
 public:
-    RunningProgram();
+    /// `prepare` is given the program's folder before the start, to put files into it.
+    explicit RunningProgram(const std::function<void(const QString &)> &prepare = {});
 
     Application &program() { return m_program; }
     Document *document() { return m_program.context().mainWindow->activeDocument(); }
@@ -22,6 +24,8 @@ public:
     QString home() const { return m_home.path(); }
     /// Lets everything that waits happen, painting included.
     static void settle();
+    /// Presses and releases a key over the surface, and settles.
+    void press(Qt::Key key, const QString &text);
 
 private:
     QTemporaryDir m_home;

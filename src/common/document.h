@@ -30,6 +30,7 @@ public:
     bool mixedLineEnds = false;              ///< the file has line ends of more than one kind; a save makes them one
     std::optional<FileStamp> fileStamp;      ///< the file's state when it was opened or saved last; nothing if unknown
     qint16 autoSaveTicks = 0;                ///< minutes since the last automatic save
+    qsizetype AvailableDocumentLines = 0;    ///< lines as UpdateLineInformation last counted them
 
     virtual QString documentCaption() const = 0; ///< window title: "Untitled" and the number, or the full path
     virtual void setDocumentCaption(const QString &caption) = 0;
@@ -76,6 +77,7 @@ public:
     /// Lays the whole source out anew, for readers.
     virtual void OptimiseSyntax() = 0;
 
+    /// Brings what is told of the text's lines up to date.
     virtual void UpdateLineInformation() = 0;
     /// Colours the document after text was put in from outside.
     virtual void ExternalCallColourCode() = 0;

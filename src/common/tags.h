@@ -14,6 +14,3 @@ struct TagSpan {
 /// The next tag behind a position counted from 0: its "<" stands there or later. Nothing if no "<" follows, or no ">"
 /// follows that.
 std::optional<TagSpan> NextTagFrom(qsizetype position, const QString &text);
-
-/// The last tag whose "<" stands in front of a position counted from 0. Nothing if there is none, or no ">" follows it.
-std::optional<TagSpan> PreviousTagFrom(qsizetype position, const QString &text);

@@ -28,6 +28,7 @@ void frmWrite::Form_Load()
 {
     buildSurface();
     buildTimers();
+    buildAssistant();
     takeNumber();
     if (frmMdi().OpenDocumentCount == 1)
         frmMdi().SetDocumentControlsEnabled(true);
@@ -51,11 +52,7 @@ void frmWrite::buildSurface()
     connect(m_edit, &EditSurface::Change, this, &frmWrite::txtEdit_Change);
     connect(m_edit, &EditSurface::gotFocus, this, &frmWrite::txtEdit_GotFocus);
     connect(m_edit, &EditSurface::lostFocus, this, &frmWrite::txtEdit_LostFocus);
-    SurfaceHooks hooks;
-    hooks.keyDown = [this](SurfaceKey &key) { txtEdit_KeyDown(key); };
-    hooks.keyPress = [this](SurfaceCharacter &character) { txtEdit_KeyPress(character); };
-    hooks.mouseUp = [this](SurfaceMouse &mouse) { txtEdit_MouseUp(mouse); };
-    m_edit->setHooks(std::move(hooks));
+    m_edit->setHooks(surfaceHooks());
 }
 
 void frmWrite::buildTimers()
@@ -122,18 +119,6 @@ bool frmWrite::autoSaveEnabled() const
 void frmWrite::setAutoSaveEnabled(bool enabled)
 {
     tmrAutoSave->setEnabled(enabled);
-}
-
-void frmWrite::txtEdit_MouseUp(SurfaceMouse &mouse)
-{
-    CancelColouring = true;
-    if (mouse.button == Qt::RightButton)
-        showPopup(mouse.position);
-}
-
-void frmWrite::showPopup(const QPoint &point)
-{
-    frmMdi().PopupMenu(QStringLiteral("mnuPopup"), m_edit->mapToGlobal(point));
 }
 
 void frmWrite::activate()

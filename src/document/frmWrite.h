@@ -5,10 +5,12 @@
 #include "document/undoHistory.h"
 #include "platform/mdiForm.h"
 
+class CodeAssistant;
 class EditSurface;
 class QPoint;
 class Timer;
 struct SurfaceCharacter;
+struct SurfaceHooks;
 struct SurfaceKey;
 struct SurfaceMouse;
 
@@ -60,6 +62,8 @@ protected:
 private:
     void buildSurface();
     void buildTimers();
+    void buildAssistant();
+    SurfaceHooks surfaceHooks();
     void takeNumber();
     void enterSelector();
     void addTab(const QString &caption);
@@ -71,21 +75,41 @@ private:
 
     void txtEdit_Change();
     void txtEdit_KeyDown(SurfaceKey &key);
-    void txtEdit_MouseUp(SurfaceMouse &mouse);
-    void showPopup(const QPoint &point);
     void txtEdit_KeyPress(SurfaceCharacter &character);
+    void txtEdit_KeyUp();
+    void txtEdit_MouseMove(const SurfaceMouse &mouse);
+    void txtEdit_MouseUp(const SurfaceMouse &mouse);
+    void txtEdit_Click();
     void txtEdit_GotFocus();
     void txtEdit_LostFocus();
-    bool leavesForPane(const SurfaceKey &key);
-    bool opensPopup(const SurfaceKey &key);
-    bool indentByTab(const SurfaceKey &key);
+    void txtEdit_TextDropped(const QString &text);
+    void txtEdit_FilesDropped(const QStringList &paths);
+    void tmrLineCount_Timer();
+    void showPopup(const QPoint &point);
+    void setHoverLink(const QString &link);
+
+    // The steps of a key that goes down, in their order. A key that a step has used up has the code 0 from there on.
+    void stopColouring(const SurfaceKey &key);
+    void assist(SurfaceKey &key);
+    void closeAssistant(const SurfaceKey &key);
+    void indentByTab(SurfaceKey &key);
+    void breakLine(SurfaceKey &key);
+    void recordStep(const SurfaceKey &key);
+    void leaveForPane(SurfaceKey &key);
+    void openPopup(SurfaceKey &key);
+    void openHelp(SurfaceKey &key);
+    void runEditingKey(SurfaceKey &key);
     bool startIndentedLine();
-    bool runEditingKey(int key);
 
     EditSurface *m_edit = nullptr;
     Timer *tmrRefresh = nullptr;
     Timer *tmrAutoSave = nullptr;
+    Timer *tmrLineCount = nullptr;
+    CodeAssistant *m_assistant = nullptr;
     UndoHistory m_history;
     TypedColouring m_typed;
-    bool m_unloading = false; ///< activation leaves this document out
+    QString HoverLink;              ///< the address under the pointer while Ctrl is held; empty otherwise
+    qsizetype FirstVisibleLine = 0; ///< when the line information was last brought up to date
+    bool SkipLineUpdate = false; ///< set by every key but Delete: the change it makes leaves the line information alone
+    bool m_unloading = false;    ///< activation leaves this document out
 };

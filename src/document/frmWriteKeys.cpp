@@ -1,5 +1,6 @@
 // What a document window does at the keys and changes of its edit surface.
-#include "common/text.h"
+#include "codeknowledge/tagHelp.h"
+#include "document/codeAssistant.h"
 #include "document/frmWrite.h"
 #include "document/modClipboard.h"
 #include "document/typing.h"
@@ -7,6 +8,8 @@
 #include "platform/services.h"
 #include "platform/timer.h"
 #include "shell/settings.h"
+
+#include <utility>
 
 namespace
 {
@@ -20,6 +23,18 @@ bool isEnter(int key)
 bool isArrow(int key)
 {
     return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
+}
+
+Qt::KeyboardModifiers heldKeys(const SurfaceKey &key)
+{
+    return key.modifiers & RealModifiers;
+}
+
+/// The surface does nothing with the key, and neither do the steps to come.
+void useUp(SurfaceKey &key)
+{
+    key.key = 0;
+    key.discard = true;
 }
 
 /// The keys at which a word or an operation ends, so that the history takes a snapshot.
@@ -48,59 +63,81 @@ void frmWrite::txtEdit_Change()
         return;
     tmrRefresh->setEnabled(false);
     tmrRefresh->setEnabled(true);
-    boolDirty = true;
+    boolDirty = true; // by the assistant's own changes, too
+    if (!std::exchange(SkipLineUpdate, false))
+        UpdateLineInformation();
+    m_assistant->followWord();
 }
 
 void frmWrite::txtEdit_KeyDown(SurfaceKey &key)
 {
+    UpdateLineInformation();
+    if (key.key != Qt::Key_Delete)
+        SkipLineUpdate = true;
+    stopColouring(key);
+    if (m_edit->Locked())
+        return;
+    assist(key);
+    closeAssistant(key);
+    indentByTab(key);
+    breakLine(key);
+    recordStep(key);
+    leaveForPane(key);
+    openHelp(key);
+    openPopup(key);
+    runEditingKey(key);
+}
+
+/// Whatever the key, it ends a running pass.
+void frmWrite::stopColouring(const SurfaceKey &key)
+{
     CancelColouring = true;
     if (isEnter(key.key) || isArrow(key.key))
         m_edit->setSelectionFormat(m_typed.leaveTag());
-    if (m_edit->Locked())
+}
+
+void frmWrite::assist(SurfaceKey &key)
+{
+    if (heldKeys(key) != Qt::NoModifier)
         return;
-    if (key.key == Qt::Key_Tab)
-        key.discard = indentByTab(key);
-    if (isEnter(key.key) && !frmMdi().MainWindowBusy) {
-        key.discard = startIndentedLine();
-        UndoRedoChange();
-        if (key.discard)
-            return;
+    if (key.key == Qt::Key_Space || key.key == Qt::Key_Delete || isEnter(key.key)) {
+        if (m_assistant->CommitAssistant(key.key))
+            key.key = 0; // its character still goes in behind the name
+    } else if (key.key == Qt::Key_Up || key.key == Qt::Key_Down) {
+        if (m_assistant->moveIntoList(key.key))
+            useUp(key);
     }
-    if (endsAStep(key))
-        UndoRedoChange();
-    if (leavesForPane(key) || opensPopup(key))
-        key.discard = true;
-    if ((key.modifiers & RealModifiers) == Qt::ControlModifier && runEditingKey(key.key))
-        key.discard = true;
 }
 
-bool frmWrite::leavesForPane(const SurfaceKey &key)
+void frmWrite::closeAssistant(const SurfaceKey &key)
 {
-    constexpr int KeyF6 = 117;
-    return key.key == Qt::Key_F6 && frmMdi().MoveToNextPane(KeyF6, QStringLiteral("editor"));
+    if (key.key == Qt::Key_Escape)
+        m_assistant->hideAll();
 }
 
-/// The keyboard's menu key does what a right click at the caret does.
-bool frmWrite::opensPopup(const SurfaceKey &key)
+void frmWrite::indentByTab(SurfaceKey &key)
 {
-    if (key.key != Qt::Key_Menu)
-        return false;
-    showPopup(m_edit->positionOfCharacter(m_edit->SelStart()).bottomLeft());
-    return true;
-}
-
-bool frmWrite::indentByTab(const SurfaceKey &key)
-{
-    const Qt::KeyboardModifiers held = key.modifiers & RealModifiers;
-    if (held.testFlag(Qt::ControlModifier) || held.testFlag(Qt::AltModifier))
-        return false; // the desktop's own
+    const Qt::KeyboardModifiers held = heldKeys(key);
+    if (key.key != Qt::Key_Tab || held.testFlag(Qt::ControlModifier) || held.testFlag(Qt::AltModifier))
+        return; // with those it is the desktop's own
     const bool outdent = held == Qt::ShiftModifier;
-    if (m_edit->SelLength() > 0 || outdent)
+    if (m_edit->SelLength() > 0 || outdent) {
         IndentText(!outdent);
-    else
+    } else {
         m_edit->setSelText(QStringLiteral("   "));
+        key.key = Qt::Key_Space; // which is what it stands for from here on
+    }
+    key.discard = true;
     m_edit->SetFocus();
-    return true;
+}
+
+void frmWrite::breakLine(SurfaceKey &key)
+{
+    if (!isEnter(key.key) || frmMdi().MainWindowBusy)
+        return;
+    if (startIndentedLine())
+        useUp(key);
+    UndoRedoChange();
 }
 
 bool frmWrite::startIndentedLine()
@@ -113,31 +150,71 @@ bool frmWrite::startIndentedLine()
     return true;
 }
 
-bool frmWrite::runEditingKey(int key)
+void frmWrite::recordStep(const SurfaceKey &key)
 {
-    switch (key) {
+    if (endsAStep(key))
+        UndoRedoChange();
+}
+
+void frmWrite::leaveForPane(SurfaceKey &key)
+{
+    constexpr int KeyF6 = 117;
+    if (key.key == Qt::Key_F6 && frmMdi().MoveToNextPane(KeyF6, QStringLiteral("editor")))
+        useUp(key);
+}
+
+void frmWrite::openHelp(SurfaceKey &key)
+{
+    if (key.key != Qt::Key_F1)
+        return;
+    ShowTagHelp(context());
+    useUp(key);
+}
+
+/// The keyboard's menu key does what a right click at the caret does.
+void frmWrite::openPopup(SurfaceKey &key)
+{
+    if (key.key != Qt::Key_Menu)
+        return;
+    showPopup(m_edit->positionOfCharacter(m_edit->SelStart()).bottomLeft());
+    useUp(key);
+}
+
+void frmWrite::runEditingKey(SurfaceKey &key)
+{
+    if (heldKeys(key) != Qt::ControlModifier)
+        return;
+    switch (key.key) {
     case Qt::Key_V:
-        if (!frmMdi().MainWindowBusy)
-            PasteToDocument(context());
-        return true;
+        if (frmMdi().MainWindowBusy)
+            return;
+        PasteToDocument(context());
+        break;
     case Qt::Key_X:
         CutToClipboard(context());
-        return true;
+        break;
     case Qt::Key_Z:
         Undo();
-        return true;
+        break;
     case Qt::Key_Y:
         Redo();
-        return true;
+        break;
     default:
-        return false;
+        return;
     }
+    useUp(key);
 }
 
 void frmWrite::txtEdit_KeyPress(SurfaceCharacter &character)
 {
     if (m_edit->Locked())
         return;
+    if (character.text == u"<")
+        m_assistant->CommitAssistant(Qt::Key_Less);
+    else if (character.text == u">")
+        m_assistant->hideTip();
+    else if (character.text == u" " && character.committed)
+        m_assistant->CommitAssistant(Qt::Key_Space); // an input method's blank comes without a key
     const auto part = [this](qsizetype start, qsizetype length) { return m_edit->textPart(start, length); };
     const TypedResult result = m_typed.keyPress(character.text, m_edit->SelStart(), part, frmMdi().colouring);
     if (result.writesClosingBracket) {
@@ -148,6 +225,11 @@ void frmWrite::txtEdit_KeyPress(SurfaceCharacter &character)
         m_edit->setSelectionFormat(result.format);
 }
 
+void frmWrite::txtEdit_KeyUp()
+{
+    m_assistant->followCaret();
+}
+
 void frmWrite::txtEdit_GotFocus()
 {
     if (m_unloading)
@@ -155,6 +237,7 @@ void frmWrite::txtEdit_GotFocus()
     if (!ColouringActive)
         frmMdi().SetStatusReady();
     frmMdi().selectDocumentTab(DocKeyDescription);
+    txtEdit_KeyUp();
 }
 
 void frmWrite::txtEdit_LostFocus()

@@ -1,4 +1,5 @@
 // What a document window does to its whole text: colouring, history, indentation and the optimiser.
+#include "document/codeAssistant.h"
 #include "document/colouringPass.h"
 #include "document/frmWrite.h"
 #include "document/indentation.h"
@@ -26,6 +27,8 @@ void frmWrite::RecolourDocument()
 
 void frmWrite::ExternalCallColourCode()
 {
+    if (m_assistant->isListShown()) // the pass would take the focus from it
+        return;
     const QPointer<frmWrite> self(this);
     RecolourDocument();
     if (self)
@@ -42,10 +45,13 @@ void frmWrite::tmrRefresh_Timer()
     ExternalCallColourCode();
 }
 
+/// The margin itself is drawn with the text; what is kept here is what others ask for.
 void frmWrite::UpdateLineInformation()
 {
-    if (m_edit && !ColouringActive)
-        m_edit->viewport()->update();
+    if (!m_edit || ColouringActive)
+        return;
+    AvailableDocumentLines = m_edit->lineCount();
+    FirstVisibleLine = m_edit->firstVisibleLine();
 }
 
 void frmWrite::take(const TextSelection &selection)

@@ -97,6 +97,8 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     bool canInsertFromMimeData(const QMimeData *source) const override;
     void insertFromMimeData(const QMimeData *source) override;
@@ -131,6 +133,7 @@ private:
     void placeMargin();
     void moveMargin(const QRect &rect, int dy);
     void paintWithoutSelection(QPaintEvent *event);
+    bool ownerTakes(const QDropEvent &event) const;
     bool discarded(const std::function<void(SurfaceMouse &)> &hook, QMouseEvent *event);
 
     SurfaceHooks m_hooks;

@@ -129,7 +129,7 @@ void EditSurface::keyPressEvent(QKeyEvent *event)
     event->accept();
     if (discards(m_hooks.keyDown, keyOf(*event)))
         return;
-    if (!character.isEmpty() && discards(m_hooks.keyPress, {character}))
+    if (!character.isEmpty() && discards(m_hooks.keyPress, {.text = character}))
         return;
     const Step step(this); // a key over a selection is one change, though the widget makes it in two
     if (m_locked && !onlyReads(*event))
@@ -159,7 +159,7 @@ void EditSurface::inputMethodEvent(QInputMethodEvent *event)
         const QScopedValueRollback<bool> composing(m_formatsOnly, true); // reported as a change of the line
         return QPlainTextEdit::inputMethodEvent(event);
     }
-    const bool unwanted = discards(m_hooks.keyPress, {committed});
+    const bool unwanted = discards(m_hooks.keyPress, {.text = committed, .committed = true});
     const Step step(this);
     if (!unwanted && !SurfaceText::needsCare(committed))
         return QPlainTextEdit::inputMethodEvent(event);
@@ -203,6 +203,30 @@ void EditSurface::contextMenuEvent(QContextMenuEvent *event)
         QPlainTextEdit::contextMenuEvent(event);
 }
 
+/// Whether a drop goes to the owner, as text or as files, and not to a place in the text.
+bool EditSurface::ownerTakes(const QDropEvent &event) const
+{
+    const auto *source = qobject_cast<const QWidget *>(event.source());
+    const bool isOwn = source && (source == this || isAncestorOf(source));
+    return !isOwn && m_hooks.textDropped && canInsertFromMimeData(event.mimeData());
+}
+
+void EditSurface::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (ownerTakes(*event))
+        event->acceptProposedAction();
+    else
+        QPlainTextEdit::dragEnterEvent(event);
+}
+
+void EditSurface::dragMoveEvent(QDragMoveEvent *event)
+{
+    if (ownerTakes(*event))
+        event->acceptProposedAction(); // without the mark of a place
+    else
+        QPlainTextEdit::dragMoveEvent(event);
+}
+
 void EditSurface::dropEvent(QDropEvent *event)
 {
     const QStringList files = localFiles(*event->mimeData());
@@ -211,6 +235,11 @@ void EditSurface::dropEvent(QDropEvent *event)
         QPlainTextEdit::dragLeaveEvent(&leave);
         event->acceptProposedAction();
         m_hooks.filesDropped(files);
+        return;
+    }
+    if (ownerTakes(*event)) {
+        event->acceptProposedAction();
+        m_hooks.textDropped(event->mimeData()->text());
         return;
     }
     const Step step(this); // the text that was dragged goes and comes in one

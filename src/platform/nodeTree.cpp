@@ -5,9 +5,9 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 
-NodeTree::NodeTree(QWidget *parent) : QTreeView(parent), m_model(new NodeTreeModel(this))
+NodeTree::NodeTree(QWidget *parent) : QTreeView(parent), m_model(std::make_shared<NodeTreeModel>())
 {
-    setModel(m_model);
+    setModel(m_model.get());
     setHeaderHidden(true);
     setUniformRowHeights(true);
     setEditTriggers(NoEditTriggers);
@@ -18,7 +18,19 @@ NodeTree::NodeTree(QWidget *parent) : QTreeView(parent), m_model(new NodeTreeMod
             [this](const QModelIndex &index) { Q_EMIT nodeDoubleClicked(nodeOf(index)); });
 }
 
-NodeTree::~NodeTree() = default;
+NodeTree::~NodeTree()
+{
+    setModel(nullptr); // which may go now, in front of the view
+}
+
+void NodeTree::showNodesOf(std::shared_ptr<NodeTreeModel> model)
+{
+    QItemSelectionModel *oldSelection = selectionModel();
+    model->publish();
+    setModel(model.get());
+    delete oldSelection;
+    m_model = std::move(model);
+}
 
 void NodeTree::setImages(const QHash<QString, QIcon> &images)
 {

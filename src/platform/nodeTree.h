@@ -1,18 +1,13 @@
 #pragma once
 
+#include "common/treeNode.h"
+
 #include <QIcon>
 #include <QTreeView>
+#include <memory>
 #include <optional>
 
 class NodeTreeModel;
-
-/// One node as it is added. Nodes are numbered from 0 in the order of adding.
-struct TreeNode {
-    QString text;
-    QString key;      ///< unique in its tree; empty for a node without one
-    QString imageKey; ///< one of the tree's images; empty for none
-    int parent = -1;  ///< the number of the node it stands under; -1 for a root
-};
 
 /// A tree drawn from a flat list of nodes. Adding is cheap, thousands of nodes at a time: the view takes them over in
 /// one go when it next draws or is asked.
@@ -22,6 +17,10 @@ class NodeTree final : public QTreeView
 public:
     explicit NodeTree(QWidget *parent = nullptr);
     ~NodeTree() override;
+
+    /// Shows the nodes of a model that other trees may show as well, in place of its own; selection and expansion are
+    /// each tree's own.
+    void showNodesOf(std::shared_ptr<NodeTreeModel> model);
 
     void setImages(const QHash<QString, QIcon> &images);
     /// The number of the new node, the last child of its parent. Nothing, and no node, if the key is in the tree
@@ -51,5 +50,5 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    NodeTreeModel *m_model;
+    std::shared_ptr<NodeTreeModel> m_model;
 };

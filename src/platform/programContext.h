@@ -4,11 +4,14 @@
 #include "common/programState.h"
 
 #include <functional>
+#include <memory>
 
 struct Services;
+class CodeKnowledge;
 class FileCommands;
 class Form;
 class FormRuntime;
+class NodeTreeModel;
 class SiteProject;
 class ScreenPointer;
 
@@ -21,6 +24,8 @@ struct ProgramContext {
     MainWindow *mainWindow = nullptr;                  ///< set by the main window's form for as long as it exists
     FileCommands *files = nullptr;                     ///< what opens, saves and closes documents
     SiteProject *project = nullptr;                    ///< the open project; nothing until there is a project pane
+    const CodeKnowledge *codes = nullptr;              ///< what the program knows of HTML and CSS
+    std::shared_ptr<NodeTreeModel> codeElements = {};  ///< the elements that the code assistant offers in all documents
     QString version = {};                              ///< the program's: major.minor.revision
     std::function<Document *()> newBlankDocument = {}; ///< shows a new, empty document; nothing if memory ran out
     std::function<Form &(const QString &)> form = {};  ///< a form of the session by its name

@@ -16,7 +16,8 @@ struct SurfaceKey {
 /// or the text that an input method commits.
 struct SurfaceCharacter {
     QString text;
-    bool discard = false; ///< set by a handler: the character does not go into the text
+    bool committed = false; ///< by an input method: no key went down for it
+    bool discard = false;   ///< set by a handler: the character does not go into the text
 };
 
 struct SurfaceMouse {
@@ -36,4 +37,6 @@ struct SurfaceHooks {
     std::function<void(SurfaceMouse &)> mouseMove; ///< with or without a button down
     std::function<void(SurfaceMouse &)> mouseUp;
     std::function<void(const QStringList &)> filesDropped; ///< native paths; without it files cannot be dropped
+    /// Text from elsewhere than this surface; without it, it goes in where it is dropped.
+    std::function<void(const QString &)> textDropped;
 };

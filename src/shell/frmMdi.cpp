@@ -1,5 +1,6 @@
 #include "shell/frmMdi.h"
 
+#include "codeknowledge/codeLibraries.h"
 #include "common/fileCommands.h"
 #include "platform/formRuntime.h"
 #include "platform/inputGate.h"
@@ -17,9 +18,12 @@
 frmMdi::frmMdi(ProgramContext &context, const QString &commandLine)
     : Form(context, QStringLiteral("frmMdi")),
       m_commandLine(commandLine),
-      m_commands(std::make_unique<MainCommands>(*this, context))
+      m_commands(std::make_unique<MainCommands>(*this, context)),
+      m_codes(std::make_unique<CodeLibraries>())
 {
     context.mainWindow = this;
+    context.codes = m_codes.get();
+    context.codeElements = m_codes->elementNodes();
     setCaption(QStringLiteral("Tagwrighter"));
 }
 
@@ -27,6 +31,8 @@ frmMdi::~frmMdi()
 {
     discard();
     context().mainWindow = nullptr;
+    context().codes = nullptr;
+    context().codeElements.reset();
 }
 
 QMainWindow *frmMdi::frame() const

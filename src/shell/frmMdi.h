@@ -5,6 +5,7 @@
 
 #include <memory>
 
+class CodeLibraries;
 class CoolBar;
 class InputGate;
 class MainCommands;
@@ -87,6 +88,9 @@ private:
     void restoreSplit();
     void restoreBands();
     void restorePlacement();
+    void loadCodes();
+    void fillCodeTree();
+    void fillCodeLists();
     void picAddress_Resize();
     void openCommandLineFile();
     void decideWelcome();
@@ -111,6 +115,7 @@ private:
     const QString &m_commandLine;
     InputGate *m_gate = nullptr;
     std::unique_ptr<MainCommands> m_commands;
+    std::unique_ptr<CodeLibraries> m_codes;
     CoolBar *cbrMain = nullptr;
     QComboBox *cboFont = nullptr;
     QComboBox *cboSize = nullptr;

@@ -183,6 +183,8 @@ void frmMdi::treStructure_NodeClick(int node)
 
 void frmMdi::PopupMenu(const QString &name, const QPoint &position)
 {
+    if (name == u"mnuPopup")
+        m_commands->enableSelectionEntries();
     if (QMenu *menu = m_commands->menu(name))
         menu->popup(position);
 }

@@ -2,7 +2,7 @@
 #include "shell/frmMdiCommands.h"
 
 #include "common/fileCommands.h"
-#include "common/tags.h"
+#include "document/elementSteps.h"
 #include "document/modClipboard.h"
 #include "document/modDocument.h"
 #include "insertion/modCode.h"
@@ -140,27 +140,18 @@ void MainCommands::deleteSelection()
 
 void MainCommands::mnuPreviousTag_Click()
 {
-    moveToTag(false);
+    if (Document *active = document()) {
+        SelectPreviousElement(active->txtEdit());
+        active->txtEdit().SetFocus();
+    }
 }
 
 void MainCommands::mnuNextTag_Click()
 {
-    moveToTag(true);
-}
-
-void MainCommands::moveToTag(bool forwards)
-{
-    Document *active = document();
-    if (!active)
-        return;
-    TextSurface &edit = active->txtEdit();
-    const auto tag = forwards ? NextTagFrom(edit.SelStart() + edit.SelLength(), edit.Text())
-                              : PreviousTagFrom(edit.SelStart(), edit.Text());
-    if (tag) {
-        edit.setSelStart(tag->start);
-        edit.setSelLength(tag->length);
+    if (Document *active = document()) {
+        SelectNextElement(active->txtEdit());
+        active->txtEdit().SetFocus();
     }
-    edit.SetFocus();
 }
 
 void MainCommands::mnuShowbar_Click()

@@ -27,6 +27,8 @@ public:
     QAction *action(const QString &name) const { return m_actions.value(name); }
     QToolBar *toolBar(const QString &name) const { return m_toolBars.value(name); }
     QMenu *menu(const QString &name) const;
+    /// Enables the entries of the edit surface's pop-up menu that act on a selection, as it opens at the mouse.
+    void enableSelectionEntries();
 
     // File
     void mnuOpen_Click();
@@ -101,7 +103,6 @@ private:
     void mnuPopup_Open();
 
     void openRecentFile(int index);
-    void moveToTag(bool forwards);
     void indent(bool further);
     Document *document() const;
 

@@ -42,6 +42,7 @@ void frmMdi::Form_Load()
         return;
     }
     restoreState();
+    loadCodes();
     openCommandLineFile();
     picAddress_Resize();
     decideWelcome();

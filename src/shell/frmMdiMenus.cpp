@@ -161,6 +161,15 @@ void MainCommands::followMenus()
     follow("mnuPopup", &MainCommands::mnuPopup_Open);
 }
 
+void MainCommands::enableSelectionEntries()
+{
+    constexpr qsizetype LeastSelected = 2; // a single selected character does not count
+    const Document *active = document();
+    const bool selected = active && active->txtEdit().SelLength() >= LeastSelected;
+    for (const char *name : {"mnuPCut", "mnuPCopy"})
+        action(QLatin1String(name))->setEnabled(selected);
+}
+
 bool MainCommands::isAvailable(const CommandAction &action) const
 {
     if (action.kind == Kind::Form)

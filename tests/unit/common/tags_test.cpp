@@ -34,24 +34,3 @@ TEST(NextTag, oneWithoutItsEndIsNone)
 {
     EXPECT_EQ(NextTagFrom(0, QStringLiteral("text <b")), std::nullopt);
 }
-
-TEST(PreviousTag, theLastOneInFrontOfThePosition)
-{
-    EXPECT_EQ(PreviousTagFrom(page.size(), page), (TagSpan{QStringLiteral("</b>"), 23, 4}));
-    EXPECT_EQ(PreviousTagFrom(23, page), (TagSpan{QStringLiteral("<b>"), 17, 3}));
-}
-
-TEST(PreviousTag, aPositionInsideATagFindsThatTag)
-{
-    EXPECT_EQ(PreviousTagFrom(8, page), (TagSpan{QStringLiteral("</p>"), 6, 4}));
-}
-
-TEST(PreviousTag, atTheStartOfTheTextThereIsNone)
-{
-    EXPECT_EQ(PreviousTagFrom(0, page), std::nullopt);
-}
-
-TEST(PreviousTag, oneWithoutItsEndIsNone)
-{
-    EXPECT_EQ(PreviousTagFrom(3, QStringLiteral("a<b c")), std::nullopt);
-}

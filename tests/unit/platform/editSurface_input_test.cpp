@@ -171,6 +171,37 @@ TEST_F(EditSurfaceInput, TakesDroppedText)
     EXPECT_EQ(changes.count(), 1);
 }
 
+TEST_F(EditSurfaceInput, HandsDroppedTextToAnOwnerThatWantsIt)
+{
+    surface.setText(QStringLiteral("ab"));
+    QString dropped;
+    SurfaceHooks hooks;
+    hooks.textDropped = [&](const QString &text) { dropped = text; };
+    surface.setHooks(hooks);
+    QMimeData text;
+    text.setText(QStringLiteral("x\ny"));
+    drop(text);
+    EXPECT_TRUE(accepted);
+    EXPECT_EQ(dropped, QStringLiteral("x\ny"));
+    EXPECT_EQ(surface.Text(), QStringLiteral("ab"));
+    surface.setLocked(true);
+    text.setText(QStringLiteral("z"));
+    drop(text);
+    EXPECT_FALSE(accepted);
+    EXPECT_EQ(dropped, QStringLiteral("x\ny"));
+}
+
+TEST_F(EditSurfaceInput, TellsWhatAnInputMethodCommitsFromWhatIsTyped)
+{
+    QStringList seen;
+    SurfaceHooks hooks;
+    hooks.keyPress = [&](SurfaceCharacter &c) { seen << c.text + (c.committed ? u'c' : u't'); };
+    surface.setHooks(hooks);
+    sendCharacter(u'a');
+    commit(QStringLiteral("b"));
+    EXPECT_EQ(seen, (QStringList{QStringLiteral("at"), QStringLiteral("bc")}));
+}
+
 TEST_F(EditSurfaceInput, HandsDroppedFilesToTheOwner)
 {
     QMimeData files;

@@ -1,5 +1,7 @@
 #include "platform/nodeTree.h"
 
+#include "platform/nodeTreeModel.h"
+
 #include <QSignalSpy>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -149,5 +151,24 @@ TEST(NodeTree, TellsTheViewOfThousandsOfNodesAtOnce)
     EXPECT_EQ(notices.count(), 1) << "the view hears of the new root only, whatever comes with it";
     EXPECT_EQ(tree.model()->rowCount(tree.indexOf(0)), 100);
     EXPECT_EQ(tree.model()->rowCount(tree.indexOf(1)), 59);
+}
+
+TEST(NodeTree, ShowsAModelThatOthersShowToo)
+{
+    const auto model = std::make_shared<NodeTreeModel>();
+    model->add({str("one"), {}, {}, -1});
+    NodeTree first;
+    auto second = std::make_unique<NodeTree>();
+    first.showNodesOf(model);
+    second->showNodesOf(model);
+    model->add({str("two"), {}, {}, 0});
+    EXPECT_EQ(first.nodeCount(), 2);
+    EXPECT_EQ(second->nodeAt(1).text, str("two"));
+    first.selectNode(1);
+    EXPECT_EQ(first.selectedNode(), 1);
+    EXPECT_EQ(second->selectedNode(), std::nullopt) << "what is chosen is each tree's own";
+    EXPECT_FALSE(second->isNodeExpanded(0));
+    second.reset();
+    EXPECT_EQ(first.selectedNode(), 1);
 }
 } // namespace

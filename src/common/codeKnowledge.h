@@ -1,0 +1,34 @@
+#pragma once
+
+#include "common/treeNode.h"
+
+#include <QStringList>
+
+/// The elements of HTML as the code assistant and the context help use them: row n of each list speaks of the same
+/// element, in the order of the data file. A file that could not be read to its end leaves the last list a row short.
+struct CodeElements {
+    QStringList lstCodeAssistantElements;     ///< "<" and the name
+    QStringList lstCodeAssistantElementsFull; ///< "e<" and the name, "d<" for a deprecated element
+    QStringList lstCodeAssistantSyntax;       ///< "<", the name, the attributes with their hints, ">"
+    bool operator==(const CodeElements &) const = default;
+};
+
+/// What the program knows of HTML and CSS. It is read once, as the main window loads, and never changes.
+class CodeKnowledge
+{
+public:
+    CodeKnowledge() = default;
+    CodeKnowledge(const CodeKnowledge &) = delete;
+    CodeKnowledge &operator=(const CodeKnowledge &) = delete;
+    virtual ~CodeKnowledge() = default;
+
+    virtual const CodeElements &elements() const = 0;
+
+    /// The nodes of the HTML branch of the code tree, its root included: they are the nodes 0 to this number - 1. It is
+    /// 0 unless the whole branch could be read.
+    virtual int HtmlCodeNodeCount() const = 0;
+    /// The code tree, the program's one dictionary of elements, attributes and values. Nodes are numbered from 0; the
+    /// roots have the keys "html" and "css".
+    virtual int nodeCount() const = 0;
+    virtual const TreeNode &node(int number) const = 0;
+};

@@ -1,0 +1,62 @@
+#include "document/assistantPlacing.h"
+
+#include <algorithm>
+
+namespace
+{
+// In pixels of 15 twips.
+constexpr int listGapX = 16;
+constexpr int listGapY = 8;
+constexpr int tipGap = 8;
+constexpr int tipStep = 200; ///< how far a tip goes back that would pass the right edge
+constexpr int tipEdge = 4;
+
+/// A row, and half a row of air.
+int oneRow(const TipText &text)
+{
+    return text.rowHeight + text.rowHeight / 2;
+}
+
+QSize sizeOfTip(const AssistantGround &ground, const TipText &text)
+{
+    const int width = tipGap + text.width;
+    if (width <= ground.area.width())
+        return {width, oneRow(text)};
+    const int room = std::max(ground.edit.width() - tipGap, 1);
+    return {room, oneRow(text) + (text.rows(room) - 1) * text.rowHeight};
+}
+
+int leftOfTip(const AssistantGround &ground, int width)
+{
+    int left = ground.caret.x();
+    if (left + width > ground.area.width())
+        left -= tipStep;
+    const bool outside = left < ground.edit.left() || left + width > ground.edit.right() + 1;
+    return outside ? ground.edit.left() + tipEdge : left;
+}
+} // namespace
+
+QRect placeOfList(const AssistantGround &ground, const QSize &wanted)
+{
+    const QSize size = wanted.boundedTo(ground.area);
+    QRect place(ground.caret + QPoint(listGapX, listGapY), size);
+    if (place.right() >= ground.area.width())
+        place.moveLeft(ground.caret.x() - size.width());
+    if (place.bottom() >= ground.area.height())
+        place.moveTop(place.top() - size.height() - ground.lineHeight);
+    place.moveLeft(std::max(place.left(), 0));
+    place.moveTop(std::max(place.top(), 0));
+    return place;
+}
+
+QRect placeOfTip(const AssistantGround &ground, const TipText &text)
+{
+    QSize size = sizeOfTip(ground, text);
+    const int below = ground.caret.y() + std::max(oneRow(text), ground.lineHeight);
+    const int roomBelow = ground.area.height() - below;
+    const int roomAbove = ground.caret.y();
+    const bool goesAbove = size.height() > roomBelow && roomAbove > roomBelow;
+    size.setHeight(std::min(size.height(), std::max(goesAbove ? roomAbove : roomBelow, oneRow(text))));
+    const int top = goesAbove ? ground.caret.y() - size.height() : below;
+    return {QPoint(leftOfTip(ground, size.width()), top), size};
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QRect>
+#include <QSize>
+#include <functional>
+
+/// Where the code assistant's pop-up and tip stand, in pixels of the document window's area.
+struct AssistantGround {
+    QSize area;         ///< the whole document window
+    QRect edit;         ///< the text's part of it, without the margin of line numbers
+    QPoint caret;       ///< the top of the caret's line, at the caret
+    int lineHeight = 0; ///< of the text
+};
+
+/// The pop-up of that size: to the right of the caret and below; on the other side, or above the line, where it would
+/// pass the area. What is larger than the area is cut to it.
+QRect placeOfList(const AssistantGround &ground, const QSize &size);
+
+/// How the tip measures its text.
+struct TipText {
+    int width = 0;                      ///< of the whole text in one row
+    int rowHeight = 0;                  ///< of a row
+    std::function<int(int width)> rows; ///< how many it takes in a tip so wide
+};
+
+/// The tip: below the caret's line, above it where there is no room; one row, or as many as a text takes that is wider
+/// than the area. Never over the caret's line, so a text of very many rows is cut to the higher of the two sides.
+QRect placeOfTip(const AssistantGround &ground, const TipText &text);

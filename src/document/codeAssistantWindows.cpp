@@ -1,0 +1,143 @@
+// The code assistant's list and tip as windows: their making, their places, and when they are on show.
+#include "common/codeKnowledge.h"
+#include "document/assistantPlacing.h"
+#include "document/codeAssistant.h"
+#include "document/syntaxTip.h"
+#include "platform/controls.h"
+#include "platform/editSurface.h"
+#include "platform/nodeTree.h"
+#include "platform/programContext.h"
+#include "platform/services.h"
+#include "shell/settings.h"
+
+#include <QFrame>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QVBoxLayout>
+#include <algorithm>
+
+namespace
+{
+constexpr int listRows = 10;
+constexpr int listCharacters = 30;
+} // namespace
+
+void CodeAssistant::buildList()
+{
+    picCodeAsssitantBack = new QFrame(&m_area);
+    picCodeAsssitantBack->setObjectName(QStringLiteral("picCodeAsssitantBack"));
+    picCodeAsssitantBack->setFrameStyle(QFrame::Box | QFrame::Plain);
+    picCodeAsssitantBack->hide();
+    treCodeAssistantElements =
+        ui::tree(QStringLiteral("treCodeAssistantElements"), {.nodeClick = [this](int node) { pick(node); },
+                                                              .nodeDblClick = [this](int node) { pickTwice(node); }});
+    if (m_context.codeElements)
+        treCodeAssistantElements->showNodesOf(m_context.codeElements);
+    treCodeAssistantElements->setAccessibleName(QStringLiteral("Elements"));
+    treCodeAssistantElements->setFrameStyle(QFrame::NoFrame);
+    treCodeAssistantElements->setRootIsDecorated(false);
+    treCodeAssistantElements->header()->setSectionResizeMode(
+        QHeaderView::Stretch);                              // rows are marked in all their width
+    treCodeAssistantElements->setFocusPolicy(Qt::TabFocus); // a click picks, and typing goes on
+    ui::onKeyDown(treCodeAssistantElements, [this](const QKeyEvent &event) { return listKey(event.key()); });
+    auto *layout = new QVBoxLayout(picCodeAsssitantBack);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(treCodeAssistantElements);
+}
+
+void CodeAssistant::buildTip()
+{
+    txtCodeAssistantSyntax = new SyntaxTip(&m_area);
+    txtCodeAssistantSyntax->setObjectName(QStringLiteral("txtCodeAssistantSyntax"));
+    txtCodeAssistantSyntax->setAccessibleName(QStringLiteral("Syntax"));
+    txtCodeAssistantSyntax->hide();
+    connect(txtCodeAssistantSyntax, &SyntaxTip::clicked, this, &CodeAssistant::hideTip);
+    connect(txtCodeAssistantSyntax, &SyntaxTip::gotFocus, &m_edit, &EditSurface::SetFocus);
+    lblCodeAssistantTextSize = ui::label(QStringLiteral("lblCodeAssistantTextSize"), {});
+    lblCodeAssistantTextSize->setParent(&m_area);
+    lblCodeAssistantTextSize->hide();
+    QFont bold = txtCodeAssistantSyntax->font(); // no part of the tip is wider
+    bold.setBold(true);
+    lblCodeAssistantTextSize->setFont(bold);
+}
+
+bool CodeAssistant::popupsWanted() const
+{
+    return settings::isOn(m_context.services.settings, settings::CodeSelPopups);
+}
+
+bool CodeAssistant::isListShown() const
+{
+    return !picCodeAsssitantBack->isHidden();
+}
+
+void CodeAssistant::setListShown(bool shown)
+{
+    if (shown == isListShown())
+        return;
+    if (!shown && treCodeAssistantElements->hasFocus())
+        m_edit.SetFocus();
+    picCodeAsssitantBack->setVisible(shown);
+    picCodeAsssitantBack->raise();
+}
+
+void CodeAssistant::hideTip()
+{
+    txtCodeAssistantSyntax->hide();
+}
+
+void CodeAssistant::hideAll()
+{
+    setListShown(false);
+    hideTip();
+}
+
+void CodeAssistant::showTip()
+{
+    const QString syntax =
+        m_context.codes ? m_context.codes->elements().lstCodeAssistantSyntax.value(AssistantIndex) : QString();
+    lblCodeAssistantTextSize->setText(syntax);
+    txtCodeAssistantSyntax->setSyntax(syntax);
+    placeTip();
+    setListShown(false);
+    if (!popupsWanted())
+        return;
+    txtCodeAssistantSyntax->show();
+    txtCodeAssistantSyntax->raise();
+}
+
+AssistantGround CodeAssistant::ground() const
+{
+    const QRect caret = m_edit.positionOfCharacter(m_edit.SelStart());
+    const QWidget &text = *m_edit.viewport();
+    return {.area = m_area.size(),
+            .edit = {text.mapTo(&m_area, QPoint()), text.size()},
+            .caret = m_edit.mapTo(&m_area, caret.topLeft()),
+            .lineHeight = caret.height()};
+}
+
+void CodeAssistant::placeList()
+{
+    const int frame = 2 * picCodeAsssitantBack->frameWidth();
+    const QSize size(listCharacters * treCodeAssistantElements->fontMetrics().averageCharWidth(),
+                     listRows * treCodeAssistantElements->sizeHintForRow(0) + frame);
+    picCodeAsssitantBack->setGeometry(placeOfList(ground(), size));
+}
+
+/// The rows that a text takes in a tip so wide.
+int CodeAssistant::tipRows(int width) const
+{
+    const QFontMetrics font = lblCodeAssistantTextSize->fontMetrics();
+    const QRect room(0, 0, std::max(width - txtCodeAssistantSyntax->sideways(), 1), QWIDGETSIZE_MAX);
+    const QRect filled = font.boundingRect(room, Qt::TextWordWrap, lblCodeAssistantTextSize->text());
+    return (filled.height() + font.lineSpacing() - 1) / font.lineSpacing();
+}
+
+void CodeAssistant::placeTip()
+{
+    const TipText text{.width = lblCodeAssistantTextSize->sizeHint().width() + txtCodeAssistantSyntax->sideways(),
+                       .rowHeight = txtCodeAssistantSyntax->fontMetrics().lineSpacing(),
+                       .rows = [this](int width) { return tipRows(width); }};
+    txtCodeAssistantSyntax->setGeometry(placeOfTip(ground(), text));
+}

@@ -1,0 +1,112 @@
+// What a document window does at the mouse and at drops on its edit surface, and when that is scrolled.
+#include "common/fileCommands.h"
+#include "document/assistantWords.h"
+#include "document/codeAssistant.h"
+#include "document/frmWrite.h"
+#include "internet/modViewInBrowser.h"
+#include "platform/editSurface.h"
+#include "platform/lineMargin.h"
+#include "platform/services.h"
+#include "platform/stillTimerSource.h"
+
+namespace
+{
+constexpr Qt::KeyboardModifiers RealModifiers = Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier;
+constexpr int LineCountMilliseconds = 1;
+
+/// What stands at a point of the surface.
+QString WordAtPoint(const EditSurface &box, const QPoint &point)
+{
+    return WordAtCharacter(box, box.characterFromPosition(point));
+}
+} // namespace
+
+SurfaceHooks frmWrite::surfaceHooks()
+{
+    SurfaceHooks hooks;
+    hooks.keyDown = [this](SurfaceKey &key) { txtEdit_KeyDown(key); };
+    hooks.keyPress = [this](SurfaceCharacter &character) { txtEdit_KeyPress(character); };
+    hooks.keyUp = [this](SurfaceKey &) { txtEdit_KeyUp(); };
+    hooks.mouseMove = [this](SurfaceMouse &mouse) { txtEdit_MouseMove(mouse); };
+    hooks.mouseUp = [this](SurfaceMouse &mouse) { txtEdit_MouseUp(mouse); };
+    hooks.textDropped = [this](const QString &text) { txtEdit_TextDropped(text); };
+    hooks.filesDropped = [this](const QStringList &paths) { txtEdit_FilesDropped(paths); };
+    return hooks;
+}
+
+void frmWrite::buildAssistant()
+{
+    m_assistant = new CodeAssistant(*contents().parentWidget(), *m_edit, context());
+    m_edit->margin()->setObjectName(QStringLiteral("picLineInformation"));
+    // Scrolling is told by the surface, so that an idle window need not look for it.
+    StillTimerSource still;
+    tmrLineCount = new Timer(
+        still, QStringLiteral("tmrLineCount"), [this] { tmrLineCount_Timer(); }, window());
+    tmrLineCount->setInterval(LineCountMilliseconds);
+    tmrLineCount->setEnabled(true);
+    connect(m_edit, &EditSurface::scrolled, tmrLineCount, &Timer::fire);
+    UpdateLineInformation();
+}
+
+void frmWrite::tmrLineCount_Timer()
+{
+    if (m_edit->firstVisibleLine() != FirstVisibleLine)
+        UpdateLineInformation();
+}
+
+void frmWrite::txtEdit_MouseMove(const SurfaceMouse &mouse)
+{
+    const bool looksForLink = (mouse.modifiers & RealModifiers) == Qt::ControlModifier;
+    setHoverLink(looksForLink ? linkIn(WordAtPoint(*m_edit, mouse.position)) : QString());
+}
+
+/// Keeps the address under the pointer, which is a hand over one.
+void frmWrite::setHoverLink(const QString &link)
+{
+    const bool hadLink = !HoverLink.isEmpty();
+    HoverLink = link;
+    if (hadLink == !link.isEmpty())
+        return;
+    if (link.isEmpty()) {
+        m_edit->unsetCursor();
+        m_edit->viewport()->setCursor(Qt::IBeamCursor);
+    } else {
+        m_edit->setCursor(Qt::PointingHandCursor);
+        m_edit->viewport()->setCursor(Qt::PointingHandCursor);
+    }
+}
+
+void frmWrite::txtEdit_MouseUp(const SurfaceMouse &mouse)
+{
+    if (mouse.button == Qt::LeftButton)
+        txtEdit_Click();
+    CancelColouring = true;
+    if (mouse.button == Qt::RightButton)
+        showPopup(mouse.position);
+}
+
+void frmWrite::txtEdit_Click()
+{
+    UpdateLineInformation();
+    if (!HoverLink.isEmpty())
+        OpenInBrowser(context(), HoverLink);
+    txtEdit_KeyUp();
+}
+
+void frmWrite::showPopup(const QPoint &point)
+{
+    frmMdi().PopupMenu(QStringLiteral("mnuPopup"), m_edit->mapToGlobal(point));
+}
+
+void frmWrite::txtEdit_TextDropped(const QString &text)
+{
+    m_edit->setSelText(text);
+    m_edit->SetFocus();
+}
+
+void frmWrite::txtEdit_FilesDropped(const QStringList &paths)
+{
+    for (const QString &path : paths)
+        if (context().files)
+            context().files->OpenDocumentFile(path, false);
+}

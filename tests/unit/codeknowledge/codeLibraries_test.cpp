@@ -1,0 +1,170 @@
+#include "codeknowledge/codeLibraries.h"
+
+#include "codeknowledge/codeInsertion.h"
+#include "platform/localFileSystem.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace
+{
+class CodeLibrariesTest : public testing::Test
+{
+protected:
+    /// A file of Windows-1252 text, "+" standing for its mark (187) and "-" for that of what is deprecated (171).
+    void put(const char *name, QByteArray lines)
+    {
+        lines.replace('+', '\xBB').replace('-', '\xAB').replace("\n", "\r\n");
+        QFile file(folder.filePath(QString::fromUtf8(name)));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(lines);
+    }
+    void load() { codes.LoadCodeLibraries(files, folder.path()); }
+    std::optional<QString> chosen(int node, std::optional<QChar> before = u'x')
+    {
+        return chosenCode(codes, node, before);
+    }
+
+    QTemporaryDir folder;
+    LocalFileSystem files;
+    CodeLibraries codes;
+};
+
+TEST_F(CodeLibrariesTest, JoinsBothFilesInOneTree)
+{
+    put("Html.tcb", "+p\n++align=\n+++left\n-u\n");
+    put("Css.tcb", "+color\n++red\n");
+    load();
+    EXPECT_TRUE(codes.isComplete());
+    EXPECT_EQ(codes.HtmlCodeNodeCount(), 5) << "the root and four lines";
+    ASSERT_EQ(codes.nodeCount(), 8);
+    EXPECT_EQ(codes.node(4), (TreeNode{QStringLiteral("u"), {}, QStringLiteral("ImgDepr"), 0}));
+    EXPECT_EQ(codes.node(5).key, QStringLiteral("css"));
+    EXPECT_EQ(codes.node(5).parent, -1);
+    EXPECT_EQ(codes.node(6),
+              (TreeNode{QStringLiteral("color:"), QStringLiteral("color"), QStringLiteral("ImgNodeCSSProperty"), 5}));
+    EXPECT_EQ(codes.node(7).parent, 6);
+    EXPECT_EQ(codes.tree()->size(), 8);
+    ASSERT_EQ(codes.elementNodes()->size(), 2);
+    EXPECT_EQ(codes.elementNodes()->at(0),
+              (TreeNode{QStringLiteral("<p"), QStringLiteral("e<p"), QStringLiteral("Element"), -1}));
+    EXPECT_EQ(codes.elementNodes()->at(1),
+              (TreeNode{QStringLiteral("<u"), QStringLiteral("d<u"), QStringLiteral("ElementDepr"), -1}));
+}
+
+TEST_F(CodeLibrariesTest, ReadsTheCodePageOfTheFiles)
+{
+    put("Html.tcb", "+a\n++title=caf\xE9 \x80\n");
+    put("Css.tcb", "");
+    load();
+    EXPECT_EQ(codes.elements().lstCodeAssistantSyntax, QStringList{QStringLiteral("<a title=[caf\u00E9 \u20AC]>")});
+}
+
+TEST_F(CodeLibrariesTest, ReadsNothingWithoutTheHtmlFile)
+{
+    put("Css.tcb", "+color\n");
+    load();
+    EXPECT_EQ(codes.nodeCount(), 0);
+    EXPECT_EQ(codes.HtmlCodeNodeCount(), 0);
+    EXPECT_FALSE(codes.isComplete());
+    EXPECT_EQ(codes.elements(), CodeElements());
+}
+
+TEST_F(CodeLibrariesTest, KeepsTheHtmlBranchWithoutTheCssFile)
+{
+    put("Html.tcb", "+p\n");
+    load();
+    EXPECT_EQ(codes.nodeCount(), 2);
+    EXPECT_EQ(codes.HtmlCodeNodeCount(), 2);
+    EXPECT_FALSE(codes.isComplete());
+}
+
+TEST_F(CodeLibrariesTest, EndsAtALineWithoutAPlaceInTheHtmlFile)
+{
+    put("Html.tcb", "+p\n+b\n+++left\n+i\n");
+    put("Css.tcb", "+color\n");
+    load();
+    EXPECT_EQ(codes.nodeCount(), 3);
+    EXPECT_EQ(codes.HtmlCodeNodeCount(), 0) << "it is told once the file is read";
+    EXPECT_FALSE(codes.isComplete());
+    EXPECT_EQ(codes.elementNodes()->size(), 2);
+    EXPECT_EQ(codes.elements().lstCodeAssistantSyntax, QStringList{QStringLiteral("<p>")});
+}
+
+TEST_F(CodeLibrariesTest, EndsAtALineWithoutAPlaceInTheCssFile)
+{
+    put("Html.tcb", "+p\n");
+    put("Css.tcb", "+color\n+color\n+float\n");
+    load();
+    EXPECT_EQ(codes.nodeCount(), 4);
+    EXPECT_EQ(codes.HtmlCodeNodeCount(), 2);
+    EXPECT_FALSE(codes.isComplete());
+}
+
+TEST_F(CodeLibrariesTest, GivesAnElementThatComesAgainNoSecondNodeInTheAssistant)
+{
+    put("Html.tcb", "+p\n+P\n-p\n+q\n");
+    put("Css.tcb", "");
+    load();
+    EXPECT_EQ(codes.elements().lstCodeAssistantElements.size(), 4);
+    EXPECT_EQ(codes.elementNodes()->size(), 3) << "its key is in the tree; a deprecated one has another";
+}
+
+class ChosenCodeTest : public CodeLibrariesTest
+{
+protected:
+    enum Node { Html, P, Align, Left, Right, Css, Color, Red };
+    ChosenCodeTest()
+    {
+        put("Html.tcb", "+p\n++align=\n+++left\n++-right\n");
+        put("Css.tcb", "+color\n++red\n");
+        load();
+    }
+};
+
+TEST_F(ChosenCodeTest, IsNothingForTheRoots)
+{
+    EXPECT_EQ(chosen(Html), std::nullopt);
+    EXPECT_EQ(chosen(Css), std::nullopt);
+}
+
+TEST_F(ChosenCodeTest, IsTheStartOfATagForAnElement)
+{
+    EXPECT_EQ(chosen(P), QStringLiteral("<p"));
+    EXPECT_EQ(chosen(P, u' '), QStringLiteral("<p"));
+}
+
+TEST_F(ChosenCodeTest, IsAValueInQuotesWhateverStandsBefore)
+{
+    for (const auto before : {std::optional<QChar>(u'='), std::optional<QChar>(u' '), std::optional<QChar>()})
+        EXPECT_EQ(chosen(Left, before), QStringLiteral("\"left\""));
+}
+
+TEST_F(ChosenCodeTest, IsOtherCodeBehindABlank)
+{
+    const struct {
+        int node;
+        QString text;
+    } rows[] = {{Align, QStringLiteral("align=")},
+                {Right, QStringLiteral("right")}, // deprecated values are no values here
+                {Color, QStringLiteral("color:")},
+                {Red, QStringLiteral("red")}};
+    for (const auto &row : rows) {
+        EXPECT_EQ(chosen(row.node, u'p'), u' ' + row.text);
+        EXPECT_EQ(chosen(row.node, {}), u' ' + row.text) << "at the start of the text";
+        EXPECT_EQ(chosen(row.node, u'\t'), u' ' + row.text);
+        EXPECT_EQ(chosen(row.node, u' '), row.text);
+        EXPECT_EQ(chosen(row.node, u'\n'), row.text);
+    }
+}
+
+TEST_F(CodeLibrariesTest, KnowsTheRootsByTheirTextsAlone)
+{
+    put("Html.tcb", "+Cascading Style Sheets\n++HyperText Markup Language\n");
+    put("Css.tcb", "");
+    load();
+    EXPECT_EQ(chosen(1), std::nullopt);
+    EXPECT_EQ(chosen(2), std::nullopt);
+}
+} // namespace
