@@ -15,7 +15,7 @@ protected:
     QString path(const char *name) const;
     void put(const char *name, const QByteArray &bytes) const;
     QByteArray get(const char *name) const;           ///< "(missing)" where there is no file
-    QStringList names(const char *folder = "") const; ///< all that stands there, hidden files too
+    QStringList names(const char *inside = "") const; ///< all that stands there, hidden files too
 
 private:
     QTemporaryDir folder;
