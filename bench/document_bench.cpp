@@ -5,6 +5,8 @@
 #include "platform/yielder.h"
 #include "runningProgram.h"
 
+#include <QWidget>
+
 namespace
 {
 constexpr int Runs = 9;

@@ -58,9 +58,9 @@ QString ReadTagAtCaret(const TextSurface &edit)
 QString tagHelpTopic(const CodeKnowledge &codes, const QString &tag)
 {
     const QString word = keyword(tag);
-    const QString page = isElement(codes, word) ? QStringLiteral("Tag_") + word.toUpper()
-                                                : QStringLiteral("Information_KeywordNotFound");
-    return QStringLiteral("::/topics/reference/") + page + QStringLiteral(".htm");
+    if (!isElement(codes, word))
+        return QStringLiteral("::/topics/reference/Information_KeywordNotFound.htm");
+    return QStringLiteral("::/topics/reference/Tag_") + word.toUpper() + QStringLiteral(".htm");
 }
 
 void ShowTagHelp(ProgramContext &context)

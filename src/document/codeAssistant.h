@@ -55,6 +55,7 @@ private:
     void placeList();
     void placeTip();
     int tipRows(int width) const;
+    QPoint CaretPosition() const;
     AssistantGround ground() const;
 
     QWidget &m_area;

@@ -28,6 +28,7 @@ void CodeAssistant::buildList()
     picCodeAsssitantBack = new QFrame(&m_area);
     picCodeAsssitantBack->setObjectName(QStringLiteral("picCodeAsssitantBack"));
     picCodeAsssitantBack->setFrameStyle(QFrame::Box | QFrame::Plain);
+    picCodeAsssitantBack->setForegroundRole(QPalette::PlaceholderText); // a frame to be seen on any ground
     picCodeAsssitantBack->hide();
     treCodeAssistantElements =
         ui::tree(QStringLiteral("treCodeAssistantElements"), {.nodeClick = [this](int node) { pick(node); },
@@ -107,14 +108,19 @@ void CodeAssistant::showTip()
     txtCodeAssistantSyntax->raise();
 }
 
+/// The top of the caret's line at the caret, in the area.
+QPoint CodeAssistant::CaretPosition() const
+{
+    return m_edit.mapTo(&m_area, m_edit.positionOfCharacter(m_edit.SelStart()).topLeft());
+}
+
 AssistantGround CodeAssistant::ground() const
 {
-    const QRect caret = m_edit.positionOfCharacter(m_edit.SelStart());
     const QWidget &text = *m_edit.viewport();
     return {.area = m_area.size(),
             .edit = {text.mapTo(&m_area, QPoint()), text.size()},
-            .caret = m_edit.mapTo(&m_area, caret.topLeft()),
-            .lineHeight = caret.height()};
+            .caret = CaretPosition(),
+            .lineHeight = m_edit.fontMetrics().lineSpacing()};
 }
 
 void CodeAssistant::placeList()

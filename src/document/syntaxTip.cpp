@@ -42,6 +42,7 @@ SyntaxTip::SyntaxTip(QWidget *parent) : QPlainTextEdit(parent)
     setReadOnly(true);
     setUndoRedoEnabled(false);
     setFrameStyle(QFrame::Box | QFrame::Plain);
+    setForegroundRole(QPalette::PlaceholderText); // the frame's
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setTextInteractionFlags(Qt::NoTextInteraction);

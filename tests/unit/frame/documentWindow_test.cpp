@@ -40,7 +40,11 @@ protected:
         application->form(QStringLiteral("frmMdi"))->Show();
         settle();
     }
-    ~DocumentWindowTest() override { settle(); }
+    ~DocumentWindowTest() override
+    {
+        application.reset();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // the windows, before their timers tick
+    }
 
     static void settle()
     {
