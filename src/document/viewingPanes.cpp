@@ -101,7 +101,7 @@ void ViewingPanes::bringToFront(int index)
 void ViewingPanes::drag(int y)
 {
     const int most = std::max(SmallestPane, height() - SmallestPane);
-    const int upper = std::clamp(y, SmallestPane, most);
+    const int upper = std::clamp(y - whole(30 * Twip) / 2, SmallestPane, most);
     if (height() > 0)
         m_share = (upper + 40 * Twip) / height();
     place(true);

@@ -32,7 +32,7 @@ void shutIn(QWebEngineSettings &settings)
 WebEngine::WebEngine()
 {
     // It would tell all about its graphics at its start.
-    QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext.*=false"));
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext=false"));
     // Drawing by the processor is quick enough for a page beside its source, needs no graphics driver, and leaves the
     // main window as it is; a surface of the graphics card would have that made anew before the user's eyes.
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
