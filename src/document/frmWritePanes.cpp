@@ -3,6 +3,7 @@
 #include "document/modBrowserControl.h"
 #include "document/viewingPanes.h"
 #include "platform/editSurface.h"
+#include "platform/lineMargin.h"
 #include "platform/messageBoxes.h"
 #include "platform/services.h"
 #include "platform/tabStrip.h"
@@ -25,6 +26,7 @@ void frmWrite::buildPanes()
     m_panes = new ViewingPanes;
     contents().addWidget(m_panes);
     buildSurface();
+    m_edit->margin()->setObjectName(QStringLiteral("picLineInformation"));
     buildBrowser();
     connect(m_panes, &ViewingPanes::resized, this, &frmWrite::Form_Resize);
     connect(m_panes, &ViewingPanes::tabClicked, this, &frmWrite::tabWindowDisplay_Click);

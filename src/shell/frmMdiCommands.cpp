@@ -199,6 +199,7 @@ void MainCommands::mnuSplitEditingWindows_Click()
         each->SplitEditingPreviewWindows();
         each->RepositionEditingandPreviewWindows();
     }
+    focusEditor();
 }
 
 void MainCommands::stopBrowser()

@@ -38,7 +38,8 @@ TEST_F(DocumentCopyTest, HasTheEncodingOfASave)
         {"610A62", "E282AC610D0A62"},       // lone line feeds come out as the text has them
     };
     for (const auto &row : rows) {
-        FakeDocument &document = openedDocument(QStringLiteral("page.htm"), QByteArray::fromHex(row.file));
+        const QString name = QLatin1String(row.file) + QStringLiteral(".htm");
+        FakeDocument &document = openedDocument(name, QByteArray::fromHex(row.file));
         document.surface.setText(QChar(0x20AC) + document.surface.Text());
         copyOf(document);
         EXPECT_EQ(bytesOf(QStringLiteral("copy.html")).toHex().toUpper(), QByteArray(row.copy)) << row.file;

@@ -9,6 +9,7 @@
 #include "shell/application.h"
 #include "shell/settings.h"
 
+#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -33,6 +34,13 @@ public:
 private:
     ModulePageViews m_views;
 };
+
+/// Whether this process, which is linked as the program is, holds a library of that name.
+bool librariesNamed(const char *name)
+{
+    QFile maps(QStringLiteral("/proc/self/maps"));
+    return maps.open(QIODevice::ReadOnly) && maps.readAll().contains(name);
+}
 
 class PreviewTest : public testing::Test
 {
@@ -80,6 +88,9 @@ TEST_F(PreviewTest, OfTheFirstEmptyPageAsksForNoEngine)
     EXPECT_TRUE(copy().startsWith("<html>"));
     EXPECT_EQ(control<WebBrowser>("brwWebBrowser").Notice(), QString());
     EXPECT_EQ(views->asked, 0);
+    EXPECT_TRUE(librariesNamed("libQt6Widgets"));
+    EXPECT_FALSE(librariesNamed("libQt6WebEngine")) << "it comes with the module, which nothing is linked to";
+    EXPECT_FALSE(librariesNamed("libQt6Quick"));
 }
 
 TEST_F(PreviewTest, WithoutAnEngineSaysWhatIsMissingAndLeavesTheEditorAlone)
