@@ -84,6 +84,7 @@ private:
     void tmrUpdateLiveSplitPreview_Timer();
     void Form_Resize();
     void tabWindowDisplay_Click(int tab);
+    void brwWebBrowser_Navigation();
     bool maySendForm(const QUrl &where);
     void restore(const UndoSnapshot &snapshot);
     void take(const TextSelection &selection);

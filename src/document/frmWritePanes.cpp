@@ -39,8 +39,14 @@ void frmWrite::buildBrowser()
     m_browser->setAccessibleName(QStringLiteral("Preview"));
     m_panes->pane(1)->layout()->addWidget(m_browser);
     m_browser->setMaySend([this](const QUrl &where) { return maySendForm(where); });
-    connect(m_browser, &WebBrowser::navigationStarted, this, [this] { frmMdi().SetStatusReady(); });
-    connect(m_browser, &WebBrowser::navigationFinished, this, [this] { frmMdi().SetStatusReady(); });
+    connect(m_browser, &WebBrowser::navigationStarted, this, &frmWrite::brwWebBrowser_Navigation);
+    connect(m_browser, &WebBrowser::navigationFinished, this, &frmWrite::brwWebBrowser_Navigation);
+}
+
+void frmWrite::brwWebBrowser_Navigation()
+{
+    if (!m_unloading) // what the status bar says of the last window's end stays
+        frmMdi().SetStatusReady();
 }
 
 Browser *frmWrite::brwWebBrowser()

@@ -1,6 +1,6 @@
 #include "internet/frmMsgPreviewUnsavedDocument.h"
 
-#include "platform/helpViewer.h"
+#include "platform/modLaunchHTMLHelp.h"
 #include "platform/layout.h"
 #include "platform/services.h"
 #include "shell/settings.h"
@@ -65,7 +65,7 @@ void frmMsgPreviewUnsavedDocument::cmdCancel_Click()
 
 void frmMsgPreviewUnsavedDocument::cmdHelp_Click()
 {
-    services().help.show(QStringLiteral("::/topics/using/Message_UnsavedDocument_BrowserPreview.htm"));
+    OpenHelpTopic(context(), QStringLiteral("::/topics/using/Message_UnsavedDocument_BrowserPreview.htm"));
 }
 
 void frmMsgPreviewUnsavedDocument::Form_Unload()
