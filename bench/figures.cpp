@@ -1,6 +1,7 @@
 #include "figures.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <algorithm>
@@ -48,9 +49,11 @@ double medianTime(int runs, const std::function<void()> &run, const std::functio
     return times[times.size() / 2];
 }
 
-double memoryInUse()
+namespace
 {
-    QFile rollup(QStringLiteral("/proc/self/smaps_rollup"));
+double memoryOf(const QString &process)
+{
+    QFile rollup(QStringLiteral("/proc/%1/smaps_rollup").arg(process));
     if (!rollup.open(QIODevice::ReadOnly))
         return 0;
     for (const QByteArray &line : rollup.readAll().split('\n')) {
@@ -58,6 +61,36 @@ double memoryInUse()
             return line.mid(4).simplified().split(' ').first().toDouble() * 1024;
     }
     return 0;
+}
+
+/// The process that started this one; empty if it has ended.
+QString parentOf(const QString &process)
+{
+    QFile stat(QStringLiteral("/proc/%1/stat").arg(process));
+    if (!stat.open(QIODevice::ReadOnly))
+        return {};
+    const QByteArray fields = stat.readAll();
+    // The name, in brackets, may hold anything.
+    return QString::fromLatin1(fields.mid(fields.lastIndexOf(')') + 2).split(' ').value(1));
+}
+} // namespace
+
+double memoryInUse()
+{
+    return memoryOf(QStringLiteral("self"));
+}
+
+double memoryOfAll()
+{
+    QStringList family{QString::number(QCoreApplication::applicationPid())};
+    double memory = 0;
+    for (qsizetype i = 0; i < family.size(); ++i) {
+        memory += memoryOf(family[i]);
+        for (const QString &process : QDir(QStringLiteral("/proc")).entryList(QDir::Dirs))
+            if (process.toLongLong() > 0 && parentOf(process) == family[i])
+                family.append(process);
+    }
+    return memory;
 }
 
 double printedByChild(const QStringList &arguments)

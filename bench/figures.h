@@ -31,6 +31,8 @@ double processorTime();
 double medianTime(int runs, const std::function<void()> &run, const std::function<void()> &prepare = {});
 /// The memory that this process alone accounts for (its proportional set size), in bytes.
 double memoryInUse();
+/// The same with that of the processes which it has started, and of theirs.
+double memoryOfAll();
 
 // The groups of figures, one for each subject.
 void surfaceMapping(Figures &figures);
@@ -40,6 +42,7 @@ void surfaceColouring(Figures &figures);
 void surfaceSingleLine(Figures &figures);
 void documentFigures(Figures &figures);
 void codeFigures(Figures &figures);
+void previewFigures(Figures &figures);
 void openingFigures(Figures &figures);
 void idleFigures(Figures &figures);
 void startFigures(Figures &figures);

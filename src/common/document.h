@@ -6,6 +6,8 @@
 
 #include <optional>
 
+class Browser;
+
 /// A document as the other subsystems know it. The window is the document: its form, frmWrite, is the one
 /// implementation.
 class Document
@@ -55,6 +57,8 @@ public:
 
     virtual void CheckWordWrapSettings() = 0;
 
+    /// The browser of its window; nothing where the window has none.
+    virtual Browser *brwWebBrowser() { return nullptr; }
     /// Shows or hides the preview beside the source, as the setting says, and lays the two out.
     virtual void SplitEditingPreviewWindows() {}
     virtual void RepositionEditingandPreviewWindows() {}

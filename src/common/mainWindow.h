@@ -56,6 +56,7 @@ public:
     virtual void showDocumentSelector(bool shown) = 0;
 
     virtual void setWordWrapChecked(bool checked) = 0;
+    virtual void setSplitEditingChecked(bool) {} ///< the check mark of `mnuSplitEditingWindows`
 
     /// Shows one of the pop-up menus at a point of the screen; its entries are enabled by its rules first.
     virtual void PopupMenu(const QString &name, const QPoint &position) = 0;

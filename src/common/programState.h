@@ -8,5 +8,8 @@ struct ProgramState {
     bool FormUnloadHandled = false;  ///< the exit list has dealt with this exit: documents close without asking
     bool NoUnsavedDocuments = false; ///< the exit list found nothing to ask about
     bool DialogCancelled = false;    ///< a dialog's Cancel was pressed; ReturnFromDialog reads and clears it
+    bool PreviewCancelled = false;   ///< the question about an unsaved document was left: there is no preview
+    bool PreviewUseTempCopy = false; ///< an unsaved document is shown by a temporary copy, not saved first
+    bool PreviewBusy = false;        ///< a live preview is being written and gone to
     ProjectState project;
 };

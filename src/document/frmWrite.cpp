@@ -3,6 +3,7 @@
 #include "common/fileCommands.h"
 #include "common/fileFormatText.h"
 #include "common/paths.h"
+#include "document/viewingPanes.h"
 #include "platform/editSurface.h"
 #include "platform/services.h"
 #include "platform/timer.h"
@@ -15,6 +16,7 @@ namespace
 constexpr int FirstRefreshMilliseconds =
     1; ///< a new window is coloured at once; the first pass sets the usual interval
 constexpr int AutoSaveMilliseconds = 60000;
+constexpr int LivePreviewMilliseconds = 500;
 } // namespace
 
 frmWrite::frmWrite(ProgramContext &context) : MdiForm(context, QStringLiteral("frmWrite")) {}
@@ -26,7 +28,7 @@ TextSurface &frmWrite::txtEdit()
 
 void frmWrite::Form_Load()
 {
-    buildSurface();
+    buildPanes();
     buildTimers();
     buildAssistant();
     takeNumber();
@@ -37,6 +39,8 @@ void frmWrite::Form_Load()
     enterSelector();
     frmMdi().SetStatusReady();
     tmrAutoSave->setEnabled(settings::isOn(services().settings, settings::AutoSaveUse));
+    SplitEditingPreviewWindows();
+    RepositionEditingandPreviewWindows();
     UndoRedoChange();
 }
 
@@ -46,7 +50,7 @@ void frmWrite::buildSurface()
     m_edit->setObjectName(QStringLiteral("txtEdit"));
     m_edit->setAccessibleName(QStringLiteral("Source"));
     m_edit->setFrameStyle(QFrame::NoFrame);
-    contents().addWidget(m_edit);
+    m_panes->pane(0)->layout()->addWidget(m_edit);
     window()->setFocusProxy(m_edit);
     m_edit->setContextMenuPolicy(Qt::NoContextMenu);
     connect(m_edit, &EditSurface::Change, this, &frmWrite::txtEdit_Change);
@@ -66,6 +70,10 @@ void frmWrite::buildTimers()
     };
     tmrAutoSave = new Timer(services().timers, QStringLiteral("tmrAutoSave"), autoSave, window());
     tmrAutoSave->setInterval(AutoSaveMilliseconds);
+    const auto preview = [this] { tmrUpdateLiveSplitPreview_Timer(); };
+    tmrUpdateLiveSplitPreview =
+        new Timer(services().timers, QStringLiteral("tmrUpdateLiveSplitPreview"), preview, window());
+    tmrUpdateLiveSplitPreview->setInterval(LivePreviewMilliseconds);
 }
 
 void frmWrite::takeNumber()
@@ -134,6 +142,9 @@ void frmWrite::Form_Activate()
     frmMdi().selectDocumentTab(DocKeyDescription);
     frmMdi().showFileFormat(fileFormatText(*this));
     CheckWordWrapSettings();
+    UpdateLineInformation();
+    SplitEditingPreviewWindows();
+    RepositionEditingandPreviewWindows();
 }
 
 bool frmWrite::Form_QueryUnload()

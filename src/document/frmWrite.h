@@ -8,7 +8,10 @@
 class CodeAssistant;
 class EditSurface;
 class QPoint;
+class QUrl;
 class Timer;
+class ViewingPanes;
+class WebBrowser;
 struct SurfaceCharacter;
 struct SurfaceHooks;
 struct SurfaceKey;
@@ -19,6 +22,7 @@ struct SurfaceMouse;
 class frmWrite final : public MdiForm, public Document
 {
     Q_OBJECT
+    Q_PROPERTY(bool IsSplit MEMBER IsSplit)
 public:
     explicit frmWrite(ProgramContext &context);
 
@@ -32,6 +36,9 @@ public:
     bool autoSaveEnabled() const override;
     void setAutoSaveEnabled(bool enabled) override;
     void CheckWordWrapSettings() override;
+    Browser *brwWebBrowser() override;
+    void SplitEditingPreviewWindows() override;
+    void RepositionEditingandPreviewWindows() override;
 
     void UndoRedoChange() override;
     void Undo() override;
@@ -50,6 +57,8 @@ public:
     bool ColouringActive = false;
     /// A key or a click asked the running pass to stop.
     bool CancelColouring = false;
+    /// The preview stands below the source; otherwise one of the two fills the window.
+    bool IsSplit = false;
     Timer &refreshTimer() { return *tmrRefresh; }
 
 protected:
@@ -60,6 +69,8 @@ protected:
     void detachWindow() override;
 
 private:
+    void buildPanes();
+    void buildBrowser();
     void buildSurface();
     void buildTimers();
     void buildAssistant();
@@ -70,6 +81,11 @@ private:
 
     void RecolourDocument();
     void tmrRefresh_Timer();
+    void tmrUpdateLiveSplitPreview_Timer();
+    void Form_Resize();
+    void tabWindowDisplay_Click(int tab);
+    void brwWebBrowser_Navigation();
+    bool maySendForm(const QUrl &where);
     void restore(const UndoSnapshot &snapshot);
     void take(const TextSelection &selection);
 
@@ -101,8 +117,11 @@ private:
     void runEditingKey(SurfaceKey &key);
     bool startIndentedLine();
 
+    ViewingPanes *m_panes = nullptr;
     EditSurface *m_edit = nullptr;
+    WebBrowser *m_browser = nullptr;
     Timer *tmrRefresh = nullptr;
+    Timer *tmrUpdateLiveSplitPreview = nullptr;
     Timer *tmrAutoSave = nullptr;
     Timer *tmrLineCount = nullptr;
     CodeAssistant *m_assistant = nullptr;
@@ -112,4 +131,5 @@ private:
     qsizetype FirstVisibleLine = 0; ///< when the line information was last brought up to date
     bool SkipLineUpdate = false; ///< set by every key but Delete: the change it makes leaves the line information alone
     bool m_unloading = false;    ///< activation leaves this document out
+    bool m_resized = false;      ///< the window has had its first resize
 };

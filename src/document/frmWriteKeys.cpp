@@ -63,6 +63,8 @@ void frmWrite::txtEdit_Change()
         return;
     tmrRefresh->setEnabled(false);
     tmrRefresh->setEnabled(true);
+    tmrUpdateLiveSplitPreview->setEnabled(false);
+    tmrUpdateLiveSplitPreview->setEnabled(true);
     boolDirty = true; // by the assistant's own changes, too
     if (!std::exchange(SkipLineUpdate, false))
         UpdateLineInformation();

@@ -1,5 +1,6 @@
 #include "files/documentText.h"
 
+#include "common/documentEncoding.h"
 #include "files/metaElements.h"
 
 #include <QStringList>
@@ -15,9 +16,7 @@ Encoding encodingOfSave(const Document &document, SaveForm form)
 {
     if (form == SaveForm::UnicodeRow)
         return Encoding::Utf16LE;
-    if (form == SaveForm::Plain || !document.IsInUnicode)
-        return document.plainEncoding;
-    return document.fileFormat.encoding == Encoding::Utf16BE ? Encoding::Utf16BE : Encoding::Utf16LE;
+    return form == SaveForm::Plain ? document.plainEncoding : encodingOfDocument(document);
 }
 
 bool isOtherKind(Encoding a, Encoding b)

@@ -1,11 +1,15 @@
 #include "internet/modViewInBrowser.h"
 
+#include "common/fileCommands.h"
 #include "common/paths.h"
+#include "platform/documentCopy.h"
+#include "platform/form.h"
 #include "platform/launcher.h"
 #include "platform/messageBoxes.h"
 #include "platform/programContext.h"
 #include "platform/screenPointer.h"
 #include "platform/services.h"
+#include "shell/settings.h"
 
 namespace
 {
@@ -31,15 +35,60 @@ bool userWantsIt(ProgramContext &context)
                          .buttons = MessageButtons::YesNoCancel};
     return context.services.messageBoxes.show(box) == MessageAnswer::Yes;
 }
+
+/// Whether the file on the disk is what the window shows.
+bool hasItsFile(const Document &document)
+{
+    return !document.boolDirty && !document.DocSavePath.isEmpty();
+}
+
+void chooseHowToPreview(ProgramContext &context)
+{
+    SettingsStore &store = context.services.settings;
+    if (settings::isOn(store, settings::DontShowPreviewUnsavedFile))
+        context.state.PreviewUseTempCopy = settings::previewsByCopy(store);
+    else
+        context.form(QStringLiteral("frmMsgPreviewUnsavedDocument")).ShowModal();
+}
+
+void previewCopy(ProgramContext &context, const Document &document)
+{
+    const DocumentCopy copy = writeDocumentCopy(context.services, document, QStringLiteral("tmp_eprv.html"));
+    if (copy.error)
+        context.files->FileErrors(copy.error->code, copy.error->description);
+    else
+        OpenInBrowser(context, copy.path);
+}
 } // namespace
+
+void PreviewActiveDocument(ProgramContext &context)
+{
+    context.state.PreviewCancelled = false;
+    Document *document = context.mainWindow->activeDocument();
+    if (!document)
+        return;
+    if (!hasItsFile(*document)) {
+        chooseHowToPreview(context);
+        if (context.state.PreviewCancelled)
+            return;
+        if (context.state.PreviewUseTempCopy) {
+            previewCopy(context, *document);
+            return;
+        }
+        context.files->SaveDocument(false);
+        if (!hasItsFile(*document))
+            return;
+    }
+    OpenInBrowser(context, document->DocSavePath);
+}
 
 void OpenInBrowser(ProgramContext &context, const QString &target)
 {
     if (Document *document = context.mainWindow->activeDocument())
         document->txtEdit().SetFocus();
+    context.screenPointer.setMousePointer(HourglassPointer);
     if (target.isEmpty())
         return;
-    context.screenPointer.setMousePointer(HourglassPointer);
     if (looksLikePage(target) || userWantsIt(context))
         context.services.launcher.openUrl(target);
     context.screenPointer.setMousePointer(DefaultPointer);

@@ -9,6 +9,7 @@
 #include "platform/desktopMessageBoxes.h"
 #include "platform/localFileSystem.h"
 #include "platform/modalLoop.h"
+#include "platform/modulePageViews.h"
 #include "platform/programFolder.h"
 #include "platform/qtTimerSource.h"
 #include "platform/random.h"
@@ -41,9 +42,10 @@ struct DesktopServices::Parts {
     QtTimerSource timers;
     EventModalLoop modalLoop;
     EventYielder yielder;
+    ModulePageViews pageViews{moduleFolders()};
     XdgFileClasses fileClasses{currentXdgPlaces(), startInBackground};
-    Services services{messageBoxes, commonDialogs, settings, files,       launcher,  clipboard, clock,
-                      random,       help,          timers,   fileClasses, modalLoop, yielder,   appPath};
+    Services services{messageBoxes, commonDialogs, settings,    files,     launcher, clipboard, clock,  random,
+                      help,         timers,        fileClasses, modalLoop, yielder,  pageViews, appPath};
 };
 
 DesktopServices::DesktopServices() : parts(std::make_unique<Parts>()) {}

@@ -57,6 +57,11 @@ public:
     /// its old contents or the new ones. An existing file keeps its permissions, and its owner where the system lets
     /// it; a symbolic link stays, and what it points to is replaced. Nothing: it is on the disk.
     virtual std::optional<FileError> writeWhole(const QString &path, const QByteArray &bytes) = 0;
+    /// The same for what can be made again at any time: it does not wait until the disk has it.
+    virtual std::optional<FileError> writeScratch(const QString &path, const QByteArray &bytes)
+    {
+        return writeWhole(path, bytes);
+    }
 
     virtual bool exists(const QString &path) = 0; ///< a file of any kind, no folder
     virtual bool isFolder(const QString &path) = 0;

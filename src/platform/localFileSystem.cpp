@@ -125,6 +125,16 @@ int readFile(const QByteArray &path, QByteArray &bytes)
     }
 }
 
+std::optional<FileError> write(const QString &path, const QByteArray &bytes, Durability durability)
+{
+    const std::optional<QByteArray> name = systemPath(path);
+    if (!name)
+        return badName(FileAction::Write);
+    if (const int error = writeWholeFile(*name, bytes, durability))
+        return failure(error, FileAction::Write, *name);
+    return std::nullopt;
+}
+
 bool isFolderEntry(const QByteArray &folder, const dirent &entry)
 {
     if (entry.d_type != DT_UNKNOWN && entry.d_type != DT_LNK)
@@ -165,12 +175,12 @@ std::optional<FileError> LocalFileSystem::checkReadable(const QString &path)
 
 std::optional<FileError> LocalFileSystem::writeWhole(const QString &path, const QByteArray &bytes)
 {
-    const std::optional<QByteArray> name = systemPath(path);
-    if (!name)
-        return badName(FileAction::Write);
-    if (const int error = writeWholeFile(*name, bytes, Durability::Flushed))
-        return failure(error, FileAction::Write, *name);
-    return std::nullopt;
+    return write(path, bytes, Durability::Flushed);
+}
+
+std::optional<FileError> LocalFileSystem::writeScratch(const QString &path, const QByteArray &bytes)
+{
+    return write(path, bytes, Durability::Lazy);
 }
 
 bool LocalFileSystem::exists(const QString &path)

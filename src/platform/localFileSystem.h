@@ -12,6 +12,7 @@ public:
     FileContents readAll(const QString &path) override;
     std::optional<FileError> checkReadable(const QString &path) override;
     std::optional<FileError> writeWhole(const QString &path, const QByteArray &bytes) override;
+    std::optional<FileError> writeScratch(const QString &path, const QByteArray &bytes) override;
 
     bool exists(const QString &path) override;
     bool isFolder(const QString &path) override;

@@ -11,6 +11,7 @@ class HelpViewer;
 class Launcher;
 class MessageBoxes;
 class ModalLoop;
+class PageViews;
 class Random;
 class SettingsStore;
 class TimerSource;
@@ -31,5 +32,6 @@ struct Services {
     FileClasses &fileClasses;
     ModalLoop &modalLoop;
     Yielder &yielder;
+    PageViews &pageViews;
     QString appPath; ///< the program's folder (`App.Path`), without a final separator
 };

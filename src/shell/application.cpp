@@ -8,6 +8,7 @@
 #include "files/frmProperties.h"
 #include "files/frmUnsavedFiles.h"
 #include "insertion/insertionForms.h"
+#include "internet/frmMsgPreviewUnsavedDocument.h"
 #include "shell/frmMdi.h"
 #include "shell/frmSplash.h"
 #include "shell/frmWelcome.h"
@@ -26,6 +27,7 @@ Application::Application(Services &services)
     m_splash = &own<frmSplash>(m_context, *m_mdi);
     own<frmWelcome>(m_context);
     addFiles();
+    own<frmMsgPreviewUnsavedDocument>(m_context);
     for (std::unique_ptr<Form> &form : insertionForms(m_context))
         add(std::move(form));
     connect(m_mdi, &Form::unloaded, this, &Application::End);

@@ -115,6 +115,11 @@ void frmMdi::setWordWrapChecked(bool checked)
     m_commands->action(QStringLiteral("mnuWordWrap"))->setChecked(checked);
 }
 
+void frmMdi::setSplitEditingChecked(bool checked)
+{
+    m_commands->action(QStringLiteral("mnuSplitEditingWindows"))->setChecked(checked);
+}
+
 void frmMdi::openDropped(const QStringList &paths)
 {
     for (const QString &path : paths)

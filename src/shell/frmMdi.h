@@ -47,6 +47,7 @@ public:
     void showDocumentTabs(bool shown) override;
     void showDocumentSelector(bool shown) override;
     void setWordWrapChecked(bool checked) override;
+    void setSplitEditingChecked(bool checked) override;
     void clearStructureTree() override;
     bool structurePageShown() const override;
     void addStructureNode(qsizetype parent, const QString &key, const QString &text, const QString &image) override;

@@ -3,6 +3,7 @@
 
 #include "common/fileCommands.h"
 #include "document/elementSteps.h"
+#include "document/modBrowserControl.h"
 #include "document/modClipboard.h"
 #include "document/modDocument.h"
 #include "insertion/modCode.h"
@@ -77,6 +78,11 @@ void MainCommands::mnuSaveAll_Click()
 {
     if (m_context.files)
         m_context.files->SaveAll();
+}
+
+void MainCommands::mnuViewPage_Click()
+{
+    PreviewActiveDocument(m_context);
 }
 
 void MainCommands::openRecentFile(int index)
@@ -189,10 +195,41 @@ void MainCommands::mnuSplitEditingWindows_Click()
     const bool split = !settings::isOn(m_context.services.settings, settings::SplitEditPreview);
     settings::writeBoolean(m_context.services.settings, settings::SplitEditPreview, split);
     action(QStringLiteral("mnuSplitEditingWindows"))->setChecked(split);
-    if (Document *active = document()) {
-        active->SplitEditingPreviewWindows();
-        active->RepositionEditingandPreviewWindows();
+    for (Document *each : m_form.openDocuments()) {
+        each->SplitEditingPreviewWindows();
+        each->RepositionEditingandPreviewWindows();
     }
+    focusEditor();
+}
+
+void MainCommands::stopBrowser()
+{
+    Stop(m_context);
+    focusEditor();
+}
+
+void MainCommands::refreshBrowser()
+{
+    Refresh(m_context);
+    focusEditor();
+}
+
+void MainCommands::browserForward()
+{
+    GoForward(m_context);
+    focusEditor();
+}
+
+void MainCommands::browserBack()
+{
+    GoBack(m_context);
+    focusEditor();
+}
+
+void MainCommands::focusEditor()
+{
+    if (Document *active = document())
+        active->txtEdit().SetFocus();
 }
 
 void MainCommands::mnuWordWrap_Click()

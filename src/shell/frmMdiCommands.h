@@ -36,6 +36,7 @@ public:
     void mnuSave_Click();
     void mnuSaveAs_Click();
     void mnuSaveAll_Click();
+    void mnuViewPage_Click();
     template <int Index>
     void mnuRecentFile_Click()
     {
@@ -61,6 +62,10 @@ public:
     void mnuShowStatusBar_Click();
     void mnuHideAddressBar_Click();
     void mnuSplitEditingWindows_Click();
+    void stopBrowser();
+    void refreshBrowser();
+    void browserForward();
+    void browserBack();
     void mnuWordWrap_Click();
     // Insert, Format, Tools
     void mnuInsExternalCSS_Click();
@@ -104,6 +109,7 @@ private:
 
     void openRecentFile(int index);
     void indent(bool further);
+    void focusEditor();
     Document *document() const;
 
     frmMdi &m_form;

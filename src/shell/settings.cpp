@@ -4,6 +4,7 @@
 #include "platform/settingsStore.h"
 
 #include <array>
+#include <cmath>
 #include <string_view>
 
 namespace settings
@@ -215,6 +216,11 @@ void writeBoolean(SettingsStore &store, const Key &key, bool on)
         write(store, key, on ? QStringLiteral("1") : QStringLiteral("0"));
     else
         write(store, key, on ? QStringLiteral("True") : QStringLiteral("False"));
+}
+
+bool previewsByCopy(SettingsStore &store)
+{
+    return std::floor(read(store, PagePreview).toDouble()) == 1;
 }
 
 namespace

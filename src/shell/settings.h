@@ -46,6 +46,9 @@ void write(SettingsStore &store, const Key &key, const QString &value, int numbe
 /// Writes a Boolean as the key spells it: "1" and "0", or "True" and "False".
 void writeBoolean(SettingsStore &store, const Key &key, bool on);
 
+/// Whether a preview shows an unsaved document by a temporary copy; otherwise the document is saved first.
+bool previewsByCopy(SettingsStore &store);
+
 /// Writes the first-run values of the keys that hold nothing yet, in the fixed order of their first writing.
 void writeFirstRunDefaults(SettingsStore &store, const QString &appPath);
 

@@ -11,6 +11,7 @@
 #include "platform/spinButton.h"
 #include "platform/themeColour.h"
 #include "platform/timer.h"
+#include "platform/webBrowser.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -24,6 +25,7 @@
 #include <QPlainTextEdit>
 #include <QRegularExpression>
 #include <QScrollBar>
+#include <QTest>
 
 namespace drive
 {
@@ -208,6 +210,29 @@ Value readTextLimits(const QWidget &widget, const QString &name)
     return area && name == u"Locked" ? boolean(area->isReadOnly()) : Value();
 }
 
+/// What a reader of the page sees, as the engine tells it; nothing if its scripts leave no room for an answer.
+Value pageText(const WebBrowser &browser)
+{
+    constexpr int longest = 2000; // milliseconds
+    const auto answer = std::make_shared<Value>();
+    const_cast<WebBrowser &>(browser).pageText([answer](const QString &text) { *answer = text; });
+    return QTest::qWaitFor([&] { return answer->has_value(); }, longest) ? *answer : std::nullopt;
+}
+
+Value readBrowser(const QWidget &widget, const QString &name)
+{
+    const auto *browser = qobject_cast<const WebBrowser *>(&widget);
+    if (!browser)
+        return {};
+    if (name == u"LocationURL")
+        return browser->LocationURL();
+    if (name == u"Notice")
+        return browser->Notice();
+    if (name == u"Busy")
+        return boolean(browser->isLoading());
+    return name == u"PageText" ? pageText(*browser) : Value();
+}
+
 Value readRow(const ControlRows &rows, const QString &textProperty, const Asked &asked)
 {
     const int row = *asked.first;
@@ -279,7 +304,7 @@ Value readWidget(const QWidget &widget, const Asked &asked)
     if (!asked.first) {
         // An editable combo's text is what stands in its field, not the row picked last: texts go before rows.
         for (const auto &reader :
-             {readWindow, readCommon, readCaption, readValue, readPlace, readText, readTextLimits}) {
+             {readWindow, readCommon, readCaption, readValue, readPlace, readText, readTextLimits, readBrowser}) {
             if (const Value value = reader(widget, asked.name))
                 return value;
         }
@@ -323,7 +348,7 @@ QList<QString> propertyNames(QObject &control)
         "Caption Text Value Checked Enabled Visible Focus SelStart SelLength SelText MaxLength Locked Interval "
         "ListCount "
         "ListIndex NodeCount TabCount Min Max Path Drive HexadecimalColour FirstVisibleLine WindowState Left Top Width "
-        "Height BackColor MousePointer ToolTipText");
+        "Height BackColor MousePointer ToolTipText LocationURL Notice Busy");
     QList<QString> names;
     for (const QString &name : all.split(u' ')) {
         if (readProperty(control, name))

@@ -80,6 +80,13 @@ std::optional<FileError> ScriptedFiles::writeWhole(const QString &path, const QB
     return m_real.writeWhole(path, bytes);
 }
 
+std::optional<FileError> ScriptedFiles::writeScratch(const QString &path, const QByteArray &bytes)
+{
+    if (const auto error = failure(path, true))
+        return error;
+    return m_real.writeScratch(path, bytes);
+}
+
 FolderListing ScriptedFiles::list(const QString &folder)
 {
     if (const auto error = failure(folder, false))
@@ -145,8 +152,9 @@ Desktop::Desktop(Referee &referee, const World &world)
       m_settings(settingsFolder()),
       // The desktop's own tools are left alone: what they make of the registered files is not the program's.
       m_fileClasses(currentXdgPlaces(), [](const QString &, const QStringList &) {}),
-      m_services{boxes,  dialogs, m_settings, files,         launcher,  m_clipboard, clock,
-                 random, help,    m_timers,   m_fileClasses, modalLoop, yielder,     world.app()}
+      m_pageViews(moduleFolders()),
+      m_services{boxes, dialogs,  m_settings,    files,     launcher, m_clipboard, clock,      random,
+                 help,  m_timers, m_fileClasses, modalLoop, yielder,  m_pageViews, world.app()}
 {
 }
 } // namespace drive

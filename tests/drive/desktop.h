@@ -7,6 +7,7 @@
 #include "platform/launcher.h"
 #include "platform/localFileSystem.h"
 #include "platform/modalLoop.h"
+#include "platform/modulePageViews.h"
 #include "platform/random.h"
 #include "platform/services.h"
 #include "platform/settingsFiles.h"
@@ -72,6 +73,7 @@ public:
     FileContents readAll(const QString &path) override;
     std::optional<FileError> checkReadable(const QString &path) override;
     std::optional<FileError> writeWhole(const QString &path, const QByteArray &bytes) override;
+    std::optional<FileError> writeScratch(const QString &path, const QByteArray &bytes) override;
     bool exists(const QString &path) override { return m_real.exists(path); }
     bool isFolder(const QString &path) override { return m_real.isFolder(path); }
     std::optional<qint64> size(const QString &path) override { return m_real.size(path); }
@@ -159,6 +161,7 @@ private:
     DesktopClipboard m_clipboard;
     StillTimers m_timers;
     XdgFileClasses m_fileClasses;
+    ModulePageViews m_pageViews;
     Services m_services;
 };
 } // namespace drive

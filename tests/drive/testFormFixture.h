@@ -79,9 +79,9 @@ private:
     /// The services of the desktop, with dialogs that are answered.
     Services scripted(Services &real)
     {
-        return {real.messageBoxes, dialogs,    real.settings, real.files, real.launcher,
-                real.clipboard,    real.clock, real.random,   real.help,  real.timers,
-                real.fileClasses,  modalLoop,  real.yielder,  QString()};
+        return {real.messageBoxes, dialogs,    real.settings, real.files,     real.launcher,
+                real.clipboard,    real.clock, real.random,   real.help,      real.timers,
+                real.fileClasses,  modalLoop,  real.yielder,  real.pageViews, QString()};
     }
 
     qsizetype m_seen = 0;

@@ -3,8 +3,8 @@
 #include <QFile>
 
 FilesTest::FilesTest()
-    : m_services{boxes,    dialogs, settings, disk,          m_launcher, m_clipboard, m_clock,
-                 m_random, m_help,  m_timers, m_fileClasses, modal,      m_yielder,   m_folder.path()},
+    : m_services{boxes,  dialogs,  settings,      disk,  m_launcher, m_clipboard, m_clock,        m_random,
+                 m_help, m_timers, m_fileClasses, modal, m_yielder,  m_pageViews, m_folder.path()},
       context{.services = m_services, .forms = m_runtime, .state = state, .screenPointer = m_pointer}
 {
     context.mainWindow = &mainWindow;

@@ -15,6 +15,7 @@
 #include "platform/localFileSystem.h"
 #include "platform/messageBoxes.h"
 #include "platform/modalLoop.h"
+#include "platform/pageViews.h"
 #include "platform/programContext.h"
 #include "platform/random.h"
 #include "platform/screenPointer.h"
@@ -228,6 +229,13 @@ public:
     void registerAll() override {}
 };
 
+class NoPageViews final : public PageViews
+{
+public:
+    PageEngine *engine() override { return nullptr; }
+    QString reasonForNone() const override { return {}; }
+};
+
 /// Hands a form that is shown modally to the test.
 class AnsweredForms final : public ModalLoop
 {
@@ -303,6 +311,7 @@ private:
     StillTimers m_timers;
     NoFileClasses m_fileClasses;
     EventYielder m_yielder;
+    NoPageViews m_pageViews;
     QTemporaryDir m_folder;
     Services m_services;
     FormRuntime m_runtime;

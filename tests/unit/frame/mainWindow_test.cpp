@@ -104,9 +104,9 @@ private:
 
     static Services servicesOver(Services &real, MessageBoxes &messageBoxes)
     {
-        return {messageBoxes,     real.commonDialogs, real.settings, real.files,  real.launcher,
-                real.clipboard,   real.clock,         real.random,   real.help,   real.timers,
-                real.fileClasses, real.modalLoop,     real.yielder,  real.appPath};
+        return {messageBoxes,     real.commonDialogs, real.settings, real.files,     real.launcher,
+                real.clipboard,   real.clock,         real.random,   real.help,      real.timers,
+                real.fileClasses, real.modalLoop,     real.yielder,  real.pageViews, real.appPath};
     }
 };
 } // namespace

@@ -232,6 +232,18 @@ TEST_F(Dev, BenchMeasuresTheFastProgramFiveTimes)
                                      QStringLiteral("tagwrighter-bench Text")));
 }
 
+TEST_F(Dev, LeavesPagesShutInUnlessItTestsAsRoot)
+{
+    pretendBuilt("release", QStringLiteral("bench/tagwrighter-bench"),
+                 "echo \"${QTWEBENGINE_DISABLE_SANDBOX:-shut in} $QTWEBENGINE_CHROMIUM_FLAGS\"");
+    pretendBuilt("release", QStringLiteral("src/tagwrighter"), "echo \"${QTWEBENGINE_DISABLE_SANDBOX:-shut in}\"");
+    const QMap<QString, QString> display{{QStringLiteral("DISPLAY"), QStringLiteral(":0")}};
+    EXPECT_EQ(dev({QStringLiteral("bench")}).output, QStringLiteral("1 --disable-gpu\n"));
+    EXPECT_EQ(dev({QStringLiteral("run")}, display).output, QStringLiteral("shut in\n"));
+    pretend("id", "echo 1000");
+    EXPECT_EQ(dev({QStringLiteral("bench")}).output, QStringLiteral("shut in --disable-gpu\n"));
+}
+
 TEST_F(Dev, TellsItsUseWhereItIsMisused)
 {
     const QList<QStringList> rows{

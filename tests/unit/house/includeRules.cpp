@@ -49,7 +49,8 @@ std::optional<int> levelOf(const QString &path)
         {QStringLiteral("common"), 0},     {QStringLiteral("platform"), 1},  {QStringLiteral("document"), 2},
         {QStringLiteral("files"), 2},      {QStringLiteral("project"), 2},   {QStringLiteral("codeknowledge"), 2},
         {QStringLiteral("insertion"), 2},  {QStringLiteral("texttools"), 2}, {QStringLiteral("internet"), 2},
-        {QStringLiteral("extensions"), 2}, {QStringLiteral("shell"), 2},     {QStringLiteral("the frame"), 3},
+        {QStringLiteral("extensions"), 2}, {QStringLiteral("shell"), 2},     {QStringLiteral("webview"), 2},
+        {QStringLiteral("the frame"), 3},
     };
     if (path == QLatin1String("main.cpp"))
         return 4;

@@ -45,6 +45,17 @@ protected:
     LocalFileSystem files;
 };
 
+TEST_F(LocalFiles, ThatAreScratchAreWrittenAsAWhole)
+{
+    EXPECT_FALSE(files.writeScratch(path("a.htm"), "old and long"));
+    EXPECT_FALSE(files.writeScratch(path("a.htm"), "new"));
+    EXPECT_EQ(files.readAll(path("a.htm")).bytes, QByteArray("new"));
+    EXPECT_EQ(names(), QStringList(QStringLiteral("a.htm")));
+    const std::optional<FileError> error = files.writeScratch(path("none/a.htm"), "new");
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->code, PathNotFoundError);
+}
+
 TEST_F(LocalFiles, AreReadAsTheyWereWritten)
 {
     QByteArray bytes("a\0\r\n", 4);

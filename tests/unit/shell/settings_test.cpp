@@ -162,6 +162,20 @@ TEST(SettingsTable, ReadsEachSpellingOfTrueAndFalse)
     }
 }
 
+TEST(SettingsTable, PreviewsByACopyIfTheWholePartIsOne)
+{
+    MemorySettings store;
+    EXPECT_TRUE(settings::previewsByCopy(store)) << "nothing is stored";
+    for (const char *value : {"1", "1.9", " 1 ", "01"}) {
+        settings::write(store, settings::PagePreview, QString::fromLatin1(value));
+        EXPECT_TRUE(settings::previewsByCopy(store)) << value;
+    }
+    for (const char *value : {"2", "0", "10", "", "true", "-1"}) {
+        settings::write(store, settings::PagePreview, QString::fromLatin1(value));
+        EXPECT_FALSE(settings::previewsByCopy(store)) << value;
+    }
+}
+
 TEST(SettingsTable, WritesEachSpelling)
 {
     MemorySettings store;

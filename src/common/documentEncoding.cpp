@@ -1,0 +1,8 @@
+#include "common/documentEncoding.h"
+
+Encoding encodingOfDocument(const Document &document)
+{
+    if (!document.IsInUnicode)
+        return document.plainEncoding;
+    return document.fileFormat.encoding == Encoding::Utf16BE ? Encoding::Utf16BE : Encoding::Utf16LE;
+}

@@ -1,0 +1,109 @@
+// The two panes of a document window: the source, and the preview that follows it.
+#include "document/frmWrite.h"
+#include "document/modBrowserControl.h"
+#include "document/viewingPanes.h"
+#include "platform/editSurface.h"
+#include "platform/lineMargin.h"
+#include "platform/messageBoxes.h"
+#include "platform/services.h"
+#include "platform/tabStrip.h"
+#include "platform/timer.h"
+#include "platform/webBrowser.h"
+#include "shell/settings.h"
+
+#include <QPointer>
+#include <QVBoxLayout>
+
+namespace
+{
+constexpr int EditorTab = 0;
+}
+
+void frmWrite::buildPanes()
+{
+    m_resized = false;
+    IsSplit = false;
+    m_panes = new ViewingPanes;
+    contents().addWidget(m_panes);
+    buildSurface();
+    m_edit->margin()->setObjectName(QStringLiteral("picLineInformation"));
+    buildBrowser();
+    connect(m_panes, &ViewingPanes::resized, this, &frmWrite::Form_Resize);
+    connect(m_panes, &ViewingPanes::tabClicked, this, &frmWrite::tabWindowDisplay_Click);
+}
+
+void frmWrite::buildBrowser()
+{
+    m_browser = new WebBrowser(services().pageViews);
+    m_browser->setObjectName(QStringLiteral("brwWebBrowser"));
+    m_browser->setAccessibleName(QStringLiteral("Preview"));
+    m_panes->pane(1)->layout()->addWidget(m_browser);
+    m_browser->setMaySend([this](const QUrl &where) { return maySendForm(where); });
+    connect(m_browser, &WebBrowser::navigationStarted, this, &frmWrite::brwWebBrowser_Navigation);
+    connect(m_browser, &WebBrowser::navigationFinished, this, &frmWrite::brwWebBrowser_Navigation);
+}
+
+void frmWrite::brwWebBrowser_Navigation()
+{
+    if (!m_unloading) // what the status bar says of the last window's end stays
+        frmMdi().SetStatusReady();
+}
+
+Browser *frmWrite::brwWebBrowser()
+{
+    return m_browser;
+}
+
+bool frmWrite::maySendForm(const QUrl &where)
+{
+    const MessageBox box{.title = QStringLiteral("Send Form"),
+                         .text =
+                             QStringLiteral("The page in the preview wants to send what was entered into it to \"%1\". "
+                                            "Do you want to send it?")
+                                 .arg(where.host()),
+                         .icon = MessageIcon::Question,
+                         .buttons = MessageButtons::YesNo};
+    return services().messageBoxes.show(box) == MessageAnswer::Yes;
+}
+
+void frmWrite::SplitEditingPreviewWindows()
+{
+    const bool split = settings::isOn(services().settings, settings::SplitEditPreview);
+    if (IsSplit && split)
+        return;
+    settings::writeBoolean(services().settings, settings::SplitEditPreview, split);
+    IsSplit = split;
+    frmMdi().setSplitEditingChecked(split);
+}
+
+void frmWrite::RepositionEditingandPreviewWindows()
+{
+    m_panes->place(IsSplit);
+}
+
+void frmWrite::Form_Resize()
+{
+    RepositionEditingandPreviewWindows();
+    if (!std::exchange(m_resized, true))
+        UpdateLineInformation();
+}
+
+void frmWrite::tabWindowDisplay_Click(int tab)
+{
+    UpdateLineInformation();
+    if (tab == EditorTab)
+        m_edit->SetFocus();
+    else
+        UpdateLivePreview(context());
+}
+
+void frmWrite::tmrUpdateLiveSplitPreview_Timer()
+{
+    // Off before the preview is made: a change that comes in while it waits for events asks for another one.
+    tmrUpdateLiveSplitPreview->setEnabled(false);
+    const QPointer<frmWrite> self(this);
+    if (IsSplit)
+        FollowWithLivePreview(context());
+    if (self && isLoaded() && frmMdi().activeDocument() == this)
+        m_edit->SetFocus();
+}

@@ -1,0 +1,111 @@
+#include "document/modBrowserControl.h"
+
+#include "common/browser.h"
+#include "platform/doEvents.h"
+#include "platform/documentCopy.h"
+#include "platform/programContext.h"
+#include "platform/services.h"
+#include "shell/settings.h"
+
+#include <QRegularExpression>
+#include <QScopedValueRollback>
+
+namespace
+{
+using BrowserCommand = void (Browser::*)(const QString &);
+
+const QString CopyName = QStringLiteral("tmp_iprv.html");
+
+Browser *activeBrowser(ProgramContext &context)
+{
+    Document *document = context.mainWindow->activeDocument();
+    return document ? document->brwWebBrowser() : nullptr;
+}
+
+void go(ProgramContext &context, void (Browser::*command)())
+{
+    if (Browser *browser = activeBrowser(context))
+        (browser->*command)();
+}
+
+void goTo(ProgramContext &context, BrowserCommand command, const QString &target)
+{
+    if (Browser *browser = activeBrowser(context))
+        (browser->*command)(target);
+}
+
+void showCopy(ProgramContext &context, BrowserCommand command)
+{
+    DoEvents();
+    const Document *document = context.mainWindow->activeDocument();
+    if (!document)
+        return;
+    const DocumentCopy copy = writeDocumentCopy(context.services, *document, CopyName);
+    DoEvents();
+    if (context.mainWindow->activeDocument() != document) // the copy is not the text of the one that is active now
+        return;
+    goTo(context, command, copy.path);
+    DoEvents();
+}
+
+void preview(ProgramContext &context, BrowserCommand command)
+{
+    const QScopedValueRollback busy(context.state.PreviewBusy, true);
+    context.state.PreviewUseTempCopy = settings::previewsByCopy(context.services.settings);
+    const Document *document = context.mainWindow->activeDocument();
+    if (!document)
+        return;
+    if (!document->boolDirty && !document->DocSavePath.isEmpty())
+        goTo(context, command, document->DocSavePath);
+    else
+        showCopy(context, command);
+}
+} // namespace
+
+void UpdateLivePreview(ProgramContext &context)
+{
+    preview(context, &Browser::Navigate);
+}
+
+void FollowWithLivePreview(ProgramContext &context)
+{
+    const Document *document = context.mainWindow->activeDocument();
+    if (!document)
+        return;
+    const bool worthIt = document->boolDirty || showsSomething(document->txtEdit().Text());
+    preview(context, worthIt ? &Browser::Navigate : &Browser::NavigateIfRunning);
+}
+
+void GoBack(ProgramContext &context)
+{
+    go(context, &Browser::GoBack);
+}
+
+void GoForward(ProgramContext &context)
+{
+    go(context, &Browser::GoForward);
+}
+
+void Stop(ProgramContext &context)
+{
+    go(context, &Browser::Stop);
+}
+
+void Refresh(ProgramContext &context)
+{
+    go(context, &Browser::Refresh);
+}
+
+void Navigate(ProgramContext &context, const QString &path)
+{
+    goTo(context, &Browser::Navigate, path);
+}
+
+bool showsSomething(const QString &source)
+{
+    static const QRegularExpression body(QStringLiteral("<body[^>]*>(.*?)(</body\\s*>|$)"),
+                                         QRegularExpression::CaseInsensitiveOption |
+                                             QRegularExpression::DotMatchesEverythingOption);
+    const QRegularExpressionMatch match = body.match(source);
+    return !(match.hasMatch() ? match.capturedView(1) : QStringView(source)).trimmed().isEmpty();
+}

@@ -1,0 +1,144 @@
+#include "webview/webEngineView.h"
+
+#include "webview/enginePage.h"
+
+#include <QWebEngineDownloadRequest>
+#include <QWebEngineScript>
+#include <QWebEngineView>
+#include <csignal>
+
+WebEngineView::WebEngineView(QWebEngineProfile &profile, PageViewListener &listener, QWidget *parent)
+    : m_listener(listener), m_page(new EnginePage(profile, listener, this)), m_view(new QWebEngineView(m_page, parent))
+{
+    m_view->setContextMenuPolicy(Qt::NoContextMenu); // it would offer to save pages and to show their source
+    m_view->setAcceptDrops(false);                   // what is dropped belongs to the editor, or is opened by it
+    followPage();
+}
+
+WebEngineView::~WebEngineView()
+{
+    end();
+    if (m_forget)
+        m_forget(this);
+}
+
+void WebEngineView::followPage()
+{
+    connect(m_page, &QWebEnginePage::loadStarted, this, &WebEngineView::loadStarted);
+    connect(m_page, &QWebEnginePage::loadFinished, this, &WebEngineView::loadFinished);
+    connect(m_page, &QWebEnginePage::urlChanged, this, [this](const QUrl &url) { m_listener.addressChanged(url); });
+    connect(m_page, &QWebEnginePage::renderProcessTerminated, this, &WebEngineView::ended);
+    connect(m_page, &QWebEnginePage::windowCloseRequested, this, [this] { m_listener.closeAsked(); });
+}
+
+void WebEngineView::end()
+{
+    if (m_page)
+        m_page->disconnect(this);
+    delete m_view;
+    delete m_page;
+}
+
+QWidget *WebEngineView::widget()
+{
+    return m_view;
+}
+
+void WebEngineView::load(const QUrl &address)
+{
+    if (!m_page)
+        return;
+    m_keepsPlace = m_page->url() == m_loaded;
+    m_place = m_page->scrollPosition();
+    m_loaded = address;
+    m_page->setUrl(address);
+}
+
+void WebEngineView::back()
+{
+    if (m_page)
+        m_page->triggerAction(QWebEnginePage::Back);
+}
+
+void WebEngineView::forward()
+{
+    if (m_page)
+        m_page->triggerAction(QWebEnginePage::Forward);
+}
+
+void WebEngineView::stop()
+{
+    if (m_page)
+        m_page->triggerAction(QWebEnginePage::Stop);
+}
+
+void WebEngineView::reload()
+{
+    if (m_page)
+        m_page->triggerAction(QWebEnginePage::Reload);
+}
+
+void WebEngineView::ask(std::function<void()> answered)
+{
+    if (m_page)
+        m_page->runJavaScript(QStringLiteral("0"), QWebEngineScript::ApplicationWorld,
+                              [answered = std::move(answered)](const QVariant &answer) {
+                                  if (answer.isValid()) // nothing comes for a page that has gone meanwhile
+                                      answered();
+                              });
+}
+
+void WebEngineView::text(std::function<void(const QString &)> taken)
+{
+    if (m_page)
+        m_page->toPlainText(std::move(taken));
+}
+
+void WebEngineView::endPage()
+{
+    const qint64 process = m_page ? m_page->renderProcessPid() : 0;
+    if (process > 0)
+        ::kill(static_cast<pid_t>(process), SIGKILL);
+    else
+        ended();
+}
+
+void WebEngineView::loadStarted()
+{
+    m_ended = false;
+    m_listener.loadStarted();
+}
+
+void WebEngineView::loadFinished()
+{
+    if (m_ended) // the end of the page was told already
+        return;
+    restorePlace();
+    m_listener.loadFinished();
+}
+
+/// The engine keeps the place of a page that is loaded again, but for a rounding that would let the page creep.
+void WebEngineView::restorePlace()
+{
+    if (!std::exchange(m_keepsPlace, false) || m_place.isNull())
+        return;
+    m_page->runJavaScript(QStringLiteral("scrollTo(%1, %2)").arg(m_place.x()).arg(m_place.y()),
+                          QWebEngineScript::ApplicationWorld);
+}
+
+/// Tells it from the event loop, as a page cannot be loaded again while its end is being dealt with.
+void WebEngineView::ended()
+{
+    m_ended = true;
+    const auto tell = [this] {
+        if (m_ended)
+            m_listener.pageEnded();
+    };
+    QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+}
+
+void WebEngineView::tellDownload(const QWebEngineDownloadRequest &download)
+{
+    if (download.page() == m_page)
+        m_listener.downloadRefused(download.url());
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "platform/pageView.h"
+
+#include <QObject>
+#include <QPointF>
+#include <QPointer>
+#include <QUrl>
+
+class EnginePage;
+class QWebEngineDownloadRequest;
+class QWebEngineProfile;
+class QWebEngineView;
+
+/// One page and the widget that shows it.
+class WebEngineView final : public QObject, public PageView
+{
+    Q_OBJECT
+public:
+    WebEngineView(QWebEngineProfile &profile, PageViewListener &listener, QWidget *parent);
+    ~WebEngineView() override;
+
+    /// Called once when this view goes.
+    void setForget(std::function<void(WebEngineView *)> forget) { m_forget = std::move(forget); }
+    /// Ends the page and takes the widget away; what comes after that does nothing.
+    void end();
+    void tellDownload(const QWebEngineDownloadRequest &download);
+
+    QWidget *widget() override;
+    void load(const QUrl &address) override;
+    void back() override;
+    void forward() override;
+    void stop() override;
+    void reload() override;
+    void ask(std::function<void()> answered) override;
+    void text(std::function<void(const QString &)> taken) override;
+    void endPage() override;
+
+private:
+    void followPage();
+    void loadStarted();
+    void loadFinished();
+    void ended();
+    void restorePlace();
+
+    PageViewListener &m_listener;
+    std::function<void(WebEngineView *)> m_forget;
+    QPointer<EnginePage> m_page;
+    QPointer<QWebEngineView> m_view;
+    QUrl m_loaded;             ///< what the owner asked for last
+    QPointF m_place;           ///< where the page before was scrolled to
+    bool m_keepsPlace = false; ///< the load under way is to be scrolled there
+    bool m_ended = false;      ///< the page's process has gone and nothing was loaded since
+};
