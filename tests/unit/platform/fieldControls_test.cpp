@@ -140,6 +140,19 @@ TEST(CharacterGrid, HasNoCharacterWhenEmpty)
     EXPECT_EQ(grid.selectedCharacter(), QString());
 }
 
+TEST(CharacterGrid, HasCellsThatShowNothing)
+{
+    CharacterGrid grid;
+    grid.setCharacters(str("a") + CharacterGrid::NoCharacter + str("c"), 3);
+    grid.show();
+    EXPECT_EQ(grid.item(0, 1)->text(), QString());
+    QTest::keyClick(&grid, Qt::Key_Right);
+    EXPECT_EQ(grid.selectedCell(), 1);
+    EXPECT_EQ(grid.selectedCharacter(), QString());
+    QTest::keyClick(&grid, Qt::Key_Right);
+    EXPECT_EQ(grid.selectedCharacter(), str("c"));
+}
+
 TEST(Controls, TextAreasReadWithWholeBreaksAndEveryCharacter)
 {
     const std::unique_ptr<QPlainTextEdit> area(ui::textArea(str("txtArea")));
