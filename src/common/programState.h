@@ -2,11 +2,14 @@
 
 #include "common/projectState.h"
 
+#include <QString>
+
 /// The variables that the whole program shares for one session, owned by the application object.
 struct ProgramState {
     bool AlreadyStarted = false;     ///< the main window has been loaded once
     bool FormUnloadHandled = false;  ///< the exit list has dealt with this exit: documents close without asking
     bool NoUnsavedDocuments = false; ///< the exit list found nothing to ask about
     bool DialogCancelled = false;    ///< a dialog's Cancel was pressed; ReturnFromDialog reads and clears it
+    QString ColourCode = {};         ///< "#RRGGBB" as the palette dialogs leave it; empty: no colour was picked
     ProjectState project;
 };
