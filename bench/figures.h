@@ -40,6 +40,7 @@ void surfaceColouring(Figures &figures);
 void surfaceSingleLine(Figures &figures);
 void documentFigures(Figures &figures);
 void codeFigures(Figures &figures);
+void tableFigures(Figures &figures);
 void openingFigures(Figures &figures);
 void idleFigures(Figures &figures);
 void startFigures(Figures &figures);

@@ -17,6 +17,7 @@ constexpr Group groups[] = {
     {"surface-single-line", surfaceSingleLine},
     {"document", documentFigures},
     {"codes", codeFigures},
+    {"tables", tableFigures},
     {"opening", openingFigures},
     {"idle", idleFigures},
     {"start", startFigures},

@@ -69,6 +69,7 @@ void frmColourSel::Form_Load()
 QWidget *frmColourSel::customRow()
 {
     auto *row = new QWidget;
+    row->setObjectName(QStringLiteral("picCustomColour"));
     auto *layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(2);

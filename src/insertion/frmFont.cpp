@@ -37,10 +37,12 @@ QListWidget *listOf(const QString &name, const QStringList &rows, QLineEdit *tex
 {
     QListWidget *list = ui::list(name);
     list->addItems(rows);
-    QObject::connect(list, &QListWidget::itemSelectionChanged, text, [list, text] {
+    const auto copy = [list, text] {
         if (!list->selectedItems().isEmpty())
             text->setText(list->selectedItems().constFirst()->text());
-    });
+    };
+    QObject::connect(list, &QListWidget::itemSelectionChanged, text, copy);
+    QObject::connect(list, &QListWidget::itemClicked, text, copy); // the same row again, once the text is another
     return list;
 }
 } // namespace

@@ -1,5 +1,6 @@
 #include "insertion/frmInsTable.h"
 
+#include "platform/formRuntime.h"
 #include "platform/numberField.h"
 #include "platform/spinButton.h"
 
@@ -133,8 +134,21 @@ TableFields frmInsTable::fields() const
             .summary = txtSummary->text()};
 }
 
+/// The largest tables take their time: dialog and status bar say so before it begins.
 std::optional<QString> frmInsTable::markup()
 {
     window()->setEnabled(false);
+    frmMdi().SetStatusText(QStringLiteral("Creating Table..."));
+    window()->repaint();
+    if (auto *statusBar = qobject_cast<QWidget *>(context().forms.mainForm()->control(QStringLiteral("StatusBar1"))))
+        statusBar->repaint();
     return tableMarkup(fields());
+}
+
+void frmInsTable::Form_Unload()
+{
+    const bool created = !window()->isEnabled(); // OK took its input away
+    InsertionForm::Form_Unload();
+    if (created)
+        frmMdi().SetStatusReady();
 }

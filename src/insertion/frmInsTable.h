@@ -18,6 +18,7 @@ public:
 
 protected:
     void Form_Load() override;
+    void Form_Unload() override;
     std::optional<QString> markup() override;
 
 private:
