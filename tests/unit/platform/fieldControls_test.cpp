@@ -65,6 +65,8 @@ TEST_F(SpinButtonTest, CountsFromTheLimitsWhereTheBuddyIsOutsideThem)
     EXPECT_EQ(spin.Value(), 3);
     QTest::mouseClick(spin.downButton(), Qt::LeftButton);
     EXPECT_EQ(field.text(), str("2"));
+    field.setText(str("9876543210"));
+    EXPECT_EQ(spin.Value(), 3) << "more than the limits could hold";
 }
 
 TEST(NumberField, TakesDigitsFromTheKeyboardOnly)
