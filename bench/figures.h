@@ -43,6 +43,7 @@ void surfaceSingleLine(Figures &figures);
 void documentFigures(Figures &figures);
 void codeFigures(Figures &figures);
 void previewFigures(Figures &figures);
+void tableFigures(Figures &figures);
 void openingFigures(Figures &figures);
 void idleFigures(Figures &figures);
 void startFigures(Figures &figures);

@@ -18,6 +18,7 @@ constexpr Group groups[] = {
     {"document", documentFigures},
     {"codes", codeFigures},
     {"preview", previewFigures},
+    {"tables", tableFigures},
     {"opening", openingFigures},
     {"idle", idleFigures},
     {"start", startFigures},

@@ -58,6 +58,12 @@ public:
     virtual void setWordWrapChecked(bool checked) = 0;
     virtual void setSplitEditingChecked(bool) {} ///< the check mark of `mnuSplitEditingWindows`
 
+    /// Where a form that drops down from the bar of insertions belongs on the screen, in logical pixels: under the
+    /// place where the mouse went down on the bar's first button; under that button's middle if it never did.
+    virtual QPoint insertBarDrop() const = 0;
+    /// Holds the first button of the bar of insertions down, as long as what it dropped down is on show.
+    virtual void setInsertBarPressed(bool pressed) = 0;
+
     /// Shows one of the pop-up menus at a point of the screen; its entries are enabled by its rules first.
     virtual void PopupMenu(const QString &name, const QPoint &position) = 0;
     /// For F6, key code 117, moves the focus: from "editor" to the control of the Task Manager pane's page on show,

@@ -2,6 +2,8 @@
 
 #include "common/projectState.h"
 
+#include <QString>
+
 /// The variables that the whole program shares for one session, owned by the application object.
 struct ProgramState {
     bool AlreadyStarted = false;     ///< the main window has been loaded once
@@ -11,5 +13,6 @@ struct ProgramState {
     bool PreviewCancelled = false;   ///< the question about an unsaved document was left: there is no preview
     bool PreviewUseTempCopy = false; ///< an unsaved document is shown by a temporary copy, not saved first
     bool PreviewBusy = false;        ///< a live preview is being written and gone to
+    QString ColourCode = {};         ///< "#RRGGBB" as the palette dialogs leave it; empty: no colour was picked
     ProjectState project;
 };

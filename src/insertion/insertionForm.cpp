@@ -42,7 +42,7 @@ void InsertionForm::confirm()
 {
     context().screenPointer.setMousePointer(BusyPointer);
     if (const std::optional<QString> text = markup())
-        insert(*text);
+        insert(*text, caretBack());
     context().screenPointer.setMousePointer(DefaultPointer);
 }
 

@@ -43,6 +43,8 @@ protected:
     /// Applies the path rules where the dialog has them and builds the markup from the fields. Nothing keeps the dialog
     /// open, as where a field is missing; then the user has been told.
     virtual std::optional<QString> markup() = 0;
+    /// How many characters before the markup's end the caret is to stand; asked once the markup is made.
+    virtual qsizetype caretBack() const { return 0; }
 
     /// OK, Cancel and Help, one below the other; OK is the default button and Escape presses Cancel. Once a load.
     ui::Node dialogButtons();

@@ -32,6 +32,11 @@ QString pointSizeAttributes(int points)
     return points == exact ? size : size + QStringLiteral(" style=\"font-size: %1pt\"").arg(points);
 }
 
+QStringList pointSizes()
+{
+    return QStringLiteral("7 8 9 10 11 12 14 16 18 20 22 24 26 28 36 48 72").split(u' ');
+}
+
 QStringList headingNames()
 {
     QStringList names{QStringLiteral("Normal")};

@@ -9,6 +9,9 @@ struct ProgramContext;
 /// style with the size itself where none of the seven is exactly it.
 QString pointSizeAttributes(int points);
 
+/// The point sizes that lists offer.
+QStringList pointSizes();
+
 /// The names in the list of headings, from none to the sixth level.
 QStringList headingNames();
 /// The level of a heading's name in that list, 0 for none.

@@ -35,7 +35,7 @@ void CharacterGrid::setCharacters(const QString &characters, int columns)
 void CharacterGrid::fillCell(int cell)
 {
     const bool used = cell < m_characters.size();
-    auto *item = new QTableWidgetItem(used ? QString(m_characters[cell]) : QString());
+    auto *item = new QTableWidgetItem(characterAt(cell));
     item->setTextAlignment(Qt::AlignCenter);
     item->setFlags(used ? Qt::ItemIsEnabled | Qt::ItemIsSelectable : Qt::NoItemFlags);
     setItem(cell / columnCount(), cell % columnCount(), item);
@@ -46,9 +46,15 @@ int CharacterGrid::selectedCell() const
     return currentRow() < 0 ? -1 : currentRow() * columnCount() + currentColumn();
 }
 
+QString CharacterGrid::characterAt(int cell) const
+{
+    const bool any = cell >= 0 && cell < m_characters.size() && m_characters[cell] != NoCharacter;
+    return any ? QString(m_characters[cell]) : QString();
+}
+
 QString CharacterGrid::selectedCharacter() const
 {
-    return m_characters.mid(selectedCell() < 0 ? static_cast<int>(m_characters.size()) : selectedCell(), 1);
+    return characterAt(selectedCell());
 }
 
 void CharacterGrid::selectCell(int cell)
@@ -74,9 +80,10 @@ void CharacterGrid::sizeCells()
 
 QSize CharacterGrid::sizeHint() const
 {
+    constexpr int MostRows = 12;
     const int frame = 2 * frameWidth();
-    const int bar = verticalScrollBar()->sizeHint().width();
-    return QSize(columnCount() * cellSize() + frame + bar, std::min(rowCount(), 12) * cellSize() + frame);
+    const int bar = rowCount() > MostRows ? verticalScrollBar()->sizeHint().width() : 0;
+    return QSize(columnCount() * cellSize() + frame + bar, std::min(rowCount(), MostRows) * cellSize() + frame);
 }
 
 void CharacterGrid::changeEvent(QEvent *event)

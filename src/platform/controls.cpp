@@ -2,6 +2,7 @@
 
 #include "platform/characterGrid.h"
 #include "platform/checkList.h"
+#include "platform/colourPalette.h"
 #include "platform/colourSelection.h"
 #include "platform/colourSwatch.h"
 #include "platform/controlWatch.h"
@@ -10,6 +11,7 @@
 #include "platform/nodeTree.h"
 #include "platform/numberField.h"
 #include "platform/pictureBox.h"
+#include "platform/programIcon.h"
 #include "platform/spinButton.h"
 #include "platform/tabStrip.h"
 
@@ -26,6 +28,7 @@
 #include <QScrollBar>
 #include <QTextCharFormat>
 #include <QTextDocument>
+#include <QToolButton>
 #include <memory>
 
 namespace ui
@@ -83,6 +86,16 @@ void selectAllOnFocus(QWidget *field)
             SelectAllText(field);
         return false;
     });
+}
+/// The months are turned by arrows in the colour of the text between them; the names are the toolkit's.
+void giveArrows(const QCalendarWidget &calendar)
+{
+    const QColor colour = calendar.palette().color(QPalette::HighlightedText);
+    for (const auto &[name, icon] :
+         {std::pair("qt_calendar_prevmonth", "arrow-left"), std::pair("qt_calendar_nextmonth", "arrow-right")}) {
+        if (auto *button = calendar.findChild<QToolButton *>(QLatin1String(name)))
+            button->setIcon(programIcon(QLatin1String(icon), colour, colour));
+    }
 }
 } // namespace
 
@@ -255,9 +268,9 @@ TabStrip *keyedTabs(const QString &name, const IndexHandler &click)
     return control;
 }
 
-ColourSelection *colourSelection(const QString &name, CommonDialogs &dialogs, const Handler &change)
+ColourSelection *colourSelection(const QString &name, const ColourPick &pick, const Handler &change)
 {
-    auto *control = named(new ColourSelection(dialogs), name);
+    auto *control = named(new ColourSelection(pick), name);
     run(control, &ColourSelection::colourChanged, change);
     return control;
 }
@@ -265,6 +278,13 @@ ColourSelection *colourSelection(const QString &name, CommonDialogs &dialogs, co
 ColourSwatch *swatch(const QString &name)
 {
     return named(new ColourSwatch, name);
+}
+
+ColourPalette *colourPalette(const QString &name, const QList<ColourValue> &colours, int columns, const Handler &pick)
+{
+    auto *control = named(new ColourPalette(colours, columns), name);
+    run(control, &ColourPalette::picked, pick);
+    return control;
 }
 
 CharacterGrid *characterGrid(const QString &name, const Handler &pick, const Handler &dblClick)
@@ -281,6 +301,7 @@ QCalendarWidget *calendar(const QString &name, const Handler &change)
     for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) // their usual red is hard to read on a dark ground
         control->setWeekdayTextFormat(day, QTextCharFormat());
     control->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    giveArrows(*control);
     run(control, &QCalendarWidget::selectionChanged, change);
     return control;
 }

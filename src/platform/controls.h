@@ -1,14 +1,17 @@
 #pragma once
 
+#include "common/colour.h"
+
 #include <QList>
 #include <QString>
 #include <functional>
+#include <optional>
 
 class CharacterGrid;
 class CheckList;
+class ColourPalette;
 class ColourSelection;
 class ColourSwatch;
-class CommonDialogs;
 class DriveList;
 class FileList;
 class FileSystem;
@@ -42,6 +45,8 @@ using Handler = std::function<void()>;
 using IndexHandler = std::function<void(int)>; ///< given the row, node, tab or cell, counted from 0
 using PointerHandler = std::function<void(const PointerState &)>;
 using KeyHandler = std::function<bool(const QKeyEvent &)>; ///< true: the key is used up
+/// Asks the user for a colour, showing one to start from; nothing when it is left without a choice.
+using ColourPick = std::function<std::optional<ColourValue>(ColourValue)>;
 
 QLabel *label(const QString &name, const QString &caption, const Handler &click = {});
 
@@ -92,8 +97,10 @@ QTabBar *tabStrip(const QString &name, const QList<QString> &tabs, const Handler
 TabStrip *keyedTabs(const QString &name, const IndexHandler &click = {});
 
 // Others.
-ColourSelection *colourSelection(const QString &name, CommonDialogs &dialogs, const Handler &change = {});
+ColourSelection *colourSelection(const QString &name, const ColourPick &pick, const Handler &change = {});
 ColourSwatch *swatch(const QString &name);
+/// `pick` runs when a colour was chosen by a click or a key.
+ColourPalette *colourPalette(const QString &name, const QList<ColourValue> &colours, int columns, const Handler &pick);
 CharacterGrid *characterGrid(const QString &name, const Handler &pick = {}, const Handler &dblClick = {});
 QCalendarWidget *calendar(const QString &name, const Handler &change = {});
 QScrollBar *scrollBar(const QString &name, Qt::Orientation orientation, const Handler &change = {});

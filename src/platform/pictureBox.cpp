@@ -41,6 +41,12 @@ void PictureBox::setPaint(const Paint &paint)
     update();
 }
 
+void PictureBox::setOutlined(bool outlined)
+{
+    m_outlined = outlined;
+    update();
+}
+
 void PictureBox::setClickableByKeyboard(bool on)
 {
     setFocusPolicy(on ? Qt::StrongFocus : Qt::NoFocus);
@@ -65,6 +71,13 @@ void PictureBox::drawPicture(QPainter &painter) const
         painter.drawPixmap(0, 0, m_picture);
 }
 
+void PictureBox::drawOutline(QPainter &painter) const
+{
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.setBrush({});
+    painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5)); // a pen draws around the line that it is given
+}
+
 void PictureBox::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
@@ -72,6 +85,8 @@ void PictureBox::paintEvent(QPaintEvent *)
         drawPicture(painter);
     if (m_paint)
         m_paint(painter);
+    if (m_outlined)
+        drawOutline(painter);
     if (!hasFocus())
         return;
     QStyleOptionFocusRect focus;

@@ -26,6 +26,7 @@ public:
     const QPixmap &picture() const { return m_picture; }
     void setFit(Fit fit);
     void setPaint(const Paint &paint); ///< runs over background and picture
+    void setOutlined(bool outlined);   ///< a thin line around the edge, over all else
     /// Lets the picture have the focus, by mouse and keyboard; Space then clicks it.
     void setClickableByKeyboard(bool on);
 
@@ -51,9 +52,11 @@ protected:
 private:
     QSize pictureSize() const;
     void drawPicture(QPainter &painter) const;
+    void drawOutline(QPainter &painter) const;
 
     QPixmap m_picture;
     Paint m_paint;
     Fit m_fit = Fit::Plain;
+    bool m_outlined = false;
     bool m_pressed = false;
 };

@@ -45,7 +45,9 @@ void SpinButton::sizeArrows()
 
 int SpinButton::Value() const
 {
-    return std::clamp(m_buddy ? m_buddy->text().toInt() : m_minimum, m_minimum, m_maximum);
+    // A longer number than the limits know is cut to them; one that no number can hold counts as none.
+    const qlonglong number = m_buddy ? m_buddy->text().toLongLong() : m_minimum;
+    return static_cast<int>(std::clamp<qlonglong>(number, m_minimum, m_maximum));
 }
 
 void SpinButton::setValue(int value)

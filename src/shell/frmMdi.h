@@ -3,7 +3,9 @@
 #include "common/mainWindow.h"
 #include "platform/form.h"
 
+#include <QPoint>
 #include <memory>
+#include <optional>
 
 class CodeLibraries;
 class CoolBar;
@@ -52,6 +54,8 @@ public:
     bool structurePageShown() const override;
     void addStructureNode(qsizetype parent, const QString &key, const QString &text, const QString &image) override;
 
+    QPoint insertBarDrop() const override;
+    void setInsertBarPressed(bool pressed) override;
     void PopupMenu(const QString &name, const QPoint &position) override;
     bool MoveToNextPane(int keyCode, const QString &from) override;
 
@@ -101,6 +105,9 @@ private:
     bool projectMayClose();
     bool documentsMayClose();
 
+    QWidget *insertBarButton() const;
+    void followInsertBar();
+    void guardFontCombos();
     bool isBarShown(const QString &entry) const;
     void setBarShown(const QString &entry, bool shown);
     void raiseDialogs();
@@ -132,5 +139,6 @@ private:
     QLabel *m_message = nullptr;
     QLabel *m_format = nullptr;
     Timer *tmrResetBar = nullptr;
-    bool m_fontTyped = false; ///< a face was typed into cboFont and not yet taken
+    std::optional<QPoint> m_insertBarMouse; ///< where it went down on the first button, in the client area
+    bool m_fontTyped = false;               ///< a face was typed into cboFont and not yet taken
 };

@@ -5,6 +5,7 @@
 #include "files/modRecentFiles.h"
 #include "insertion/modFontTags.h"
 #include "internet/modViewInBrowser.h"
+#include "platform/controlWatch.h"
 #include "platform/coolBar.h"
 #include "platform/nodeTree.h"
 #include "platform/programIcon.h"
@@ -20,8 +21,11 @@
 #include <QAction>
 #include <QComboBox>
 #include <QLabel>
+#include <QMainWindow>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QStatusBar>
+#include <QToolBar>
 
 namespace
 {
@@ -30,6 +34,11 @@ struct Bar {
     const char *entry;
     const settings::Key &setting;
 };
+const QString InsertBarFirst = QStringLiteral("tbrInsert(Table)");
+/// From the mouse to the corner of what drops down, 70 and 650 twips: a little to the right and, where the client area
+/// begins as far under the window's edge as the menu bar is high, right under the button.
+constexpr QPoint InsertBarDrop(70 / 15, 650 / 15);
+
 const Bar bars[] = {{"mnuShowbar", settings::AddrBarVisible},
                     {"mnuShowPrjWindow", settings::CodeWinVis},
                     {"mnuShowCodeBar", settings::CodeBarVis},
@@ -179,6 +188,36 @@ void frmMdi::treStructure_NodeClick(int node)
     const TextSelection selection = selectionOfNode(m_pane->treStructure->nodeAt(node).key);
     document->txtEdit().setSelStart(selection.start);
     document->txtEdit().setSelLength(selection.length);
+}
+
+QWidget *frmMdi::insertBarButton() const
+{
+    return m_commands->toolBar(QStringLiteral("tbrInsert"))->widgetForAction(m_commands->action(InsertBarFirst));
+}
+
+void frmMdi::followInsertBar()
+{
+    QWidget *button = insertBarButton();
+    m_insertBarMouse.reset();
+    new ControlWatch(button, QEvent::MouseButtonPress, [this, button](const QEvent &event) {
+        const QPoint place = static_cast<const QMouseEvent &>(event).position().toPoint();
+        m_insertBarMouse = button->mapTo(frame()->centralWidget(), place);
+        return false;
+    });
+}
+
+QPoint frmMdi::insertBarDrop() const
+{
+    const QWidget *button = insertBarButton();
+    const QPoint middle = button->mapTo(frame()->centralWidget(), button->rect().center());
+    return window()->mapToGlobal(m_insertBarMouse.value_or(middle)) + InsertBarDrop;
+}
+
+void frmMdi::setInsertBarPressed(bool pressed)
+{
+    QAction *first = m_commands->action(InsertBarFirst);
+    first->setCheckable(pressed); // for a user, it is a button like the others
+    first->setChecked(pressed);
 }
 
 void frmMdi::PopupMenu(const QString &name, const QPoint &position)

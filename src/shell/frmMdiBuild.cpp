@@ -2,6 +2,7 @@
 #include "shell/frmMdi.h"
 
 #include "insertion/modFontTags.h"
+#include "platform/controlWatch.h"
 #include "platform/controls.h"
 #include "platform/coolBar.h"
 #include "platform/formRuntime.h"
@@ -92,16 +93,24 @@ void frmMdi::buildFontCombos()
     connect(cboFont->lineEdit(), &QLineEdit::returnPressed, this, [this] { cboFont_LostFocus(); });
     ui::onLostFocus(cboFont->lineEdit(), [this] { cboFont_LostFocus(); });
 
-    const QStringList sizes = QStringLiteral("7 8 9 10 11 12 14 16 18 20 22 24 26 28 36 48 72").split(u' ');
-    cboSize = ui::combo(QStringLiteral("cboSize"), sizes, {}, [this] { cboSize_Click(); });
+    cboSize = ui::combo(QStringLiteral("cboSize"), pointSizes(), {}, [this] { cboSize_Click(); });
     cboSize->setAccessibleName(QStringLiteral("Point size"));
     cboSize->setToolTip(QStringLiteral("Point size"));
     cboSize->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     connect(cboSize->lineEdit(), &QLineEdit::returnPressed, this, [this] { cboSize_Click(); });
 
-    cboFontSize = ui::dropList(QStringLiteral("cboFontSize"), headingNames(), [this] { cboFontSize_Click(); });
+    cboFontSize = ui::dropList(QStringLiteral("cboFontSize"), headingNames());
+    connect(cboFontSize, &QComboBox::activated, this, [this] { cboFontSize_Click(); }); // the same level again, too
     cboFontSize->setAccessibleName(QStringLiteral("Heading"));
     cboFontSize->setToolTip(QStringLiteral("Heading"));
+    guardFontCombos();
+}
+
+/// Each row that these lists pass writes a tag, so a wheel that turns over them on its way must not pass any.
+void frmMdi::guardFontCombos()
+{
+    for (QComboBox *combo : {cboFont, cboSize, cboFontSize})
+        new ControlWatch(combo, QEvent::Wheel, [](const QEvent &) { return true; });
 }
 
 void frmMdi::buildAddressPanel()
@@ -147,6 +156,7 @@ void frmMdi::buildBands()
     cbrMain->addBand(bar("tbrHelp"), true);
     cbrMain->addBand(picAddress, false);
     cbrMain->addBand(bar("tbrBrowser"), false);
+    followInsertBar();
 }
 
 void frmMdi::buildDocumentSelector()

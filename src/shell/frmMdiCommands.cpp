@@ -7,6 +7,7 @@
 #include "document/modClipboard.h"
 #include "document/modDocument.h"
 #include "insertion/modCode.h"
+#include "insertion/modColourProcesses.h"
 #include "insertion/modExcludePath.h"
 #include "internet/modViewInBrowser.h"
 #include "platform/commonDialogs.h"
@@ -251,6 +252,11 @@ void MainCommands::mnuInsExternalCSS_Click()
     const QString name = ExcludePath(m_context, cdlInsExternalCSS->fileName);
     active->txtEdit().setSelText(QStringLiteral("<LINK REL=\"stylesheet\" TYPE=\"text/css\" HREF=\"%1\">").arg(name));
     active->txtEdit().SetFocus();
+}
+
+void MainCommands::mnuInsColourCode_Click()
+{
+    InsertColourCode(m_context);
 }
 
 void MainCommands::mnuOmitBasePath_Click()

@@ -69,6 +69,7 @@ public:
     void mnuWordWrap_Click();
     // Insert, Format, Tools
     void mnuInsExternalCSS_Click();
+    void mnuInsColourCode_Click();
     void mnuOmitBasePath_Click();
     void mnuIndent_Click();
     void mnuOutdent_Click();

@@ -40,7 +40,7 @@ constexpr std::array table{
     Key{"ColourLayoutNotLocated", MainApp, "Settings", "65280", nullptr, Spelling::Text},
     Key{"ColourLayoutURL", MainApp, "Settings", "16776960", nullptr, Spelling::Text},
     Key{"CurrentVersion", MainApp, "Settings", "", nullptr, Spelling::Text},
-    Key{"CustomColour#", MainApp, "Settings", "16777215", nullptr, Spelling::Text},
+    Key{"#CustomColour", MainApp, "Settings", "16777215", nullptr, Spelling::Text},
     Key{"DocSelBarVis", MainApp, "Settings", "True", nullptr, Spelling::ExactFalse},
     Key{"ExcludeBasePath", MainApp, "Settings", "true", nullptr, Spelling::Word},
     Key{"FirstHelp", MainApp, "Settings", "false", nullptr, Spelling::Word},
@@ -120,7 +120,7 @@ const Key ColourLayoutLocated = rowOf("ColourLayoutLocated");
 const Key ColourLayoutNotLocated = rowOf("ColourLayoutNotLocated");
 const Key ColourLayoutURL = rowOf("ColourLayoutURL");
 const Key CurrentVersion = rowOf("CurrentVersion");
-const Key CustomColour = rowOf("CustomColour#");
+const Key CustomColour = rowOf("#CustomColour");
 const Key DocSelBarVis = rowOf("DocSelBarVis");
 const Key ExcludeBasePath = rowOf("ExcludeBasePath");
 const Key FirstHelp = rowOf("FirstHelp");

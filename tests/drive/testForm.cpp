@@ -4,6 +4,7 @@
 #include "platform/checkList.h"
 #include "platform/colourSelection.h"
 #include "platform/colourSwatch.h"
+#include "platform/commonDialogs.h"
 #include "platform/editSurface.h"
 #include "platform/fileControls.h"
 #include "platform/layout.h"
@@ -138,8 +139,11 @@ ui::Node frmTestControls::textPage()
                            {ui::spin(str("updNumber"), txtNumber, 1, 20), ui::label(str("lblUnit"), str("pieces"))},
                            str("lblNumber")),
                    ui::row(str("&Disabled:"), txtDisabled), ui::row(QString(), ui::hidden(ui::text(str("txtHidden")))),
-                   ui::row(str("&Colour:"), ui::colourSelection(str("clrColour"), services().commonDialogs,
-                                                                recorder(str("clrColour"), str("Change")))),
+                   ui::row(str("&Colour:"),
+                           ui::colourSelection(
+                               str("clrColour"),
+                               [this](ColourValue colour) { return services().commonDialogs.showColour(colour); },
+                               recorder(str("clrColour"), str("Change")))),
                    ui::row(str("Comb&o:"), ui::combo(str("cboEdit"), {str("one"), str("two"), str("three")},
                                                      recorder(str("cboEdit"), str("Change")),
                                                      recorder(str("cboEdit"), str("Click"))))}),

@@ -1,5 +1,7 @@
 #include "insertion/modFontTags.h"
 
+#include "insertion/modFonts.h"
+
 #include <gtest/gtest.h>
 
 TEST(PointSizes, eachStepHasItsNumberAndAStyleUnlessItIsExact)
@@ -41,4 +43,13 @@ TEST(Headings, sixLevelsBehindNone)
     EXPECT_EQ(headingLevel(QStringLiteral("Heading 1")), 1);
     EXPECT_EQ(headingLevel(QStringLiteral("Heading 6")), 6);
     EXPECT_EQ(headingLevel(QStringLiteral("Heading 7")), 0);
+}
+
+TEST(Fonts, areNamedOnceAndWithoutTheirMakers)
+{
+    const QStringList families{QStringLiteral("Alpha [one]"), QStringLiteral("Alpha [two]"), QStringLiteral("Beta"),
+                               QStringLiteral("Gamma[x]"), QStringLiteral("[y]")};
+    EXPECT_EQ(fontNames(families), (QStringList{QStringLiteral("Alpha"), QStringLiteral("Beta"),
+                                                QStringLiteral("Gamma[x]"), QStringLiteral("[y]")}));
+    EXPECT_EQ(fontNames({}), QStringList());
 }

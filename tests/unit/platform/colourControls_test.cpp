@@ -1,6 +1,5 @@
 #include "platform/colourSelection.h"
 #include "platform/colourSwatch.h"
-#include "platform/commonDialogs.h"
 #include "platform/themeColour.h"
 
 #include <QApplication>
@@ -19,20 +18,13 @@ QString str(const char *text)
     return QString::fromUtf8(text);
 }
 
-/// Answers the colour dialog with one colour, or leaves it.
-class OneColour final : public CommonDialogs
-{
-public:
-    std::optional<FileDialogResult> showOpen(const FileDialogRequest &) override { return {}; }
-    std::optional<FileDialogResult> showSave(const FileDialogRequest &) override { return {}; }
-    std::optional<QString> showFolder(const QString &, const QString &) override { return {}; }
-    std::optional<ColourValue> showColour(ColourValue initial) override
+/// Answers the question for a colour with one, or leaves it.
+struct OneColour {
+    std::optional<ColourValue> pick(ColourValue initial)
     {
         asked.append(initial);
         return answer;
     }
-    std::optional<FontChoice> showFont(const FontChoice &) override { return {}; }
-    std::optional<int> showPrint() override { return {}; }
 
     QList<ColourValue> asked;
     std::optional<ColourValue> answer;
@@ -50,7 +42,7 @@ protected:
     }
 
     OneColour dialogs;
-    ColourSelection picker{dialogs};
+    ColourSelection picker{[this](ColourValue initial) { return dialogs.pick(initial); }};
     QSignalSpy changes{&picker, &ColourSelection::colourChanged};
 };
 
@@ -101,6 +93,20 @@ TEST_F(ColourSelectionTest, KeepsItsColourWhenTheDialogIsLeft)
     QTest::mouseClick(picker.changeButton(), Qt::LeftButton);
     EXPECT_EQ(picker.GetColour(), 255U);
     EXPECT_EQ(changes.count(), 0);
+}
+
+TEST_F(ColourSelectionTest, ShowsAnUnsetColourAsAnEmptyText)
+{
+    picker.setUnsetColour(1);
+    EXPECT_EQ(picker.HexadecimalColour(), str("#010000"));
+    EXPECT_EQ(picker.textField()->text(), QString());
+    retype("#0000ff");
+    EXPECT_EQ(picker.HexadecimalColour(), str("#0000FF"));
+    picker.textField()->selectAll();
+    QTest::keyClick(picker.textField(), Qt::Key_Delete);
+    EXPECT_EQ(picker.HexadecimalColour(), str("#010000"));
+    EXPECT_EQ(changes.count(), 2);
+    EXPECT_EQ(dialogs.asked.size(), 0);
 }
 
 TEST(ThemeColour, TakesTheThemesColoursFromThePalette)

@@ -73,6 +73,8 @@ public:
     void showDocumentTabs(bool) override {}
     void showDocumentSelector(bool) override {}
     void setWordWrapChecked(bool) override {}
+    QPoint insertBarDrop() const override { return {}; }
+    void setInsertBarPressed(bool) override {}
     void PopupMenu(const QString &, const QPoint &) override {}
     bool MoveToNextPane(int, const QString &) override { return false; }
     void clearStructureTree() override {}

@@ -65,6 +65,8 @@ TEST_F(SpinButtonTest, CountsFromTheLimitsWhereTheBuddyIsOutsideThem)
     EXPECT_EQ(spin.Value(), 3);
     QTest::mouseClick(spin.downButton(), Qt::LeftButton);
     EXPECT_EQ(field.text(), str("2"));
+    field.setText(str("9876543210"));
+    EXPECT_EQ(spin.Value(), 3) << "more than the limits could hold";
 }
 
 TEST(NumberField, TakesDigitsFromTheKeyboardOnly)
@@ -138,6 +140,19 @@ TEST(CharacterGrid, HasNoCharacterWhenEmpty)
     const CharacterGrid grid;
     EXPECT_EQ(grid.selectedCell(), -1);
     EXPECT_EQ(grid.selectedCharacter(), QString());
+}
+
+TEST(CharacterGrid, HasCellsThatShowNothing)
+{
+    CharacterGrid grid;
+    grid.setCharacters(str("a") + CharacterGrid::NoCharacter + str("c"), 3);
+    grid.show();
+    EXPECT_EQ(grid.item(0, 1)->text(), QString());
+    QTest::keyClick(&grid, Qt::Key_Right);
+    EXPECT_EQ(grid.selectedCell(), 1);
+    EXPECT_EQ(grid.selectedCharacter(), QString());
+    QTest::keyClick(&grid, Qt::Key_Right);
+    EXPECT_EQ(grid.selectedCharacter(), str("c"));
 }
 
 TEST(Controls, TextAreasReadWithWholeBreaksAndEveryCharacter)

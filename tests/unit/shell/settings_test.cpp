@@ -49,7 +49,7 @@ const Row expected[] = {
     {"ColourLayoutNotLocated", Main, "Settings", "65280", nullptr, Spelling::Text},
     {"ColourLayoutURL", Main, "Settings", "16776960", nullptr, Spelling::Text},
     {"CurrentVersion", Main, "Settings", "", nullptr, Spelling::Text},
-    {"CustomColour#", Main, "Settings", "16777215", nullptr, Spelling::Text},
+    {"#CustomColour", Main, "Settings", "16777215", nullptr, Spelling::Text},
     {"DocSelBarVis", Main, "Settings", "True", nullptr, Spelling::ExactFalse},
     {"ExcludeBasePath", Main, "Settings", "true", nullptr, Spelling::Word},
     {"FirstHelp", Main, "Settings", "false", nullptr, Spelling::Word},
