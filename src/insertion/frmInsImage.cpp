@@ -300,7 +300,7 @@ void frmInsImage::preview()
 {
     if (cboSrc->currentText().isEmpty())
         return;
-    window()->setCursor(Qt::BusyCursor);
+    showBusy(true);
     if (chkNoPreview->isChecked() || showPicture()) {
         resizePreview();
         fillSize();
@@ -309,7 +309,7 @@ void frmInsImage::preview()
         txtWidth->clear();
         txtHeight->clear();
     }
-    window()->unsetCursor();
+    showBusy(false);
 }
 
 /// Shows and measures what the path names; false, and nothing changed, where that is no picture.

@@ -45,10 +45,10 @@ ui::Node InsertionForm::dialogButtons()
 
 void InsertionForm::confirm()
 {
-    context().screenPointer.setMousePointer(BusyPointer);
+    showBusy(true);
     if (const std::optional<QString> text = markup())
         insert(*text);
-    context().screenPointer.setMousePointer(DefaultPointer);
+    showBusy(false);
 }
 
 void InsertionForm::insert(const QString &text, qsizetype caretBack)
@@ -78,10 +78,15 @@ void InsertionForm::takesPath(QWidget *box)
 
 std::nullopt_t InsertionForm::refused(const QString &message, QWidget *field)
 {
-    context().screenPointer.setMousePointer(DefaultPointer); // the box waits for the user, who is not to wait for it
+    showBusy(false); // the box waits for the user, who is not to wait for it
     services().messageBoxes.show({QStringLiteral("Error!"), message, MessageIcon::Exclamation, MessageButtons::OK});
     focusOn(field);
     return std::nullopt;
+}
+
+void InsertionForm::showBusy(bool busy)
+{
+    context().screenPointer.setMousePointer(busy ? BusyPointer : DefaultPointer);
 }
 
 void InsertionForm::focusOn(QWidget *control)

@@ -57,6 +57,8 @@ protected:
 
     /// For `markup`, where a field is missing: tells it in a box and puts the focus into the field.
     std::nullopt_t refused(const QString &message, QWidget *field);
+    /// Shows by the mouse pointer that the dialog is at work, or no longer.
+    void showBusy(bool busy);
     /// Gives the control the focus if it can have it now, which is never before the dialog is on show.
     static void focusOn(QWidget *control);
 
