@@ -39,6 +39,7 @@ void surfaceTyping(Figures &figures);
 void surfaceColouring(Figures &figures);
 void surfaceSingleLine(Figures &figures);
 void documentFigures(Figures &figures);
+void dialogFigures(Figures &figures);
 void openingFigures(Figures &figures);
 void idleFigures(Figures &figures);
 void startFigures(Figures &figures);

@@ -17,6 +17,7 @@ constexpr Group groups[] = {
     {"surface-colouring", surfaceColouring},
     {"surface-single-line", surfaceSingleLine},
     {"document", documentFigures},
+    {"dialogs", dialogFigures},
     {"opening", openingFigures},
     {"idle", idleFigures},
     {"start", startFigures},
