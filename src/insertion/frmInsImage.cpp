@@ -195,6 +195,7 @@ ui::Node frmInsImage::previewGroup()
     imgPreview->setAccessibleName(QStringLiteral("Preview of the image"));
     lblNoPicture = ui::label(QStringLiteral("lblNoPicture"), QStringLiteral("(Preview not available)"));
     lblNoPicture->setAlignment(Qt::AlignCenter);
+    lblNoPicture->setFrameShape(QFrame::StyledPanel); // as the preview has it
     auto *frame = new QScrollArea;
     frame->setAlignment(Qt::AlignCenter);
     frame->setAccessibleName(QStringLiteral("Preview of the image"));
@@ -214,8 +215,7 @@ void frmInsImage::readTag()
     TextSurface *edit = frmMdi().activeDocument() ? &frmMdi().activeDocument()->txtEdit() : nullptr;
     if (!edit)
         return;
-    cboImgMapName->addItems(tagValues(edit->Text(), QStringLiteral("<map "), QStringLiteral("name"), MostMaps));
-    cboImgMapName->setCurrentIndex(-1);
+    ui::addRows(*cboImgMapName, tagValues(edit->Text(), QStringLiteral("<map "), QStringLiteral("name"), MostMaps));
     const std::optional<TagUnderCaret> tag = readImageTag(edit->Text(), edit->SelStart(), edit->SelLength());
     if (!tag)
         return;
