@@ -26,6 +26,7 @@ constexpr LinkKind linkKinds[] = {
     {"(other)", nullptr, true},
 };
 
+constexpr int CharactersOfAPrefix = 12;
 const QString InternalLink = QStringLiteral("Internal link");
 const QString Other = QStringLiteral("(other)");
 
@@ -80,6 +81,7 @@ ui::Node frmInsHyperlink::addressRows()
     cboLinkType = ui::dropList(QStringLiteral("cboLinkType"), kindNames(), [this] { cboLinkType_Click(); });
     txtPre = ui::text(QStringLiteral("txtPre"));
     txtPre->setAccessibleName(QStringLiteral("Prefix"));
+    txtPre->setMinimumWidth(txtPre->fontMetrics().averageCharWidth() * CharactersOfAPrefix);
     ui::onLostFocus(txtPre, [this] { m_rememberedPrefix = txtPre->text(); });
     cboUrl = ui::combo(
         QStringLiteral("cboUrl"), {}, [this] { cboUrl_Change(); }, [this] { cboUrl_Change(); });
