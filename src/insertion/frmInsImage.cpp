@@ -4,28 +4,20 @@
 #include "insertion/attributeText.h"
 #include "insertion/imageFilter.h"
 #include "insertion/modProjectFileCtrl.h"
+#include "insertion/sizeAttribute.h"
 #include "insertion/tagValues.h"
 #include "platform/controlWatch.h"
 #include "platform/numberField.h"
-#include "platform/pictureBox.h"
-#include "platform/pictureLoader.h"
 #include "shell/settings.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScrollArea>
-#include <QStackedWidget>
-#include <algorithm>
 
 namespace
 {
 constexpr int MostMaps = 20;
-constexpr int LongestPreview = 32767; // no desktop shows a larger one
-constexpr QSize LargestPixels(1280, 1024);
-constexpr QSize PreviewFrame(260, 220);
 
 QStringList alignments()
 {
@@ -39,13 +31,6 @@ QString useMapAttribute(const QString &name)
     return name.isEmpty() ? QString() : attributeText(QStringLiteral("usemap"), place);
 }
 
-QString sizeAttribute(const QString &name, const QString &size, bool inPercent)
-{
-    if (size.isEmpty())
-        return {};
-    return attributeText(name, inPercent ? size + u'%' : size);
-}
-
 /// A size of the tag without its sign, and the crossed unit with it; an empty one changes nothing.
 QString takeSize(const QString &size, bool &inPercent)
 {
@@ -53,16 +38,6 @@ QString takeSize(const QString &size, bool &inPercent)
         return {};
     inPercent = !size.endsWith(u'%');
     return inPercent ? size : size.chopped(1);
-}
-
-/// A side of the preview by its size field; nothing for an empty field of pixels, which leaves the preview as it is.
-std::optional<int> previewLength(const QString &field, bool inPercent, int actual)
-{
-    if (field.isEmpty() && !inPercent)
-        return std::nullopt;
-    const qint64 number = wholeNumber(field);
-    const qint64 length = inPercent ? number * actual / 100 : number;
-    return static_cast<int>(std::clamp<qint64>(length, 0, LongestPreview));
 }
 } // namespace
 
@@ -189,25 +164,8 @@ ui::Node frmInsImage::spaceGroup()
 
 ui::Node frmInsImage::previewGroup()
 {
-    imgProcess = ui::picture(QStringLiteral("imgProcess"));
-    imgPreview = ui::picture(QStringLiteral("imgPreview"));
-    imgPreview->setFit(PictureBox::Fit::Stretch);
-    imgPreview->setAccessibleName(QStringLiteral("Preview of the image"));
-    lblNoPicture = ui::label(QStringLiteral("lblNoPicture"), QStringLiteral("(Preview not available)"));
-    lblNoPicture->setAlignment(Qt::AlignCenter);
-    lblNoPicture->setFrameShape(QFrame::StyledPanel); // as the preview has it
-    auto *frame = new QScrollArea;
-    frame->setAlignment(Qt::AlignCenter);
-    frame->setAccessibleName(QStringLiteral("Preview of the image"));
-    frame->setWidget(imgPreview);
-    m_previewPages = new QStackedWidget;
-    m_previewPages->addWidget(lblNoPicture);
-    m_previewPages->addWidget(frame);
-    m_previewPages->setMinimumSize(PreviewFrame);
     chkNoPreview = ui::check(QStringLiteral("chkNoPreview"), QStringLiteral("&Disable Image Preview"));
-    return ui::group(QStringLiteral("Preview"),
-                     ui::column({ui::Node(m_previewPages, 1), chkNoPreview, ui::hidden(imgProcess)}))
-        .stretched();
+    return ui::group(QStringLiteral("Preview"), ui::column({m_preview.build().stretched(), chkNoPreview})).stretched();
 }
 
 void frmInsImage::readTag()
@@ -266,7 +224,7 @@ std::optional<QString> frmInsImage::markup()
 
 void frmInsImage::cboSrc_LostFocus()
 {
-    if (cboSrc->currentText() != m_knownSrc)
+    if (isLoaded() && cboSrc->currentText() != m_knownSrc) // closing the dialog leaves the box, too
         preview();
 }
 
@@ -278,8 +236,9 @@ void frmInsImage::cmdBrowseSrc_Click()
 
 void frmInsImage::cmdUseActual_Click()
 {
-    txtWidth->setText(QString::number(imgProcess->width()));
-    txtHeight->setText(QString::number(imgProcess->height()));
+    const QSize actual = m_preview.actualSize();
+    txtWidth->setText(QString::number(actual.width()));
+    txtHeight->setText(QString::number(actual.height()));
 }
 
 void frmInsImage::leaveSize(NumberField *field)
@@ -312,25 +271,18 @@ void frmInsImage::preview()
     showBusy(false);
 }
 
-/// Shows and measures what the path names; false, and nothing changed, where that is no picture.
+/// False, and nothing changed, where the path names no image.
 bool frmInsImage::showPicture()
 {
     m_knownSrc = cboSrc->currentText();
-    const std::optional<LoadedPicture> loaded = LoadPicture(pictureFile(), LargestPixels);
-    if (!loaded)
-        return false;
-    imgProcess->setFixedSize(loaded->size.boundedTo(QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX)));
-    imgPreview->setFixedSize(loaded->size.boundedTo(QSize(LongestPreview, LongestPreview)));
-    imgPreview->setPicture(QPixmap::fromImage(loaded->pixels));
-    m_previewPages->setCurrentIndex(loaded->pixels.isNull() ? 0 : 1); // a huge one is measured but not shown
-    cmdUseActual->setEnabled(true);
-    return true;
+    const bool shown = m_preview.show(pictureFile());
+    cmdUseActual->setEnabled(shown || cmdUseActual->isEnabled());
+    return shown;
 }
 
 void frmInsImage::showNoPicture()
 {
-    imgPreview->setPicture({});
-    m_previewPages->setCurrentIndex(0);
+    m_preview.clear();
     cmdUseActual->setEnabled(false);
 }
 
@@ -355,16 +307,12 @@ void frmInsImage::previewOnceShown()
                 resizePreview();
         };
         if (std::exchange(*due, false))
-            QMetaObject::invokeMethod(imgPreview, show, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(window(), show, Qt::QueuedConnection);
         return false;
     });
 }
 
 void frmInsImage::resizePreview()
 {
-    const bool inPercent = Option6->isChecked();
-    if (const std::optional<int> width = previewLength(txtWidth->text(), inPercent, imgProcess->width()))
-        imgPreview->setFixedWidth(*width);
-    if (const std::optional<int> height = previewLength(txtHeight->text(), inPercent, imgProcess->height()))
-        imgPreview->setFixedHeight(*height);
+    m_preview.resize(txtWidth->text(), txtHeight->text(), Option6->isChecked());
 }

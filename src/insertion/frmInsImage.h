@@ -1,17 +1,16 @@
 #pragma once
 
 #include "insertion/browseDialog.h"
+#include "insertion/imagePreview.h"
 #include "insertion/insertionForm.h"
 #include "insertion/pathRules.h"
 #include "insertion/tagUnderCaret.h"
 #include "platform/layout.h"
 
-class PictureBox;
 class QCheckBox;
 class QComboBox;
 class QLineEdit;
 class QRadioButton;
-class QStackedWidget;
 
 /// What the image dialog holds. Numbers are the texts of their boxes.
 struct ImageFields {
@@ -75,6 +74,7 @@ private:
     PathRules m_pathRules;
     QString m_knownSrc; ///< the path that was loaded or read back last: leaving the box with it does nothing
     BrowseDialog cdlImageFile;
+    ImagePreview m_preview;
     QComboBox *cboSrc = nullptr;
     QLineEdit *txtImgName = nullptr;
     QLineEdit *txtAlt = nullptr;
@@ -89,8 +89,4 @@ private:
     NumberField *txtHSpace = nullptr;
     NumberField *txtVSpace = nullptr;
     QCheckBox *chkNoPreview = nullptr;
-    PictureBox *imgProcess = nullptr;
-    PictureBox *imgPreview = nullptr;
-    QLabel *lblNoPicture = nullptr;
-    QStackedWidget *m_previewPages = nullptr; ///< the stand-by text, and the preview in its frame
 };

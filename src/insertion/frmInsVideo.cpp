@@ -1,6 +1,7 @@
 #include "insertion/frmInsVideo.h"
 
 #include "insertion/attributeText.h"
+#include "insertion/sizeAttribute.h"
 #include "platform/numberField.h"
 #include "platform/spinButton.h"
 #include "shell/settings.h"
@@ -25,13 +26,6 @@ QString alignAttribute(const QString &align)
 {
     const bool isDefault = align == u"bottom" || align == NoAlignment;
     return isDefault ? QString() : attributeText(QStringLiteral("align"), align);
-}
-
-QString sizeAttribute(const QString &name, const QString &size, bool inPercent)
-{
-    if (size.isEmpty())
-        return {};
-    return attributeText(name, inPercent ? size + u'%' : size);
 }
 
 QString startAttribute(const VideoFields &fields)

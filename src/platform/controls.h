@@ -109,7 +109,7 @@ struct PictureHandlers {
 };
 PictureBox *picture(const QString &name, const PictureHandlers &handlers = {});
 
-/// Runs `handler` when the control gets, or loses, the focus.
+/// Runs `handler` when the control gets, or loses, the focus; not when its own list or menu has it for a while.
 void onGotFocus(QWidget *control, const Handler &handler);
 void onLostFocus(QWidget *control, const Handler &handler);
 /// Shows every key press to `handler` before the control sees it.
