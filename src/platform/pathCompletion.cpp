@@ -73,7 +73,7 @@ bool PathCompletion::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
     case QEvent::KeyPress:
-        return takesKey(static_cast<QKeyEvent *>(event)->key());
+        return watched != m_control->window() && takesKey(static_cast<QKeyEvent *>(event)->key());
     case QEvent::FocusOut:
         m_listedFolder.clear(); // what has changed on the disk meanwhile is seen next time
         [[fallthrough]];
