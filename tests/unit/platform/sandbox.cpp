@@ -33,9 +33,9 @@ QByteArray Sandbox::get(const char *name) const
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArrayLiteral("(missing)");
 }
 
-QStringList Sandbox::names(const char *folder) const
+QStringList Sandbox::names(const char *inside) const
 {
-    return QDir(path(folder))
+    return QDir(path(inside))
         .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
 }
 
