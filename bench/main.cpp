@@ -1,4 +1,5 @@
 #include "figures.h"
+#include "platform/pictureReader.h"
 
 #include <QApplication>
 
@@ -19,6 +20,7 @@ constexpr Group groups[] = {
     {"codes", codeFigures},
     {"preview", previewFigures},
     {"tables", tableFigures},
+    {"dialogs", dialogFigures},
     {"opening", openingFigures},
     {"idle", idleFigures},
     {"start", startFigures},
@@ -29,6 +31,8 @@ constexpr Group groups[] = {
 // if a limit was exceeded.
 int main(int argc, char **argv)
 {
+    if (const std::optional<int> status = readPictureIfAsked(argc, argv))
+        return *status;
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);

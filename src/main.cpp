@@ -1,4 +1,5 @@
 #include "platform/desktopServices.h"
+#include "platform/pictureReader.h"
 #include "platform/programIcon.h"
 #include "shell/application.h"
 #include "shell/commandLine.h"
@@ -7,6 +8,8 @@
 
 int main(int argc, char **argv)
 {
+    if (const std::optional<int> status = readPictureIfAsked(argc, argv))
+        return *status;
     QApplication desktop(argc, argv);
     QApplication::setApplicationName(QStringLiteral("tagwrighter"));
     QApplication::setApplicationDisplayName(QString());

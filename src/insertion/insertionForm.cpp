@@ -1,8 +1,12 @@
 #include "insertion/insertionForm.h"
 
+#include "common/paths.h"
 #include "platform/layout.h"
+#include "platform/messageBoxes.h"
 #include "platform/modLaunchHTMLHelp.h"
+#include "platform/pathCompletion.h"
 #include "platform/screenPointer.h"
+#include "platform/services.h"
 
 #include <QPushButton>
 
@@ -10,6 +14,7 @@ namespace
 {
 constexpr int DefaultPointer = 0;
 constexpr int BusyPointer = 13;
+constexpr int CharactersOfAPath = 40;
 } // namespace
 
 InsertionForm::InsertionForm(ProgramContext &context, const Design &design)
@@ -40,10 +45,10 @@ ui::Node InsertionForm::dialogButtons()
 
 void InsertionForm::confirm()
 {
-    context().screenPointer.setMousePointer(BusyPointer);
+    showBusy(true);
     if (const std::optional<QString> text = markup())
         insert(*text, caretBack());
-    context().screenPointer.setMousePointer(DefaultPointer);
+    showBusy(false);
 }
 
 void InsertionForm::insert(const QString &text, qsizetype caretBack)
@@ -57,4 +62,35 @@ void InsertionForm::insert(const QString &text, qsizetype caretBack)
     Unload();
     if (Document *document = frmMdi().activeDocument())
         document->txtEdit().SetFocus();
+}
+
+QString InsertionForm::documentFolder() const
+{
+    const Document *document = frmMdi().activeDocument();
+    return document ? folderOf(document->DocSavePath) : QString();
+}
+
+void InsertionForm::takesPath(QWidget *box)
+{
+    box->setMinimumWidth(box->fontMetrics().averageCharWidth() * CharactersOfAPath);
+    new PathCompletion(box, services().files, [this] { return documentFolder(); });
+}
+
+std::nullopt_t InsertionForm::refused(const QString &message, QWidget *field)
+{
+    showBusy(false); // the box waits for the user, who is not to wait for it
+    services().messageBoxes.show({QStringLiteral("Error!"), message, MessageIcon::Exclamation, MessageButtons::OK});
+    focusOn(field);
+    return std::nullopt;
+}
+
+void InsertionForm::showBusy(bool busy)
+{
+    context().screenPointer.setMousePointer(busy ? BusyPointer : DefaultPointer);
+}
+
+void InsertionForm::focusOn(QWidget *control)
+{
+    if (control->isVisible() && control->isEnabled())
+        control->setFocus(Qt::OtherFocusReason);
 }

@@ -6,6 +6,7 @@
 #include <optional>
 
 class QPushButton;
+class QWidget;
 namespace ui
 {
 class Node;
@@ -49,6 +50,19 @@ protected:
     /// OK, Cancel and Help, one below the other; OK is the default button and Escape presses Cancel. Once a load.
     ui::Node dialogButtons();
     QPushButton *okButton() const { return m_ok; }
+
+    /// The folder of the active document's file, with its final separator, from which relative paths start; empty if
+    /// it has none.
+    QString documentFolder() const;
+    /// Makes a box for a path of a text box or an editable combo: wide enough, and completing the names of files.
+    void takesPath(QWidget *box);
+
+    /// For `markup`, where a field is missing: tells it in a box and puts the focus into the field.
+    std::nullopt_t refused(const QString &message, QWidget *field);
+    /// Shows by the mouse pointer that the dialog is at work, or no longer.
+    void showBusy(bool busy);
+    /// Gives the control the focus if it can have it now, which is never before the dialog is on show.
+    static void focusOn(QWidget *control);
 
     /// What OK does: the markup goes in place of the selection, the dialog is unloaded and the document has the focus.
     void confirm();

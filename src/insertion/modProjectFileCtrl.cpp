@@ -2,6 +2,7 @@
 
 #include "common/paths.h"
 #include "common/siteProject.h"
+#include "platform/controls.h"
 #include "platform/programContext.h"
 
 #include <QComboBox>
@@ -24,8 +25,10 @@ void FillProjectFileList(ProgramContext &context, ProjectFiles kind, QComboBox &
     const QStringList extensions = extensionsOf(kind);
     const QList<ProjectItem> items =
         kind == ProjectFiles::Pages ? context.project->editorFiles() : context.project->otherFiles();
+    QStringList paths;
     for (const ProjectItem &item : items) {
         if (extensions.contains(GetFileExtension(item.text).toLower()))
-            combo.addItem(item.key);
+            paths.append(item.key);
     }
+    ui::addRows(combo, paths);
 }

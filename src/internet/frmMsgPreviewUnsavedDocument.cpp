@@ -1,7 +1,7 @@
 #include "internet/frmMsgPreviewUnsavedDocument.h"
 
-#include "platform/modLaunchHTMLHelp.h"
 #include "platform/layout.h"
+#include "platform/modLaunchHTMLHelp.h"
 #include "platform/services.h"
 #include "shell/settings.h"
 

@@ -2,6 +2,7 @@
 
 #include "platform/controls.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -37,6 +38,12 @@ bool isRefused(const QKeyEvent &key)
     const QString typed = key.text();
     return !typed.isEmpty() && typed[0].isPrint() && (typed[0] < u'0' || typed[0] > u'9');
 }
+/// The list of a combo and the menu of a text box have the focus only for as long as they are open.
+bool isOfPopup(const QEvent &focus)
+{
+    return QApplication::activePopupWidget() ||
+           static_cast<const QFocusEvent &>(focus).reason() == Qt::PopupFocusReason;
+}
 } // namespace
 
 QWidget *keysOf(QWidget *control)
@@ -49,16 +56,18 @@ namespace ui
 {
 void onGotFocus(QWidget *control, const Handler &handler)
 {
-    new ControlWatch(keysOf(control), QEvent::FocusIn, [handler](const QEvent &) {
-        handler();
+    new ControlWatch(keysOf(control), QEvent::FocusIn, [handler](const QEvent &event) {
+        if (!isOfPopup(event))
+            handler();
         return false;
     });
 }
 
 void onLostFocus(QWidget *control, const Handler &handler)
 {
-    new ControlWatch(keysOf(control), QEvent::FocusOut, [handler](const QEvent &) {
-        handler();
+    new ControlWatch(keysOf(control), QEvent::FocusOut, [handler](const QEvent &event) {
+        if (!isOfPopup(event))
+            handler();
         return false;
     });
 }

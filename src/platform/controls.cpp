@@ -188,6 +188,16 @@ QComboBox *combo(const QString &name, const QList<QString> &rows, const Handler 
     return control;
 }
 
+void addRows(QComboBox &combo, const QList<QString> &rows)
+{
+    const QSignalBlocker quiet(combo);
+    const QString text = combo.currentText();
+    const int row = combo.currentIndex();
+    combo.addItems(rows);
+    combo.setCurrentIndex(row);
+    combo.setEditText(text);
+}
+
 QListWidget *list(const QString &name, const Handler &click, const Handler &dblClick)
 {
     auto *control = named(new QListWidget, name);

@@ -69,6 +69,8 @@ QComboBox *dropList(const QString &name, const QList<QString> &rows, const Handl
 /// A text box with a list to pick from; `click` runs when a row was picked.
 QComboBox *combo(const QString &name, const QList<QString> &rows = {}, const Handler &change = {},
                  const Handler &click = {});
+/// Adds rows to the list of a combo whose text stays as it is: by itself, a combo picks the first row it is given.
+void addRows(QComboBox &combo, const QList<QString> &rows);
 QListWidget *list(const QString &name, const Handler &click = {}, const Handler &dblClick = {});
 QListWidget *multiList(const QString &name, const Handler &click = {}, const Handler &dblClick = {});
 CheckList *checkList(const QString &name, const IndexHandler &tick = {}, const Handler &click = {});
@@ -114,7 +116,7 @@ struct PictureHandlers {
 };
 PictureBox *picture(const QString &name, const PictureHandlers &handlers = {});
 
-/// Runs `handler` when the control gets, or loses, the focus.
+/// Runs `handler` when the control gets, or loses, the focus; not when its own list or menu has it for a while.
 void onGotFocus(QWidget *control, const Handler &handler);
 void onLostFocus(QWidget *control, const Handler &handler);
 /// Shows every key press to `handler` before the control sees it.

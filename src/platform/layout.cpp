@@ -1,6 +1,8 @@
 #include "platform/layout.h"
 
 #include "platform/form.h"
+#include "platform/numberField.h"
+#include "platform/spinButton.h"
 
 #include <QAbstractButton>
 #include <QButtonGroup>
@@ -13,6 +15,9 @@
 #include <QRadioButton>
 #include <QStackedWidget>
 #include <QTabBar>
+#include <algorithm>
+#include <cmath>
+#include <limits>
 
 namespace ui
 {
@@ -58,7 +63,10 @@ bool isTall(const QWidget &control)
 
 bool isFixed(const Node &node)
 {
-    return node.widget() && node.widget()->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed;
+    const QList<QWidget *> widgets = node.widgets();
+    return !widgets.isEmpty() && std::all_of(widgets.begin(), widgets.end(), [](const QWidget *widget) {
+        return widget->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed;
+    });
 }
 
 template <class Layout>
@@ -230,6 +238,18 @@ Node pages(QTabBar *strip, const QString &panels, const QList<Node> &contents)
     return column({Node(strip), Node(stack, 1)});
 }
 
+Node counted(NumberField *field)
+{
+    const QString name = QStringLiteral("spn") + field->objectName().sliced(3);
+    const double largest = std::pow(10.0, field->maxLength()) - 1;
+    const double countable = std::numeric_limits<int>::max();
+    auto *layout = new QHBoxLayout;
+    layout->setSpacing(0);
+    layout->addWidget(field);
+    layout->addWidget(spin(name, field, 0, static_cast<int>(std::min(largest, countable))));
+    return Node(layout);
+}
+
 Node hidden(QWidget *control)
 {
     control->hide();
@@ -239,5 +259,13 @@ Node hidden(QWidget *control)
 Node space()
 {
     return Node::space();
+}
+
+void relabel(QLabel *label, const QString &caption)
+{
+    label->setText(caption);
+    if (QWidget *control = label->buddy())
+        for (QWidget *named : {control, focusOf(control)})
+            named->setAccessibleName(spoken(caption));
 }
 } // namespace ui

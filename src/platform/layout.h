@@ -5,7 +5,9 @@
 #include <QList>
 #include <QString>
 
+class NumberField;
 class QBoxLayout;
+class QLabel;
 class QLayout;
 class QTabBar;
 class QWidget;
@@ -73,9 +75,15 @@ Node options(const QList<QRadioButton *> &choices, Qt::Orientation orientation =
 Node buttons(const QList<QPushButton *> &buttons);
 /// A tab strip over its panels, one a tab; the strip's choice shows the panel. Panels are named `panels(0)` and so on.
 Node pages(QTabBar *strip, const QString &panels, const QList<Node> &contents);
+/// A number field with its arrows, which count from 0 to what its digits can hold; they are named after the field,
+/// "spnRows" for "txtRows".
+Node counted(NumberField *field);
 /// A control that the form works with and nobody sees.
 Node hidden(QWidget *control);
 Node space();
+
+/// Gives a label another caption, and with it another name to the control that it stands for.
+void relabel(QLabel *label, const QString &caption);
 
 /// The members of a control array, each built by `make` under its own name, "picBullet(3)".
 template <class Make>

@@ -65,10 +65,12 @@ QSize PictureBox::sizeHint() const
 
 void PictureBox::drawPicture(QPainter &painter) const
 {
-    if (m_fit == Fit::Stretch)
+    if (m_fit == Fit::Stretch) {
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
         painter.drawPixmap(rect(), m_picture);
-    else
+    } else {
         painter.drawPixmap(0, 0, m_picture);
+    }
 }
 
 void PictureBox::drawOutline(QPainter &painter) const

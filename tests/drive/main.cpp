@@ -1,4 +1,5 @@
 #include "drive/scriptRun.h"
+#include "platform/pictureReader.h"
 
 #include <QStringList>
 #include <algorithm>
@@ -19,6 +20,8 @@ QStringList wordsOf(int count, char **words)
 
 int main(int count, char **words)
 {
+    if (const std::optional<int> status = readPictureIfAsked(count, words))
+        return *status;
     drive::RunOptions options;
     options.installedData = QStringLiteral(TAGWRIGHTER_DATA);
     QStringList files = wordsOf(count, words);

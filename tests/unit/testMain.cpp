@@ -1,12 +1,7 @@
-#include <QApplication>
-#include <gmock/gmock.h>
+#include "runTests.h"
 
-// Unit tests of widgets need one application object for the whole program; it is drawn offscreen unless told otherwise.
+// A test program with a main function of its own leaves this one in its library.
 int main(int argc, char **argv)
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    testing::InitGoogleMock(&argc, argv);
-    return RUN_ALL_TESTS();
+    return runTests(argc, argv);
 }

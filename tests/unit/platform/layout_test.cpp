@@ -104,6 +104,36 @@ TEST(Layout, ALabelNamesWhatTrailsAndDescribesItsButtons)
     EXPECT_EQ(window.control<QPushButton>("cmdBrowse").accessibleName(), QString()) << "its caption is its name";
 }
 
+TEST(Layout, ANumberFieldIsCountedByArrowsNamedAfterIt)
+{
+    NumberField *txtRows = ui::number(str("txtRows"), 2);
+    Window window(ui::rows({ui::row(str("&Rows:"), ui::counted(txtRows))}));
+    auto &spnRows = window.control<SpinButton>("spnRows");
+    EXPECT_EQ(spnRows.x(), txtRows->x() + txtRows->width()) << "right behind it";
+    EXPECT_EQ(spnRows.Min(), 0);
+    EXPECT_EQ(spnRows.Max(), 99);
+    spnRows.setValue(7);
+    EXPECT_EQ(txtRows->text(), str("7"));
+    EXPECT_EQ(txtRows->accessibleName(), str("Rows"));
+}
+
+TEST(Layout, ALongNumberIsCountedAsFarAsNumbersGo)
+{
+    Window window(ui::rows({ui::row(str("Width:"), ui::counted(ui::number(str("txtWidth"), 10)))}));
+    EXPECT_EQ(window.control<SpinButton>("spnWidth").Max(), 2147483647);
+}
+
+TEST(Layout, ALabelThatChangesNamesItsControlAnew)
+{
+    Window window(ui::rows({ui::row(str("Text:"), ui::text(str("txtText")), {}, str("Label4")),
+                            ui::row(str("Map:"), ui::combo(str("cboMap")), {}, str("Label5"))}));
+    ui::relabel(&window.control<QLabel>("Label4"), str("&Alternative Text:"));
+    EXPECT_EQ(window.control<QLabel>("Label4").text(), str("&Alternative Text:"));
+    EXPECT_EQ(window.control<QLineEdit>("txtText").accessibleName(), str("Alternative Text"));
+    ui::relabel(&window.control<QLabel>("Label5"), str("Area:"));
+    EXPECT_EQ(window.control<QComboBox>("cboMap").lineEdit()->accessibleName(), str("Area"));
+}
+
 TEST(Layout, AListStandsUnderItsLabel)
 {
     Window window(ui::under(str("&Fonts:"), ui::list(str("lstFonts")), str("lblFonts")));

@@ -1,0 +1,92 @@
+#pragma once
+
+#include "insertion/browseDialog.h"
+#include "insertion/imagePreview.h"
+#include "insertion/insertionForm.h"
+#include "insertion/pathRules.h"
+#include "insertion/tagUnderCaret.h"
+#include "platform/layout.h"
+
+class QCheckBox;
+class QComboBox;
+class QLineEdit;
+class QRadioButton;
+
+/// What the image dialog holds. Numbers are the texts of their boxes.
+struct ImageFields {
+    QString src;
+    QString name;
+    QString alt;
+    QString useMap; ///< with or without the "#" in front
+    QString align;
+    QString width;
+    QString height;
+    bool inPercent = false; ///< the unit of the size
+    QString border;
+    QString hSpace;
+    QString vSpace;
+    QString leftoverAttributes; ///< what goes into the tag as it stands, with its own blank in front
+};
+
+/// One `img` element. No field is required: without any, it is the bare element.
+QString imageMarkup(const ImageFields &fields);
+
+/// The `img` element around a caret, as readTagUnderCaret finds it.
+std::optional<TagUnderCaret> readImageTag(const QString &text, qsizetype selStart, qsizetype selLength);
+/// The fields that a tag fills. The unit of the size is the other one than the tag has, by intent: confirming an image
+/// as it was read makes pixels of a percentage, and the reverse. Width and height share the unit; the height decides.
+ImageFields imageFields(const TagUnderCaret &tag);
+
+/// Inserts an image, or edits the one under the caret, and previews it.
+class frmInsImage final : public InsertionForm
+{
+    Q_OBJECT
+public:
+    explicit frmInsImage(ProgramContext &context);
+
+protected:
+    void Form_Load() override;
+    std::optional<QString> markup() override;
+
+private:
+    ui::Node imageRows();
+    ui::Node sizeGroup();
+    ui::Node spaceGroup();
+    ui::Node previewGroup();
+    void readTag();
+    void showFields(const ImageFields &fields);
+    ImageFields fields() const;
+
+    void cboSrc_LostFocus();
+    void cmdBrowseSrc_Click();
+    void cmdUseActual_Click();
+    void leaveSize(NumberField *field);
+
+    QString pictureFile() const;
+    bool showPicture();
+    void showNoPicture();
+    void preview();
+    void previewOnceShown();
+    void fillSize();
+    void resizePreview();
+
+    QString LeftoverAttributes; ///< of the tag read last; it outlives the dialog and goes into the next new image, too
+    PathRules m_pathRules;
+    QString m_knownSrc; ///< the path that was loaded or read back last: leaving the box with it does nothing
+    BrowseDialog cdlImageFile;
+    ImagePreview m_preview;
+    QComboBox *cboSrc = nullptr;
+    QLineEdit *txtImgName = nullptr;
+    QLineEdit *txtAlt = nullptr;
+    QComboBox *cboImgMapName = nullptr;
+    QComboBox *cboAlignment = nullptr;
+    NumberField *txtWidth = nullptr;
+    NumberField *txtHeight = nullptr;
+    QRadioButton *Option7 = nullptr;
+    QRadioButton *Option6 = nullptr;
+    QPushButton *cmdUseActual = nullptr;
+    NumberField *txtBorder = nullptr;
+    NumberField *txtHSpace = nullptr;
+    NumberField *txtVSpace = nullptr;
+    QCheckBox *chkNoPreview = nullptr;
+};

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QString>
+
+/// A `width` or `height` of so many pixels or percent; nothing at all for an empty size.
+QString sizeAttribute(const QString &name, const QString &size, bool inPercent);

@@ -1,0 +1,97 @@
+#include "insertion/insertionForms.h"
+
+#include "platform/desktopServices.h"
+#include "platform/formRuntime.h"
+#include "platform/services.h"
+#include "platform/settingsStore.h"
+#include "shell/application.h"
+#include "shell/settings.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QTemporaryDir>
+#include <QWidget>
+#include <gtest/gtest.h>
+
+namespace
+{
+/// The program over an empty home, with one document on show.
+class InsertionFormsTest : public testing::Test
+{
+protected:
+    InsertionFormsTest()
+    {
+        qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
+        qputenv("XDG_DATA_HOME", home.path().toUtf8());
+        desktop = std::make_unique<DesktopServices>();
+        settings::write(desktop->services().settings, settings::WelcomeScreen, QStringLiteral("false"));
+        application = std::make_unique<Application>(desktop->services());
+        application->form(QStringLiteral("frmMdi"))->Show();
+        settle();
+    }
+    ~InsertionFormsTest() override
+    {
+        application.reset();
+        settle();
+    }
+
+    static void settle()
+    {
+        QApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    QStringList names()
+    {
+        QStringList all;
+        for (const std::unique_ptr<Form> &form : insertionForms(application->context()))
+            all.append(form->Name());
+        return all;
+    }
+
+    QTemporaryDir home;
+    std::unique_ptr<DesktopServices> desktop;
+    std::unique_ptr<Application> application;
+};
+
+/// What a screen reader says when the focus comes to the widget; the field of a combo speaks for it.
+QString spokenName(const QWidget &widget)
+{
+    const auto *button = qobject_cast<const QAbstractButton *>(&widget);
+    return button && !button->text().isEmpty() ? button->text() : widget.accessibleName();
+}
+
+/// Whether Tab leads there: not to the list behind a combo, which is a window of its own.
+bool takesTheKeyboard(const QWidget &widget, const QWidget &window)
+{
+    return widget.window() == &window && (widget.focusPolicy() & Qt::TabFocus) && !widget.focusProxy() &&
+           widget.isVisibleTo(&window);
+}
+
+TEST_F(InsertionFormsTest, NameEverythingThatTakesTheKeyboard)
+{
+    for (const QString &name : names()) {
+        Form &form = *application->form(name);
+        form.Show();
+        for (const QWidget *widget : form.window()->findChildren<QWidget *>())
+            EXPECT_TRUE(!takesTheKeyboard(*widget, *form.window()) || !spokenName(*widget).isEmpty())
+                << name.toStdString() << ": " << widget->objectName().toStdString() << " "
+                << widget->metaObject()->className();
+        form.Unload();
+        settle();
+    }
+}
+
+TEST_F(InsertionFormsTest, DisableTheMainWindowUntilTheyAreGone)
+{
+    const MainWindow &mainWindow = *application->context().mainWindow;
+    for (const QString &name : names()) {
+        Form &form = *application->form(name);
+        form.Show();
+        EXPECT_FALSE(mainWindow.Enabled()) << name.toStdString();
+        form.Unload();
+        EXPECT_TRUE(mainWindow.Enabled()) << name.toStdString();
+        settle();
+    }
+}
+} // namespace
