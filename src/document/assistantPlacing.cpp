@@ -40,11 +40,13 @@ QRect placeOfList(const AssistantGround &ground, const QSize &wanted)
 {
     const QSize size = wanted.boundedTo(ground.area);
     QRect place(ground.caret + QPoint(listGapX, listGapY), size);
-    if (place.right() >= ground.area.width())
-        place.moveLeft(ground.caret.x() - size.width());
+    if (place.right() >= ground.area.width()) {
+        // On that side it must leave the word to be seen.
+        place.moveLeft(std::max(ground.caret.x() - size.width(), 0));
+        place.moveTop(ground.caret.y() + std::max(listGapY, ground.lineHeight));
+    }
     if (place.bottom() >= ground.area.height())
-        place.moveTop(place.top() - size.height() - ground.lineHeight);
-    place.moveLeft(std::max(place.left(), 0));
+        place.moveTop(ground.caret.y() + listGapY - size.height() - ground.lineHeight);
     place.moveTop(std::max(place.top(), 0));
     return place;
 }

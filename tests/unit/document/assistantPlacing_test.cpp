@@ -23,7 +23,7 @@ TEST(PlaceOfList, IsRightOfTheCaretAndBelow)
 TEST(PlaceOfList, GoesToTheOtherSideAtTheRightEdge)
 {
     EXPECT_EQ(placeOfList(groundAt(584, 50), {200, 150}), QRect(600, 58, 200, 150)) << "it just fits";
-    EXPECT_EQ(placeOfList(groundAt(585, 50), {200, 150}), QRect(385, 58, 200, 150));
+    EXPECT_EQ(placeOfList(groundAt(585, 50), {200, 150}), QRect(385, 65, 200, 150)) << "below the word";
 }
 
 TEST(PlaceOfList, GoesAboveTheLineAtTheBottom)
