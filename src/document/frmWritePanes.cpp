@@ -1,9 +1,9 @@
 // The two panes of a document window: the source, and the preview that follows it.
+#include "document/codeAssistant.h"
 #include "document/frmWrite.h"
 #include "document/modBrowserControl.h"
 #include "document/viewingPanes.h"
 #include "platform/editSurface.h"
-#include "platform/lineMargin.h"
 #include "platform/messageBoxes.h"
 #include "platform/services.h"
 #include "platform/tabStrip.h"
@@ -26,7 +26,6 @@ void frmWrite::buildPanes()
     m_panes = new ViewingPanes;
     contents().addWidget(m_panes);
     buildSurface();
-    m_edit->margin()->setObjectName(QStringLiteral("picLineInformation"));
     buildBrowser();
     connect(m_panes, &ViewingPanes::resized, this, &frmWrite::Form_Resize);
     connect(m_panes, &ViewingPanes::tabClicked, this, &frmWrite::tabWindowDisplay_Click);
@@ -91,10 +90,12 @@ void frmWrite::Form_Resize()
 void frmWrite::tabWindowDisplay_Click(int tab)
 {
     UpdateLineInformation();
-    if (tab == EditorTab)
+    if (tab == EditorTab) {
         m_edit->SetFocus();
-    else
-        UpdateLivePreview(context());
+        return;
+    }
+    m_assistant->hideAll();
+    UpdateLivePreview(context());
 }
 
 void frmWrite::tmrUpdateLiveSplitPreview_Timer()
@@ -104,6 +105,7 @@ void frmWrite::tmrUpdateLiveSplitPreview_Timer()
     const QPointer<frmWrite> self(this);
     if (IsSplit)
         FollowWithLivePreview(context());
-    if (self && isLoaded() && frmMdi().activeDocument() == this)
+    // A user who has moved into the assistant's list goes on there.
+    if (self && isLoaded() && frmMdi().activeDocument() == this && !m_assistant->isListShown())
         m_edit->SetFocus();
 }
