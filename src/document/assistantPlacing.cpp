@@ -10,6 +10,7 @@ constexpr int listGapY = 8;
 constexpr int tipGap = 8;
 constexpr int tipStep = 200; ///< how far a tip goes back that would pass the right edge
 constexpr int tipEdge = 4;
+constexpr int tipShare = 3; ///< the part of the area's height that a tip takes at most
 
 /// A row, and half a row of air.
 int oneRow(const TipText &text)
@@ -23,7 +24,8 @@ QSize sizeOfTip(const AssistantGround &ground, const TipText &text)
     if (width <= ground.area.width())
         return {width, oneRow(text)};
     const int room = std::max(ground.edit.width() - tipGap, 1);
-    return {room, oneRow(text) + (text.rows(room) - 1) * text.rowHeight};
+    const int height = oneRow(text) + (text.rows(room) - 1) * text.rowHeight;
+    return {room, std::clamp(height, oneRow(text), std::max(ground.area.height() / tipShare, oneRow(text)))};
 }
 
 int leftOfTip(const AssistantGround &ground, int width)

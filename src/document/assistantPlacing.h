@@ -4,9 +4,10 @@
 #include <QSize>
 #include <functional>
 
-/// Where the code assistant's pop-up and tip stand, in pixels of the document window's area.
+/// Where the code assistant's pop-up and tip stand, in pixels of the source's pane: over the preview beside it, a
+/// browser of its own would hide them.
 struct AssistantGround {
-    QSize area;         ///< the whole document window
+    QSize area;         ///< the whole pane
     QRect edit;         ///< the text's part of it, without the margin of line numbers
     QPoint caret;       ///< the top of the caret's line, at the caret
     int lineHeight = 0; ///< of the text
@@ -24,5 +25,6 @@ struct TipText {
 };
 
 /// The tip: below the caret's line, above it where there is no room; one row, or as many as a text takes that is wider
-/// than the area. Never over the caret's line, so a text of very many rows is cut to the higher of the two sides.
+/// than the area. Elements have many attributes, so it is cut to a third of the area, for the page to stay in sight,
+/// and never stands over the caret's line.
 QRect placeOfTip(const AssistantGround &ground, const TipText &text);

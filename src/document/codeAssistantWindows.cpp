@@ -145,5 +145,8 @@ void CodeAssistant::placeTip()
     const TipText text{.width = lblCodeAssistantTextSize->sizeHint().width() + txtCodeAssistantSyntax->sideways(),
                        .rowHeight = txtCodeAssistantSyntax->fontMetrics().lineSpacing(),
                        .rows = [this](int width) { return tipRows(width); }};
-    txtCodeAssistantSyntax->setGeometry(placeOfTip(ground(), text));
+    const QRect place = placeOfTip(ground(), text);
+    txtCodeAssistantSyntax->setGeometry(place);
+    txtCodeAssistantSyntax->setCut(text.width > place.width() &&
+                                   tipRows(place.width()) * text.rowHeight > place.height());
 }

@@ -3,6 +3,7 @@
 #include "document/assistantWords.h"
 #include "document/codeAssistant.h"
 #include "document/frmWrite.h"
+#include "document/viewingPanes.h"
 #include "internet/modViewInBrowser.h"
 #include "platform/editSurface.h"
 #include "platform/lineMargin.h"
@@ -36,7 +37,7 @@ SurfaceHooks frmWrite::surfaceHooks()
 
 void frmWrite::buildAssistant()
 {
-    m_assistant = new CodeAssistant(*contents().parentWidget(), *m_edit, context());
+    m_assistant = new CodeAssistant(*m_panes->pane(0), *m_edit, context());
     m_edit->margin()->setObjectName(QStringLiteral("picLineInformation"));
     // Scrolling is told by the surface, so that an idle window need not look for it.
     StillTimerSource still;

@@ -61,6 +61,11 @@ int SyntaxTip::sideways() const
     return 2 * (frameWidth() + qRound(document()->documentMargin()));
 }
 
+void SyntaxTip::setCut(bool cut)
+{
+    setVerticalScrollBarPolicy(cut ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+}
+
 void SyntaxTip::mousePressEvent(QMouseEvent *)
 {
     Q_EMIT clicked();

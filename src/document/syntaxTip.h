@@ -21,6 +21,8 @@ public:
     void setSyntax(const QString &syntax);
     /// What the tip's frame and margins take beside the text, on both sides together.
     int sideways() const;
+    /// Shows a scroll bar for a text that is higher than the tip.
+    void setCut(bool cut);
 
 Q_SIGNALS:
     void clicked();

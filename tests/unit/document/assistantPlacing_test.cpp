@@ -62,9 +62,16 @@ TEST(PlaceOfTip, HasMoreRowsWhereTheTextIsWiderThanTheWindow)
     EXPECT_EQ(placeOfTip(groundAt(100, 50), tipOf(1500, 3)), QRect(24, 71, 772, 49));
 }
 
-TEST(PlaceOfTip, LeavesTheLineToBeSeenWhateverItsRows)
+TEST(PlaceOfTip, TakesAThirdOfTheAreaWhateverItsRows)
 {
-    EXPECT_EQ(placeOfTip(groundAt(100, 50), tipOf(60000, 90)), QRect(24, 71, 772, 529)) << "down to the edge";
-    EXPECT_EQ(placeOfTip(groundAt(100, 500), tipOf(60000, 90)), QRect(24, 0, 772, 500)) << "there is more room above";
+    EXPECT_EQ(placeOfTip(groundAt(100, 50), tipOf(60000, 90)), QRect(24, 71, 772, 200));
+    EXPECT_EQ(placeOfTip(groundAt(100, 500), tipOf(60000, 90)), QRect(24, 300, 772, 200)) << "there is room above";
+}
+
+TEST(PlaceOfTip, LeavesTheCaretsLineToBeSeenInASmallWindow)
+{
+    AssistantGround ground = groundAt(100, 20);
+    ground.area.setHeight(90);
+    EXPECT_EQ(placeOfTip(ground, tipOf(60000, 90)), QRect(24, 41, 772, 30)) << "a third of 90, below";
 }
 } // namespace
