@@ -75,12 +75,12 @@ ui::Node frmInsHorizontalRule::sizeGroup()
     return ui::column({
         chkSpecifySize,
         ui::rows({
-            ui::row(QStringLiteral("Size:"), txtSize, {ui::spin(QStringLiteral("UpDown2"), txtSize, 0, LargestSize)},
+            ui::row(QStringLiteral("Size:"),
+                    ui::counted(txtSize, ui::spin(QStringLiteral("UpDown2"), txtSize, 0, LargestSize)), {},
                     QStringLiteral("Label4")),
-            ui::row(QStringLiteral("Width:"), txtWidth,
-                    {ui::spin(QStringLiteral("UpDown3"), txtWidth, 0, LargestSize),
-                     ui::options({optSizePixels, optSizePercent}, Qt::Horizontal)},
-                    QStringLiteral("Label5")),
+            ui::row(QStringLiteral("Width:"),
+                    ui::counted(txtWidth, ui::spin(QStringLiteral("UpDown3"), txtWidth, 0, LargestSize)),
+                    {ui::options({optSizePixels, optSizePercent}, Qt::Horizontal)}, QStringLiteral("Label5")),
         }),
     });
 }

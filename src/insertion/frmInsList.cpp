@@ -59,8 +59,8 @@ void frmInsList::Form_Load()
     setContent(ui::beside({
         ui::column({
             choice,
-            ui::rows({ui::row(QStringLiteral("List Size:"), txtSize,
-                              {ui::spin(QStringLiteral("UpDown1"), txtSize, 0, 999)})}),
+            ui::rows({ui::row(QStringLiteral("List Size:"),
+                              ui::counted(txtSize, ui::spin(QStringLiteral("UpDown1"), txtSize, 0, 999)))}),
             chkCompact,
             ui::line({ui::hidden(lblStartorValue), ui::hidden(txtStartorValue)}),
         }),

@@ -53,15 +53,16 @@ ui::Node frmInsTable::sizeGroup()
     const TableFields design;
     txtRows = numberWith(QStringLiteral("txtRows"), 3, design.rows);
     txtCols = numberWith(QStringLiteral("txtCols"), 3, design.columns);
-    return ui::group(
-        QStringLiteral("Size"),
-        ui::column({
-            ui::rows({
-                ui::row(QStringLiteral("Rows:"), txtRows, {ui::spin(QStringLiteral("UpDown1"), txtRows, 1, 999)}),
-                ui::row(QStringLiteral("Columns:"), txtCols, {ui::spin(QStringLiteral("UpDown2"), txtCols, 1, 999)}),
-            }),
-            widthLine(),
-        }));
+    return ui::group(QStringLiteral("Size"),
+                     ui::column({
+                         ui::rows({
+                             ui::row(QStringLiteral("Rows:"),
+                                     ui::counted(txtRows, ui::spin(QStringLiteral("UpDown1"), txtRows, 1, 999))),
+                             ui::row(QStringLiteral("Columns:"),
+                                     ui::counted(txtCols, ui::spin(QStringLiteral("UpDown2"), txtCols, 1, 999))),
+                         }),
+                         widthLine(),
+                     }));
 }
 
 ui::Node frmInsTable::widthLine()
@@ -75,7 +76,8 @@ ui::Node frmInsTable::widthLine()
     optPixels = ui::option(QStringLiteral("optPixels"), QStringLiteral("Pixels"));
     optPercent->setChecked(true);
     chkSpecifyWidth_Click();
-    return ui::line({chkSpecifyWidth, txtWidth, UpDown3, ui::options({optPercent, optPixels}, Qt::Horizontal)});
+    return ui::line(
+        {chkSpecifyWidth, ui::counted(txtWidth, UpDown3), ui::options({optPercent, optPixels}, Qt::Horizontal)});
 }
 
 ui::Node frmInsTable::layoutGroup()
@@ -90,11 +92,12 @@ ui::Node frmInsTable::layoutGroup()
         QStringLiteral("Layout"),
         ui::rows({
             ui::row(QStringLiteral("Alignment:"), cboAlign),
-            ui::row(QStringLiteral("Border Size:"), txtBorder, {ui::spin(QStringLiteral("UpDown4"), txtBorder, 0, 99)}),
-            ui::row(QStringLiteral("Cell Padding:"), txtCellPadding,
-                    {ui::spin(QStringLiteral("UpDown5"), txtCellPadding, 0, 9999)}),
-            ui::row(QStringLiteral("Cell Spacing:"), txtCellSpacing,
-                    {ui::spin(QStringLiteral("UpDown6"), txtCellSpacing, 0, 9999)}),
+            ui::row(QStringLiteral("Border Size:"),
+                    ui::counted(txtBorder, ui::spin(QStringLiteral("UpDown4"), txtBorder, 0, 99))),
+            ui::row(QStringLiteral("Cell Padding:"),
+                    ui::counted(txtCellPadding, ui::spin(QStringLiteral("UpDown5"), txtCellPadding, 0, 9999))),
+            ui::row(QStringLiteral("Cell Spacing:"),
+                    ui::counted(txtCellSpacing, ui::spin(QStringLiteral("UpDown6"), txtCellSpacing, 0, 9999))),
         }));
 }
 

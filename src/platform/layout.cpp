@@ -243,10 +243,15 @@ Node counted(NumberField *field)
     const QString name = QStringLiteral("spn") + field->objectName().sliced(3);
     const double largest = std::pow(10.0, field->maxLength()) - 1;
     const double countable = std::numeric_limits<int>::max();
+    return counted(field, spin(name, field, 0, static_cast<int>(std::min(largest, countable))));
+}
+
+Node counted(NumberField *field, SpinButton *arrows)
+{
     auto *layout = new QHBoxLayout;
     layout->setSpacing(0);
     layout->addWidget(field);
-    layout->addWidget(spin(name, field, 0, static_cast<int>(std::min(largest, countable))));
+    layout->addWidget(arrows);
     return Node(layout);
 }
 

@@ -78,6 +78,8 @@ Node pages(QTabBar *strip, const QString &panels, const QList<Node> &contents);
 /// A number field with its arrows, which count from 0 to what its digits can hold; they are named after the field,
 /// "spnRows" for "txtRows".
 Node counted(NumberField *field);
+/// A number field with its arrows where they have a name or limits of their own.
+Node counted(NumberField *field, SpinButton *arrows);
 /// A control that the form works with and nobody sees.
 Node hidden(QWidget *control);
 Node space();
