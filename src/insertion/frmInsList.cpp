@@ -23,7 +23,7 @@ QWidget *selectionFrame(const QString &name)
     auto *frame = new QFrame;
     frame->setObjectName(name);
     frame->setFrameStyle(QFrame::Box | QFrame::Plain);
-    frame->setLineWidth(2);
+    frame->setLineWidth(3);
     frame->setForegroundRole(QPalette::Highlight);
     frame->setAttribute(Qt::WA_TransparentForMouseEvents);
     return frame;
