@@ -19,7 +19,8 @@ void frmDateTime::Form_Load()
 {
     lstDateTime = ui::list(QStringLiteral("lstDateTime"), {}, [this] { confirm(); });
     monDate = ui::calendar(QStringLiteral("monDate"), [this] { fillFormats(); });
-    monDate->setAccessibleName(QStringLiteral("Date"));
+    for (QWidget *named : {static_cast<QWidget *>(monDate), monDate->focusProxy()})
+        named->setAccessibleName(QStringLiteral("Date"));
     setContent(ui::beside({
         ui::line({ui::under(QStringLiteral("Available Formats:"), lstDateTime).stretched(),
                   ui::column({monDate, ui::space()})}),

@@ -1,6 +1,7 @@
 #include "insertion/insertionForms.h"
 
 #include "platform/desktopServices.h"
+#include "platform/dialogForm.h"
 #include "platform/formRuntime.h"
 #include "platform/services.h"
 #include "platform/settingsStore.h"
@@ -85,13 +86,18 @@ TEST_F(InsertionFormsTest, NameEverythingThatTakesTheKeyboard)
 TEST_F(InsertionFormsTest, DisableTheMainWindowUntilTheyAreGone)
 {
     const MainWindow &mainWindow = *application->context().mainWindow;
+    int dialogs = 0;
     for (const QString &name : names()) {
         Form &form = *application->form(name);
+        if (!qobject_cast<DialogForm *>(&form)) // the table's grid drops down, and the palettes are modal by themselves
+            continue;
+        ++dialogs;
         form.Show();
         EXPECT_FALSE(mainWindow.Enabled()) << name.toStdString();
         form.Unload();
         EXPECT_TRUE(mainWindow.Enabled()) << name.toStdString();
         settle();
     }
+    EXPECT_EQ(dialogs, names().size() - 3);
 }
 } // namespace
