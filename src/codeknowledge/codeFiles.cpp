@@ -1,6 +1,7 @@
 #include "codeknowledge/codeFiles.h"
 
 #include <QSet>
+#include <algorithm>
 #include <optional>
 
 namespace
@@ -41,8 +42,10 @@ QString imageOf(const HtmlLine &line)
 class HtmlReader
 {
 public:
-    HtmlReader()
+    /// For a text of so many lines.
+    explicit HtmlReader(qsizetype lines)
     {
+        m_codes.branch.nodes.reserve(static_cast<size_t>(lines) + 1);
         m_codes.branch.nodes.push_back(
             {QStringLiteral("HyperText Markup Language"), htmlKey, QStringLiteral("ImgNode1"), -1});
     }
@@ -95,9 +98,9 @@ private:
             return false;
         const AttributeText attribute = attributeText(line.text);
         m_attribute = add(line, attribute.name, *m_element);
-        m_syntax += u' ' + attribute.name;
+        m_syntax.append(u' ').append(attribute.name);
         if (!attribute.hint.isEmpty())
-            m_syntax += u'[' + attribute.hint + u']';
+            m_syntax.append(u'[').append(attribute.hint).append(u']');
         return true;
     }
 
@@ -125,8 +128,10 @@ private:
 class CssReader
 {
 public:
-    CssReader()
+    /// For a text of so many lines.
+    explicit CssReader(qsizetype lines)
     {
+        m_branch.nodes.reserve(static_cast<size_t>(lines) + 1);
         m_branch.nodes.push_back({QStringLiteral("Cascading Style Sheets"), cssKey, QStringLiteral("ImgNodeCSS1"), -1});
     }
 
@@ -170,7 +175,14 @@ private:
 HtmlLine htmlLine(QStringView line)
 {
     HtmlLine result;
-    result.text.reserve(line.size());
+    const auto isMark = [](QChar c) { return c == mark || c == deprecatedMark; };
+    const auto behindMarks = std::find_if_not(line.begin(), line.end(), isMark);
+    if (std::none_of(behindMarks, line.end(), isMark)) { // as good as every line
+        result.depth = static_cast<int>(behindMarks - line.begin());
+        result.deprecated = std::find(line.begin(), behindMarks, deprecatedMark) != behindMarks;
+        result.text = line.sliced(result.depth).toString();
+        return result;
+    }
     for (const QChar c : line) {
         if (c == mark || c == deprecatedMark)
             ++result.depth;
@@ -184,7 +196,7 @@ HtmlLine htmlLine(QStringView line)
 AttributeText attributeText(const QString &text)
 {
     const qsizetype behindEquals = text.indexOf(u'=') + 1;
-    if (behindEquals == 0)
+    if (behindEquals == 0 || behindEquals == text.size())
         return {text, {}};
     return {text.first(behindEquals), text.sliced(behindEquals)};
 }
@@ -198,14 +210,14 @@ CssLine cssLine(QStringView line)
 
 HtmlCodes readHtmlCodes(QStringView text)
 {
-    HtmlReader reader;
+    HtmlReader reader(text.count(u'\n') + 1);
     const bool complete = forEachLine(text, [&](QStringView line) { return reader.read(htmlLine(line)); });
     return reader.finish(complete);
 }
 
 CodeBranch readCssCodes(QStringView text)
 {
-    CssReader reader;
+    CssReader reader(text.count(u'\n') + 1);
     const bool complete = forEachLine(text, [&](QStringView line) { return reader.read(cssLine(line)); });
     return reader.finish(complete);
 }

@@ -59,11 +59,12 @@ bool CodeLibraries::loadHtml(FileSystem &files, const QString &folder)
     if (!text)
         return false;
     HtmlCodes codes = readHtmlCodes(*text);
-    addBranch(codes.branch);
+    const bool complete = codes.branch.complete;
+    addBranch(std::move(codes.branch));
     m_elements = std::move(codes.elements);
-    if (codes.branch.complete)
+    if (complete)
         m_htmlNodes = m_tree->size();
-    return codes.branch.complete;
+    return complete;
 }
 
 bool CodeLibraries::loadCss(FileSystem &files, const QString &folder)
@@ -71,18 +72,20 @@ bool CodeLibraries::loadCss(FileSystem &files, const QString &folder)
     const auto text = textOfFile(files, joinPath(folder, QStringLiteral("Css.tcb")));
     if (!text)
         return false;
-    const CodeBranch branch = readCssCodes(*text);
-    addBranch(branch);
-    return branch.complete;
+    CodeBranch branch = readCssCodes(*text);
+    const bool complete = branch.complete;
+    addBranch(std::move(branch));
+    return complete;
 }
 
-void CodeLibraries::addBranch(const CodeBranch &branch)
+void CodeLibraries::addBranch(CodeBranch branch)
 {
     const int offset = m_tree->size();
-    for (TreeNode node : branch.nodes) {
+    m_tree->reserve(offset + static_cast<int>(branch.nodes.size()));
+    for (TreeNode &node : branch.nodes) {
         if (node.parent >= 0)
             node.parent += offset;
-        m_tree->add(node);
+        m_tree->add(std::move(node));
     }
 }
 

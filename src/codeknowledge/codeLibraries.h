@@ -30,7 +30,7 @@ public:
 private:
     bool loadHtml(FileSystem &files, const QString &folder);
     bool loadCss(FileSystem &files, const QString &folder);
-    void addBranch(const CodeBranch &branch);
+    void addBranch(CodeBranch branch);
     void addElementNodes();
 
     std::shared_ptr<NodeTreeModel> m_tree = std::make_shared<NodeTreeModel>();

@@ -14,7 +14,12 @@ bool NodeTreeModel::accepts(const TreeNode &node) const
            (node.imageKey.isEmpty() || m_images.contains(node.imageKey)) && node.parent >= -1 && node.parent < size();
 }
 
-std::optional<int> NodeTreeModel::add(const TreeNode &node)
+void NodeTreeModel::reserve(int nodes)
+{
+    m_nodes.reserve(static_cast<size_t>(nodes));
+}
+
+std::optional<int> NodeTreeModel::add(TreeNode node)
 {
     if (!accepts(node))
         return {};
@@ -22,9 +27,9 @@ std::optional<int> NodeTreeModel::add(const TreeNode &node)
     std::vector<int> &siblings = childrenOf(node.parent).nodes;
     const int row = static_cast<int>(siblings.size());
     siblings.push_back(number);
-    m_nodes.push_back({node, row, {}});
     if (!node.key.isEmpty())
         m_byKey.insert(node.key, number);
+    m_nodes.push_back({std::move(node), row, {}});
     schedulePublishing();
     return number;
 }

@@ -14,7 +14,8 @@ public:
     using QAbstractItemModel::QAbstractItemModel;
 
     void setImages(const QHash<QString, QIcon> &images);
-    std::optional<int> add(const TreeNode &node);
+    std::optional<int> add(TreeNode node);
+    void reserve(int nodes); ///< room for so many in all
     void clear();
     void publish();
 
