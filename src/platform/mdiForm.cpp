@@ -3,6 +3,7 @@
 #include "platform/formRuntime.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -17,6 +18,15 @@ public:
     explicit ChildWindow(std::function<void()> unload) : m_unload(std::move(unload)) {}
 
 protected:
+    /// A maximised child puts its title into that of the main window, but not again where it changed before the main
+    /// window was on show.
+    void showEvent(QShowEvent *event) override
+    {
+        QMdiSubWindow::showEvent(event);
+        QEvent changed(QEvent::WindowTitleChange);
+        QCoreApplication::sendEvent(this, &changed);
+    }
+
     void closeEvent(QCloseEvent *event) override
     {
         event->ignore();
