@@ -60,7 +60,7 @@ std::optional<TagUnderCaret> readImageTag(const QString &text, qsizetype selStar
                                         QStringLiteral("usemap"), QStringLiteral("align"),  QStringLiteral("width"),
                                         QStringLiteral("height"), QStringLiteral("hspace"), QStringLiteral("vspace"),
                                         QStringLiteral("border")};
-    return readTagUnderCaret(text, selStart, selLength, QStringLiteral("<img "), attributes);
+    return ReadTagUnderCaret(text, selStart, selLength, QStringLiteral("<img "), attributes);
 }
 
 ImageFields imageFields(const TagUnderCaret &tag)

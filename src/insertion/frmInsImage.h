@@ -31,7 +31,7 @@ struct ImageFields {
 /// One `img` element. No field is required: without any, it is the bare element.
 QString imageMarkup(const ImageFields &fields);
 
-/// The `img` element around a caret, as readTagUnderCaret finds it.
+/// The `img` element around a caret, as ReadTagUnderCaret finds it.
 std::optional<TagUnderCaret> readImageTag(const QString &text, qsizetype selStart, qsizetype selLength);
 /// The fields that a tag fills. The unit of the size is the other one than the tag has, by intent: confirming an image
 /// as it was read makes pixels of a percentage, and the reverse. Width and height share the unit; the height decides.

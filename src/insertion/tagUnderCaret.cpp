@@ -21,7 +21,7 @@ QString takeAttribute(QString &rest, const QString &name)
 }
 } // namespace
 
-std::optional<TagUnderCaret> readTagUnderCaret(const QString &text, qsizetype selStart, qsizetype selLength,
+std::optional<TagUnderCaret> ReadTagUnderCaret(const QString &text, qsizetype selStart, qsizetype selLength,
                                                const QString &tagWord, const QStringList &attributes)
 {
     if (selLength != 0 || selStart < 1)

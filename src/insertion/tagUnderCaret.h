@@ -22,5 +22,5 @@ struct TagUnderCaret {
 /// either belongs to it; what lies between is not looked at. Only attributes written ` name="value"` are known.
 /// Nothing if text is selected, the caret is at the very start, a bracket is missing, the tag goes over a line end or
 /// is another one.
-std::optional<TagUnderCaret> readTagUnderCaret(const QString &text, qsizetype selStart, qsizetype selLength,
+std::optional<TagUnderCaret> ReadTagUnderCaret(const QString &text, qsizetype selStart, qsizetype selLength,
                                                const QString &tagWord, const QStringList &attributes);

@@ -9,7 +9,7 @@ const QStringList Known{QStringLiteral("src"), QStringLiteral("width")};
 
 std::optional<TagUnderCaret> read(const QString &text, qsizetype selStart, qsizetype selLength = 0)
 {
-    return readTagUnderCaret(text, selStart, selLength, ImageWord, Known);
+    return ReadTagUnderCaret(text, selStart, selLength, ImageWord, Known);
 }
 } // namespace
 
