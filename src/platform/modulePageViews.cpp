@@ -101,7 +101,7 @@ PageEngine *ModulePageViews::engine()
 QString ModulePageViews::moduleFile() const
 {
     for (const QString &folder : m_folders) {
-        const QString file = joinPath(folder, ModuleName);
+        QString file = joinPath(folder, ModuleName);
         if (QFileInfo(file).isFile())
             return file;
     }
