@@ -176,7 +176,7 @@ HtmlLine htmlLine(QStringView line)
 {
     HtmlLine result;
     const auto isMark = [](QChar c) { return c == mark || c == deprecatedMark; };
-    const auto behindMarks = std::find_if_not(line.begin(), line.end(), isMark);
+    const QChar *const behindMarks = std::find_if_not(line.begin(), line.end(), isMark);
     if (std::none_of(behindMarks, line.end(), isMark)) { // as good as every line
         result.depth = static_cast<int>(behindMarks - line.begin());
         result.deprecated = std::find(line.begin(), behindMarks, deprecatedMark) != behindMarks;

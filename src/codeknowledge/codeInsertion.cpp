@@ -26,7 +26,7 @@ std::optional<QString> chosenCode(const CodeKnowledge &codes, int number, std::o
         return u'<' + node.text;      // the code assistant goes on from here
     if (node.imageKey == u"ImgNode4") // a deprecated value has another picture, and goes in without quotes
         return u'"' + node.text + u'"';
-    const bool parted = before == u' ' || before == u'\n';
+    const bool parted = before && (*before == u' ' || *before == u'\n');
     return parted ? node.text : u' ' + node.text;
 }
 

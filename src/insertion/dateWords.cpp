@@ -37,9 +37,9 @@ private:
     {
         if (QStringView(m_format).sliced(at).startsWith(HalfDay))
             return HalfDay;
-        const auto start = m_format.cbegin() + at;
+        const QChar *const start = m_format.cbegin() + at;
         const QChar first = *start;
-        const auto end = std::find_if(start, m_format.cend(), [first](QChar c) { return c != first; });
+        const QChar *const end = std::find_if(start, m_format.cend(), [first](QChar c) { return c != first; });
         return m_format.mid(at, end - start);
     }
 

@@ -15,7 +15,7 @@ QString takeAttribute(QString &rest, const QString &name)
     const qsizetype end = rest.indexOf(u'"', start);
     if (end <= start)
         return {};
-    const QString value = rest.mid(start, end - start);
+    QString value = rest.mid(start, end - start);
     rest.remove(found, end + 1 - found);
     return value;
 }
