@@ -15,7 +15,7 @@ struct AssistantGround {
 
 /// The pop-up of that size: to the right of the caret and below; on the other side, or above the line, where it would
 /// pass the area. What is larger than the area is cut to it.
-QRect placeOfList(const AssistantGround &ground, const QSize &size);
+QRect placeOfList(const AssistantGround &ground, const QSize &wanted);
 
 /// How the tip measures its text.
 struct TipText {

@@ -19,7 +19,7 @@ bool endsLink(QChar c)
 // not part of it either.
 qsizetype endOfLink(QStringView text, qsizetype position)
 {
-    const auto end = std::find_if(text.begin() + position, text.end(), endsLink);
+    const auto *const end = std::find_if(text.begin() + position, text.end(), endsLink);
     return std::min<qsizetype>(end - text.begin() + 1, text.size());
 }
 } // namespace

@@ -138,8 +138,8 @@ void StructureTree::addAlignment(QStringView lowered, qsizetype start)
 {
     const qsizetype attribute = Find(lowered, u" align=").value_or(0);
     m_alignment = Mid(lowered, attribute, 15).value_or(m_alignment);
-    const auto row = std::find_if(AlignmentRows.begin(), AlignmentRows.end(),
-                                  [this](const AlignmentRow &each) { return m_alignment.contains(each.word); });
+    const auto *const row = std::find_if(AlignmentRows.begin(), AlignmentRows.end(),
+                                         [this](const AlignmentRow &each) { return m_alignment.contains(each.word); });
     if (row == AlignmentRows.end())
         return;
     const bool isParagraph = holds(lowered, QLatin1String("<p"));

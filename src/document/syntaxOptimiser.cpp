@@ -25,8 +25,9 @@ constexpr std::array BlockElements = {
 
 const BlockElement *blockElementIn(const QString &loweredLine)
 {
-    const auto found = std::find_if(BlockElements.begin(), BlockElements.end(),
-                                    [&](const BlockElement &each) { return loweredLine.contains(each.opening); });
+    const auto *const found = std::find_if(BlockElements.begin(), BlockElements.end(), [&](const BlockElement &each) {
+        return loweredLine.contains(each.opening);
+    });
     return found == BlockElements.end() ? nullptr : found;
 }
 } // namespace

@@ -4,7 +4,7 @@
 
 void UndoHistory::UndoRedoChange(const UndoSnapshot &snapshot)
 {
-    const auto newest = m_entries.begin() + 1;
+    auto *const newest = m_entries.begin() + 1;
     std::move_backward(newest, m_entries.end() - 1, m_entries.end());
     *newest = snapshot;
     const QString &before = (newest + 1)->text;
