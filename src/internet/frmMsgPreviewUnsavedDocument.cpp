@@ -38,7 +38,6 @@ void frmMsgPreviewUnsavedDocument::Form_Load()
         ui::column({lblMessage, ui::options({optSaveDoc, optSaveTempCopy}), chkDontReshow, ui::space()}),
         ui::buttons({cmdOK, cmdCancel, cmdHelp}),
     }));
-    window()->setMinimumWidth(500);
     setDefaultButton(cmdOK);
     setCancelButton(cmdCancel);
 }
