@@ -1,6 +1,7 @@
 #include "document/viewingPanes.h"
 
 #include "document/paneDivider.h"
+#include "platform/controlName.h"
 #include "platform/form.h"
 #include "platform/tabStrip.h"
 

@@ -2,6 +2,7 @@
 
 #include "common/fileCommands.h"
 #include "files/unsavedDocuments.h"
+#include "platform/controlName.h"
 #include "platform/layout.h"
 #include "platform/services.h"
 #include "shell/settings.h"

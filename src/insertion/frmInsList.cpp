@@ -1,6 +1,7 @@
 #include "insertion/frmInsList.h"
 
 #include "insertion/listPictures.h"
+#include "platform/controlName.h"
 #include "platform/layout.h"
 #include "platform/numberField.h"
 #include "platform/pictureBox.h"

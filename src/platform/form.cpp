@@ -49,11 +49,6 @@ private:
 };
 } // namespace
 
-QString controlName(const QString &name, int index)
-{
-    return QStringLiteral("%1(%2)").arg(name).arg(index);
-}
-
 Form::Form(ProgramContext &context, const QString &name) : m_context(context), m_name(name)
 {
     setObjectName(name);

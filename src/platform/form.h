@@ -105,6 +105,3 @@ private:
     QPointer<QAbstractButton> m_cancelButton;
     bool m_loaded = false;
 };
-
-/// The name of one member of a control array.
-QString controlName(const QString &name, int index);

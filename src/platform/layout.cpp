@@ -1,6 +1,6 @@
 #include "platform/layout.h"
 
-#include "platform/form.h"
+#include "platform/controlName.h"
 #include "platform/numberField.h"
 #include "platform/spinButton.h"
 

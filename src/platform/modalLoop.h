@@ -10,10 +10,3 @@ public:
     /// Returns once `form`, which is on show, is unloaded or hidden.
     virtual void run(Form &form) = 0;
 };
-
-/// Waits by running the desktop's event loop.
-class EventModalLoop final : public ModalLoop
-{
-public:
-    void run(Form &form) override;
-};

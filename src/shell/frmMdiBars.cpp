@@ -5,6 +5,7 @@
 #include "files/modRecentFiles.h"
 #include "insertion/modFontTags.h"
 #include "internet/modViewInBrowser.h"
+#include "platform/controlName.h"
 #include "platform/controlWatch.h"
 #include "platform/coolBar.h"
 #include "platform/nodeTree.h"

@@ -1,6 +1,7 @@
 #include "shell/frmMdiPane.h"
 
 #include "common/paths.h"
+#include "platform/controlName.h"
 #include "platform/controls.h"
 #include "platform/fileControls.h"
 #include "platform/fileSystem.h"

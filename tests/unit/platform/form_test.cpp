@@ -1,5 +1,6 @@
 #include "platform/form.h"
 
+#include "platform/controlName.h"
 #include "platform/layout.h"
 #include "testDesktop.h"
 

@@ -1,4 +1,4 @@
-#include "platform/modalLoop.h"
+#include "platform/eventModalLoop.h"
 
 #include "platform/form.h"
 
