@@ -6,10 +6,10 @@
 #include "document/assistantWords.h"
 #include "figures.h"
 #include "pages.h"
-#include "platform/editSurface.h"
-#include "platform/localFileSystem.h"
-#include "platform/nodeTree.h"
 #include "runningProgram.h"
+#include "storage/localFileSystem.h"
+#include "surface/editSurface.h"
+#include "widgets/nodeTree.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,6 +1,6 @@
 #include "figures.h"
 #include "insertion/insertionForms.h"
-#include "platform/pictureLoader.h"
+#include "pictures/pictureLoader.h"
 #include "runningProgram.h"
 
 #include <QApplication>

@@ -2,8 +2,8 @@
 #include "document/syntaxScanner.h"
 #include "figures.h"
 #include "pages.h"
-#include "platform/yielder.h"
 #include "runningProgram.h"
+#include "services/yielder.h"
 
 #include <QWidget>
 

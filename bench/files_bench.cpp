@@ -3,7 +3,7 @@
 #include "figures.h"
 #include "pages.h"
 #include "runningProgram.h"
-#include "shell/settings.h"
+#include "services/settings.h"
 
 #include <QApplication>
 #include <QEventLoop>

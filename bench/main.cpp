@@ -1,5 +1,5 @@
 #include "figures.h"
-#include "platform/pictureReader.h"
+#include "pictures/pictureReader.h"
 
 #include <QApplication>
 

@@ -1,9 +1,9 @@
+#include "browser/webBrowser.h"
 #include "figures.h"
+#include "forms/form.h"
 #include "pages.h"
-#include "platform/form.h"
-#include "platform/timer.h"
-#include "platform/webBrowser.h"
 #include "runningProgram.h"
+#include "services/timer.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

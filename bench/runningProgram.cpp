@@ -1,7 +1,7 @@
 #include "runningProgram.h"
 
-#include "platform/settingsStore.h"
-#include "shell/settings.h"
+#include "services/settings.h"
+#include "services/settingsStore.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/desktopServices.h"
-#include "shell/application.h"
+#include "desktop/desktopServices.h"
+#include "frame/application.h"
 
 #include <QTemporaryDir>
 #include <functional>

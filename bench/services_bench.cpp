@@ -1,7 +1,7 @@
 #include "common/encodings.h"
 #include "figures.h"
-#include "platform/localFileSystem.h"
-#include "platform/settingsFiles.h"
+#include "storage/localFileSystem.h"
+#include "storage/settingsFiles.h"
 
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>

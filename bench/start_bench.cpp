@@ -1,8 +1,8 @@
 // From the start of the program's process to its main window at rest.
 #include "figures.h"
-#include "platform/settingsFiles.h"
-#include "shell/settings.h"
+#include "services/settings.h"
 #include "startedProgram.h"
+#include "storage/settingsFiles.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "figures.h"
 #include "pages.h"
-#include "platform/editSurface.h"
+#include "surface/editSurface.h"
 
 #include <QApplication>
 #include <QKeyEvent>

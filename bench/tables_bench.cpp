@@ -1,6 +1,6 @@
 #include "common/document.h"
 #include "figures.h"
-#include "platform/form.h"
+#include "forms/form.h"
 #include "runningProgram.h"
 
 #include <QApplication>

@@ -1,8 +1,8 @@
-#include "platform/desktopServices.h"
-#include "platform/pictureReader.h"
-#include "platform/programIcon.h"
-#include "shell/application.h"
+#include "desktop/desktopServices.h"
+#include "frame/application.h"
+#include "pictures/pictureReader.h"
 #include "shell/commandLine.h"
+#include "widgets/programIcon.h"
 
 #include <QApplication>
 

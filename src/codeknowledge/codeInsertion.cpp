@@ -1,7 +1,7 @@
 #include "codeknowledge/codeInsertion.h"
 
 #include "common/codeKnowledge.h"
-#include "platform/programContext.h"
+#include "forms/programContext.h"
 
 namespace
 {

@@ -2,8 +2,8 @@
 
 #include "common/encodings.h"
 #include "common/paths.h"
-#include "platform/fileSystem.h"
-#include "platform/programIcon.h"
+#include "services/fileSystem.h"
+#include "widgets/programIcon.h"
 
 namespace
 {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "codeknowledge/codeFiles.h"
-#include "platform/nodeTreeModel.h"
+#include "widgets/nodeTreeModel.h"
 
 class FileSystem;
 

@@ -2,8 +2,8 @@
 
 #include "common/codeKnowledge.h"
 #include "common/textReader.h"
-#include "platform/modLaunchHTMLHelp.h"
-#include "platform/programContext.h"
+#include "forms/modLaunchHTMLHelp.h"
+#include "forms/programContext.h"
 
 #include <algorithm>
 

@@ -3,9 +3,9 @@
 #include "common/codeKnowledge.h"
 #include "common/text.h"
 #include "document/assistantWords.h"
-#include "platform/editSurface.h"
-#include "platform/nodeTree.h"
-#include "platform/programContext.h"
+#include "forms/programContext.h"
+#include "surface/editSurface.h"
+#include "widgets/nodeTree.h"
 
 #include <QCoreApplication>
 #include <QFrame>

@@ -3,12 +3,12 @@
 #include "document/assistantPlacing.h"
 #include "document/codeAssistant.h"
 #include "document/syntaxTip.h"
-#include "platform/controls.h"
-#include "platform/editSurface.h"
-#include "platform/nodeTree.h"
-#include "platform/programContext.h"
-#include "platform/services.h"
-#include "shell/settings.h"
+#include "forms/programContext.h"
+#include "services/services.h"
+#include "services/settings.h"
+#include "surface/editSurface.h"
+#include "widgets/controls.h"
+#include "widgets/nodeTree.h"
 
 #include <QFrame>
 #include <QHeaderView>

@@ -4,10 +4,10 @@
 #include "common/fileFormatText.h"
 #include "common/paths.h"
 #include "document/viewingPanes.h"
-#include "platform/editSurface.h"
-#include "platform/services.h"
-#include "platform/timer.h"
-#include "shell/settings.h"
+#include "services/services.h"
+#include "services/settings.h"
+#include "services/timer.h"
+#include "surface/editSurface.h"
 
 #include <QVBoxLayout>
 

@@ -3,7 +3,7 @@
 #include "common/document.h"
 #include "document/typedColouring.h"
 #include "document/undoHistory.h"
-#include "platform/mdiForm.h"
+#include "forms/mdiForm.h"
 
 class CodeAssistant;
 class EditSurface;

@@ -4,10 +4,10 @@
 #include "document/frmWrite.h"
 #include "document/modClipboard.h"
 #include "document/typing.h"
-#include "platform/editSurface.h"
-#include "platform/services.h"
-#include "platform/timer.h"
-#include "shell/settings.h"
+#include "services/services.h"
+#include "services/settings.h"
+#include "services/timer.h"
+#include "surface/editSurface.h"
 
 #include <utility>
 

@@ -5,10 +5,10 @@
 #include "document/frmWrite.h"
 #include "document/viewingPanes.h"
 #include "internet/modViewInBrowser.h"
-#include "platform/editSurface.h"
-#include "platform/lineMargin.h"
-#include "platform/services.h"
-#include "platform/stillTimerSource.h"
+#include "services/services.h"
+#include "services/stillTimerSource.h"
+#include "surface/editSurface.h"
+#include "surface/lineMargin.h"
 
 namespace
 {

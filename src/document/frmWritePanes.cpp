@@ -1,15 +1,15 @@
 // The two panes of a document window: the source, and the preview that follows it.
+#include "browser/webBrowser.h"
 #include "document/codeAssistant.h"
 #include "document/frmWrite.h"
 #include "document/modBrowserControl.h"
 #include "document/viewingPanes.h"
-#include "platform/editSurface.h"
-#include "platform/messageBoxes.h"
-#include "platform/services.h"
-#include "platform/tabStrip.h"
-#include "platform/timer.h"
-#include "platform/webBrowser.h"
-#include "shell/settings.h"
+#include "services/messageBoxes.h"
+#include "services/services.h"
+#include "services/settings.h"
+#include "services/timer.h"
+#include "surface/editSurface.h"
+#include "widgets/tabStrip.h"
 
 #include <QPointer>
 #include <QVBoxLayout>

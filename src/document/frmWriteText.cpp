@@ -4,11 +4,11 @@
 #include "document/frmWrite.h"
 #include "document/indentation.h"
 #include "document/syntaxOptimiser.h"
-#include "platform/editSurface.h"
-#include "platform/screenPointer.h"
-#include "platform/services.h"
-#include "platform/timer.h"
-#include "platform/yielder.h"
+#include "services/services.h"
+#include "services/timer.h"
+#include "services/yielder.h"
+#include "surface/editSurface.h"
+#include "widgets/screenPointer.h"
 
 #include <QPointer>
 

@@ -1,11 +1,11 @@
 #include "document/modBrowserControl.h"
 
 #include "common/browser.h"
-#include "platform/doEvents.h"
-#include "platform/documentCopy.h"
-#include "platform/programContext.h"
-#include "platform/services.h"
-#include "shell/settings.h"
+#include "forms/programContext.h"
+#include "services/doEvents.h"
+#include "services/services.h"
+#include "services/settings.h"
+#include "storage/documentCopy.h"
 
 #include <QRegularExpression>
 #include <QScopedValueRollback>

@@ -1,10 +1,10 @@
 #include "document/modClipboard.h"
 
 #include "common/document.h"
-#include "platform/clipboard.h"
-#include "platform/layout.h"
-#include "platform/programContext.h"
-#include "platform/services.h"
+#include "forms/programContext.h"
+#include "services/clipboard.h"
+#include "services/services.h"
+#include "widgets/layout.h"
 
 #include <QApplication>
 #include <QLineEdit>

@@ -4,12 +4,12 @@
 #include "common/fileCommands.h"
 #include "common/text.h"
 #include "document/frmWrite.h"
-#include "platform/fileSystem.h"
-#include "platform/formRuntime.h"
-#include "platform/messageBoxes.h"
-#include "platform/screenPointer.h"
-#include "platform/services.h"
-#include "shell/settings.h"
+#include "forms/formRuntime.h"
+#include "services/fileSystem.h"
+#include "services/messageBoxes.h"
+#include "services/services.h"
+#include "services/settings.h"
+#include "widgets/screenPointer.h"
 
 #include <new>
 

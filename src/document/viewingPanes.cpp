@@ -1,9 +1,9 @@
 #include "document/viewingPanes.h"
 
 #include "document/paneDivider.h"
-#include "platform/controlName.h"
-#include "platform/form.h"
-#include "platform/tabStrip.h"
+#include "forms/form.h"
+#include "widgets/controlName.h"
+#include "widgets/tabStrip.h"
 
 #include <QHBoxLayout>
 #include <algorithm>

@@ -4,11 +4,11 @@
 #include "common/mainWindow.h"
 #include "files/autoSavePause.h"
 #include "files/frmMsgNoFileForAutoSave.h"
-#include "platform/form.h"
-#include "platform/messageBoxes.h"
-#include "platform/screenPointer.h"
-#include "platform/services.h"
-#include "shell/settings.h"
+#include "forms/form.h"
+#include "services/messageBoxes.h"
+#include "services/services.h"
+#include "services/settings.h"
+#include "widgets/screenPointer.h"
 
 #include <cmath>
 #include <utility>

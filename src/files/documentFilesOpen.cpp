@@ -6,12 +6,12 @@
 #include "files/fileDialogRows.h"
 #include "files/modFileErrors.h"
 #include "files/modRecentFiles.h"
-#include "platform/commonDialogs.h"
-#include "platform/fileSystem.h"
-#include "platform/programContext.h"
-#include "platform/screenPointer.h"
-#include "platform/services.h"
-#include "shell/settings.h"
+#include "forms/programContext.h"
+#include "services/commonDialogs.h"
+#include "services/fileSystem.h"
+#include "services/services.h"
+#include "services/settings.h"
+#include "widgets/screenPointer.h"
 
 #include <new>
 

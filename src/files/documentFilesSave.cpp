@@ -7,12 +7,12 @@
 #include "files/fileDialogRows.h"
 #include "files/modFileNames.h"
 #include "files/unsavedDocuments.h"
-#include "platform/commonDialogs.h"
-#include "platform/fileSystem.h"
-#include "platform/form.h"
-#include "platform/messageBoxes.h"
-#include "platform/services.h"
-#include "shell/settings.h"
+#include "forms/form.h"
+#include "services/commonDialogs.h"
+#include "services/fileSystem.h"
+#include "services/messageBoxes.h"
+#include "services/services.h"
+#include "services/settings.h"
 
 #include <new>
 

@@ -1,8 +1,8 @@
 #include "files/frmMsgAddSavedFileToProject.h"
 
-#include "platform/layout.h"
-#include "platform/services.h"
-#include "shell/settings.h"
+#include "services/services.h"
+#include "services/settings.h"
+#include "widgets/layout.h"
 
 #include <QComboBox>
 #include <QLabel>

@@ -2,10 +2,10 @@
 
 #include "common/fileCommands.h"
 #include "files/unsavedDocuments.h"
-#include "platform/controlName.h"
-#include "platform/layout.h"
-#include "platform/services.h"
-#include "shell/settings.h"
+#include "services/services.h"
+#include "services/settings.h"
+#include "widgets/controlName.h"
+#include "widgets/layout.h"
 
 #include <QCheckBox>
 #include <QLabel>

@@ -3,8 +3,8 @@
 #include "common/fileCommands.h"
 #include "common/paths.h"
 #include "files/metaElements.h"
-#include "platform/layout.h"
-#include "platform/services.h"
+#include "services/services.h"
+#include "widgets/layout.h"
 
 #include <QCheckBox>
 #include <QLabel>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/dialogForm.h"
-#include "platform/fileSystem.h"
-#include "platform/layout.h"
+#include "forms/dialogForm.h"
+#include "services/fileSystem.h"
+#include "widgets/layout.h"
 
 class QCheckBox;
 class QLabel;

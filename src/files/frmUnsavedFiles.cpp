@@ -2,7 +2,7 @@
 
 #include "common/fileCommands.h"
 #include "files/unsavedDocuments.h"
-#include "platform/layout.h"
+#include "widgets/layout.h"
 
 #include <QLabel>
 #include <QListWidget>

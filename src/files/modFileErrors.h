@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/messageBoxes.h"
+#include "services/messageBoxes.h"
 
 #include <optional>
 #include <span>

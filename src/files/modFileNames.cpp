@@ -3,7 +3,7 @@
 #include "common/mainWindow.h"
 #include "common/paths.h"
 #include "common/text.h"
-#include "platform/fileSystem.h"
+#include "services/fileSystem.h"
 
 #include <algorithm>
 

@@ -2,10 +2,10 @@
 
 #include "common/encodings.h"
 #include "common/paths.h"
-#include "platform/fileSystem.h"
-#include "platform/programContext.h"
-#include "platform/services.h"
-#include "shell/settings.h"
+#include "forms/programContext.h"
+#include "services/fileSystem.h"
+#include "services/services.h"
+#include "services/settings.h"
 
 #include <QComboBox>
 

@@ -1,8 +1,8 @@
 #include "insertion/browseDialog.h"
 
-#include "platform/commonDialogs.h"
-#include "platform/programContext.h"
-#include "platform/services.h"
+#include "forms/programContext.h"
+#include "services/commonDialogs.h"
+#include "services/services.h"
 
 QString BrowseDialog::browse(ProgramContext &context)
 {

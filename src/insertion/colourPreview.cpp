@@ -1,8 +1,8 @@
 #include "insertion/colourPreview.h"
 
 #include "common/colourText.h"
-#include "platform/colourSwatch.h"
-#include "platform/controls.h"
+#include "widgets/colourSwatch.h"
+#include "widgets/controls.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

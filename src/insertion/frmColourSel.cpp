@@ -3,13 +3,13 @@
 #include "common/colourText.h"
 #include "insertion/colourPreview.h"
 #include "insertion/modColourProcesses.h"
-#include "platform/colourPalette.h"
-#include "platform/commonDialogs.h"
-#include "platform/layout.h"
-#include "platform/pictureBox.h"
-#include "platform/services.h"
-#include "platform/themeColour.h"
-#include "shell/settings.h"
+#include "services/commonDialogs.h"
+#include "services/services.h"
+#include "services/settings.h"
+#include "widgets/colourPalette.h"
+#include "widgets/layout.h"
+#include "widgets/pictureBox.h"
+#include "widgets/themeColour.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>

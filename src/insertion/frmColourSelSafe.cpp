@@ -2,8 +2,8 @@
 
 #include "insertion/colourPreview.h"
 #include "insertion/modColourProcesses.h"
-#include "platform/colourPalette.h"
-#include "platform/layout.h"
+#include "widgets/colourPalette.h"
+#include "widgets/layout.h"
 
 #include <QLabel>
 #include <QPushButton>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/controls.h"
-#include "platform/form.h"
+#include "forms/form.h"
+#include "widgets/controls.h"
 
 class QLabel;
 

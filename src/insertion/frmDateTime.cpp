@@ -1,9 +1,9 @@
 #include "insertion/frmDateTime.h"
 
 #include "insertion/dateWords.h"
-#include "platform/clock.h"
-#include "platform/layout.h"
-#include "platform/services.h"
+#include "services/clock.h"
+#include "services/services.h"
+#include "widgets/layout.h"
 
 #include <QCalendarWidget>
 #include <QListWidget>

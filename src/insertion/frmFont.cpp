@@ -4,8 +4,8 @@
 #include "insertion/modColourProcesses.h"
 #include "insertion/modFontTags.h"
 #include "insertion/modFonts.h"
-#include "platform/colourSelection.h"
-#include "platform/themeColour.h"
+#include "widgets/colourSelection.h"
+#include "widgets/themeColour.h"
 
 #include <QCheckBox>
 #include <QFontDatabase>

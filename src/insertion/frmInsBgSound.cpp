@@ -1,8 +1,8 @@
 #include "insertion/frmInsBgSound.h"
 
 #include "insertion/attributeText.h"
-#include "platform/layout.h"
-#include "shell/settings.h"
+#include "services/settings.h"
+#include "widgets/layout.h"
 
 #include <QLineEdit>
 #include <QPushButton>

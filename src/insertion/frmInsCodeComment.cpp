@@ -1,6 +1,6 @@
 #include "insertion/frmInsCodeComment.h"
 
-#include "platform/layout.h"
+#include "widgets/layout.h"
 
 #include <QPlainTextEdit>
 

@@ -2,9 +2,9 @@
 
 #include "insertion/attributeText.h"
 #include "insertion/modColourProcesses.h"
-#include "platform/colourSelection.h"
-#include "platform/numberField.h"
-#include "platform/spinButton.h"
+#include "widgets/colourSelection.h"
+#include "widgets/numberField.h"
+#include "widgets/spinButton.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "insertion/insertionForm.h"
-#include "platform/layout.h"
+#include "widgets/layout.h"
 
 class QCheckBox;
 class QComboBox;

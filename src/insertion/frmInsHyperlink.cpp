@@ -3,7 +3,7 @@
 #include "insertion/attributeText.h"
 #include "insertion/imageFilter.h"
 #include "insertion/modProjectFileCtrl.h"
-#include "shell/settings.h"
+#include "services/settings.h"
 
 #include <QComboBox>
 #include <QLabel>

@@ -3,7 +3,7 @@
 #include "insertion/browseDialog.h"
 #include "insertion/insertionForm.h"
 #include "insertion/pathRules.h"
-#include "platform/layout.h"
+#include "widgets/layout.h"
 
 class QComboBox;
 class QLineEdit;

@@ -6,9 +6,9 @@
 #include "insertion/modProjectFileCtrl.h"
 #include "insertion/sizeAttribute.h"
 #include "insertion/tagValues.h"
-#include "platform/controlWatch.h"
-#include "platform/numberField.h"
-#include "shell/settings.h"
+#include "services/settings.h"
+#include "widgets/controlWatch.h"
+#include "widgets/numberField.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -5,7 +5,7 @@
 #include "insertion/insertionForm.h"
 #include "insertion/pathRules.h"
 #include "insertion/tagUnderCaret.h"
-#include "platform/layout.h"
+#include "widgets/layout.h"
 
 class QCheckBox;
 class QComboBox;

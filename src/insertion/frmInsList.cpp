@@ -1,11 +1,11 @@
 #include "insertion/frmInsList.h"
 
 #include "insertion/listPictures.h"
-#include "platform/controlName.h"
-#include "platform/layout.h"
-#include "platform/numberField.h"
-#include "platform/pictureBox.h"
-#include "platform/spinButton.h"
+#include "widgets/controlName.h"
+#include "widgets/layout.h"
+#include "widgets/numberField.h"
+#include "widgets/pictureBox.h"
+#include "widgets/spinButton.h"
 
 #include <QCheckBox>
 #include <QFrame>

@@ -1,8 +1,8 @@
 #include "insertion/frmInsSpecChar.h"
 
-#include "platform/characterGrid.h"
-#include "platform/layout.h"
-#include "platform/modLaunchHTMLHelp.h"
+#include "forms/modLaunchHTMLHelp.h"
+#include "widgets/characterGrid.h"
+#include "widgets/layout.h"
 
 #include <QLabel>
 #include <QPushButton>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/dialogForm.h"
+#include "forms/dialogForm.h"
 
 #include <QString>
 

@@ -1,8 +1,8 @@
 #include "insertion/frmInsTable.h"
 
-#include "platform/formRuntime.h"
-#include "platform/numberField.h"
-#include "platform/spinButton.h"
+#include "forms/formRuntime.h"
+#include "widgets/numberField.h"
+#include "widgets/spinButton.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -2,7 +2,7 @@
 
 #include "insertion/insertionForm.h"
 #include "insertion/tableMarkup.h"
-#include "platform/layout.h"
+#include "widgets/layout.h"
 
 class QCheckBox;
 class QComboBox;

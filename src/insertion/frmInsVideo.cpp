@@ -2,9 +2,9 @@
 
 #include "insertion/attributeText.h"
 #include "insertion/sizeAttribute.h"
-#include "platform/numberField.h"
-#include "platform/spinButton.h"
-#include "shell/settings.h"
+#include "services/settings.h"
+#include "widgets/numberField.h"
+#include "widgets/spinButton.h"
 
 #include <QCheckBox>
 #include <QComboBox>

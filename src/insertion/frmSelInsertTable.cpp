@@ -1,9 +1,9 @@
 #include "insertion/frmSelInsertTable.h"
 
 #include "insertion/tableMarkup.h"
-#include "platform/pictureBox.h"
-#include "platform/screenPointer.h"
-#include "platform/themeColour.h"
+#include "widgets/pictureBox.h"
+#include "widgets/screenPointer.h"
+#include "widgets/themeColour.h"
 
 #include <QFrame>
 #include <QGridLayout>

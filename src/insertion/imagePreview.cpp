@@ -1,8 +1,8 @@
 #include "insertion/imagePreview.h"
 
 #include "common/numbers.h"
-#include "platform/pictureBox.h"
-#include "platform/pictureLoader.h"
+#include "pictures/pictureLoader.h"
+#include "widgets/pictureBox.h"
 
 #include <QLabel>
 #include <QScrollArea>

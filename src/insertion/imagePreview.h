@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/layout.h"
+#include "widgets/layout.h"
 
 #include <QSize>
 

@@ -1,12 +1,12 @@
 #include "insertion/insertionForm.h"
 
 #include "common/paths.h"
-#include "platform/layout.h"
-#include "platform/messageBoxes.h"
-#include "platform/modLaunchHTMLHelp.h"
-#include "platform/pathCompletion.h"
-#include "platform/screenPointer.h"
-#include "platform/services.h"
+#include "forms/modLaunchHTMLHelp.h"
+#include "services/messageBoxes.h"
+#include "services/services.h"
+#include "widgets/layout.h"
+#include "widgets/pathCompletion.h"
+#include "widgets/screenPointer.h"
 
 #include <QPushButton>
 

@@ -1,6 +1,6 @@
 #include "insertion/modCode.h"
 
-#include "platform/programContext.h"
+#include "forms/programContext.h"
 
 void wrapPlainly(ProgramContext &context, const QString &openText, const QString &closeText)
 {

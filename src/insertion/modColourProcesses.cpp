@@ -1,10 +1,10 @@
 #include "insertion/modColourProcesses.h"
 
 #include "common/colourText.h"
-#include "platform/colourSelection.h"
-#include "platform/form.h"
-#include "platform/programContext.h"
-#include "platform/themeColour.h"
+#include "forms/form.h"
+#include "forms/programContext.h"
+#include "widgets/colourSelection.h"
+#include "widgets/themeColour.h"
 
 #include <QApplication>
 #include <QColor>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/colour.h"
-#include "platform/controls.h"
+#include "widgets/controls.h"
 
 #include <QString>
 

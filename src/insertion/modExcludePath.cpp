@@ -2,9 +2,9 @@
 
 #include "common/paths.h"
 #include "common/text.h"
-#include "platform/programContext.h"
-#include "platform/services.h"
-#include "shell/settings.h"
+#include "forms/programContext.h"
+#include "services/services.h"
+#include "services/settings.h"
 
 QString withoutDocumentFolder(const QString &path, const QString &documentPath)
 {

@@ -2,8 +2,8 @@
 
 #include "common/paths.h"
 #include "common/siteProject.h"
-#include "platform/controls.h"
-#include "platform/programContext.h"
+#include "forms/programContext.h"
+#include "widgets/controls.h"
 
 #include <QComboBox>
 

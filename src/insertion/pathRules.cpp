@@ -1,11 +1,11 @@
 #include "insertion/pathRules.h"
 
 #include "common/paths.h"
+#include "forms/programContext.h"
 #include "insertion/modExcludePath.h"
-#include "platform/layout.h"
-#include "platform/programContext.h"
-#include "platform/services.h"
-#include "shell/settings.h"
+#include "services/services.h"
+#include "services/settings.h"
+#include "widgets/layout.h"
 
 #include <QCheckBox>
 

@@ -1,9 +1,9 @@
 #include "internet/frmMsgPreviewUnsavedDocument.h"
 
-#include "platform/layout.h"
-#include "platform/modLaunchHTMLHelp.h"
-#include "platform/services.h"
-#include "shell/settings.h"
+#include "forms/modLaunchHTMLHelp.h"
+#include "services/services.h"
+#include "services/settings.h"
+#include "widgets/layout.h"
 
 #include <QCheckBox>
 #include <QLabel>

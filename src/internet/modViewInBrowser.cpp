@@ -2,14 +2,14 @@
 
 #include "common/fileCommands.h"
 #include "common/paths.h"
-#include "platform/documentCopy.h"
-#include "platform/form.h"
-#include "platform/launcher.h"
-#include "platform/messageBoxes.h"
-#include "platform/programContext.h"
-#include "platform/screenPointer.h"
-#include "platform/services.h"
-#include "shell/settings.h"
+#include "forms/form.h"
+#include "forms/programContext.h"
+#include "services/launcher.h"
+#include "services/messageBoxes.h"
+#include "services/services.h"
+#include "services/settings.h"
+#include "storage/documentCopy.h"
+#include "widgets/screenPointer.h"
 
 namespace
 {

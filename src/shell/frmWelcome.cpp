@@ -1,8 +1,8 @@
 #include "shell/frmWelcome.h"
 
-#include "platform/layout.h"
-#include "platform/services.h"
-#include "shell/settings.h"
+#include "services/services.h"
+#include "services/settings.h"
+#include "widgets/layout.h"
 
 #include <QLabel>
 #include <QPushButton>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/form.h"
+#include "forms/form.h"
 
 /// The Welcome screen over the main window at the start of a session.
 class frmWelcome final : public Form

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/pageView.h"
+#include "services/pageView.h"
 
 #include <QObject>
 #include <QPointF>

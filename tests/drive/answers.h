@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/commonDialogs.h"
-#include "platform/messageBoxes.h"
+#include "services/commonDialogs.h"
+#include "services/messageBoxes.h"
 
 #include <QList>
 #include <QStringList>

@@ -3,7 +3,7 @@
 #include "drive/patterns.h"
 #include "drive/stage.h"
 #include "drive/told.h"
-#include "platform/settingsStore.h"
+#include "services/settingsStore.h"
 
 #include <QDir>
 #include <QFile>

@@ -6,7 +6,7 @@
 #include "drive/input.h"
 #include "drive/stage.h"
 #include "drive/targets.h"
-#include "platform/form.h"
+#include "forms/form.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -7,8 +7,8 @@
 #include "drive/targets.h"
 #include "drive/testForms.h"
 #include "drive/told.h"
-#include "platform/form.h"
-#include "shell/application.h"
+#include "forms/form.h"
+#include "frame/application.h"
 
 #include <QElapsedTimer>
 #include <QPointer>

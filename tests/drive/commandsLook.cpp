@@ -2,16 +2,16 @@
 #include "common/document.h"
 #include "common/mainWindow.h"
 #include "common/paths.h"
+#include "desktop/desktopHelpViewer.h"
 #include "drive/commands.h"
 #include "drive/patterns.h"
 #include "drive/properties.h"
 #include "drive/stage.h"
 #include "drive/targets.h"
 #include "drive/told.h"
-#include "platform/desktopHelpViewer.h"
-#include "platform/form.h"
-#include "platform/helpWindow.h"
-#include "shell/application.h"
+#include "forms/form.h"
+#include "frame/application.h"
+#include "help/helpWindow.h"
 
 #include <QApplication>
 #include <QDir>

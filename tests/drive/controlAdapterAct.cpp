@@ -4,12 +4,12 @@
 #include "controlPick.h"
 #include "controlRows.h"
 #include "controlText.h"
-#include "platform/colourSelection.h"
-#include "platform/fileControls.h"
-#include "platform/inputGate.h"
-#include "platform/nodeTree.h"
-#include "platform/spinButton.h"
+#include "forms/inputGate.h"
 #include "userInput.h"
+#include "widgets/colourSelection.h"
+#include "widgets/fileControls.h"
+#include "widgets/nodeTree.h"
+#include "widgets/spinButton.h"
 
 #include <QApplication>
 #include <QCalendarWidget>

@@ -1,17 +1,17 @@
 #include "controlAdapter.h"
 
+#include "browser/webBrowser.h"
 #include "common/textSurface.h"
 #include "controlRows.h"
 #include "controlText.h"
-#include "platform/characterGrid.h"
-#include "platform/colourSelection.h"
-#include "platform/fileControls.h"
-#include "platform/listView.h"
-#include "platform/nodeTree.h"
-#include "platform/spinButton.h"
-#include "platform/themeColour.h"
-#include "platform/timer.h"
-#include "platform/webBrowser.h"
+#include "services/timer.h"
+#include "widgets/characterGrid.h"
+#include "widgets/colourSelection.h"
+#include "widgets/fileControls.h"
+#include "widgets/listView.h"
+#include "widgets/nodeTree.h"
+#include "widgets/spinButton.h"
+#include "widgets/themeColour.h"
 
 #include <QAbstractButton>
 #include <QAction>

@@ -1,10 +1,10 @@
 #include "controlPick.h"
 
 #include "controlRows.h"
-#include "platform/characterGrid.h"
-#include "platform/listView.h"
-#include "platform/nodeTree.h"
 #include "userInput.h"
+#include "widgets/characterGrid.h"
+#include "widgets/listView.h"
+#include "widgets/nodeTree.h"
 
 #include <QAbstractItemView>
 #include <QCalendarWidget>

@@ -1,9 +1,9 @@
 #include "controlRows.h"
 
-#include "platform/characterGrid.h"
-#include "platform/checkList.h"
-#include "platform/listView.h"
-#include "platform/tabStrip.h"
+#include "widgets/characterGrid.h"
+#include "widgets/checkList.h"
+#include "widgets/listView.h"
+#include "widgets/tabStrip.h"
 
 #include <QComboBox>
 #include <QStringList>

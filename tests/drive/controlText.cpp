@@ -1,8 +1,8 @@
 #include "controlText.h"
 
 #include "common/textSurface.h"
-#include "platform/colourSelection.h"
-#include "platform/controls.h"
+#include "widgets/colourSelection.h"
+#include "widgets/controls.h"
 
 #include <QComboBox>
 #include <QLineEdit>

@@ -1,19 +1,19 @@
 #pragma once
 
+#include "browser/modulePageViews.h"
+#include "desktop/desktopClipboard.h"
+#include "desktop/xdgFileClasses.h"
 #include "drive/answers.h"
-#include "platform/clock.h"
-#include "platform/desktopClipboard.h"
-#include "platform/helpViewer.h"
-#include "platform/launcher.h"
-#include "platform/localFileSystem.h"
-#include "platform/modalLoop.h"
-#include "platform/modulePageViews.h"
-#include "platform/random.h"
-#include "platform/services.h"
-#include "platform/settingsFiles.h"
-#include "platform/timer.h"
-#include "platform/xdgFileClasses.h"
-#include "platform/yielder.h"
+#include "services/clock.h"
+#include "services/helpViewer.h"
+#include "services/launcher.h"
+#include "services/modalLoop.h"
+#include "services/random.h"
+#include "services/services.h"
+#include "services/timer.h"
+#include "services/yielder.h"
+#include "storage/localFileSystem.h"
+#include "storage/settingsFiles.h"
 
 #include <functional>
 

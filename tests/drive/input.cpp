@@ -5,8 +5,8 @@
 #include "drive/events.h"
 #include "drive/stage.h"
 #include "drive/targets.h"
-#include "platform/form.h"
-#include "shell/application.h"
+#include "forms/form.h"
+#include "frame/application.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -1,5 +1,5 @@
 #include "drive/scriptRun.h"
-#include "platform/pictureReader.h"
+#include "pictures/pictureReader.h"
 
 #include <QStringList>
 #include <algorithm>

@@ -3,8 +3,8 @@
 #include "drive/commands.h"
 #include "drive/events.h"
 #include "drive/told.h"
-#include "platform/form.h"
-#include "shell/application.h"
+#include "forms/form.h"
+#include "frame/application.h"
 
 #include <algorithm>
 

@@ -4,8 +4,8 @@
 #include "drive/stage.h"
 #include "drive/told.h"
 #include "drive/toolbars.h"
-#include "platform/form.h"
-#include "shell/application.h"
+#include "forms/form.h"
+#include "frame/application.h"
 
 #include <QAction>
 #include <QMenu>

@@ -1,16 +1,16 @@
 #include "drive/testDeskForm.h"
 
-#include "platform/clock.h"
-#include "platform/commonDialogs.h"
-#include "platform/controls.h"
-#include "platform/fileSystem.h"
-#include "platform/helpViewer.h"
-#include "platform/launcher.h"
-#include "platform/messageBoxes.h"
-#include "platform/random.h"
-#include "platform/services.h"
-#include "platform/timer.h"
-#include "platform/yielder.h"
+#include "services/clock.h"
+#include "services/commonDialogs.h"
+#include "services/fileSystem.h"
+#include "services/helpViewer.h"
+#include "services/launcher.h"
+#include "services/messageBoxes.h"
+#include "services/random.h"
+#include "services/services.h"
+#include "services/timer.h"
+#include "services/yielder.h"
+#include "widgets/controls.h"
 
 #include <QCheckBox>
 #include <QDragEnterEvent>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/form.h"
-#include "platform/layout.h"
+#include "forms/form.h"
+#include "widgets/layout.h"
 
 class QCheckBox;
 class QLineEdit;

@@ -1,14 +1,14 @@
 #pragma once
 
 #include "controlAdapter.h"
-#include "platform/commonDialogs.h"
-#include "platform/desktopServices.h"
-#include "platform/eventModalLoop.h"
-#include "platform/formRuntime.h"
-#include "platform/programContext.h"
-#include "platform/screenPointer.h"
-#include "platform/timer.h"
+#include "desktop/desktopServices.h"
+#include "forms/eventModalLoop.h"
+#include "forms/formRuntime.h"
+#include "forms/programContext.h"
+#include "services/commonDialogs.h"
+#include "services/timer.h"
 #include "testForm.h"
+#include "widgets/screenPointer.h"
 
 #include <QRegularExpression>
 #include <gmock/gmock.h>

@@ -6,7 +6,7 @@
 #include "drive/stage.h"
 #include "drive/targets.h"
 #include "drive/told.h"
-#include "platform/form.h"
+#include "forms/form.h"
 
 #include <QAction>
 #include <QMenu>

@@ -1,6 +1,6 @@
 #include "drive/world.h"
 
-#include "platform/programFolder.h"
+#include "desktop/programFolder.h"
 
 #include <QDir>
 #include <QDirIterator>

@@ -1,7 +1,7 @@
 #include "codeknowledge/codeLibraries.h"
 
 #include "codeknowledge/codeInsertion.h"
-#include "platform/localFileSystem.h"
+#include "storage/localFileSystem.h"
 
 #include <QFile>
 #include <QTemporaryDir>

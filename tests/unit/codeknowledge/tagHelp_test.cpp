@@ -1,7 +1,7 @@
 #include "codeknowledge/tagHelp.h"
 
 #include "common/codeKnowledge.h"
-#include "platform/editSurface.h"
+#include "surface/editSurface.h"
 #include "unit/document/randomTexts.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 #include "document/assistantWords.h"
 
 #include "plainEdit.h"
-#include "platform/editSurface.h"
 #include "randomTexts.h"
+#include "surface/editSurface.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "document/elementSteps.h"
 
-#include "platform/editSurface.h"
+#include "surface/editSurface.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "document/viewingPanes.h"
-#include "platform/tabStrip.h"
+#include "widgets/tabStrip.h"
 
 #include <QSignalSpy>
 #include <QTest>

@@ -1,4 +1,4 @@
-#include "fakes.h"
+#include "unit/support/fakes.h"
 
 #include "files/frmMsgNoFileForAutoSave.h"
 #include "files/frmMsgSaveChanges.h"

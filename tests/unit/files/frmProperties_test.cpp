@@ -1,6 +1,6 @@
 #include "files/frmProperties.h"
 
-#include "fakes.h"
+#include "unit/support/fakes.h"
 
 #include <QCheckBox>
 #include <QLabel>

@@ -1,6 +1,6 @@
 #include "files/modFileNames.h"
 
-#include "fakes.h"
+#include "unit/support/fakes.h"
 
 namespace
 {

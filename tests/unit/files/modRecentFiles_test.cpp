@@ -1,6 +1,6 @@
 #include "files/modRecentFiles.h"
 
-#include "fakes.h"
+#include "unit/support/fakes.h"
 
 #include <QComboBox>
 

@@ -1,4 +1,4 @@
-#include "fakes.h"
+#include "unit/support/fakes.h"
 
 #include <sys/socket.h>
 #include <sys/un.h>

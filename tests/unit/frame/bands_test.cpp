@@ -1,4 +1,4 @@
-#include "shell/frmMdiBands.h"
+#include "frame/frmMdiBands.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "shell/frmMdiTables.h"
+#include "frame/frmMdiTables.h"
 
 #include <gtest/gtest.h>
 

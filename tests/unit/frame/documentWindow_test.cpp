@@ -1,13 +1,13 @@
 // What a document window does that no script of the user can look at.
+#include "desktop/desktopServices.h"
 #include "document/frmWrite.h"
-#include "platform/desktopServices.h"
-#include "platform/editSurface.h"
-#include "platform/nodeTree.h"
-#include "platform/services.h"
-#include "platform/timer.h"
-#include "shell/application.h"
-#include "shell/frmMdi.h"
-#include "shell/settings.h"
+#include "frame/application.h"
+#include "frame/frmMdi.h"
+#include "services/services.h"
+#include "services/settings.h"
+#include "services/timer.h"
+#include "surface/editSurface.h"
+#include "widgets/nodeTree.h"
 
 #include <QApplication>
 #include <QFile>

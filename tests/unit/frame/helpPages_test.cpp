@@ -1,12 +1,12 @@
 // The pages of the help: that there is one for every topic and command, and that none leads nowhere.
-#include "platform/desktopHelpViewer.h"
-#include "platform/helpBrowser.h"
-#include "platform/helpContents.h"
-#include "platform/helpTopics.h"
-#include "platform/helpWindow.h"
-#include "platform/launcher.h"
-#include "platform/localFileSystem.h"
-#include "shell/frmMdiTables.h"
+#include "desktop/desktopHelpViewer.h"
+#include "frame/frmMdiTables.h"
+#include "help/helpBrowser.h"
+#include "help/helpContents.h"
+#include "help/helpTopics.h"
+#include "help/helpWindow.h"
+#include "services/launcher.h"
+#include "storage/localFileSystem.h"
 
 #include <QDir>
 #include <QDirIterator>

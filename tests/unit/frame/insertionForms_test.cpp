@@ -1,12 +1,12 @@
 #include "insertion/insertionForms.h"
 
-#include "platform/desktopServices.h"
-#include "platform/dialogForm.h"
-#include "platform/formRuntime.h"
-#include "platform/services.h"
-#include "platform/settingsStore.h"
-#include "shell/application.h"
-#include "shell/settings.h"
+#include "desktop/desktopServices.h"
+#include "forms/dialogForm.h"
+#include "forms/formRuntime.h"
+#include "frame/application.h"
+#include "services/services.h"
+#include "services/settings.h"
+#include "services/settingsStore.h"
 
 #include <QAbstractButton>
 #include <QApplication>

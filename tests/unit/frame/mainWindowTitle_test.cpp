@@ -1,9 +1,9 @@
-#include "platform/desktopServices.h"
-#include "platform/form.h"
-#include "platform/services.h"
-#include "platform/settingsStore.h"
-#include "shell/application.h"
-#include "shell/settings.h"
+#include "desktop/desktopServices.h"
+#include "forms/form.h"
+#include "frame/application.h"
+#include "services/services.h"
+#include "services/settings.h"
+#include "services/settingsStore.h"
 
 #include <QApplication>
 #include <QTemporaryDir>

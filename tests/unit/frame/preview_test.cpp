@@ -1,13 +1,13 @@
 // The live preview on a machine without a page engine, and at a start.
-#include "platform/desktopServices.h"
-#include "platform/fileSystem.h"
-#include "platform/form.h"
-#include "platform/modulePageViews.h"
-#include "platform/services.h"
-#include "platform/timer.h"
-#include "platform/webBrowser.h"
-#include "shell/application.h"
-#include "shell/settings.h"
+#include "browser/modulePageViews.h"
+#include "browser/webBrowser.h"
+#include "desktop/desktopServices.h"
+#include "forms/form.h"
+#include "frame/application.h"
+#include "services/fileSystem.h"
+#include "services/services.h"
+#include "services/settings.h"
+#include "services/timer.h"
 
 #include <QFile>
 #include <QTemporaryDir>

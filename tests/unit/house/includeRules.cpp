@@ -2,6 +2,7 @@
 
 #include <QRegularExpression>
 #include <QSet>
+#include <limits>
 #include <optional>
 
 namespace
@@ -25,37 +26,18 @@ QList<Include> includesOf(const QString &source)
     return result;
 }
 
-/// The form or module whose file this is, if it belongs to the frame that holds the whole program together.
-QString frameModule(const QString &path)
-{
-    for (const QString &module : {QStringLiteral("frmMdi"), QStringLiteral("frmSplash"), QStringLiteral("application")})
-        if (path.startsWith(QStringLiteral("shell/") + module))
-            return module;
-    return {};
-}
-
-/// The folder for the order's sake: the frame stands in the shell's folder, but above all of them.
 QString folderOf(const QString &path)
 {
-    if (!frameModule(path).isEmpty())
-        return QStringLiteral("the frame");
     return path.section(u'/', 0, -2);
 }
 
-/// How far up a file stands: it may include only what stands as far up or lower. Nothing for a file that has no place.
-std::optional<int> levelOf(const QString &path)
+/// The main windows and the application that owns all forms are more than their folder: which of them this file is of.
+QString frameModule(const QString &path)
 {
-    static const QMap<QString, int> levels{
-        {QStringLiteral("common"), 0},     {QStringLiteral("platform"), 1},  {QStringLiteral("document"), 2},
-        {QStringLiteral("files"), 2},      {QStringLiteral("project"), 2},   {QStringLiteral("codeknowledge"), 2},
-        {QStringLiteral("insertion"), 2},  {QStringLiteral("texttools"), 2}, {QStringLiteral("internet"), 2},
-        {QStringLiteral("extensions"), 2}, {QStringLiteral("shell"), 2},     {QStringLiteral("webview"), 2},
-        {QStringLiteral("the frame"), 3},
-    };
-    if (path == QLatin1String("main.cpp"))
-        return 4;
-    const auto level = levels.constFind(folderOf(path));
-    return level == levels.constEnd() ? std::nullopt : std::optional(*level);
+    for (const QString &module : {QStringLiteral("frmMdi"), QStringLiteral("frmSplash"), QStringLiteral("application")})
+        if (path.startsWith(QStringLiteral("frame/") + module))
+            return module;
+    return {};
 }
 
 /// The two main windows are made by the application alone; everything else meets them by interfaces.
@@ -64,16 +46,28 @@ bool mayInclude(const QString &from, const QString &to)
     const QString module = frameModule(to);
     if (module.isEmpty() || module == QLatin1String("application"))
         return true;
-    return from == QLatin1String("main.cpp") || frameModule(from) == QLatin1String("application") ||
-           frameModule(from) == module;
+    return frameModule(from) == QLatin1String("application") || frameModule(from) == module;
 }
 
-QStringList faultsOfInclude(const QString &from, const QString &to)
+/// The program's entry stands above all folders.
+std::optional<int> levelOf(const QString &path, const FolderOrder &order)
 {
-    const std::optional<int> fromLevel = levelOf(from);
-    const std::optional<int> toLevel = levelOf(to);
-    if (fromLevel && toLevel && *fromLevel < *toLevel)
+    if (path == QLatin1String("main.cpp"))
+        return std::numeric_limits<int>::max();
+    const auto place = order.constFind(folderOf(path));
+    return place == order.constEnd() ? std::nullopt : std::optional(place->level);
+}
+
+QStringList faultsOfInclude(const QString &from, const QString &to, const FolderOrder &order)
+{
+    const std::optional<int> fromLevel = levelOf(from, order);
+    const std::optional<int> toLevel = levelOf(to, order);
+    if (!fromLevel || !toLevel)
+        return {};
+    if (*fromLevel < *toLevel)
         return {QStringLiteral("%1 includes %2 uphill").arg(from, to)};
+    if (*fromLevel == *toLevel && folderOf(from) != folderOf(to) && !order[folderOf(from)].uses.contains(folderOf(to)))
+        return {QStringLiteral("%1 includes %2, which stands beside it").arg(from, to)};
     if (!mayInclude(from, to))
         return {QStringLiteral("%1 includes %2, which only the application may").arg(from, to)};
     return {};
@@ -127,18 +121,32 @@ QStringList circleFault(const Graph &graph)
 }
 } // namespace
 
-QStringList includeFaults(const SourceTree &tree)
+FolderOrder folderOrder(const QString &text)
+{
+    FolderOrder order;
+    for (const QString &line : text.split(u'\n', Qt::SkipEmptyParts)) {
+        if (line.startsWith(u'#'))
+            continue;
+        QStringList words = line.split(u' ', Qt::SkipEmptyParts);
+        const int level = words.takeFirst().toInt();
+        const QString folder = words.takeFirst();
+        order.insert(folder, {level, words});
+    }
+    return order;
+}
+
+QStringList includeFaults(const SourceTree &tree, const FolderOrder &order)
 {
     QStringList faults;
     Graph files;
     Graph folders;
     for (auto file = tree.begin(); file != tree.end(); ++file) {
         const QString &from = file.key();
-        if (!levelOf(from))
+        if (!levelOf(from, order))
             faults << QStringLiteral("%1 has no place in the order of the folders").arg(from);
         for (const Include &include : includesOf(*file)) {
             if (tree.contains(include.path)) {
-                faults << faultsOfInclude(from, include.path);
+                faults << faultsOfInclude(from, include.path, order);
                 files[from].insert(include.path);
                 if (folderOf(from) != folderOf(include.path))
                     folders[folderOf(from)].insert(folderOf(include.path));

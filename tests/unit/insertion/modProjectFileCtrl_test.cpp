@@ -1,8 +1,8 @@
 #include "insertion/modProjectFileCtrl.h"
 
 #include "common/siteProject.h"
-#include "platform/controls.h"
-#include "unit/platform/testDesktop.h"
+#include "unit/support/testDesktop.h"
+#include "widgets/controls.h"
 
 #include <QComboBox>
 #include <QSignalSpy>

@@ -1,0 +1,268 @@
+#include "browser/webBrowser.h"
+
+#include "services/pageViews.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace
+{
+constexpr int UsualPatience = 5000; ///< milliseconds; pages that build themselves by script can take a second or two
+constexpr int WatchesPerPatience = 5;
+/// A page that loads for longer than this, an image on a slow server perhaps, holds a newer one up no more.
+constexpr int SlowLoad = 2000; // milliseconds
+constexpr qsizetype LongestMessage = 200;
+
+QUrl addressOf(const QString &target)
+{
+    if (target.startsWith(u'/'))
+        return QUrl::fromLocalFile(target);
+    const QUrl url(target);
+    return url.scheme().size() > 1 ? url : QUrl::fromUserInput(target);
+}
+
+QString shortened(const QString &text)
+{
+    const QString line = text.simplified();
+    return line.size() <= LongestMessage ? line : line.left(LongestMessage) + QChar(0x2026);
+}
+} // namespace
+
+WebBrowser::WebBrowser(PageViews &views, QWidget *parent)
+    : QWidget(parent),
+      m_views(views),
+      m_layout(new QVBoxLayout(this)),
+      m_strip(new QFrame(this)),
+      m_notice(new QLabel(m_strip)),
+      m_again(new QPushButton(QStringLiteral("&Load Again"), m_strip)),
+      m_patience(UsualPatience)
+{
+    note(QUrl(QStringLiteral("about:blank")));
+    setBackgroundRole(QPalette::Base);
+    setAutoFillBackground(true);
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->setSpacing(0);
+    m_layout->addWidget(m_strip);
+    m_layout->addStretch();
+    auto *line = new QHBoxLayout(m_strip);
+    line->addWidget(m_notice, 1);
+    line->addWidget(m_again);
+    m_strip->setAutoFillBackground(true);
+    m_strip->setBackgroundRole(QPalette::Window);
+    m_strip->hide();
+    m_notice->setTextFormat(Qt::PlainText);
+    m_notice->setWordWrap(true);
+    connect(m_again, &QPushButton::clicked, this, &WebBrowser::Refresh);
+    connect(&m_watch, &QTimer::timeout, this, &WebBrowser::watch);
+    setPatience(UsualPatience);
+}
+
+WebBrowser::~WebBrowser() = default;
+
+void WebBrowser::setPatience(int milliseconds)
+{
+    m_patience = milliseconds;
+    m_watch.setInterval(milliseconds / WatchesPerPatience);
+}
+
+QString WebBrowser::Notice() const
+{
+    return m_strip->isHidden() ? QString() : m_notice->text();
+}
+
+void WebBrowser::note(const QUrl &address)
+{
+    m_address = address;
+    m_location = QString::fromLatin1(address.toEncoded());
+}
+
+void WebBrowser::Navigate(const QString &target)
+{
+    note(addressOf(target));
+    if (!m_loading)
+        load(m_address);
+    else
+        m_waiting = m_address;
+}
+
+void WebBrowser::NavigateIfRunning(const QString &target)
+{
+    if (m_view)
+        Navigate(target);
+    else
+        note(addressOf(target));
+}
+
+void WebBrowser::GoBack()
+{
+    if (m_view)
+        m_view->back();
+}
+
+void WebBrowser::GoForward()
+{
+    if (m_view)
+        m_view->forward();
+}
+
+void WebBrowser::Stop()
+{
+    m_waiting.reset();
+    if (m_view)
+        m_view->stop();
+}
+
+void WebBrowser::Refresh()
+{
+    if (m_view && !m_gone)
+        m_view->reload();
+    else if (m_view || m_location != u"about:blank")
+        load(m_address);
+}
+
+void WebBrowser::pageText(const std::function<void(const QString &)> &taken)
+{
+    if (m_view && !m_gone)
+        m_view->text(taken);
+    else
+        taken({});
+}
+
+bool WebBrowser::makeView()
+{
+    if (m_view)
+        return true;
+    PageEngine *engine = m_views.engine();
+    if (!engine) {
+        tell(m_views.reasonForNone(), false);
+        return false;
+    }
+    m_view = engine->makeView(*this, this);
+    showView(false); // until its first page there would be only a white sheet to see
+    m_layout->insertWidget(1, m_view->widget(), 1);
+    setFocusProxy(m_view->widget());
+    return true;
+}
+
+void WebBrowser::showView(bool shown)
+{
+    if (QWidget *widget = m_view->widget())
+        widget->setVisible(shown);
+}
+
+void WebBrowser::load(const QUrl &address)
+{
+    m_waiting.reset();
+    m_strip->hide();
+    if (!makeView())
+        return;
+    m_gone = false;
+    m_loading = true;
+    m_sinceStart.start();
+    m_sinceAsked.invalidate();
+    m_watch.start();
+    m_view->load(address);
+}
+
+void WebBrowser::loadWaiting()
+{
+    if (m_waiting)
+        load(QUrl(*m_waiting));
+}
+
+void WebBrowser::loadStarted()
+{
+    m_loading = true;
+    m_sinceStart.start();
+    m_sinceAsked.invalidate();
+    m_watch.start();
+    Q_EMIT navigationStarted();
+}
+
+void WebBrowser::loadFinished()
+{
+    m_loading = false;
+    m_watch.stop();
+    if (!m_gone)
+        showView(true);
+    Q_EMIT navigationFinished();
+    loadWaiting();
+}
+
+void WebBrowser::addressChanged(const QUrl &address)
+{
+    if (!m_waiting)
+        note(address);
+}
+
+/// Looks after a page that is being loaded.
+void WebBrowser::watch()
+{
+    if (m_sinceAsked.isValid()) {
+        if (!m_sinceAsked.hasExpired(m_patience))
+            return;
+        m_stoppedByUs = true;
+        m_view->endPage();
+        return;
+    }
+    const bool slow = m_sinceStart.hasExpired(SlowLoad);
+    if (slow)
+        showView(true);
+    if (slow && m_waiting)
+        loadWaiting();
+    else
+        askPage();
+}
+
+void WebBrowser::askPage()
+{
+    m_sinceAsked.start();
+    m_view->ask([this] { m_sinceAsked.invalidate(); });
+}
+
+void WebBrowser::pageEnded()
+{
+    const bool endless = std::exchange(m_stoppedByUs, false);
+    m_loading = false;
+    m_gone = true;
+    m_watch.stop();
+    showView(false);
+    if (m_waiting) {
+        loadWaiting();
+        return;
+    }
+    tell(endless ? QStringLiteral("A script of this page did not come to an end, so the page was stopped.")
+                 : QStringLiteral("The page has ended: the process that showed it is gone."),
+         true);
+    Q_EMIT navigationFinished();
+}
+
+void WebBrowser::closeAsked()
+{
+    Navigate(QStringLiteral("about:blank"));
+}
+
+void WebBrowser::messageGiven(const QString &message)
+{
+    tell(QStringLiteral("The page says: %1").arg(shortened(message)), false);
+}
+
+void WebBrowser::downloadRefused(const QUrl &address)
+{
+    tell(QStringLiteral("This is no page, and is not downloaded: %1").arg(shortened(address.toDisplayString())), false);
+}
+
+bool WebBrowser::maySendForm(const QUrl &where)
+{
+    return m_maySend && m_maySend(where);
+}
+
+void WebBrowser::tell(const QString &notice, bool canLoadAgain)
+{
+    m_notice->setText(notice);
+    m_again->setVisible(canLoadAgain);
+    m_strip->show();
+}

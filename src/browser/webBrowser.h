@@ -1,0 +1,92 @@
+#pragma once
+
+#include "common/browser.h"
+#include "services/pageView.h"
+
+#include <QElapsedTimer>
+#include <QTimer>
+#include <QUrl>
+#include <QWidget>
+#include <optional>
+
+class PageViews;
+class QFrame;
+class QLabel;
+class QPushButton;
+class QVBoxLayout;
+
+/// The internal browser: a control that shows web pages.
+///
+/// The engine comes with the first page that is worth it; before that the browser is an empty sheet in the theme's
+/// colour. What keeps a page from being shown is told in a strip above it.
+class WebBrowser final : public QWidget, public Browser, private PageViewListener
+{
+    Q_OBJECT
+public:
+    explicit WebBrowser(PageViews &views, QWidget *parent = nullptr);
+    ~WebBrowser() override;
+
+    QString LocationURL() const override { return m_location; }
+    void Navigate(const QString &target) override;
+    void NavigateIfRunning(const QString &target) override;
+    void GoBack() override;
+    void GoForward() override;
+    void Stop() override;
+    void Refresh() override;
+
+    /// A page is being loaded, or waits for that.
+    bool isLoading() const { return m_loading; }
+    /// What the strip says; empty while it is hidden.
+    QString Notice() const;
+    /// Hands over the text of the page on show; at once, and empty, without one.
+    void pageText(const std::function<void(const QString &)> &taken);
+    /// Asks whether a page may send a form to a place outside this machine. Without it, none may.
+    void setMaySend(std::function<bool(const QUrl &)> maySend) { m_maySend = std::move(maySend); }
+
+    /// After how long a page that leaves no room for anything else counts as one whose script never ends, in
+    /// milliseconds.
+    void setPatience(int milliseconds);
+
+Q_SIGNALS:
+    void navigationStarted();
+    void navigationFinished();
+
+private:
+    void loadStarted() override;
+    void loadFinished() override;
+    void addressChanged(const QUrl &address) override;
+    void pageEnded() override;
+    void closeAsked() override;
+    void messageGiven(const QString &message) override;
+    void downloadRefused(const QUrl &address) override;
+    bool maySendForm(const QUrl &where) override;
+
+    void note(const QUrl &address);
+    bool makeView();
+    void showView(bool shown);
+    void load(const QUrl &address);
+    void loadWaiting();
+    void watch();
+    void askPage();
+    void tell(const QString &notice, bool canLoadAgain);
+
+    PageViews &m_views;
+    std::unique_ptr<PageView> m_view;
+    QVBoxLayout *m_layout;
+    QFrame *m_strip;
+    QLabel *m_notice;
+    QPushButton *m_again;
+    std::function<bool(const QUrl &)> m_maySend;
+
+    QString m_location;
+    QUrl m_address;                ///< what m_location says
+    std::optional<QUrl> m_waiting; ///< to be loaded when the load under way has ended
+    bool m_loading = false;
+    bool m_gone = false; ///< the page has ended, the view shows nothing
+
+    QTimer m_watch;             ///< ticks while a page is being loaded
+    QElapsedTimer m_sinceStart; ///< of the load under way
+    QElapsedTimer m_sinceAsked; ///< valid while the page owes an answer
+    int m_patience;             ///< milliseconds
+    bool m_stoppedByUs = false; ///< the page is being ended for its endless script
+};

@@ -1,0 +1,125 @@
+#include "desktop/desktopCommonDialogs.h"
+
+#include "common/dialogFilter.h"
+#include "common/paths.h"
+#include "desktop/boxOwner.h"
+#include "widgets/themeColour.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QFontDialog>
+#include <QPrintDialog>
+#include <QPrinter>
+
+namespace
+{
+// A filter as the toolkit takes it, and tells back which row was chosen: by the whole text or by what it shows of it.
+struct NameFilters {
+    QStringList shown;
+    QStringList whole; // what is shown, and behind it the patterns in brackets, parted by blanks
+};
+
+NameFilters nameFiltersOf(const QString &filter)
+{
+    NameFilters filters;
+    for (const DialogFilterRow &row : parseDialogFilter(filter)) {
+        QString shown = row.description.simplified();
+        while (filters.shown.contains(shown)) // rows that look the same are told apart by what nobody sees
+            shown += QChar(0x200B);
+        QStringList patterns = row.patterns;
+        patterns.replaceInStrings(QStringLiteral("*.*"), QStringLiteral("*"));
+        filters.shown += shown;
+        filters.whole += shown + QStringLiteral(" (") + patterns.join(u' ') + QLatin1Char(')');
+    }
+    if (filters.whole.isEmpty())
+        return {{QStringLiteral("*")}, {QStringLiteral("*")}};
+    return filters;
+}
+
+int chosenIndex(const NameFilters &filters, const QString &selected, int otherwise)
+{
+    const qsizetype place = qMax(filters.whole.indexOf(selected), filters.shown.indexOf(selected));
+    return place < 0 ? otherwise : static_cast<int>(place) + 1;
+}
+
+void setStartingPoint(QFileDialog &dialog, const FileDialogRequest &request)
+{
+    const QString folder = folderOf(request.FileName);
+    if (!folder.isEmpty() && QDir(folder).exists())
+        dialog.setDirectory(folder);
+    else if (!request.InitDir.isEmpty())
+        dialog.setDirectory(request.InitDir);
+    if (!request.FileName.isEmpty())
+        dialog.selectFile(folder.isEmpty() ? request.FileName : request.FileName.sliced(folder.size()));
+}
+
+std::optional<FileDialogResult> runFileDialog(QFileDialog &dialog, const FileDialogRequest &request)
+{
+    const NameFilters filters = nameFiltersOf(request.Filter);
+    const int proposed = qBound(1, request.FilterIndex, static_cast<int>(filters.whole.size()));
+    if (!request.DialogTitle.isEmpty())
+        dialog.setWindowTitle(request.DialogTitle);
+    // The descriptions name their patterns themselves.
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.setNameFilters(filters.whole);
+    dialog.selectNameFilter(filters.whole.at(proposed - 1));
+    setStartingPoint(dialog, request);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    return FileDialogResult{dialog.selectedFiles().constFirst(),
+                            chosenIndex(filters, dialog.selectedNameFilter(), proposed)};
+}
+} // namespace
+
+std::optional<FileDialogResult> DesktopCommonDialogs::showOpen(const FileDialogRequest &request)
+{
+    QFileDialog dialog(boxOwner());
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return runFileDialog(dialog, request);
+}
+
+std::optional<FileDialogResult> DesktopCommonDialogs::showSave(const FileDialogRequest &request)
+{
+    QFileDialog dialog(boxOwner());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    return runFileDialog(dialog, request);
+}
+
+std::optional<QString> DesktopCommonDialogs::showFolder(const QString &title, const QString &initialFolder)
+{
+    QFileDialog dialog(boxOwner(), title, initialFolder);
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    return withoutFinalSeparator(dialog.selectedFiles().constFirst());
+}
+
+std::optional<ColourValue> DesktopCommonDialogs::showColour(ColourValue initial)
+{
+    QColorDialog dialog(shownColour(initial, QApplication::palette()), boxOwner());
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return colourValue(dialog.selectedColor());
+}
+
+std::optional<FontChoice> DesktopCommonDialogs::showFont(const FontChoice &initial)
+{
+    QFontDialog dialog(QFont(initial.family, qMax(initial.points, 1)), boxOwner());
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return FontChoice{dialog.selectedFont().family(), dialog.selectedFont().pointSize()};
+}
+
+std::optional<int> DesktopCommonDialogs::showPrint()
+{
+    QPrinter printer;
+    QPrintDialog dialog(&printer, boxOwner());
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return qMax(printer.copyCount(), 1);
+}

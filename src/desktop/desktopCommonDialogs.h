@@ -1,0 +1,15 @@
+#pragma once
+
+#include "services/commonDialogs.h"
+
+/// The dialogs of the desktop, or the toolkit's where the desktop has none of its own.
+class DesktopCommonDialogs final : public CommonDialogs
+{
+public:
+    std::optional<FileDialogResult> showOpen(const FileDialogRequest &request) override;
+    std::optional<FileDialogResult> showSave(const FileDialogRequest &request) override;
+    std::optional<QString> showFolder(const QString &title, const QString &initialFolder) override;
+    std::optional<ColourValue> showColour(ColourValue initial) override;
+    std::optional<FontChoice> showFont(const FontChoice &initial) override;
+    std::optional<int> showPrint() override;
+};

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "services/helpViewer.h"
+
+#include <memory>
+
+class FileSystem;
+class HelpWindow;
+class Launcher;
+
+/// Shows the help in a window of its own, which is made when it is first asked for and goes with its owner.
+class DesktopHelpViewer final : public HelpViewer
+{
+public:
+    /// `folder` holds the help's files. The services outlive the viewer.
+    DesktopHelpViewer(const QString &folder, FileSystem &files, Launcher &launcher);
+    ~DesktopHelpViewer() override;
+
+    void show(const QString &topic) override;
+    void contents() override;
+    void index() override;
+
+    /// The help's window; nothing before its first use.
+    HelpWindow *window() const { return m_window.get(); }
+
+private:
+    HelpWindow &opened();
+
+    QString m_folder;
+    FileSystem &m_files;
+    Launcher &m_launcher;
+    std::unique_ptr<HelpWindow> m_window;
+};

@@ -1,0 +1,58 @@
+#include "desktop/desktopServices.h"
+
+#include "browser/modulePageViews.h"
+#include "common/paths.h"
+#include "desktop/desktopClipboard.h"
+#include "desktop/desktopCommonDialogs.h"
+#include "desktop/desktopHelpViewer.h"
+#include "desktop/desktopLauncher.h"
+#include "desktop/desktopMessageBoxes.h"
+#include "desktop/programFolder.h"
+#include "desktop/qtTimerSource.h"
+#include "desktop/xdgFileClasses.h"
+#include "forms/eventModalLoop.h"
+#include "services/clock.h"
+#include "services/random.h"
+#include "services/yielder.h"
+#include "storage/localFileSystem.h"
+#include "storage/settingsFiles.h"
+
+#include <QStandardPaths>
+
+namespace
+{
+QString settingsFolder()
+{
+    return joinPath(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation),
+                    QStringLiteral("tagwrighter"));
+}
+} // namespace
+
+struct DesktopServices::Parts {
+    QString appPath = programFolder(runningProgramPlaces());
+    DesktopMessageBoxes messageBoxes;
+    DesktopCommonDialogs commonDialogs;
+    SettingsFiles settings{settingsFolder()};
+    LocalFileSystem files;
+    DesktopLauncher launcher;
+    DesktopClipboard clipboard;
+    SystemClock clock;
+    Random random;
+    DesktopHelpViewer help{joinPath(appPath, QStringLiteral("help")), files, launcher};
+    QtTimerSource timers;
+    EventModalLoop modalLoop;
+    EventYielder yielder;
+    ModulePageViews pageViews{moduleFolders()};
+    XdgFileClasses fileClasses{currentXdgPlaces(), startInBackground};
+    Services services{messageBoxes, commonDialogs, settings,    files,     launcher, clipboard, clock,  random,
+                      help,         timers,        fileClasses, modalLoop, yielder,  pageViews, appPath};
+};
+
+DesktopServices::DesktopServices() : parts(std::make_unique<Parts>()) {}
+
+DesktopServices::~DesktopServices() = default;
+
+Services &DesktopServices::services()
+{
+    return parts->services;
+}

@@ -1,0 +1,73 @@
+#include "forms/formRuntime.h"
+
+#include "forms/mdiForm.h"
+
+#include <algorithm>
+#include <utility>
+
+FormRuntime::FormRuntime() = default;
+
+FormRuntime::~FormRuntime()
+{
+    discardAll();
+    m_adopted.clear();
+}
+
+Form *FormRuntime::loaded(const QString &name) const
+{
+    const auto found = std::find_if(m_loaded.begin(), m_loaded.end(), [&](Form *form) { return form->Name() == name; });
+    return found == m_loaded.end() ? nullptr : *found;
+}
+
+void FormRuntime::setActiveChild(MdiForm *child)
+{
+    if (m_activationHeld)
+        return;
+    m_activation.removeAll(child);
+    m_activation.append(child);
+    if (m_activated == child)
+        return;
+    MdiForm *left = std::exchange(m_activated, child);
+    if (left)
+        left->deactivated();
+    child->activated();
+}
+
+void FormRuntime::forgetChild(MdiForm *child)
+{
+    m_activation.removeAll(child);
+    if (m_activated == child)
+        m_activated = nullptr;
+}
+
+void FormRuntime::adopt(std::unique_ptr<Form> form)
+{
+    m_adopted.push_back(std::move(form));
+}
+
+void FormRuntime::discardAll()
+{
+    // The windows of dialogs and documents lie in the main window's, so that one goes last.
+    while (!m_loaded.isEmpty())
+        m_loaded.last()->discard();
+}
+
+void FormRuntime::add(Form *form)
+{
+    m_loaded.append(form);
+}
+
+void FormRuntime::remove(Form *form)
+{
+    m_loaded.removeAll(form);
+}
+
+void FormRuntime::releaseAdopted(Form *form)
+{
+    const auto found =
+        std::find_if(m_adopted.begin(), m_adopted.end(), [form](const auto &owned) { return owned.get() == form; });
+    if (found == m_adopted.end())
+        return;
+    found->release()->deleteLater();
+    m_adopted.erase(found);
+}

@@ -1,0 +1,88 @@
+#include "frame/application.h"
+
+#include "document/modDocument.h"
+#include "files/documentFiles.h"
+#include "files/frmMsgAddSavedFileToProject.h"
+#include "files/frmMsgNoFileForAutoSave.h"
+#include "files/frmMsgSaveChanges.h"
+#include "files/frmProperties.h"
+#include "files/frmUnsavedFiles.h"
+#include "frame/frmMdi.h"
+#include "frame/frmSplash.h"
+#include "insertion/insertionForms.h"
+#include "internet/frmMsgPreviewUnsavedDocument.h"
+#include "shell/frmWelcome.h"
+
+#include <algorithm>
+
+Application::Application(Services &services)
+    : m_context{.services = services, .forms = m_forms, .state = m_state, .screenPointer = m_screenPointer}
+{
+    m_context.version = QStringLiteral(TAGWRIGHTER_VERSION);
+    m_context.form = [this](const QString &name) -> Form & { return *form(name); };
+    m_context.hasForm = [this](const QString &name) { return form(name) != nullptr; };
+    m_context.newBlankDocument = [this] { return NewBlankDocument(m_context); };
+    m_context.end = [this] { End(); };
+    m_mdi = &own<frmMdi>(m_context, m_commandLine);
+    m_splash = &own<frmSplash>(m_context, *m_mdi);
+    own<frmWelcome>(m_context);
+    addFiles();
+    own<frmMsgPreviewUnsavedDocument>(m_context);
+    for (std::unique_ptr<Form> &form : insertionForms(m_context))
+        add(std::move(form));
+    connect(m_mdi, &Form::unloaded, this, &Application::End);
+}
+
+void Application::addFiles()
+{
+    m_files = std::make_unique<DocumentFiles>(m_context);
+    m_context.files = m_files.get();
+    own<frmMsgSaveChanges>(m_context);
+    own<frmUnsavedFiles>(m_context);
+    own<frmMsgNoFileForAutoSave>(m_context);
+    own<frmMsgAddSavedFileToProject>(m_context);
+    own<frmProperties>(m_context);
+}
+
+Application::~Application()
+{
+    disconnect(m_mdi, nullptr, this, nullptr);
+    m_forms.discardAll();
+}
+
+template <class T, class... Arguments>
+T &Application::own(Arguments &&...arguments)
+{
+    auto form = std::make_unique<T>(std::forward<Arguments>(arguments)...);
+    T &owned = *form;
+    add(std::move(form));
+    return owned;
+}
+
+void Application::add(std::unique_ptr<Form> form)
+{
+    m_owned.push_back(std::move(form));
+}
+
+void Application::Main(const QString &commandLine)
+{
+    m_commandLine = commandLine;
+    m_splash->Load();
+    m_splash->Show();
+}
+
+void Application::End()
+{
+    if (m_ended)
+        return;
+    m_ended = true;
+    m_forms.discardAll();
+    Q_EMIT ended();
+}
+
+Form *Application::form(const QString &name) const
+{
+    const auto found =
+        std::find_if(m_owned.begin(), m_owned.end(), [&](const auto &owned) { return owned->Name() == name; });
+    return found == m_owned.end() ? m_forms.loaded(name) : found->get();
+}

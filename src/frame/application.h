@@ -1,0 +1,57 @@
+#pragma once
+
+#include "forms/formRuntime.h"
+#include "forms/programContext.h"
+#include "widgets/screenPointer.h"
+
+#include <QObject>
+#include <memory>
+#include <vector>
+
+class FileCommands;
+class frmMdi;
+class frmSplash;
+
+/// One run of the program: it owns the forms and the variables that they share, and unwinds them at its end.
+class Application final : public QObject
+{
+    Q_OBJECT
+public:
+    explicit Application(Services &services);
+    ~Application() override;
+
+    /// The entry procedure: loads the splash form and shows it. `commandLine` is the text behind the program's name, as
+    /// one line, opened once the main window loads; empty for none.
+    void Main(const QString &commandLine);
+
+    /// Ends the program at once: no further handler of a form runs.
+    void End();
+    bool hasEnded() const { return m_ended; }
+
+    const QString &commandLine() const { return m_commandLine; }
+    ProgramContext &context() { return m_context; }
+    FormRuntime &forms() { return m_forms; }
+    /// Takes over one more form for the session.
+    void add(std::unique_ptr<Form> form);
+    /// Any form of the session, loaded or not, by its name; documents are found among the loaded forms only.
+    Form *form(const QString &name) const;
+
+Q_SIGNALS:
+    void ended(); ///< the main window is gone, by its unload or by End
+
+private:
+    template <class T, class... Arguments>
+    T &own(Arguments &&...arguments);
+    void addFiles();
+
+    ProgramState m_state;
+    FormRuntime m_forms;
+    ScreenPointer m_screenPointer;
+    ProgramContext m_context;
+    QString m_commandLine;
+    bool m_ended = false;
+    std::unique_ptr<FileCommands> m_files;
+    std::vector<std::unique_ptr<Form>> m_owned;
+    frmMdi *m_mdi = nullptr;
+    frmSplash *m_splash = nullptr;
+};

@@ -1,0 +1,128 @@
+#include "frame/frmMdi.h"
+
+#include "codeknowledge/codeLibraries.h"
+#include "common/fileCommands.h"
+#include "forms/formRuntime.h"
+#include "forms/inputGate.h"
+#include "forms/mdiForm.h"
+#include "frame/frmMdiCommands.h"
+#include "frame/frmMdiPane.h"
+#include "widgets/mainWindowFrame.h"
+#include "widgets/nodeTree.h"
+#include "widgets/programIcon.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QMainWindow>
+
+frmMdi::frmMdi(ProgramContext &context, const QString &commandLine)
+    : Form(context, QStringLiteral("frmMdi")),
+      m_commandLine(commandLine),
+      m_commands(std::make_unique<MainCommands>(*this, context)),
+      m_codes(std::make_unique<CodeLibraries>())
+{
+    context.mainWindow = this;
+    context.codes = m_codes.get();
+    context.codeElements = m_codes->elementNodes();
+    setCaption(QStringLiteral("Tagwrighter"));
+}
+
+frmMdi::~frmMdi()
+{
+    discard();
+    context().mainWindow = nullptr;
+    context().codes = nullptr;
+    context().codeElements.reset();
+}
+
+QMainWindow *frmMdi::frame() const
+{
+    return qobject_cast<QMainWindow *>(window());
+}
+
+QWidget *frmMdi::createWindow()
+{
+    auto *frame = new MainWindowFrame([this] {
+        if (Enabled())
+            Unload();
+    });
+    frame->setDropHandler([this](const QStringList &paths) { openDropped(paths); });
+    frame->setWindowTitle(Caption());
+    frame->setWindowIcon(applicationIcon());
+    context().forms.setMainForm(this);
+    return frame;
+}
+
+void frmMdi::presentWindow()
+{
+    // The window's state was chosen at the load; showing it keeps that state.
+    window()->setVisible(true);
+    window()->raise();
+    window()->activateWindow();
+}
+
+bool frmMdi::Enabled() const
+{
+    return !m_gate || m_gate->isOpen();
+}
+
+void frmMdi::setEnabled(bool enabled)
+{
+    if (m_gate)
+        m_gate->setOpen(enabled);
+}
+
+void frmMdi::raiseDialogs()
+{
+    for (Form *form : context().forms.loaded())
+        if (form != this && !form->MDIChild() && form->Visible()) {
+            form->window()->raise();
+            form->window()->activateWindow();
+        }
+}
+
+QList<Document *> frmMdi::openDocuments() const
+{
+    QList<Document *> documents;
+    for (Form *form : context().forms.loaded())
+        if (form->Name() != u"frmMdi" && form->MDIChild())
+            if (auto *document = dynamic_cast<Document *>(form))
+                documents.append(document);
+    return documents;
+}
+
+Document *frmMdi::activeDocument() const
+{
+    return dynamic_cast<Document *>(context().forms.activeChild());
+}
+
+QObject *frmMdi::control(const QString &name) const
+{
+    if (QAction *action = m_commands->action(name))
+        return action;
+    return Form::control(name);
+}
+
+void frmMdi::SetDocumentControlsEnabled(bool enabled)
+{
+    m_commands->setDocumentControlsEnabled(enabled);
+    for (QWidget *control : QList<QWidget *>{cboFont, cboFontSize, cboSize, m_pane->treCodes})
+        control->setEnabled(enabled);
+}
+
+void frmMdi::setWordWrapChecked(bool checked)
+{
+    m_commands->action(QStringLiteral("mnuWordWrap"))->setChecked(checked);
+}
+
+void frmMdi::setSplitEditingChecked(bool checked)
+{
+    m_commands->action(QStringLiteral("mnuSplitEditingWindows"))->setChecked(checked);
+}
+
+void frmMdi::openDropped(const QStringList &paths)
+{
+    for (const QString &path : paths)
+        if (context().files)
+            context().files->OpenDocumentFile(path, false);
+}

@@ -1,0 +1,144 @@
+#pragma once
+
+#include "common/mainWindow.h"
+#include "forms/form.h"
+
+#include <QPoint>
+#include <memory>
+#include <optional>
+
+class CodeLibraries;
+class CoolBar;
+class InputGate;
+class MainCommands;
+class QBoxLayout;
+class QComboBox;
+class QFrame;
+class QLabel;
+class QMainWindow;
+class QStatusBar;
+class TabStrip;
+class TaskManagerPane;
+class Timer;
+
+/// The main window: the frame that holds the documents and everything that is not per document.
+class frmMdi final : public Form, public MainWindow
+{
+    Q_OBJECT
+public:
+    /// `commandLine` is read at the form's load.
+    frmMdi(ProgramContext &context, const QString &commandLine);
+    ~frmMdi() override;
+
+    bool Enabled() const override;
+    void setEnabled(bool enabled) override;
+    QList<Document *> openDocuments() const override;
+    Document *activeDocument() const override;
+
+    void SetStatusText(const QString &text) override;
+    void SetStatusReady() override;
+    QString statusText() const override;
+    void enableResetBar() override;
+    void showFileFormat(const QString &text) override;
+    void showRecentFiles(const QStringList &captions) override;
+    void SetDocumentControlsEnabled(bool enabled) override;
+
+    void addDocumentTab(const QString &key, const QString &caption) override;
+    void removeDocumentTab(const QString &key) override;
+    void selectDocumentTab(const QString &key) override;
+    void showDocumentTabs(bool shown) override;
+    void showDocumentSelector(bool shown) override;
+    void setWordWrapChecked(bool checked) override;
+    void setSplitEditingChecked(bool checked) override;
+    void clearStructureTree() override;
+    bool structurePageShown() const override;
+    void addStructureNode(qsizetype parent, const QString &key, const QString &text, const QString &image) override;
+
+    QPoint insertBarDrop() const override;
+    void setInsertBarPressed(bool pressed) override;
+    void PopupMenu(const QString &name, const QPoint &position) override;
+    bool MoveToNextPane(int keyCode, const QString &from) override;
+
+    /// Shows or hides a bar, by the name of its entry in the View menu, whose check mark and setting follow.
+    void showBar(const QString &entry, bool shown);
+    void toggleBar(const QString &entry);
+
+    QObject *control(const QString &name) const override;
+    QMainWindow *frame() const;
+
+protected:
+    void Form_Load() override;
+    bool Form_QueryUnload() override;
+    void Form_Unload() override;
+    QWidget *createWindow() override;
+    void presentWindow() override;
+
+private:
+    void buildControls();
+    void buildBands();
+    void buildFontCombos();
+    void buildAddressPanel();
+    void buildDocumentSelector();
+    void buildStatusBar();
+    void layOut();
+
+    void restoreState();
+    void fillFontCombos();
+    void readColouringOptions();
+    void readWordWrap();
+    void sizeDocumentSelector();
+    void loadRecentLists();
+    void placePane();
+    void restoreBars();
+    void restoreSplit();
+    void restoreBands();
+    void restorePlacement();
+    void loadCodes();
+    void fillCodeTree();
+    void fillCodeLists();
+    void picAddress_Resize();
+    void openCommandLineFile();
+    void decideWelcome();
+
+    void savePlacement();
+    void saveBands();
+    bool projectMayClose();
+    bool documentsMayClose();
+
+    QWidget *insertBarButton() const;
+    void followInsertBar();
+    void guardFontCombos();
+    bool isBarShown(const QString &entry) const;
+    void setBarShown(const QString &entry, bool shown);
+    void raiseDialogs();
+    void openDropped(const QStringList &paths);
+    void tabDocSel_Click();
+    void treStructure_NodeClick(int node);
+    void cmdGo_Click();
+    void cboFont_Click();
+    void cboFont_LostFocus();
+    void cboSize_Click();
+    void cboFontSize_Click();
+
+    const QString &m_commandLine;
+    InputGate *m_gate = nullptr;
+    std::unique_ptr<MainCommands> m_commands;
+    std::unique_ptr<CodeLibraries> m_codes;
+    CoolBar *cbrMain = nullptr;
+    QComboBox *cboFont = nullptr;
+    QComboBox *cboSize = nullptr;
+    QComboBox *cboFontSize = nullptr;
+    QWidget *picAddress = nullptr;
+    QComboBox *cboAddress = nullptr;
+    TaskManagerPane *m_pane = nullptr;
+    QBoxLayout *m_middle = nullptr; ///< the pane beside the documents
+    TabStrip *tabDocSel = nullptr;
+    QWidget *picDocSelector = nullptr;
+    QFrame *fmeDocSelDiv = nullptr;
+    QStatusBar *StatusBar1 = nullptr;
+    QLabel *m_message = nullptr;
+    QLabel *m_format = nullptr;
+    Timer *tmrResetBar = nullptr;
+    std::optional<QPoint> m_insertBarMouse; ///< where it went down on the first button, in the client area
+    bool m_fontTyped = false;               ///< a face was typed into cboFont and not yet taken
+};

@@ -1,0 +1,124 @@
+#pragma once
+
+#include "forms/programContext.h"
+#include "frame/frmMdiTables.h"
+
+#include <QHash>
+#include <QString>
+
+class CoolBar;
+class QAction;
+class QMainWindow;
+class QMenu;
+class QToolBar;
+class frmMdi;
+
+/// The commands of the main window: makes its menus and toolbars from the tables, keeps each enabled as its rules say,
+/// and runs what the user chooses. A handler that finds no document does nothing.
+class MainCommands
+{
+public:
+    MainCommands(frmMdi &form, ProgramContext &context);
+
+    /// Makes the menus, the pop-ups and the toolbars of a newly loaded window; the toolbars are not placed yet.
+    void build(QMainWindow &window);
+    void setDocumentControlsEnabled(bool enabled);
+    /// A menu entry by its name, a toolbar's button as "bar(key)"; nothing if there is none.
+    QAction *action(const QString &name) const { return m_actions.value(name); }
+    QToolBar *toolBar(const QString &name) const { return m_toolBars.value(name); }
+    QMenu *menu(const QString &name) const;
+    /// Enables the entries of the edit surface's pop-up menu that act on a selection, as it opens at the mouse.
+    void enableSelectionEntries();
+
+    // File
+    void mnuOpen_Click();
+    void mnuClose_Click();
+    void mnuSave_Click();
+    void mnuSaveAs_Click();
+    void mnuSaveAll_Click();
+    void mnuViewPage_Click();
+    template <int Index>
+    void mnuRecentFile_Click()
+    {
+        openRecentFile(Index);
+    }
+    void mnuExit_Click();
+    void newBlankDocument();
+    // Edit
+    void mnuUndo_Click();
+    void mnuRedo_Click();
+    void mnuCut_Click();
+    void mnuCopy_Click();
+    void mnuPaste_Click();
+    void mnuSelectAll_Click();
+    void deleteSelection();
+    void mnuPreviousTag_Click();
+    void mnuNextTag_Click();
+    // View
+    void mnuShowbar_Click();
+    void mnuShowPrjWindow_Click();
+    void mnuShowCodeBar_Click();
+    void mnuShowDocSelBar_Click();
+    void mnuShowStatusBar_Click();
+    void mnuHideAddressBar_Click();
+    void mnuSplitEditingWindows_Click();
+    void stopBrowser();
+    void refreshBrowser();
+    void browserForward();
+    void browserBack();
+    void mnuWordWrap_Click();
+    // Insert, Format, Tools
+    void mnuInsExternalCSS_Click();
+    void mnuInsColourCode_Click();
+    void mnuOmitBasePath_Click();
+    void mnuIndent_Click();
+    void mnuOutdent_Click();
+    void mnuCodeOptimise_Click();
+    // Window
+    void mnuWinTile_Click();
+    void mnuWinTileVert_Click();
+    void mnuWinCascade_Click();
+    void mnuWinArrangeIcons_Click();
+    // Help
+    void mnuHelpContents_Click();
+    void mnuHelpIndex_Click();
+    void mnuWhatsThisMode_Click();
+    void mnuHarblineWebsite_Click();
+    void mnuCustomerBenefits_Click();
+    void mnuHtmLangReg_Click();
+    void mnuTutorial_Click();
+    void openBenefitsPage();
+    void openLibraryPage();
+
+private:
+    void addMenuEntry(QMainWindow &window, const MenuCommand &command);
+    QAction *makeMenu(QMainWindow &window, const MenuCommand &command);
+    void addToolButton(QMainWindow &window, const ToolCommand &command);
+    void addDropEntry(const ToolCommand &command);
+    void addDropLists(QMainWindow &window);
+    QString shortcutOf(const ToolCommand &command) const;
+    void makeCheckable();
+    void followMenus();
+    bool isAvailable(const CommandAction &action) const;
+    void enable(const QString &name, const CommandAction &action, Needs needs);
+    void run(const CommandAction &action);
+    void wrapSelection(const CommandAction &action);
+
+    void mnuEdit_Open();
+    void mnuFormat_Open();
+    void mnuPopup_Open();
+
+    void openRecentFile(int index);
+    void indent(bool further);
+    void focusEditor();
+    Document *document() const;
+
+    frmMdi &m_form;
+    ProgramContext &m_context;
+    bool m_documentControls = false;
+    QHash<QString, QAction *> m_actions;
+    QHash<QString, QToolBar *> m_toolBars;
+};
+
+/// The name of a toolbar's button as a control: "tbrMain(Save)".
+QString toolName(const ToolCommand &command);

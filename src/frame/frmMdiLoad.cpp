@@ -1,0 +1,196 @@
+// The main window's load, in the fixed order in which its state is restored.
+#include "frame/frmMdi.h"
+
+#include "common/fileCommands.h"
+#include "document/modDocument.h"
+#include "files/modRecentFiles.h"
+#include "frame/frmMdiBands.h"
+#include "frame/frmMdiCommands.h"
+#include "frame/frmMdiPane.h"
+#include "insertion/modFonts.h"
+#include "services/services.h"
+#include "services/settings.h"
+#include "shell/commandLine.h"
+#include "widgets/controls.h"
+#include "widgets/coolBar.h"
+#include "widgets/nodeTree.h"
+#include "widgets/sidePane.h"
+#include "widgets/tabStrip.h"
+
+#include <QAction>
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QMainWindow>
+#include <QScreen>
+
+namespace
+{
+constexpr int TwipsPerPixel = 15;
+
+ColourValue storedColour(SettingsStore &store, const settings::Key &key)
+{
+    return static_cast<ColourValue>(settings::readStored(store, key).toLongLong());
+}
+} // namespace
+
+void frmMdi::Form_Load()
+{
+    buildControls();
+    if (context().state.AlreadyStarted) {
+        // A reference to the window after its unload would bring it back: such a ghost ends at once.
+        context().end();
+        return;
+    }
+    restoreState();
+    loadCodes();
+    openCommandLineFile();
+    picAddress_Resize();
+    decideWelcome();
+    context().state.AlreadyStarted = true;
+    m_pane->refreshLocalFiles();
+}
+
+void frmMdi::restoreState()
+{
+    while (tabDocSel->count())
+        tabDocSel->removeTab(0);
+    fillFontCombos();
+    m_pane->picProject()->setPaneWidth(
+        qRound(settings::read(services().settings, settings::CodebarWidth).toDouble() / TwipsPerPixel));
+    readColouringOptions();
+    readWordWrap();
+    sizeDocumentSelector();
+    SetDocumentControlsEnabled(false);
+    SetStatusReady();
+    loadRecentLists();
+    placePane();
+    restoreBars();
+    restoreSplit();
+    restoreBands();
+    restorePlacement();
+}
+
+void frmMdi::fillFontCombos()
+{
+    cboFontSize->setCurrentIndex(cboFontSize->findText(QStringLiteral("Normal")));
+    SetNumbersOnly(cboSize);
+    cboSize->setCurrentText(QStringLiteral("12"));
+    cboFont->addItems(systemFonts());
+    cboFont->setCurrentIndex(-1);
+}
+
+void frmMdi::readColouringOptions()
+{
+    SettingsStore &store = services().settings;
+    colouring.ColourCodeSyntax = settings::isOn(store, settings::ColourCodeSyntax);
+    colouring.ColourCodeHyperlink = settings::isOn(store, settings::ColourCodeHyperlink);
+    colouring.ColourCodeUpdateTime = settings::read(store, settings::ColourCodeUpdateTime).toShort();
+    colouring.ColourCodeTag = storedColour(store, settings::ColourCodeTag);
+    colouring.ColourCodeAttribute = storedColour(store, settings::ColourCodeAttribute);
+    colouring.ColourCodeValue = storedColour(store, settings::ColourCodeValue);
+    colouring.ColourASPCode = storedColour(store, settings::ColourASPCode);
+    colouring.ColourCodeComment = storedColour(store, settings::ColourCodeComment);
+    colouring.ColourCodeURL = storedColour(store, settings::ColourCodeURL);
+}
+
+void frmMdi::readWordWrap()
+{
+    WordWrap = settings::isOn(services().settings, settings::WordWrap);
+    setWordWrapChecked(WordWrap);
+}
+
+void frmMdi::sizeDocumentSelector()
+{
+    tabDocSel->setMaximumWidth(window()->screen()->size().width());
+}
+
+void frmMdi::loadRecentLists()
+{
+    showRecentFiles({});
+    if (context().files)
+        context().files->LoadRecentFilesMenu();
+    LoadAddressHistory(context(), *cboAddress);
+    cboAddress->clearEditText();
+}
+
+void frmMdi::placePane()
+{
+    const bool right =
+        settings::read(services().settings, settings::TaskManagerAlignLeft).toLower() == QStringLiteral("false");
+    SidePane *pane = m_pane->picProject();
+    pane->setSide(right ? SidePane::Side::Right : SidePane::Side::Left);
+    m_middle->setDirection(right ? QBoxLayout::RightToLeft : QBoxLayout::LeftToRight);
+}
+
+void frmMdi::restoreBars()
+{
+    SettingsStore &store = services().settings;
+    setBarShown(QStringLiteral("mnuShowPrjWindow"), settings::isOn(store, settings::CodeWinVis));
+    setBarShown(QStringLiteral("mnuShowCodeBar"), settings::isOn(store, settings::CodeBarVis));
+    setBarShown(QStringLiteral("mnuShowbar"), settings::isOn(store, settings::AddrBarVisible));
+    setBarShown(QStringLiteral("mnuShowDocSelBar"), settings::isOn(store, settings::DocSelBarVis));
+    setBarShown(QStringLiteral("mnuShowStatusBar"), settings::isOn(store, settings::StatusBarVis));
+}
+
+void frmMdi::restoreSplit()
+{
+    const bool split = settings::isOn(services().settings, settings::SplitEditPreview);
+    m_commands->action(QStringLiteral("mnuSplitEditingWindows"))->setChecked(split);
+    settings::writeBoolean(services().settings, settings::SplitEditPreview, split);
+}
+
+void frmMdi::restoreBands()
+{
+    for (int band = 1; band <= cbrMain->Count(); ++band) {
+        if (const auto newRow = bands::flagOf(settings::read(services().settings, settings::BarNewRow, band)))
+            cbrMain->setNewRow(band, *newRow);
+        if (const auto width = bands::widthOf(settings::read(services().settings, settings::BarWidth, band)))
+            cbrMain->setWidth(band, *width);
+    }
+}
+
+void frmMdi::restorePlacement()
+{
+    SettingsStore &store = services().settings;
+    if (settings::read(store, settings::WinState) != u"0") {
+        window()->setWindowState(Qt::WindowMaximized);
+        return;
+    }
+    const auto pixels = [&store](const settings::Key &key) { return qRound(settings::read(store, key).toDouble()); };
+    const int top = pixels(settings::WinTop);
+    const int left = pixels(settings::WinLeft);
+    const int height = pixels(settings::WinHeight);
+    const int width = pixels(settings::WinWidth);
+    window()->move(left, top);
+    window()->resize(width, height);
+}
+
+void frmMdi::picAddress_Resize()
+{
+    picAddress->layout()->activate();
+}
+
+void frmMdi::openCommandLineFile()
+{
+    FileCommands *files = context().files;
+    if (m_commandLine.isEmpty() || !files)
+        return;
+    OpenCommandLineFile(*files, m_commandLine);
+}
+
+void frmMdi::decideWelcome()
+{
+    if (!settings::isOn(services().settings, settings::WelcomeScreen)) {
+        NewBlankDocument(context());
+        FillBlankDocument(context());
+        setEnabled(true);
+        if (Document *document = activeDocument())
+            document->txtEdit().SetFocus();
+        return;
+    }
+    setEnabled(false);
+    Form &welcome = context().form(QStringLiteral("frmWelcome"));
+    welcome.Load();
+    presentWindow();
+    welcome.Show();
+}

@@ -1,0 +1,244 @@
+// The making of the main window's menus and toolbars, and their enabling.
+#include "forms/form.h"
+#include "frame/frmMdi.h"
+#include "frame/frmMdiCommands.h"
+#include "services/services.h"
+#include "services/settings.h"
+#include "widgets/programIcon.h"
+
+#include <QAction>
+#include <QLayout>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+#include <QToolButton>
+
+namespace
+{
+using Kind = CommandAction::Kind;
+constexpr QSize ToolIconSize(16, 16);
+
+QToolBar *makeToolBar(QMainWindow &window, const QString &name)
+{
+    auto *bar = new QToolBar(&window);
+    bar->setObjectName(name);
+    bar->setIconSize(ToolIconSize);
+    bar->layout()->setSpacing(0);
+    bar->setMovable(false);
+    bar->setFloatable(false);
+    bar->setContextMenuPolicy(Qt::PreventContextMenu);
+    return bar;
+}
+} // namespace
+
+QString toolName(const ToolCommand &command)
+{
+    return QStringLiteral("%1(%2)").arg(QLatin1String(command.bar), QLatin1String(command.key));
+}
+
+MainCommands::MainCommands(frmMdi &form, ProgramContext &context) : m_form(form), m_context(context) {}
+
+void MainCommands::build(QMainWindow &window)
+{
+    m_actions.clear();
+    m_toolBars.clear();
+    for (const MenuCommand &command : menuCommands())
+        addMenuEntry(window, command);
+    for (const ToolCommand &command : toolCommands())
+        addToolButton(window, command);
+    addDropLists(window);
+    makeCheckable();
+    followMenus();
+}
+
+QMenu *MainCommands::menu(const QString &name) const
+{
+    const QAction *head = action(name);
+    return head ? head->menu<QMenu *>() : nullptr;
+}
+
+QAction *MainCommands::makeMenu(QMainWindow &window, const MenuCommand &command)
+{
+    auto *menu = new QMenu(QString::fromUtf8(command.caption), &window);
+    menu->setObjectName(QLatin1String(command.name));
+    return menu->menuAction();
+}
+
+void MainCommands::addMenuEntry(QMainWindow &window, const MenuCommand &command)
+{
+    const QString name = QLatin1String(command.name);
+    QAction *entry = command.action.kind == Kind::Head ? makeMenu(window, command)
+                                                       : new QAction(QString::fromUtf8(command.caption), &window);
+    entry->setObjectName(name);
+    entry->setMenuRole(QAction::NoRole);
+    entry->setSeparator(command.action.kind == Kind::Separator);
+    if (*command.icon)
+        entry->setIcon(programIcon(QLatin1String(command.icon)));
+    if (*command.shortcut)
+        entry->setShortcut(QKeySequence(QLatin1String(command.shortcut)));
+    QObject::connect(entry, &QAction::triggered, &window, [this, &action = command.action] { run(action); });
+    if (QLatin1String(command.menu) == QLatin1String("bar"))
+        window.menuBar()->addAction(entry);
+    else if (QMenu *above = menu(QLatin1String(command.menu)))
+        above->addAction(entry);
+    m_actions.insert(name, entry);
+}
+
+QString MainCommands::shortcutOf(const ToolCommand &command) const
+{
+    const QString twin = QLatin1String(command.twin);
+    if (twin.startsWith(u'('))
+        return twin.sliced(1).chopped(1);
+    const QAction *entry = action(twin);
+    return entry ? entry->shortcut().toString(QKeySequence::NativeText) : QString();
+}
+
+void MainCommands::addToolButton(QMainWindow &window, const ToolCommand &command)
+{
+    QToolBar *&bar = m_toolBars[QLatin1String(command.bar)];
+    if (!bar)
+        bar = makeToolBar(window, QLatin1String(command.bar));
+    if (command.action.kind == Kind::Separator) {
+        bar->addSeparator();
+        return;
+    }
+    const QString caption = QString::fromUtf8(command.toolTip);
+    const QString shortcut = shortcutOf(command);
+    QAction *button = bar->addAction(programIcon(QLatin1String(command.icon)), caption);
+    button->setObjectName(toolName(command));
+    button->setData(QLatin1String(command.key));
+    button->setToolTip(shortcut.isEmpty() ? caption : QStringLiteral("%1 (%2)").arg(caption, shortcut));
+    button->setWhatsThis(caption);
+    if (*command.twin == '(')
+        button->setShortcut(QKeySequence(shortcut));
+    QObject::connect(button, &QAction::triggered, &window, [this, &action = command.action] { run(action); });
+    m_actions.insert(button->objectName(), button);
+}
+
+/// The button with a list carries it beside its own press.
+void MainCommands::addDropLists(QMainWindow &window)
+{
+    for (const QString &first : {QStringLiteral("tbrCode(Bold)"), QStringLiteral("tbrHelp(Help)")}) {
+        QAction *button = action(first);
+        auto *list = new QMenu(&window);
+        button->setMenu(list);
+        QToolBar *bar = toolBar(first.section(u'(', 0, 0));
+        qobject_cast<QToolButton *>(bar->widgetForAction(button))->setPopupMode(QToolButton::MenuButtonPopup);
+    }
+    // The code list has the entries of its bar, under their names.
+    for (const ToolCommand &command : toolCommands())
+        if (QLatin1String(command.bar) == QLatin1String("tbrCode"))
+            addDropEntry(command);
+    for (const ToolCommand &command : dropCommands())
+        addDropEntry(command);
+}
+
+void MainCommands::addDropEntry(const ToolCommand &command)
+{
+    const bool isCode = QLatin1String(command.bar) == QLatin1String("tbrCode");
+    QMenu *list = action(isCode ? QStringLiteral("tbrCode(Bold)") : QStringLiteral("tbrHelp(Help)"))->menu<QMenu *>();
+    QAction *entry = list->addAction(programIcon(QLatin1String(command.icon)), QString::fromUtf8(command.toolTip));
+    entry->setData(QLatin1String(command.key));
+    QObject::connect(entry, &QAction::triggered, list, [this, &action = command.action] { run(action); });
+}
+
+void MainCommands::makeCheckable()
+{
+    for (const char *name : {"mnuShowbar", "mnuShowPrjWindow", "mnuShowCodeBar", "mnuShowDocSelBar", "mnuShowStatusBar",
+                             "mnuSplitEditingWindows", "mnuWordWrap", "mnuOmitBasePath"})
+        action(QLatin1String(name))->setCheckable(true);
+}
+
+void MainCommands::followMenus()
+{
+    const auto follow = [this](const char *name, void (MainCommands::*rules)()) {
+        QMenu *opened = menu(QLatin1String(name));
+        QObject::connect(opened, &QMenu::aboutToShow, opened, [this, rules] { (this->*rules)(); });
+    };
+    follow("mnuEdit", &MainCommands::mnuEdit_Open);
+    follow("mnuFormat", &MainCommands::mnuFormat_Open);
+    follow("mnuPopup", &MainCommands::mnuPopup_Open);
+}
+
+void MainCommands::enableSelectionEntries()
+{
+    constexpr qsizetype LeastSelected = 2; // a single selected character does not count
+    const Document *active = document();
+    const bool selected = active && active->txtEdit().SelLength() >= LeastSelected;
+    for (const char *name : {"mnuPCut", "mnuPCopy"})
+        action(QLatin1String(name))->setEnabled(selected);
+}
+
+bool MainCommands::isAvailable(const CommandAction &action) const
+{
+    if (action.kind == Kind::Form)
+        return m_context.hasForm(QLatin1String(action.form));
+    return action.kind != Kind::Later;
+}
+
+void MainCommands::enable(const QString &name, const CommandAction &action, Needs needs)
+{
+    m_actions.value(name)->setEnabled(isAvailable(action) && (needs == Needs::Nothing || m_documentControls));
+}
+
+void MainCommands::setDocumentControlsEnabled(bool enabled)
+{
+    m_documentControls = enabled;
+    for (const MenuCommand &command : menuCommands())
+        enable(QLatin1String(command.name), command.action, command.needs);
+    for (const ToolCommand &command : toolCommands())
+        if (command.action.kind != Kind::Separator)
+            enable(toolName(command), command.action, command.needs);
+}
+
+void MainCommands::mnuEdit_Open()
+{
+    const Document *active = document();
+    const bool selected = active && active->txtEdit().SelLength() > 0;
+    const auto possible = active ? active->IsUndoRedoPossible() : Document::UndoRedo{};
+    QAction *toLibrary = action(QStringLiteral("mnuAddToCodeLibrary"));
+    toLibrary->setEnabled(selected && m_context.hasForm(QStringLiteral("frmAddToCodeLib")));
+    action(QStringLiteral("mnuUndo"))->setEnabled(possible.undo);
+    action(QStringLiteral("mnuRedo"))->setEnabled(possible.redo);
+}
+
+void MainCommands::mnuFormat_Open()
+{
+    const Document *active = document();
+    const bool selected = active && active->txtEdit().SelLength() > 0;
+    action(QStringLiteral("mnuIndent"))->setEnabled(selected);
+    action(QStringLiteral("mnuOutdent"))->setEnabled(selected);
+    action(QStringLiteral("mnuOmitBasePath"))
+        ->setChecked(settings::isOn(m_context.services.settings, settings::ExcludeBasePath));
+}
+
+void MainCommands::mnuPopup_Open()
+{
+    const auto copyState = [this](const char *to, const char *from) {
+        action(QLatin1String(to))->setEnabled(action(QLatin1String(from))->isEnabled());
+    };
+    copyState("mnuPPaste", "mnuPaste");
+    copyState("mnuPopupUndo", "mnuUndo");
+    copyState("mnuPopupRedo", "mnuRedo");
+}
+
+void MainCommands::run(const CommandAction &action)
+{
+    switch (action.kind) {
+    case Kind::Run:
+        (this->*action.run)();
+        break;
+    case Kind::Form:
+        m_context.form(QLatin1String(action.form)).Show();
+        break;
+    case Kind::Wrap:
+        wrapSelection(action);
+        break;
+    case Kind::Head:
+    case Kind::Separator:
+    case Kind::Nothing:
+    case Kind::Later:
+        break;
+    }
+}

@@ -1,0 +1,86 @@
+#include "frame/frmSplash.h"
+
+#include "services/doEvents.h"
+#include "services/fileClasses.h"
+#include "services/services.h"
+#include "services/settings.h"
+#include "services/timer.h"
+#include "widgets/layout.h"
+#include "widgets/screenPointer.h"
+
+#include <QFrame>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace
+{
+constexpr int HourglassPointer = 11;
+constexpr int SplashMilliseconds = 850;
+
+QLabel *titleLabel()
+{
+    QLabel *title = ui::label(QStringLiteral("lblTitle"), QStringLiteral("Tagwrighter"));
+    QFont font = title->font();
+    font.setPointSizeF(font.pointSizeF() * 2.4);
+    font.setBold(true);
+    title->setFont(font);
+    return title;
+}
+} // namespace
+
+frmSplash::frmSplash(ProgramContext &context, Form &mainForm)
+    : Form(context, QStringLiteral("frmSplash")), m_mainForm(mainForm)
+{
+}
+
+QWidget *frmSplash::createWindow()
+{
+    auto *window = new QFrame(nullptr, Qt::SplashScreen);
+    window->setFrameStyle(QFrame::Panel | QFrame::Raised);
+    window->setWindowTitle(QStringLiteral("Tagwrighter"));
+    return window;
+}
+
+void frmSplash::Form_Load()
+{
+    QLabel *lblVersion = ui::label(QStringLiteral("lblVersion"), QString());
+    setContent(ui::column({ui::space(), titleLabel(), lblVersion, ui::space()}));
+    window()->setMinimumSize(420, 200);
+    window()->layout()->setContentsMargins(36, 28, 36, 28);
+    Timer1 = new Timer(
+        services().timers, QStringLiteral("Timer1"), [this] { Timer1_Timer(); }, window());
+    Timer1->setInterval(SplashMilliseconds);
+
+    lblVersion->setText(QStringLiteral("Release Version: ") + context().version);
+    context().screenPointer.setMousePointer(HourglassPointer);
+    presentWindow();
+    DoEvents(); // the splash paints before the slow work
+
+    services().fileClasses.registerAll();
+    prepareSettings();
+    context().screenPointer.setMousePointer(0);
+    Timer1->setEnabled(true);
+}
+
+void frmSplash::prepareSettings()
+{
+    SettingsStore &store = services().settings;
+    settings::write(store, settings::HotTrackingFiles, QStringLiteral("False"));
+    settings::write(store, settings::MainAppDir, services().appPath);
+    settings::writeFirstRunDefaults(store, services().appPath);
+    settings::write(store, settings::CurrentVersion, context().version);
+}
+
+void frmSplash::Timer1_Timer()
+{
+    Timer1->setEnabled(false); // the one tick: what follows may pump events
+    m_mainForm.Load();
+    Unload();
+    if (m_mainForm.isLoaded()) // a second main window takes itself away in its load
+        m_mainForm.Show();
+}
+
+void frmSplash::Form_Unload()
+{
+    context().screenPointer.setMousePointer(0);
+}

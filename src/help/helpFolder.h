@@ -1,0 +1,41 @@
+#pragma once
+
+#include "help/helpContents.h"
+#include "help/helpText.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+#include <optional>
+
+class FileSystem;
+
+/// The help's folder: its pages, its table of contents and the list of the reference pages. Nothing is read before it
+/// is asked for; contents and texts are read once.
+class HelpFolder
+{
+public:
+    HelpFolder(const QString &folder, FileSystem &files);
+
+    bool has(const QString &page) const;
+    /// What stands in the file of a page or a picture; nothing if it cannot be read.
+    std::optional<QByteArray> bytes(const QString &page) const;
+    /// A page's source. The page that says that a topic is missing has one even where its file is missing itself.
+    std::optional<QString> html(const QString &page) const;
+
+    const QList<HelpEntry> &contents();
+    /// The texts of all pages.
+    const QList<HelpText> &texts();
+
+    static QString startPage();
+    static QString notFoundPage();
+
+private:
+    QString textFile(const QString &name) const;
+    void readTexts(const QString &under, int levels);
+
+    QString m_folder;
+    FileSystem &m_files;
+    std::optional<QList<HelpEntry>> m_contents;
+    std::optional<QList<HelpText>> m_texts;
+};

@@ -1,0 +1,124 @@
+#include "pictures/pictureReader.h"
+
+#include "storage/localFileSystem.h"
+
+#include <QBuffer>
+#include <QDataStream>
+#include <QFile>
+#include <QGuiApplication>
+#include <QImageReader>
+#include <cstdio>
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace
+{
+constexpr qint64 LargestFile = 64 << 20;
+constexpr rlim_t LargestMemory = 256 << 20;
+constexpr qint64 MostPixels = 25'000'000; // decoded in well under a second, and in 200 MB at 8 bytes each
+constexpr int NoPicture = 1;
+
+/// The address space that the process takes up now, in bytes.
+rlim_t memoryInUse()
+{
+    QFile status(QStringLiteral("/proc/self/statm"));
+    if (!status.open(QIODevice::ReadOnly))
+        return LargestMemory;
+    return status.readLine().split(' ').constFirst().toULongLong() * static_cast<rlim_t>(::sysconf(_SC_PAGESIZE));
+}
+
+void limitSelf()
+{
+    const rlimit noCores{0, 0};
+    ::setrlimit(RLIMIT_CORE, &noCores);
+    rusage used = {};
+    ::getrusage(RUSAGE_SELF, &used);
+    // The program waits for a second; this ends the reader where the program itself is gone.
+    const rlim_t seconds = static_cast<rlim_t>(used.ru_utime.tv_sec) + 2;
+    const rlimit time{seconds, seconds};
+    ::setrlimit(RLIMIT_CPU, &time);
+    const rlim_t bytes = memoryInUse() + LargestMemory;
+    const rlimit memory{bytes, bytes};
+    ::setrlimit(RLIMIT_AS, &memory);
+}
+
+void send(const QByteArray &bytes)
+{
+    std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stdout);
+    std::fflush(stdout);
+}
+
+QByteArray sizeBytes(const QSize &size)
+{
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream << qint32(size.width()) << qint32(size.height());
+    return bytes;
+}
+
+QByteArray pixelBytes(const QImage &picture)
+{
+    const QImage pixels = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    return sizeBytes(pixels.size()) +
+           QByteArray::fromRawData(reinterpret_cast<const char *>(pixels.constBits()), pixels.sizeInBytes());
+}
+
+bool isTooLarge(const QImageReader &reader)
+{
+    const QSize size = reader.size();
+    const bool isDrawing = reader.format().startsWith("svg"); // drawn at any size
+    return !isDrawing && qint64(size.width()) * size.height() > MostPixels;
+}
+
+QSize within(const QSize &size, const QSize &largest)
+{
+    const bool fits = size.width() <= largest.width() && size.height() <= largest.height();
+    return fits ? size : size.scaled(largest, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+}
+
+/// The size as a browser shows the picture, which may have been taken with the camera on its side.
+QSize shownSize(const QImageReader &reader)
+{
+    const bool onItsSide = reader.transformation() & QImageIOHandler::TransformationRotate90;
+    return onItsSide ? reader.size().transposed() : reader.size();
+}
+
+int readPicture(const QString &path, const QSize &largest)
+{
+    LocalFileSystem files;
+    if (files.size(path).value_or(0) > LargestFile)
+        return NoPicture;
+    QByteArray bytes = files.readAll(path).bytes;
+    QBuffer buffer(&bytes);
+    QImageReader reader(&buffer);
+    reader.setAutoTransform(true);
+    if (!reader.canRead() || reader.size().isEmpty())
+        return NoPicture;
+    send(sizeBytes(shownSize(reader)));
+    if (isTooLarge(reader))
+        return 0;
+    if (const QSize size = within(reader.size(), largest); size != reader.size())
+        reader.setScaledSize(size);
+    const QImage picture = reader.read();
+    if (picture.isNull())
+        return NoPicture;
+    send(pixelBytes(picture));
+    return 0;
+}
+} // namespace
+
+QStringList pictureReader::arguments(const QString &path, const QSize &largest)
+{
+    return {path, QString::number(largest.width()), QString::number(largest.height())};
+}
+
+std::optional<int> readPictureIfAsked(int argc, char **argv)
+{
+    if (qEnvironmentVariableIsEmpty(pictureReader::Mark) || argc < 4)
+        return std::nullopt;
+    const QGuiApplication application(argc, argv); // drawings hold text, which needs the fonts
+    const QStringList arguments = QGuiApplication::arguments();
+    limitSelf();
+    send(QByteArray(1, pictureReader::Ready));
+    return readPicture(arguments[1], QSize(arguments[2].toInt(), arguments[3].toInt()));
+}

@@ -1,8 +1,0 @@
-#include "platform/doEvents.h"
-
-#include <QCoreApplication>
-
-void DoEvents()
-{
-    QCoreApplication::processEvents();
-}

@@ -1,0 +1,8 @@
+#include "services/doEvents.h"
+
+#include <QCoreApplication>
+
+void DoEvents()
+{
+    QCoreApplication::processEvents();
+}

@@ -1,0 +1,13 @@
+#include "storage/documentCopy.h"
+
+#include "common/documentEncoding.h"
+#include "common/paths.h"
+#include "services/fileSystem.h"
+#include "services/services.h"
+
+DocumentCopy writeDocumentCopy(Services &services, const Document &document, const QString &name)
+{
+    const QString path = joinPath(services.appPath, name);
+    const FileFormat format{encodingOfDocument(document), LineEnd::CrLf};
+    return {path, services.files.writeScratch(path, encode(document.txtEdit().Text(), format).bytes)};
+}

@@ -1,0 +1,285 @@
+#include "storage/localFileSystem.h"
+
+#include "storage/wholeFile.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <dirent.h>
+#include <fcntl.h>
+#include <filesystem>
+#include <new>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace
+{
+// Text of this size is beyond what an edit surface counts; a bigger file is refused before the memory for it is asked
+// for.
+constexpr qint64 largestFile = qint64(1) << 30;
+
+struct OpenFile {
+    OpenFile() = default;
+    OpenFile(const OpenFile &) = delete;
+    OpenFile &operator=(const OpenFile &) = delete;
+    ~OpenFile()
+    {
+        if (descriptor >= 0)
+            ::close(descriptor);
+    }
+    int descriptor = -1;
+};
+
+// The path as the system takes it. Nothing where no system path says the same: a NUL would cut it short.
+std::optional<QByteArray> systemPath(const QString &path)
+{
+    if (path.isEmpty() || path.contains(QChar(0)))
+        return std::nullopt;
+    return QFile::encodeName(path);
+}
+
+std::optional<struct stat> statusOf(const QString &path)
+{
+    const std::optional<QByteArray> name = systemPath(path);
+    struct stat status = {};
+    if (!name || ::stat(name->constData(), &status) != 0)
+        return std::nullopt;
+    return status;
+}
+
+bool folderIsMissing(const QByteArray &path)
+{
+    struct stat status = {};
+    return ::stat(systemFolderOf(path).constData(), &status) != 0;
+}
+
+FileError failure(int systemError, FileAction action, const QByteArray &path)
+{
+    return fileErrorOf(systemError, action, systemError == ENOENT && folderIsMissing(path));
+}
+
+FileError badName(FileAction action)
+{
+    return fileErrorOf(EINVAL, action);
+}
+
+// 0 or why what the status tells of is not to be read as a file.
+int refusalOf(const struct stat &status)
+{
+    if (S_ISDIR(status.st_mode))
+        return EISDIR;
+    if (!S_ISREG(status.st_mode))
+        return ENXIO;
+    return status.st_size > largestFile ? ENOMEM : 0;
+}
+
+int openToRead(const QByteArray &path, OpenFile &file, qint64 &size)
+{
+    struct stat status = {};
+    // Asked before the opening too, since merely opening a device can set something off.
+    if (::stat(path.constData(), &status) != 0)
+        return errno;
+    if (const int refusal = refusalOf(status))
+        return refusal;
+    file.descriptor = ::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    if (file.descriptor < 0 || ::fstat(file.descriptor, &status) != 0)
+        return errno;
+    size = status.st_size;
+    return refusalOf(status);
+}
+
+// Reads to the end, which may lie elsewhere than the size said: the file may grow meanwhile, and those of /proc tell 0.
+int readToEnd(int descriptor, qint64 size, QByteArray &bytes)
+{
+    bytes.resize(size + 1);
+    qsizetype used = 0;
+    while (true) {
+        if (used == bytes.size())
+            bytes.resize(used * 2 + 4096);
+        const ssize_t got = ::read(descriptor, bytes.data() + used, static_cast<size_t>(bytes.size() - used));
+        if (got < 0 && errno != EINTR)
+            return errno;
+        if (got == 0)
+            break;
+        used += qMax<ssize_t>(got, 0);
+        if (used > largestFile)
+            return ENOMEM;
+    }
+    bytes.resize(used);
+    return 0;
+}
+
+int readFile(const QByteArray &path, QByteArray &bytes)
+{
+    OpenFile file;
+    qint64 size = 0;
+    if (const int error = openToRead(path, file, size))
+        return error;
+    try {
+        return readToEnd(file.descriptor, size, bytes);
+    } catch (const std::bad_alloc &) {
+        return ENOMEM;
+    }
+}
+
+std::optional<FileError> write(const QString &path, const QByteArray &bytes, Durability durability)
+{
+    const std::optional<QByteArray> name = systemPath(path);
+    if (!name)
+        return badName(FileAction::Write);
+    if (const int error = writeWholeFile(*name, bytes, durability))
+        return failure(error, FileAction::Write, *name);
+    return std::nullopt;
+}
+
+bool isFolderEntry(const QByteArray &folder, const dirent &entry)
+{
+    if (entry.d_type != DT_UNKNOWN && entry.d_type != DT_LNK)
+        return entry.d_type == DT_DIR;
+    struct stat status = {};
+    const QByteArray path = folder + '/' + static_cast<const char *>(entry.d_name);
+    return ::stat(path.constData(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+} // namespace
+
+LocalFileSystem::LocalFileSystem()
+{
+    std::signal(SIGXFSZ, SIG_IGN);
+}
+
+FileContents LocalFileSystem::readAll(const QString &path)
+{
+    const std::optional<QByteArray> name = systemPath(path);
+    if (!name)
+        return {{}, badName(FileAction::Read)};
+    FileContents contents;
+    if (const int error = readFile(*name, contents.bytes))
+        return {{}, failure(error, FileAction::Read, *name)};
+    return contents;
+}
+
+std::optional<FileError> LocalFileSystem::checkReadable(const QString &path)
+{
+    const std::optional<QByteArray> name = systemPath(path);
+    if (!name)
+        return badName(FileAction::Read);
+    OpenFile file;
+    qint64 size = 0;
+    if (const int error = openToRead(*name, file, size))
+        return failure(error, FileAction::Read, *name);
+    return std::nullopt;
+}
+
+std::optional<FileError> LocalFileSystem::writeWhole(const QString &path, const QByteArray &bytes)
+{
+    return write(path, bytes, Durability::Flushed);
+}
+
+std::optional<FileError> LocalFileSystem::writeScratch(const QString &path, const QByteArray &bytes)
+{
+    return write(path, bytes, Durability::Lazy);
+}
+
+bool LocalFileSystem::exists(const QString &path)
+{
+    const std::optional<struct stat> status = statusOf(path);
+    return status && !S_ISDIR(status->st_mode);
+}
+
+bool LocalFileSystem::isFolder(const QString &path)
+{
+    const std::optional<struct stat> status = statusOf(path);
+    return status && S_ISDIR(status->st_mode);
+}
+
+std::optional<qint64> LocalFileSystem::size(const QString &path)
+{
+    const std::optional<struct stat> status = statusOf(path);
+    return status ? std::optional<qint64>(status->st_size) : std::nullopt;
+}
+
+std::optional<FileStamp> LocalFileSystem::stamp(const QString &path)
+{
+    const std::optional<struct stat> status = statusOf(path);
+    if (!status)
+        return std::nullopt;
+    const qint64 modified = status->st_mtim.tv_sec * qint64(1'000'000'000) + status->st_mtim.tv_nsec;
+    return FileStamp{status->st_size, modified, status->st_ino};
+}
+
+std::optional<FileDetails> LocalFileSystem::details(const QString &path)
+{
+    if (!statusOf(path))
+        return std::nullopt;
+    const QFileInfo info(path);
+    FileDetails details;
+    details.size = info.size();
+    details.created = info.birthTime();
+    details.accessed = info.lastRead();
+    details.modified = info.lastModified();
+    details.isFolder = info.isDir();
+    details.readOnly = !info.isWritable();
+    details.hidden = info.fileName().startsWith(u'.');
+    return details;
+}
+
+FolderListing LocalFileSystem::list(const QString &folder)
+{
+    const std::optional<QByteArray> name = systemPath(folder);
+    if (!name)
+        return {{}, badName(FileAction::Folder)};
+    const std::unique_ptr<DIR, int (*)(DIR *)> opened(::opendir(name->constData()),
+                                                      [](DIR *d) { return ::closedir(d); });
+    if (!opened)
+        return {{}, failure(errno, FileAction::Folder, *name)};
+    FolderListing listing;
+    while (const dirent *entry = ::readdir(opened.get())) {
+        const QString entryName = QFile::decodeName(static_cast<const char *>(entry->d_name));
+        if (entryName != QLatin1String(".") && entryName != QLatin1String(".."))
+            listing.entries += FolderEntry{entryName, isFolderEntry(*name, *entry)};
+    }
+    std::sort(listing.entries.begin(), listing.entries.end(),
+              [](const FolderEntry &a, const FolderEntry &b) { return a.name < b.name; });
+    return listing;
+}
+
+std::optional<FileError> LocalFileSystem::makeFolder(const QString &folder)
+{
+    const std::optional<QByteArray> name = systemPath(folder);
+    if (!name)
+        return badName(FileAction::Folder);
+    std::error_code error;
+    std::filesystem::create_directories(name->constData(), error);
+    if (error)
+        return failure(error.value(), FileAction::Folder, *name);
+    return std::nullopt;
+}
+
+std::optional<FileError> LocalFileSystem::removeFile(const QString &path)
+{
+    const std::optional<QByteArray> name = systemPath(path);
+    if (!name)
+        return badName(FileAction::Write);
+    if (::unlink(name->constData()) == 0)
+        return std::nullopt;
+    // Here a file that is not there is missing itself, unlike in a write, which would have made it.
+    const int error = errno;
+    return failure(error, error == ENOENT ? FileAction::Read : FileAction::Write, *name);
+}
+
+std::optional<FileError> LocalFileSystem::copyFile(const QString &from, const QString &to)
+{
+    const FileContents contents = readAll(from);
+    if (contents.error)
+        return contents.error;
+    if (std::optional<FileError> error = writeWhole(to, contents.bytes))
+        return error;
+    const std::optional<struct stat> status = statusOf(from);
+    const QByteArray target = QFile::encodeName(to);
+    if (status && ::chmod(target.constData(), status->st_mode & 0777U) != 0)
+        return failure(errno, FileAction::Write, target);
+    return std::nullopt;
+}

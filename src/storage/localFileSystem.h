@@ -1,0 +1,27 @@
+#pragma once
+
+#include "services/fileSystem.h"
+
+/// The machine's own files.
+class LocalFileSystem final : public FileSystem
+{
+public:
+    /// From here on a limit on the size of files is told as an error instead of ending the program.
+    LocalFileSystem();
+
+    FileContents readAll(const QString &path) override;
+    std::optional<FileError> checkReadable(const QString &path) override;
+    std::optional<FileError> writeWhole(const QString &path, const QByteArray &bytes) override;
+    std::optional<FileError> writeScratch(const QString &path, const QByteArray &bytes) override;
+
+    bool exists(const QString &path) override;
+    bool isFolder(const QString &path) override;
+    std::optional<qint64> size(const QString &path) override;
+    std::optional<FileStamp> stamp(const QString &path) override;
+    std::optional<FileDetails> details(const QString &path) override;
+
+    FolderListing list(const QString &folder) override;
+    std::optional<FileError> makeFolder(const QString &folder) override;
+    std::optional<FileError> removeFile(const QString &path) override;
+    std::optional<FileError> copyFile(const QString &from, const QString &to) override;
+};

@@ -1,0 +1,106 @@
+#include "widgets/colourSelection.h"
+
+#include "common/colourText.h"
+#include "widgets/controls.h"
+#include "widgets/themeColour.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPushButton>
+
+ColourSelection::ColourSelection(Pick pick, QWidget *parent)
+    : QWidget(parent), m_pick(std::move(pick)), m_text(new QLineEdit), m_change(new QPushButton)
+{
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(m_text, 1);
+    layout->addWidget(m_change);
+    setFocusProxy(m_text);
+    setFocusPolicy(Qt::StrongFocus); // tells those who ask the picker itself
+    m_text->setMaxLength(7);
+    m_change->setObjectName(QStringLiteral("cmdChange"));
+    m_change->setAccessibleName(tr("Choose colour"));
+    m_change->setToolTip(tr("Choose colour"));
+    m_change->setAutoDefault(false);
+    connect(m_text, &QLineEdit::textEdited, this, &ColourSelection::textTyped);
+    connect(m_text, &QLineEdit::editingFinished, this, [this] { m_text->setText(shownText()); });
+    connect(m_change, &QPushButton::clicked, this, &ColourSelection::cmdChange_Click);
+    ui::onGotFocus(m_text, [this] { SelectAllText(m_text); });
+    setColour(0);
+}
+
+QString ColourSelection::HexadecimalColour() const
+{
+    return colourText(m_colour);
+}
+
+QString ColourSelection::shownText() const
+{
+    return m_colour == m_unset ? QString() : HexadecimalColour();
+}
+
+void ColourSelection::setColour(ColourValue colour)
+{
+    m_colour = colour;
+    m_text->setText(shownText());
+    drawSwatch();
+}
+
+void ColourSelection::setUnsetColour(ColourValue colour)
+{
+    m_unset = colour;
+    m_text->setPlaceholderText(tr("none"));
+    setColour(colour);
+}
+
+void ColourSelection::cmdChange_Click()
+{
+    if (const std::optional<ColourValue> chosen = m_pick(m_colour)) {
+        choose(*chosen);
+        m_text->setText(shownText());
+    }
+}
+
+/// A text on its way to a colour changes nothing yet, and leaves no trace when the field is left.
+void ColourSelection::textTyped(const QString &text)
+{
+    if (const std::optional<ColourValue> typed = text.isEmpty() ? m_unset : colourFromText(text))
+        choose(*typed);
+}
+
+void ColourSelection::choose(ColourValue colour)
+{
+    const bool changed = colour != m_colour;
+    m_colour = colour;
+    drawSwatch();
+    if (changed)
+        Q_EMIT colourChanged();
+}
+
+void ColourSelection::drawSwatch()
+{
+    const QSize size(fontMetrics().height() * 2, fontMetrics().height());
+    QPixmap swatch(size * devicePixelRatioF());
+    swatch.setDevicePixelRatio(devicePixelRatioF());
+    const bool unset = m_colour == m_unset;
+    swatch.fill(unset ? palette().color(QPalette::Base) : shownColour(m_colour, palette()));
+    QPainter painter(&swatch);
+    painter.setPen(palette().color(QPalette::WindowText));
+    if (unset) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.drawLine(0, size.height(), size.width(), 0);
+    }
+    painter.drawRect(QRectF(0.5, 0.5, size.width() - 1, size.height() - 1));
+    painter.end();
+    m_change->setIcon(swatch);
+    m_change->setIconSize(size);
+}
+
+void ColourSelection::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::PaletteChange)
+        drawSwatch();
+}

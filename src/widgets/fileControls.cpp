@@ -1,0 +1,164 @@
+#include "widgets/fileControls.h"
+
+#include "services/fileSystem.h"
+
+#include <QDir>
+#include <QFileIconProvider>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QStorageInfo>
+
+namespace
+{
+constexpr int PathRole = Qt::UserRole;
+
+bool isUnder(const QString &path, const QString &folder)
+{
+    return path == folder || path.startsWith(folder.endsWith(u'/') ? folder : folder + u'/');
+}
+
+/// Volumes that a user plugged in or mounted, not those that the system is made of.
+QStringList mountedVolumes()
+{
+    QStringList volumes;
+    for (const QStorageInfo &volume : QStorageInfo::mountedVolumes()) {
+        const QString root = volume.rootPath();
+        for (const QString &place :
+             {QStringLiteral("/media/"), QStringLiteral("/run/media/"), QStringLiteral("/mnt/")}) {
+            if (volume.isReady() && root.startsWith(place))
+                volumes.append(root);
+        }
+    }
+    return volumes;
+}
+
+QString lastName(const QString &path)
+{
+    const QString name = QFileInfo(path).fileName();
+    return name.isEmpty() ? path : name;
+}
+} // namespace
+
+DriveList::DriveList(QWidget *parent) : QComboBox(parent)
+{
+    for (const QString &place : QStringList{QDir::rootPath(), QDir::homePath()} + mountedVolumes()) {
+        if (findText(place) < 0)
+            addItem(QFileIconProvider().icon(QFileIconProvider::Drive), place);
+    }
+}
+
+QString DriveList::Drive() const
+{
+    return currentText();
+}
+
+bool DriveList::setDrive(const QString &path)
+{
+    int best = -1;
+    for (int row = 0; row < count(); ++row) {
+        if (isUnder(path, itemText(row)) && (best < 0 || itemText(row).size() > itemText(best).size()))
+            best = row;
+    }
+    if (best >= 0)
+        setCurrentIndex(best);
+    return best >= 0;
+}
+
+FolderList::FolderList(FileSystem &files, QWidget *parent) : QListWidget(parent), m_files(files)
+{
+    connect(this, &QListWidget::itemDoubleClicked, this, &FolderList::openRow);
+}
+
+bool FolderList::setPath(const QString &path)
+{
+    const QString clean = QDir::cleanPath(path);
+    const FolderListing listing = m_files.list(clean);
+    if (!QDir::isAbsolutePath(path) || listing.error)
+        return false;
+    m_subfolders.clear();
+    for (const FolderEntry &entry : listing.entries) {
+        if (entry.isFolder)
+            m_subfolders.append(QDir(clean).filePath(entry.name));
+    }
+    const bool changed = clean != m_path;
+    m_path = clean;
+    fill();
+    if (changed)
+        Q_EMIT pathChanged();
+    return true;
+}
+
+void FolderList::fill()
+{
+    clear();
+    QStringList above{m_path};
+    while (!QDir(above.front()).isRoot())
+        above.prepend(QFileInfo(above.front()).path());
+    for (int depth = 0; depth < above.size(); ++depth)
+        addFolder(above[depth], depth);
+    for (const QString &folder : m_subfolders)
+        addFolder(folder, static_cast<int>(above.size()));
+    setCurrentRow(static_cast<int>(above.size()) - 1);
+}
+
+void FolderList::addFolder(const QString &path, int depth)
+{
+    auto *item = new QListWidgetItem(QString(depth * 2, u' ') + lastName(path), this);
+    item->setIcon(QFileIconProvider().icon(QFileIconProvider::Folder));
+    item->setData(PathRole, path);
+    item->setToolTip(path);
+}
+
+void FolderList::openRow(const QListWidgetItem *item)
+{
+    if (item)
+        setPath(item->data(PathRole).toString());
+}
+
+std::optional<int> FolderList::rowTowards(const QString &path) const
+{
+    int best = -1;
+    for (int row = 0; row < count(); ++row) { // a longer way that still leads there is a nearer one
+        if (isUnder(path, item(row)->data(PathRole).toString()))
+            best = row;
+    }
+    return best < 0 || item(best)->data(PathRole).toString() == m_path ? std::optional<int>() : best;
+}
+
+QSize FolderList::sizeHint() const
+{
+    return QSize(fontMetrics().averageCharWidth() * 30, fontMetrics().lineSpacing() * 8);
+}
+
+void FolderList::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        openRow(currentItem());
+    else
+        QListWidget::keyPressEvent(event);
+}
+
+FileList::FileList(FileSystem &files, QWidget *parent) : QListWidget(parent), m_files(files) {}
+
+bool FileList::setPath(const QString &path)
+{
+    const FolderListing listing = m_files.list(path);
+    if (listing.error)
+        return false;
+    clear();
+    for (const FolderEntry &entry : listing.entries) {
+        if (!entry.isFolder)
+            addItem(entry.name);
+    }
+    m_path = path;
+    Q_EMIT pathChanged();
+    return true;
+}
+
+QStringList FileList::names() const
+{
+    QStringList names;
+    for (int row = 0; row < count(); ++row)
+        names.append(item(row)->text());
+    return names;
+}

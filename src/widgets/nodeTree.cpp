@@ -1,0 +1,115 @@
+#include "widgets/nodeTree.h"
+
+#include "widgets/nodeTreeModel.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+
+NodeTree::NodeTree(QWidget *parent) : QTreeView(parent), m_model(std::make_shared<NodeTreeModel>())
+{
+    setModel(m_model.get());
+    setHeaderHidden(true);
+    setUniformRowHeights(true);
+    setEditTriggers(NoEditTriggers);
+    header()->setSectionResizeMode(QHeaderView::ResizeToContents); // long texts scroll sideways
+    header()->setStretchLastSection(false);
+    connect(this, &QTreeView::clicked, this, [this](const QModelIndex &index) { Q_EMIT nodeClicked(nodeOf(index)); });
+    connect(this, &QTreeView::doubleClicked, this,
+            [this](const QModelIndex &index) { Q_EMIT nodeDoubleClicked(nodeOf(index)); });
+}
+
+NodeTree::~NodeTree()
+{
+    setModel(nullptr); // which may go now, in front of the view
+}
+
+void NodeTree::showNodesOf(std::shared_ptr<NodeTreeModel> model)
+{
+    QItemSelectionModel *oldSelection = selectionModel();
+    model->publish();
+    setModel(model.get());
+    delete oldSelection;
+    m_model = std::move(model);
+}
+
+void NodeTree::setImages(const QHash<QString, QIcon> &images)
+{
+    m_model->setImages(images);
+    viewport()->update();
+}
+
+std::optional<int> NodeTree::addNode(const TreeNode &node)
+{
+    return m_model->add(node);
+}
+
+void NodeTree::clearNodes()
+{
+    m_model->clear();
+}
+
+int NodeTree::nodeCount() const
+{
+    return m_model->size();
+}
+
+const TreeNode &NodeTree::nodeAt(int node) const
+{
+    return m_model->at(node);
+}
+
+std::optional<int> NodeTree::find(const QString &key) const
+{
+    return m_model->find(key);
+}
+
+void NodeTree::selectNode(std::optional<int> node)
+{
+    if (!node) {
+        selectionModel()->clear();
+        return;
+    }
+    setCurrentIndex(indexOf(*node));
+    scrollTo(indexOf(*node));
+}
+
+std::optional<int> NodeTree::selectedNode() const
+{
+    const QModelIndexList selected = selectionModel()->selectedIndexes();
+    return selected.isEmpty() ? std::optional<int>() : nodeOf(selected.front());
+}
+
+void NodeTree::expandNode(int node, bool expanded)
+{
+    setExpanded(indexOf(node), expanded);
+}
+
+bool NodeTree::isNodeExpanded(int node) const
+{
+    return isExpanded(indexOf(node));
+}
+
+QModelIndex NodeTree::indexOf(int node) const
+{
+    m_model->publish();
+    return m_model->indexOf(node);
+}
+
+int NodeTree::nodeOf(const QModelIndex &index) const
+{
+    return index.isValid() ? static_cast<int>(index.internalId()) : -1;
+}
+
+QSize NodeTree::sizeHint() const
+{
+    return QSize(fontMetrics().averageCharWidth() * 36, fontMetrics().lineSpacing() * 12);
+}
+
+void NodeTree::keyPressEvent(QKeyEvent *event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && currentIndex().isValid())
+        Q_EMIT nodeEntered(nodeOf(currentIndex()));
+    else
+        QTreeView::keyPressEvent(event);
+}

@@ -1,0 +1,133 @@
+#include "widgets/nodeTreeModel.h"
+
+#include <QMetaObject>
+#include <QSet>
+
+void NodeTreeModel::setImages(const QHash<QString, QIcon> &images)
+{
+    m_images = images;
+}
+
+bool NodeTreeModel::accepts(const TreeNode &node) const
+{
+    return (node.key.isEmpty() || !m_byKey.contains(node.key)) &&
+           (node.imageKey.isEmpty() || m_images.contains(node.imageKey)) && node.parent >= -1 && node.parent < size();
+}
+
+void NodeTreeModel::reserve(int nodes)
+{
+    m_nodes.reserve(static_cast<size_t>(nodes));
+}
+
+std::optional<int> NodeTreeModel::add(TreeNode node)
+{
+    if (!accepts(node))
+        return {};
+    const int number = size();
+    std::vector<int> &siblings = childrenOf(node.parent).nodes;
+    const int row = static_cast<int>(siblings.size());
+    siblings.push_back(number);
+    if (!node.key.isEmpty())
+        m_byKey.insert(node.key, number);
+    m_nodes.push_back({std::move(node), row, {}});
+    schedulePublishing();
+    return number;
+}
+
+void NodeTreeModel::clear()
+{
+    if (m_nodes.empty())
+        return;
+    beginResetModel();
+    m_nodes.clear();
+    m_roots = {};
+    m_byKey.clear();
+    m_published = 0;
+    endResetModel();
+}
+
+void NodeTreeModel::schedulePublishing()
+{
+    if (m_scheduled)
+        return;
+    m_scheduled = true;
+    QMetaObject::invokeMethod(
+        this, [this] { publish(); }, Qt::QueuedConnection);
+}
+
+void NodeTreeModel::publish()
+{
+    m_scheduled = false;
+    for (const int parent : parentsWithNews()) {
+        Children &children = childrenOf(parent);
+        const int last = static_cast<int>(children.nodes.size()) - 1;
+        beginInsertRows(indexOf(parent), children.published, last);
+        children.published = last + 1;
+        endInsertRows();
+    }
+}
+
+/// Counts what stands under new nodes as known, since it comes into view with them, and tells the known parents that
+/// have new children.
+QList<int> NodeTreeModel::parentsWithNews()
+{
+    QList<int> parents;
+    QSet<int> known;
+    for (int node = m_published; node < size(); ++node) {
+        const int parent = entry(node).item.parent;
+        if (parent >= m_published)
+            ++entry(parent).children.published;
+        else if (!known.contains(parent)) {
+            known.insert(parent);
+            parents.append(parent);
+        }
+    }
+    m_published = size();
+    return parents;
+}
+
+std::optional<int> NodeTreeModel::find(const QString &key) const
+{
+    const auto found = m_byKey.constFind(key);
+    return found == m_byKey.constEnd() ? std::optional<int>() : *found;
+}
+
+QModelIndex NodeTreeModel::indexOf(int node) const
+{
+    return node < 0 ? QModelIndex() : createIndex(entry(node).row, 0, static_cast<quintptr>(node));
+}
+
+QModelIndex NodeTreeModel::index(int row, int column, const QModelIndex &parent) const
+{
+    if (column != 0 || row < 0 || row >= rowCount(parent))
+        return {};
+    const Children &children = childrenOf(parent.isValid() ? static_cast<int>(parent.internalId()) : -1);
+    return createIndex(row, 0, static_cast<quintptr>(children.nodes[static_cast<size_t>(row)]));
+}
+
+QModelIndex NodeTreeModel::parent(const QModelIndex &child) const
+{
+    return child.isValid() ? indexOf(at(static_cast<int>(child.internalId())).parent) : QModelIndex();
+}
+
+int NodeTreeModel::rowCount(const QModelIndex &parent) const
+{
+    return childrenOf(parent.isValid() ? static_cast<int>(parent.internalId()) : -1).published;
+}
+
+int NodeTreeModel::columnCount(const QModelIndex &) const
+{
+    return 1;
+}
+
+QVariant NodeTreeModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid())
+        return {};
+    const TreeNode &node = at(static_cast<int>(index.internalId()));
+    if (role == Qt::DisplayRole)
+        return node.text;
+    if (role == Qt::DecorationRole && !node.imageKey.isEmpty())
+        return m_images.value(node.imageKey);
+    return {};
+}

@@ -1,0 +1,113 @@
+#include "widgets/programIcon.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QHash>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPalette>
+#include <QSvgRenderer>
+
+namespace
+{
+QString drawingPath(const QString &name)
+{
+    return QStringLiteral(":/icons/%1.svg").arg(name);
+}
+
+/// Draws one icon of the set. The drawing is read at the first use and kept as pixels for each size and colour.
+class DrawingEngine final : public QIconEngine
+{
+public:
+    DrawingEngine(const QString &name, const QColor &light, const QColor &dark)
+        : m_name(name), m_light(light), m_dark(dark)
+    {
+    }
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override
+    {
+        const qreal ratio = painter->device()->devicePixelRatioF();
+        QPixmap picture = drawn((QSizeF(rect.size()) * ratio).toSize(), colourFor(mode));
+        picture.setDevicePixelRatio(ratio);
+        painter->drawPixmap(rect, picture);
+    }
+
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State) override { return drawn(size, colourFor(mode)); }
+
+    QPixmap scaledPixmap(const QSize &size, QIcon::Mode mode, QIcon::State, qreal) override
+    {
+        return drawn(size, colourFor(mode));
+    }
+
+    QIconEngine *clone() const override { return new DrawingEngine(m_name, m_light, m_dark); }
+    QString key() const override { return QStringLiteral("drawing"); }
+    bool isNull() override { return false; }
+
+private:
+    QColor colourFor(QIcon::Mode mode) const
+    {
+        const QPalette palette = QApplication::palette();
+        if (mode == QIcon::Disabled)
+            return palette.color(QPalette::Disabled, QPalette::ButtonText);
+        if (mode == QIcon::Selected)
+            return palette.color(QPalette::Active, QPalette::HighlightedText);
+        if (!m_light.isValid())
+            return palette.color(QPalette::Active, QPalette::ButtonText);
+        const bool isDark =
+            palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+        return isDark ? m_dark : m_light;
+    }
+
+    QPixmap drawn(const QSize &size, const QColor &colour)
+    {
+        const QString key = QStringLiteral("%1x%2 %3").arg(size.width()).arg(size.height()).arg(colour.name());
+        const auto found = m_pictures.constFind(key);
+        if (found != m_pictures.constEnd())
+            return *found;
+        return *m_pictures.insert(key, draw(size, colour));
+    }
+
+    QPixmap draw(const QSize &size, const QColor &colour)
+    {
+        QPixmap picture(size);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        QSvgRenderer(QByteArray(drawing()).replace("currentColor", colour.name().toLatin1()))
+            .render(&painter, QRectF(QPointF(), QSizeF(size)));
+        return picture;
+    }
+
+    const QByteArray &drawing()
+    {
+        if (m_drawing.isEmpty()) {
+            QFile file(drawingPath(m_name));
+            if (file.open(QIODevice::ReadOnly))
+                m_drawing = file.readAll();
+        }
+        return m_drawing;
+    }
+
+    QString m_name;
+    QColor m_light;
+    QColor m_dark;
+    QByteArray m_drawing;
+    QHash<QString, QPixmap> m_pictures;
+};
+} // namespace
+
+QIcon programIcon(const QString &name)
+{
+    return programIcon(name, {}, {});
+}
+
+QIcon programIcon(const QString &name, const QColor &light, const QColor &dark)
+{
+    if (!QFile::exists(drawingPath(name)))
+        return {};
+    return QIcon(new DrawingEngine(name, light, dark));
+}
+
+QIcon applicationIcon()
+{
+    return programIcon(QStringLiteral("tagwrighter"));
+}

@@ -1,0 +1,85 @@
+#include "widgets/tabStrip.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QWheelEvent>
+
+TabStrip::TabStrip(QWidget *parent) : QTabBar(parent)
+{
+    setExpanding(false);
+    setUsesScrollButtons(true);
+    setElideMode(Qt::ElideRight);
+    setFocusPolicy(Qt::TabFocus); // a click leaves the focus where the user works
+}
+
+bool TabStrip::addKeyedTab(const QString &key, const QString &caption, const QIcon &image)
+{
+    if (find(key))
+        return false;
+    QString shown = caption;
+    setTabData(addTab(image, shown.replace(u'&', QStringLiteral("&&"))), key);
+    return true;
+}
+
+bool TabStrip::removeKeyedTab(const QString &key)
+{
+    const std::optional<int> tab = find(key);
+    if (tab)
+        removeTab(*tab);
+    return tab.has_value();
+}
+
+bool TabStrip::selectKey(const QString &key)
+{
+    const std::optional<int> tab = find(key);
+    if (tab)
+        setCurrentIndex(*tab);
+    return tab.has_value();
+}
+
+QString TabStrip::selectedKey() const
+{
+    return keyAt(currentIndex());
+}
+
+QString TabStrip::keyAt(int tab) const
+{
+    return tabData(tab).toString();
+}
+
+std::optional<int> TabStrip::find(const QString &key) const
+{
+    for (int tab = 0; tab < count(); ++tab) {
+        if (keyAt(tab) == key)
+            return tab;
+    }
+    return {};
+}
+
+void TabStrip::mouseReleaseEvent(QMouseEvent *event)
+{
+    const int tab = tabAt(event->position().toPoint());
+    QTabBar::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton && tab >= 0 && tab == currentIndex())
+        Q_EMIT tabClicked(tab);
+}
+
+void TabStrip::keyPressEvent(QKeyEvent *event)
+{
+    watched([this, event] { QTabBar::keyPressEvent(event); });
+}
+
+void TabStrip::wheelEvent(QWheelEvent *event)
+{
+    watched([this, event] { QTabBar::wheelEvent(event); });
+}
+
+/// Raises the click if the handling of the event moved the selection.
+template <class Handling>
+void TabStrip::watched(const Handling &handling)
+{
+    const int before = currentIndex();
+    handling();
+    if (currentIndex() != before)
+        Q_EMIT tabClicked(currentIndex());
+}

@@ -1,0 +1,345 @@
+#include "browser/webBrowser.h"
+#include "services/pageViews.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <gmock/gmock.h>
+
+namespace
+{
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// What is done with a view that shows nothing, and what its page would tell.
+struct Page {
+    QStringList calls;
+    PageViewListener *listener = nullptr;
+    QWidget *widget = nullptr;
+    bool answers = true;
+
+    void finish()
+    {
+        listener->loadStarted();
+        listener->loadFinished();
+    }
+    QStringList taken() { return std::exchange(calls, {}); }
+};
+
+class PretendedView final : public PageView
+{
+public:
+    PretendedView(Page &page, PageViewListener &listener, QWidget *parent) : m_page(page)
+    {
+        m_page.listener = &listener;
+        m_page.widget = new QWidget(parent);
+    }
+
+    QWidget *widget() override { return m_page.widget; }
+    void load(const QUrl &address) override { m_page.calls << QStringLiteral("load ") + address.toString(); }
+    void back() override { m_page.calls << QStringLiteral("back"); }
+    void forward() override { m_page.calls << QStringLiteral("forward"); }
+    void stop() override { m_page.calls << QStringLiteral("stop"); }
+    void reload() override { m_page.calls << QStringLiteral("reload"); }
+    void ask(std::function<void()> answered) override
+    {
+        if (m_page.answers)
+            answered();
+    }
+    void text(std::function<void(const QString &)> taken) override { taken(QStringLiteral("text")); }
+    void endPage() override { m_page.calls << QStringLiteral("end"); }
+
+private:
+    Page &m_page;
+};
+
+class PretendedViews final : public PageViews, public PageEngine
+{
+public:
+    PageEngine *engine() override
+    {
+        ++asked;
+        return isThere ? this : nullptr;
+    }
+    QString reasonForNone() const override { return QStringLiteral("It is not there."); }
+    std::unique_ptr<PageView> makeView(PageViewListener &listener, QWidget *parent) override
+    {
+        return std::make_unique<PretendedView>(page, listener, parent);
+    }
+    void shutDown() override {}
+
+    Page page;
+    bool isThere = true;
+    int asked = 0;
+};
+
+class WebBrowserTest : public testing::Test
+{
+protected:
+    WebBrowserTest() { browser.show(); }
+
+    QString strip() { return browser.Notice(); }
+    QPushButton *again() { return browser.findChild<QPushButton *>(); }
+    static QString file(const char *name) { return QStringLiteral("/site/") + QLatin1String(name); }
+
+    PretendedViews views;
+    Page &page = views.page;
+    WebBrowser browser{views};
+};
+
+TEST_F(WebBrowserTest, IsAtAnEmptyPageWithoutAnEngine)
+{
+    EXPECT_EQ(browser.LocationURL(), QStringLiteral("about:blank"));
+    browser.GoBack();
+    browser.GoForward();
+    browser.Stop();
+    browser.Refresh();
+    EXPECT_EQ(views.asked, 0);
+    QString text = QStringLiteral("untouched");
+    browser.pageText([&text](const QString &taken) { text = taken; });
+    EXPECT_EQ(text, QString());
+}
+
+TEST_F(WebBrowserTest, TellsTheNewAddressAtOnce)
+{
+    const struct {
+        const char *target;
+        const char *address;
+    } rows[] = {
+        {"/site/a.htm", "file:///site/a.htm"},
+        {"/site/my page#1.htm", "file:///site/my%20page%231.htm"},
+        {"/site/100%.htm", "file:///site/100%25.htm"},
+        {"http://example.org/a?b=c#d", "http://example.org/a?b=c#d"},
+        {"about:blank", "about:blank"},
+        {"example.org", "http://example.org"},
+    };
+    for (const auto &row : rows) {
+        browser.Navigate(QLatin1String(row.target));
+        EXPECT_EQ(browser.LocationURL(), QLatin1String(row.address)) << row.target;
+    }
+}
+
+TEST_F(WebBrowserTest, LoadsOnceMoreForAllThatIsAskedDuringALoad)
+{
+    browser.Navigate(file("a.htm"));
+    EXPECT_THAT(page.taken(), ElementsAre(QStringLiteral("load file:///site/a.htm")));
+    EXPECT_TRUE(browser.isLoading());
+    browser.Navigate(file("b.htm"));
+    browser.Navigate(file("c.htm"));
+    EXPECT_THAT(page.taken(), IsEmpty());
+    EXPECT_EQ(browser.LocationURL(), QStringLiteral("file:///site/c.htm"));
+    page.listener->addressChanged(QUrl(QStringLiteral("file:///site/a.htm")));
+    EXPECT_EQ(browser.LocationURL(), QStringLiteral("file:///site/c.htm")) << "that is where it is going";
+    page.finish();
+    EXPECT_THAT(page.taken(), ElementsAre(QStringLiteral("load file:///site/c.htm")));
+    EXPECT_TRUE(browser.isLoading());
+    page.finish();
+    EXPECT_THAT(page.taken(), IsEmpty());
+    EXPECT_FALSE(browser.isLoading());
+}
+
+TEST_F(WebBrowserTest, DropsWhatWaitsWhenItIsStopped)
+{
+    browser.Navigate(file("a.htm"));
+    browser.Navigate(file("b.htm"));
+    page.taken();
+    browser.Stop();
+    page.finish();
+    EXPECT_THAT(page.taken(), ElementsAre(QStringLiteral("stop")));
+}
+
+TEST_F(WebBrowserTest, TellsTheBeginningAndTheEndOfEachNavigation)
+{
+    const QSignalSpy started(&browser, &WebBrowser::navigationStarted);
+    const QSignalSpy finished(&browser, &WebBrowser::navigationFinished);
+    browser.Navigate(file("a.htm"));
+    page.listener->loadStarted();
+    EXPECT_EQ(started.count(), 1);
+    EXPECT_EQ(finished.count(), 0);
+    page.listener->loadFinished();
+    EXPECT_EQ(finished.count(), 1);
+    page.finish(); // a link in the page
+    EXPECT_EQ(started.count(), 2);
+    EXPECT_EQ(finished.count(), 2);
+}
+
+TEST_F(WebBrowserTest, FollowsThePagesOwnNavigation)
+{
+    browser.Navigate(file("a.htm"));
+    page.finish();
+    page.listener->addressChanged(QUrl(QStringLiteral("file:///site/my%20b.htm")));
+    EXPECT_EQ(browser.LocationURL(), QStringLiteral("file:///site/my%20b.htm"));
+}
+
+TEST_F(WebBrowserTest, ShowsTheViewWithItsFirstPage)
+{
+    browser.Navigate(file("a.htm"));
+    EXPECT_FALSE(page.widget->isVisible());
+    page.finish();
+    EXPECT_TRUE(page.widget->isVisible());
+    browser.Navigate(file("b.htm"));
+    EXPECT_TRUE(page.widget->isVisible()) << "the old page stays until the new one is there";
+}
+
+TEST_F(WebBrowserTest, LetsASlowLoadHoldANewerOneUpForAWhileOnly)
+{
+    browser.setPatience(100);
+    browser.Navigate(file("slow.htm"));
+    page.listener->loadStarted();
+    browser.Navigate(file("b.htm"));
+    page.taken();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !page.calls.isEmpty(); }));
+    EXPECT_THAT(page.taken(), ElementsAre(QStringLiteral("load file:///site/b.htm")));
+    EXPECT_TRUE(page.widget->isVisible()) << "what there is of a slow page is shown";
+}
+
+TEST_F(WebBrowserTest, StopsAPageWhoseScriptNeverEnds)
+{
+    browser.setPatience(100);
+    page.answers = false;
+    browser.Navigate(file("endless.htm"));
+    page.listener->loadStarted();
+    page.taken();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !page.calls.isEmpty(); }));
+    EXPECT_EQ(page.taken().first(), QStringLiteral("end"));
+    EXPECT_EQ(strip(), QString());
+    page.listener->pageEnded();
+    EXPECT_EQ(strip(), QStringLiteral("A script of this page did not come to an end, so the page was stopped."));
+    EXPECT_FALSE(browser.isLoading());
+    EXPECT_FALSE(page.widget->isVisible());
+    page.taken();
+    ASSERT_TRUE(again()->isVisible());
+    again()->click();
+    EXPECT_THAT(page.taken(), ElementsAre(QStringLiteral("load file:///site/endless.htm")));
+    EXPECT_EQ(strip(), QString());
+}
+
+TEST_F(WebBrowserTest, LeavesAPageAloneThatAnswersHoweverLongItLoads)
+{
+    browser.setPatience(50);
+    browser.Navigate(file("long.htm"));
+    page.listener->loadStarted();
+    page.taken();
+    QTest::qWait(300);
+    EXPECT_THAT(page.taken(), IsEmpty());
+    EXPECT_TRUE(browser.isLoading());
+}
+
+TEST_F(WebBrowserTest, WatchesNothingOnceThePageIsThere)
+{
+    browser.setPatience(20);
+    page.answers = false;
+    browser.Navigate(file("a.htm"));
+    page.finish();
+    page.taken();
+    QTest::qWait(100);
+    EXPECT_THAT(page.taken(), IsEmpty());
+}
+
+TEST_F(WebBrowserTest, SaysThatThePageHasEndedAndLoadsItAgain)
+{
+    browser.Navigate(file("a.htm"));
+    page.finish();
+    page.taken();
+    page.listener->pageEnded();
+    EXPECT_EQ(strip(), QStringLiteral("The page has ended: the process that showed it is gone."));
+    EXPECT_FALSE(page.widget->isVisible());
+    QString text = QStringLiteral("untouched");
+    browser.pageText([&text](const QString &taken) { text = taken; });
+    EXPECT_EQ(text, QString());
+    browser.Refresh();
+    EXPECT_THAT(page.taken(), ElementsAre(QStringLiteral("load file:///site/a.htm")));
+    page.finish();
+    EXPECT_TRUE(page.widget->isVisible());
+    EXPECT_EQ(strip(), QString());
+}
+
+TEST_F(WebBrowserTest, GoesOnToWhatWaitsWhenAPageEnds)
+{
+    browser.Navigate(file("a.htm"));
+    browser.Navigate(file("b.htm"));
+    page.taken();
+    page.listener->pageEnded();
+    EXPECT_THAT(page.taken(), ElementsAre(QStringLiteral("load file:///site/b.htm")));
+    EXPECT_EQ(strip(), QString());
+}
+
+TEST_F(WebBrowserTest, OnlyNotesTheTargetAsLongAsNothingWasLoaded)
+{
+    browser.NavigateIfRunning(file("a.htm"));
+    EXPECT_EQ(browser.LocationURL(), QStringLiteral("file:///site/a.htm"));
+    EXPECT_EQ(views.asked, 0);
+    EXPECT_FALSE(browser.isLoading());
+    browser.Refresh();
+    EXPECT_THAT(page.taken(), ElementsAre(QStringLiteral("load file:///site/a.htm")));
+    page.finish();
+    browser.NavigateIfRunning(file("b.htm"));
+    EXPECT_THAT(page.taken(), ElementsAre(QStringLiteral("load file:///site/b.htm")));
+}
+
+TEST_F(WebBrowserTest, SaysWhatIsMissingAndTriesAgain)
+{
+    views.isThere = false;
+    browser.Navigate(file("a.htm"));
+    EXPECT_EQ(strip(), QStringLiteral("It is not there."));
+    EXPECT_FALSE(again()->isVisible());
+    EXPECT_EQ(browser.LocationURL(), QStringLiteral("file:///site/a.htm"));
+    EXPECT_FALSE(browser.isLoading());
+    views.isThere = true;
+    browser.Navigate(file("b.htm"));
+    EXPECT_THAT(page.taken(), ElementsAre(QStringLiteral("load file:///site/b.htm")));
+    EXPECT_EQ(strip(), QString());
+}
+
+TEST_F(WebBrowserTest, HandsItsCommandsToTheView)
+{
+    browser.Navigate(file("a.htm"));
+    page.finish();
+    page.taken();
+    browser.GoBack();
+    browser.GoForward();
+    browser.Refresh();
+    browser.Stop();
+    EXPECT_THAT(page.taken(), ElementsAre(QStringLiteral("back"), QStringLiteral("forward"), QStringLiteral("reload"),
+                                          QStringLiteral("stop")));
+}
+
+TEST_F(WebBrowserTest, GoesToAnEmptyPageWhenThePageWantsToBeClosed)
+{
+    browser.Navigate(file("a.htm"));
+    page.finish();
+    page.taken();
+    page.listener->closeAsked();
+    EXPECT_THAT(page.taken(), ElementsAre(QStringLiteral("load about:blank")));
+    EXPECT_EQ(browser.LocationURL(), QStringLiteral("about:blank"));
+}
+
+TEST_F(WebBrowserTest, ShowsWhatThePageSaysInOneShortPlainLine)
+{
+    browser.Navigate(file("a.htm"));
+    page.listener->messageGiven(QStringLiteral("<b>one</b>\n  two"));
+    EXPECT_EQ(strip(), QStringLiteral("The page says: <b>one</b> two"));
+    page.listener->messageGiven(QString(1000, u'x'));
+    EXPECT_EQ(strip(), QStringLiteral("The page says: ") + QString(200, u'x') + QChar(0x2026));
+    page.listener->downloadRefused(QUrl(QStringLiteral("file:///site/a.zip")));
+    EXPECT_EQ(strip(), QStringLiteral("This is no page, and is not downloaded: file:///site/a.zip"));
+    page.finish();
+    browser.Navigate(file("b.htm"));
+    EXPECT_EQ(strip(), QString());
+}
+
+TEST_F(WebBrowserTest, SendsNoFormUnlessItIsLet)
+{
+    browser.Navigate(file("a.htm"));
+    const QUrl where(QStringLiteral("http://example.org/take"));
+    EXPECT_FALSE(page.listener->maySendForm(where));
+    QStringList asked;
+    browser.setMaySend([&asked](const QUrl &url) {
+        asked << url.host();
+        return true;
+    });
+    EXPECT_TRUE(page.listener->maySendForm(where));
+    EXPECT_THAT(asked, ElementsAre(QStringLiteral("example.org")));
+}
+} // namespace
