@@ -79,7 +79,7 @@ void dialogFigures(Figures &figures)
     ProgramContext &context = running.program().context();
     for (const std::unique_ptr<Form> &form : insertionForms(context))
         figures.add(form->Name() + QStringLiteral(" from command to painted"),
-                    openingTime(context.form(form->Name())) * Milli, QStringLiteral("ms"), 60);
+                    openingTime(*context.forms.find(form->Name())) * Milli, QStringLiteral("ms"), 60);
     figures.add(QStringLiteral("preview of a photograph of 12 megapixels"), loadingTime("jpg") * Milli,
                 QStringLiteral("ms"), 1000);
     figures.add(QStringLiteral("preview of a PNG of 12 megapixels"), loadingTime("png") * Milli, QStringLiteral("ms"),

@@ -4,7 +4,9 @@
 #include "common/mainWindow.h"
 #include "files/autoSavePause.h"
 #include "files/frmMsgNoFileForAutoSave.h"
+#include "files/frmMsgSaveChanges.h"
 #include "forms/form.h"
+#include "forms/formRuntime.h"
 #include "services/messageBoxes.h"
 #include "services/services.h"
 #include "services/settings.h"
@@ -73,7 +75,7 @@ bool DocumentFiles::mayCloseByExitList()
     MainWindow &frmMdi = *m_context.mainWindow;
     if (frmMdi.SaveListShown)
         return frmMdi.ExitInProgress;
-    Form &list = m_context.form(QStringLiteral("frmMsgSaveChanges"));
+    Form &list = m_context.forms.get<frmMsgSaveChanges>();
     list.Load();
     frmMdi.SaveListShown = true;
     frmMdi.setEnabled(false);
@@ -126,10 +128,10 @@ bool DocumentFiles::AutoSaveDocument(Document &document)
 void DocumentFiles::autoSaveNameless(Document &document)
 {
     m_context.screenPointer.setMousePointer(0);
-    Form &form = m_context.form(QStringLiteral("frmMsgNoFileForAutoSave"));
+    auto &form = m_context.forms.get<frmMsgNoFileForAutoSave>();
     if (form.isLoaded() || // it waits for an answer already
         !settings::isOn(m_context.services.settings, settings::AutoSaveUnsavedNotification))
         return;
-    static_cast<frmMsgNoFileForAutoSave &>(form).setDocument(document);
+    form.setDocument(document);
     form.ShowModal();
 }

@@ -5,9 +5,11 @@
 #include "common/siteProject.h"
 #include "files/autoSavePause.h"
 #include "files/fileDialogRows.h"
+#include "files/frmMsgAddSavedFileToProject.h"
 #include "files/modFileNames.h"
 #include "files/unsavedDocuments.h"
 #include "forms/form.h"
+#include "forms/formRuntime.h"
 #include "services/commonDialogs.h"
 #include "services/fileSystem.h"
 #include "services/messageBoxes.h"
@@ -247,7 +249,7 @@ void DocumentFiles::offerToProject(Document &document)
         !frmMdi.AskedForThisSession) {
         frmMdi.AddSavedFileAnswer = false;
         document.setAutoSaveEnabled(false);
-        m_context.form(QStringLiteral("frmMsgAddSavedFileToProject")).ShowModal();
+        m_context.forms.showModal<frmMsgAddSavedFileToProject>();
         document.setAutoSaveEnabled(true);
         document.txtEdit().SetFocus();
         add = frmMdi.AddSavedFileAnswer;

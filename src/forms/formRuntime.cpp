@@ -9,8 +9,24 @@ FormRuntime::FormRuntime() = default;
 
 FormRuntime::~FormRuntime()
 {
-    discardAll();
-    m_adopted.clear();
+    end();
+}
+
+void FormRuntime::own(std::unique_ptr<Form> form)
+{
+    m_owned.push_back(std::move(form));
+}
+
+Form *FormRuntime::find(const QString &name) const
+{
+    const auto found =
+        std::find_if(m_owned.begin(), m_owned.end(), [&](const auto &owned) { return owned->Name() == name; });
+    return found == m_owned.end() ? loaded(name) : found->get();
+}
+
+void FormRuntime::missing(const char *name)
+{
+    qFatal("The session has no form of the class %s", name);
 }
 
 Form *FormRuntime::loaded(const QString &name) const
@@ -50,6 +66,13 @@ void FormRuntime::discardAll()
     // The windows of dialogs and documents lie in the main window's, so that one goes last.
     while (!m_loaded.isEmpty())
         m_loaded.last()->discard();
+}
+
+void FormRuntime::end()
+{
+    discardAll();
+    m_adopted.clear();
+    m_owned.clear();
 }
 
 void FormRuntime::add(Form *form)

@@ -1,14 +1,16 @@
 #pragma once
 
 #include <QList>
+#include <QString>
 #include <memory>
+#include <typeinfo>
 #include <vector>
 
 class Form;
 class MdiForm;
 class QMdiArea;
 
-/// The loaded forms of a session, in loading order.
+/// The forms of a session: those that it owns, loaded or not, and the loaded ones in loading order.
 class FormRuntime
 {
 public:
@@ -16,6 +18,31 @@ public:
     ~FormRuntime();
     FormRuntime(const FormRuntime &) = delete;
     FormRuntime &operator=(const FormRuntime &) = delete;
+
+    /// Takes over a form that lives as long as the session, loaded or not.
+    void own(std::unique_ptr<Form> form);
+    /// The session's form of that class. A session without it is a fault of the program, which ends at once.
+    template <class T>
+    T &get() const
+    {
+        for (const std::unique_ptr<Form> &form : m_owned)
+            if (auto *wanted = dynamic_cast<T *>(form.get()))
+                return *wanted;
+        missing(typeid(T).name());
+    }
+    template <class T>
+    void show() const
+    {
+        get<T>().Show();
+    } ///< modeless
+    template <class T>
+    void showModal() const
+    {
+        get<T>().ShowModal();
+    } ///< returns once it is unloaded or hidden
+    /// A form of the session, loaded or not, or else the first loaded one of that name; nothing if there is none. For
+    /// names that come from tables and scripts: where the class is known, ask by it.
+    Form *find(const QString &name) const;
 
     /// The loaded forms from the first loaded to the last. A copy, so that a scan survives what it does.
     QList<Form *> loaded() const { return m_loaded; }
@@ -42,14 +69,18 @@ public:
 
     /// Takes every window away without running a handler.
     void discardAll();
+    /// The same, and gives up the forms that the session owns.
+    void end();
 
 private:
     friend class Form;
+    [[noreturn]] static void missing(const char *name);
     void add(Form *form);
     void remove(Form *form);
     void releaseAdopted(Form *form);
 
     QList<Form *> m_loaded;
+    std::vector<std::unique_ptr<Form>> m_owned;
     std::vector<std::unique_ptr<Form>> m_adopted;
     Form *m_mainForm = nullptr;
     QMdiArea *m_mdiArea = nullptr;

@@ -9,7 +9,6 @@
 struct Services;
 class CodeKnowledge;
 class FileCommands;
-class Form;
 class FormRuntime;
 class NodeTreeModel;
 class SiteProject;
@@ -28,7 +27,5 @@ struct ProgramContext {
     std::shared_ptr<NodeTreeModel> codeElements = {};  ///< the elements that the code assistant offers in all documents
     QString version = {};                              ///< the program's: major.minor.revision
     std::function<Document *()> newBlankDocument = {}; ///< shows a new, empty document; nothing if memory ran out
-    std::function<Form &(const QString &)> form = {};  ///< a form of the session by its name
-    std::function<bool(const QString &)> hasForm = {}; ///< whether the session has a form of that name
     std::function<void()> end = {};                    ///< ends the program at once; no further handler of a form runs
 };

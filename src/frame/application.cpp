@@ -13,14 +13,12 @@
 #include "internet/frmMsgPreviewUnsavedDocument.h"
 #include "shell/frmWelcome.h"
 
-#include <algorithm>
+#include <utility>
 
 Application::Application(Services &services)
     : m_context{.services = services, .forms = m_forms, .state = m_state, .screenPointer = m_screenPointer}
 {
     m_context.version = QStringLiteral(TAGWRIGHTER_VERSION);
-    m_context.form = [this](const QString &name) -> Form & { return *form(name); };
-    m_context.hasForm = [this](const QString &name) { return form(name) != nullptr; };
     m_context.newBlankDocument = [this] { return NewBlankDocument(m_context); };
     m_context.end = [this] { End(); };
     m_mdi = &own<frmMdi>(m_context, m_commandLine);
@@ -29,7 +27,7 @@ Application::Application(Services &services)
     addFiles();
     own<frmMsgPreviewUnsavedDocument>(m_context);
     for (std::unique_ptr<Form> &form : insertionForms(m_context))
-        add(std::move(form));
+        m_forms.own(std::move(form));
     connect(m_mdi, &Form::unloaded, this, &Application::End);
 }
 
@@ -47,7 +45,7 @@ void Application::addFiles()
 Application::~Application()
 {
     disconnect(m_mdi, nullptr, this, nullptr);
-    m_forms.discardAll();
+    m_forms.end();
 }
 
 template <class T, class... Arguments>
@@ -55,13 +53,8 @@ T &Application::own(Arguments &&...arguments)
 {
     auto form = std::make_unique<T>(std::forward<Arguments>(arguments)...);
     T &owned = *form;
-    add(std::move(form));
+    m_forms.own(std::move(form));
     return owned;
-}
-
-void Application::add(std::unique_ptr<Form> form)
-{
-    m_owned.push_back(std::move(form));
 }
 
 void Application::Main(const QString &commandLine)
@@ -78,11 +71,4 @@ void Application::End()
     m_ended = true;
     m_forms.discardAll();
     Q_EMIT ended();
-}
-
-Form *Application::form(const QString &name) const
-{
-    const auto found =
-        std::find_if(m_owned.begin(), m_owned.end(), [&](const auto &owned) { return owned->Name() == name; });
-    return found == m_owned.end() ? m_forms.loaded(name) : found->get();
 }

@@ -6,7 +6,6 @@
 
 #include <QObject>
 #include <memory>
-#include <vector>
 
 class FileCommands;
 class frmMdi;
@@ -31,10 +30,8 @@ public:
     const QString &commandLine() const { return m_commandLine; }
     ProgramContext &context() { return m_context; }
     FormRuntime &forms() { return m_forms; }
-    /// Takes over one more form for the session.
-    void add(std::unique_ptr<Form> form);
     /// Any form of the session, loaded or not, by its name; documents are found among the loaded forms only.
-    Form *form(const QString &name) const;
+    Form *form(const QString &name) const { return m_forms.find(name); }
 
 Q_SIGNALS:
     void ended(); ///< the main window is gone, by its unload or by End
@@ -51,7 +48,6 @@ private:
     QString m_commandLine;
     bool m_ended = false;
     std::unique_ptr<FileCommands> m_files;
-    std::vector<std::unique_ptr<Form>> m_owned;
     frmMdi *m_mdi = nullptr;
     frmSplash *m_splash = nullptr;
 };

@@ -4,6 +4,7 @@
 #include "common/fileCommands.h"
 #include "document/modDocument.h"
 #include "files/modRecentFiles.h"
+#include "forms/formRuntime.h"
 #include "frame/frmMdiBands.h"
 #include "frame/frmMdiCommands.h"
 #include "frame/frmMdiPane.h"
@@ -11,6 +12,7 @@
 #include "services/services.h"
 #include "services/settings.h"
 #include "shell/commandLine.h"
+#include "shell/frmWelcome.h"
 #include "widgets/controls.h"
 #include "widgets/coolBar.h"
 #include "widgets/nodeTree.h"
@@ -189,7 +191,7 @@ void frmMdi::decideWelcome()
         return;
     }
     setEnabled(false);
-    Form &welcome = context().form(QStringLiteral("frmWelcome"));
+    Form &welcome = context().forms.get<frmWelcome>();
     welcome.Load();
     presentWindow();
     welcome.Show();

@@ -1,5 +1,6 @@
 // The making of the main window's menus and toolbars, and their enabling.
 #include "forms/form.h"
+#include "forms/formRuntime.h"
 #include "frame/frmMdi.h"
 #include "frame/frmMdiCommands.h"
 #include "services/services.h"
@@ -173,7 +174,7 @@ void MainCommands::enableSelectionEntries()
 bool MainCommands::isAvailable(const CommandAction &action) const
 {
     if (action.kind == Kind::Form)
-        return m_context.hasForm(QLatin1String(action.form));
+        return m_context.forms.find(QLatin1String(action.form)) != nullptr;
     return action.kind != Kind::Later;
 }
 
@@ -198,7 +199,7 @@ void MainCommands::mnuEdit_Open()
     const bool selected = active && active->txtEdit().SelLength() > 0;
     const auto possible = active ? active->IsUndoRedoPossible() : Document::UndoRedo{};
     QAction *toLibrary = action(QStringLiteral("mnuAddToCodeLibrary"));
-    toLibrary->setEnabled(selected && m_context.hasForm(QStringLiteral("frmAddToCodeLib")));
+    toLibrary->setEnabled(selected && m_context.forms.find(QStringLiteral("frmAddToCodeLib")));
     action(QStringLiteral("mnuUndo"))->setEnabled(possible.undo);
     action(QStringLiteral("mnuRedo"))->setEnabled(possible.redo);
 }
@@ -230,7 +231,7 @@ void MainCommands::run(const CommandAction &action)
         (this->*action.run)();
         break;
     case Kind::Form:
-        m_context.form(QLatin1String(action.form)).Show();
+        m_context.forms.find(QLatin1String(action.form))->Show();
         break;
     case Kind::Wrap:
         wrapSelection(action);

@@ -1,6 +1,8 @@
 #include "insertion/frmColourSelSafe.h"
 
+#include "forms/formRuntime.h"
 #include "insertion/colourPreview.h"
+#include "insertion/frmColourSel.h"
 #include "insertion/modColourProcesses.h"
 #include "widgets/colourPalette.h"
 #include "widgets/layout.h"
@@ -38,7 +40,7 @@ void frmColourSelSafe::Form_Load()
 /// The wider choice leaves its colour in the same place; left without one, this palette stays.
 void frmColourSelSafe::cmdOther_Click()
 {
-    context().form(QStringLiteral("frmColourSel")).ShowModal();
+    context().forms.showModal<frmColourSel>();
     if (!context().state.ColourCode.isEmpty())
         Unload();
 }

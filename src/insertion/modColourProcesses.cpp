@@ -2,7 +2,9 @@
 
 #include "common/colourText.h"
 #include "forms/form.h"
+#include "forms/formRuntime.h"
 #include "forms/programContext.h"
+#include "insertion/frmColourSelSafe.h"
 #include "widgets/colourSelection.h"
 #include "widgets/themeColour.h"
 
@@ -66,7 +68,7 @@ QString PickColour(ProgramContext &context)
 {
     context.state.ColourCode.clear();
     const QPointer<QWidget> before = QApplication::activeWindow();
-    context.form(QStringLiteral("frmColourSelSafe")).ShowModal();
+    context.forms.showModal<frmColourSelSafe>();
     if (before) // the desktop may take the owner of both for the window to go back to
         before->activateWindow();
     return context.state.ColourCode;

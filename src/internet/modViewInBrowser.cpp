@@ -3,7 +3,9 @@
 #include "common/fileCommands.h"
 #include "common/paths.h"
 #include "forms/form.h"
+#include "forms/formRuntime.h"
 #include "forms/programContext.h"
+#include "internet/frmMsgPreviewUnsavedDocument.h"
 #include "services/launcher.h"
 #include "services/messageBoxes.h"
 #include "services/services.h"
@@ -48,7 +50,7 @@ void chooseHowToPreview(ProgramContext &context)
     if (settings::isOn(store, settings::DontShowPreviewUnsavedFile))
         context.state.PreviewUseTempCopy = settings::previewsByCopy(store);
     else
-        context.form(QStringLiteral("frmMsgPreviewUnsavedDocument")).ShowModal();
+        context.forms.showModal<frmMsgPreviewUnsavedDocument>();
 }
 
 void previewCopy(ProgramContext &context, const Document &document)

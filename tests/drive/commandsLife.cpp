@@ -135,7 +135,7 @@ void testForm(Stage &stage, const Line &line)
         if (!form)
             stage.referee.wrong(QStringLiteral("there is no test form %1; there are %2")
                                     .arg(name, testFormNames().join(QStringLiteral(", "))));
-        program.add(std::move(form));
+        program.forms().own(std::move(form));
     }
     program.form(name)->Show();
 }

@@ -10,14 +10,13 @@ FilesTest::FilesTest()
     context.mainWindow = &mainWindow;
     context.files = &files;
     context.newBlankDocument = [this]() -> Document * { return &newDocument(); };
-    context.form = [this](const QString &name) -> Form & { return *m_forms.at(name); };
     context.end = [this] { ended = true; };
     setting("AppPaths", QStringLiteral("WorkingDir"), m_folder.path());
 }
 
 FilesTest::~FilesTest()
 {
-    m_runtime.discardAll();
+    m_runtime.end();
 }
 
 FakeDocument &FilesTest::newDocument()

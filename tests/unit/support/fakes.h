@@ -27,7 +27,6 @@
 #include <QPoint>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
-#include <map>
 #include <memory>
 
 // A program of fakes around the real code of the files' side: documents without windows, boxes and dialogs that are
@@ -290,7 +289,7 @@ protected:
     {
         auto form = std::make_unique<T>(context);
         T &added = *form;
-        m_forms[added.Name()] = std::move(form);
+        m_runtime.own(std::move(form));
         return added;
     }
 
@@ -319,7 +318,6 @@ private:
     FormRuntime m_runtime;
     ScreenPointer m_pointer;
     std::vector<std::unique_ptr<FakeDocument>> m_documents;
-    std::map<QString, std::unique_ptr<Form>> m_forms;
 
 protected:
     ProgramContext context;
