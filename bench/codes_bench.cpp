@@ -1,6 +1,7 @@
 // What the program's knowledge of HTML and CSS costs: its load, and the code assistant at each key.
 #include "codeknowledge/codeLibraries.h"
 #include "codeknowledge/tagHelp.h"
+#include "common/mainWindow.h"
 #include "common/paths.h"
 #include "common/text.h"
 #include "document/assistantWords.h"

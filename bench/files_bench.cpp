@@ -1,5 +1,6 @@
 // What opening files costs, and what a program at rest does.
 #include "common/fileCommands.h"
+#include "common/mainWindow.h"
 #include "figures.h"
 #include "pages.h"
 #include "runningProgram.h"

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/mainWindow.h"
 #include "desktop/desktopServices.h"
 #include "frame/application.h"
 

@@ -1,6 +1,7 @@
 #include "codeknowledge/codeInsertion.h"
 
 #include "common/codeKnowledge.h"
+#include "common/mainWindow.h"
 #include "forms/programContext.h"
 
 namespace

@@ -1,6 +1,7 @@
 #include "codeknowledge/tagHelp.h"
 
 #include "common/codeKnowledge.h"
+#include "common/mainWindow.h"
 #include "common/textReader.h"
 #include "forms/modLaunchHTMLHelp.h"
 #include "forms/programContext.h"

@@ -1,5 +1,6 @@
 #include "document/colouringPass.h"
 
+#include "common/mainWindow.h"
 #include "document/frmWrite.h"
 #include "services/services.h"
 #include "services/timer.h"

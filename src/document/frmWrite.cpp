@@ -2,6 +2,7 @@
 
 #include "common/fileCommands.h"
 #include "common/fileFormatText.h"
+#include "common/mainWindow.h"
 #include "common/paths.h"
 #include "document/viewingPanes.h"
 #include "services/services.h"

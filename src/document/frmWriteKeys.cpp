@@ -1,5 +1,6 @@
 // What a document window does at the keys and changes of its edit surface.
 #include "codeknowledge/tagHelp.h"
+#include "common/mainWindow.h"
 #include "document/codeAssistant.h"
 #include "document/frmWrite.h"
 #include "document/modClipboard.h"

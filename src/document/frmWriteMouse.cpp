@@ -1,5 +1,6 @@
 // What a document window does at the mouse and at drops on its edit surface, and when that is scrolled.
 #include "common/fileCommands.h"
+#include "common/mainWindow.h"
 #include "document/assistantWords.h"
 #include "document/codeAssistant.h"
 #include "document/frmWrite.h"

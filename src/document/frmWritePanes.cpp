@@ -1,5 +1,6 @@
 // The two panes of a document window: the source, and the preview that follows it.
 #include "browser/webBrowser.h"
+#include "common/mainWindow.h"
 #include "document/codeAssistant.h"
 #include "document/frmWrite.h"
 #include "document/modBrowserControl.h"

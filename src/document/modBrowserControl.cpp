@@ -1,6 +1,8 @@
 #include "document/modBrowserControl.h"
 
 #include "common/browser.h"
+#include "common/mainWindow.h"
+#include "common/programState.h"
 #include "forms/programContext.h"
 #include "services/doEvents.h"
 #include "services/services.h"

@@ -1,6 +1,7 @@
 #include "document/modClipboard.h"
 
 #include "common/document.h"
+#include "common/mainWindow.h"
 #include "forms/programContext.h"
 #include "services/clipboard.h"
 #include "services/services.h"

@@ -2,6 +2,7 @@
 
 #include "common/encodings.h"
 #include "common/fileCommands.h"
+#include "common/mainWindow.h"
 #include "common/text.h"
 #include "document/frmWrite.h"
 #include "forms/formRuntime.h"

@@ -2,6 +2,7 @@
 #include "files/documentFiles.h"
 
 #include "common/mainWindow.h"
+#include "common/programState.h"
 #include "files/autoSavePause.h"
 #include "files/frmMsgNoFileForAutoSave.h"
 #include "files/frmMsgSaveChanges.h"

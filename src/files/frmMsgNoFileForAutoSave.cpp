@@ -1,5 +1,6 @@
 #include "files/frmMsgNoFileForAutoSave.h"
 
+#include "common/document.h"
 #include "common/fileCommands.h"
 #include "files/unsavedDocuments.h"
 #include "services/services.h"

@@ -1,6 +1,8 @@
 #include "files/frmMsgSaveChanges.h"
 
 #include "common/fileCommands.h"
+#include "common/mainWindow.h"
+#include "common/programState.h"
 #include "files/unsavedDocuments.h"
 #include "widgets/layout.h"
 

@@ -1,6 +1,7 @@
 #include "files/frmProperties.h"
 
 #include "common/fileCommands.h"
+#include "common/mainWindow.h"
 #include "common/paths.h"
 #include "files/metaElements.h"
 #include "services/services.h"

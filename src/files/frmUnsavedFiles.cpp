@@ -1,6 +1,7 @@
 #include "files/frmUnsavedFiles.h"
 
 #include "common/fileCommands.h"
+#include "common/mainWindow.h"
 #include "files/unsavedDocuments.h"
 #include "widgets/layout.h"
 

@@ -1,6 +1,7 @@
 #include "files/modRecentFiles.h"
 
 #include "common/encodings.h"
+#include "common/mainWindow.h"
 #include "common/paths.h"
 #include "forms/programContext.h"
 #include "services/fileSystem.h"

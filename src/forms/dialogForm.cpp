@@ -1,5 +1,8 @@
 #include "forms/dialogForm.h"
 
+#include "common/mainWindow.h"
+#include "common/programState.h"
+
 void DialogForm::prepareLoad()
 {
     frmMdi().setEnabled(false);

@@ -1,15 +1,16 @@
 #pragma once
 
-#include "common/mainWindow.h"
-#include "common/programState.h"
-
+#include <QString>
 #include <functional>
 #include <memory>
 
+struct ProgramState;
 struct Services;
 class CodeKnowledge;
+class Document;
 class FileCommands;
 class FormRuntime;
+class MainWindow;
 class NodeTreeModel;
 class SiteProject;
 class ScreenPointer;

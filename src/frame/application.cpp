@@ -1,5 +1,6 @@
 #include "frame/application.h"
 
+#include "common/mainWindow.h"
 #include "document/modDocument.h"
 #include "files/documentFiles.h"
 #include "files/frmMsgAddSavedFileToProject.h"

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/programState.h"
 #include "forms/formRuntime.h"
 #include "forms/programContext.h"
 #include "widgets/screenPointer.h"

@@ -2,6 +2,7 @@
 #include "frame/frmMdi.h"
 
 #include "common/fileCommands.h"
+#include "common/programState.h"
 #include "forms/formRuntime.h"
 #include "forms/mdiForm.h"
 #include "frame/frmMdiBands.h"

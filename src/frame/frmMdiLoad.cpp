@@ -2,6 +2,7 @@
 #include "frame/frmMdi.h"
 
 #include "common/fileCommands.h"
+#include "common/programState.h"
 #include "document/modDocument.h"
 #include "files/modRecentFiles.h"
 #include "forms/formRuntime.h"

@@ -1,5 +1,6 @@
 #include "frame/frmMdiPane.h"
 
+#include "common/mainWindow.h"
 #include "common/paths.h"
 #include "forms/form.h"
 #include "services/fileSystem.h"

@@ -1,5 +1,6 @@
 #include "insertion/frmColourSelSafe.h"
 
+#include "common/programState.h"
 #include "forms/formRuntime.h"
 #include "insertion/colourPreview.h"
 #include "insertion/frmColourSel.h"

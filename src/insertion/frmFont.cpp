@@ -1,5 +1,6 @@
 #include "insertion/frmFont.h"
 
+#include "common/mainWindow.h"
 #include "insertion/attributeText.h"
 #include "insertion/modColourProcesses.h"
 #include "insertion/modFontTags.h"

@@ -1,5 +1,6 @@
 #include "insertion/frmInsImage.h"
 
+#include "common/mainWindow.h"
 #include "common/numbers.h"
 #include "insertion/attributeText.h"
 #include "insertion/imageFilter.h"

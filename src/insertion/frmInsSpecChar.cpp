@@ -1,5 +1,6 @@
 #include "insertion/frmInsSpecChar.h"
 
+#include "common/mainWindow.h"
 #include "forms/modLaunchHTMLHelp.h"
 #include "widgets/characterGrid.h"
 #include "widgets/layout.h"

@@ -1,5 +1,6 @@
 #include "insertion/frmInsTable.h"
 
+#include "common/mainWindow.h"
 #include "forms/formRuntime.h"
 #include "widgets/numberField.h"
 #include "widgets/spinButton.h"

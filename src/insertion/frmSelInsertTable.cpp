@@ -1,5 +1,6 @@
 #include "insertion/frmSelInsertTable.h"
 
+#include "common/mainWindow.h"
 #include "insertion/tableMarkup.h"
 #include "widgets/pictureBox.h"
 #include "widgets/screenPointer.h"

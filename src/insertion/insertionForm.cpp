@@ -1,5 +1,6 @@
 #include "insertion/insertionForm.h"
 
+#include "common/mainWindow.h"
 #include "common/paths.h"
 #include "forms/modLaunchHTMLHelp.h"
 #include "services/messageBoxes.h"

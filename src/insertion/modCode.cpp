@@ -1,5 +1,6 @@
 #include "insertion/modCode.h"
 
+#include "common/mainWindow.h"
 #include "forms/programContext.h"
 
 void wrapPlainly(ProgramContext &context, const QString &openText, const QString &closeText)

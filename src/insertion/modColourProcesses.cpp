@@ -1,6 +1,8 @@
 #include "insertion/modColourProcesses.h"
 
 #include "common/colourText.h"
+#include "common/mainWindow.h"
+#include "common/programState.h"
 #include "forms/form.h"
 #include "forms/formRuntime.h"
 #include "forms/programContext.h"

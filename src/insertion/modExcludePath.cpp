@@ -1,5 +1,6 @@
 #include "insertion/modExcludePath.h"
 
+#include "common/mainWindow.h"
 #include "common/paths.h"
 #include "common/text.h"
 #include "forms/programContext.h"

@@ -1,5 +1,6 @@
 #include "internet/frmMsgPreviewUnsavedDocument.h"
 
+#include "common/programState.h"
 #include "forms/modLaunchHTMLHelp.h"
 #include "services/services.h"
 #include "services/settings.h"

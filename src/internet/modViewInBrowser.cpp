@@ -1,7 +1,9 @@
 #include "internet/modViewInBrowser.h"
 
 #include "common/fileCommands.h"
+#include "common/mainWindow.h"
 #include "common/paths.h"
+#include "common/programState.h"
 #include "forms/form.h"
 #include "forms/formRuntime.h"
 #include "forms/programContext.h"

@@ -1,5 +1,6 @@
 #include "shell/frmWelcome.h"
 
+#include "common/mainWindow.h"
 #include "services/services.h"
 #include "services/settings.h"
 #include "widgets/layout.h"

@@ -1,5 +1,6 @@
 // Keys, mouse, clipboard, drag and drop: what the user does without regard to what is under it.
 #include "common/document.h"
+#include "common/mainWindow.h"
 #include "drive/commands.h"
 #include "drive/controlAdapter.h"
 #include "drive/events.h"

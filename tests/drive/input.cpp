@@ -1,6 +1,7 @@
 #include "drive/input.h"
 
 #include "common/document.h"
+#include "common/mainWindow.h"
 #include "drive/controlAdapter.h"
 #include "drive/events.h"
 #include "drive/stage.h"

@@ -1,5 +1,6 @@
 #include "drive/menus.h"
 
+#include "common/mainWindow.h"
 #include "drive/events.h"
 #include "drive/input.h"
 #include "drive/stage.h"

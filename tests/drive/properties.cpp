@@ -1,6 +1,7 @@
 #include "drive/properties.h"
 
 #include "common/document.h"
+#include "common/mainWindow.h"
 #include "drive/controlAdapter.h"
 #include "drive/stage.h"
 #include "drive/targets.h"

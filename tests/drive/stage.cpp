@@ -1,5 +1,6 @@
 #include "drive/stage.h"
 
+#include "common/mainWindow.h"
 #include "drive/commands.h"
 #include "drive/events.h"
 #include "drive/told.h"

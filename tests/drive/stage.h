@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/mainWindow.h"
 #include "drive/desktop.h"
 #include "drive/referee.h"
 #include "drive/script.h"

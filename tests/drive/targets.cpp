@@ -1,5 +1,6 @@
 #include "drive/targets.h"
 
+#include "common/mainWindow.h"
 #include "drive/script.h"
 #include "drive/stage.h"
 #include "drive/told.h"

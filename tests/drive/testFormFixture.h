@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/programState.h"
 #include "controlAdapter.h"
 #include "desktop/desktopServices.h"
 #include "forms/eventModalLoop.h"

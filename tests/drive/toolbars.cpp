@@ -1,5 +1,6 @@
 #include "drive/toolbars.h"
 
+#include "common/mainWindow.h"
 #include "drive/events.h"
 #include "drive/input.h"
 #include "drive/menus.h"

@@ -1,5 +1,6 @@
 #include "unit/support/fakes.h"
 
+#include "common/mainWindow.h"
 #include "files/frmMsgNoFileForAutoSave.h"
 #include "files/frmMsgSaveChanges.h"
 #include "files/frmUnsavedFiles.h"

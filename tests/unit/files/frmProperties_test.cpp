@@ -1,5 +1,6 @@
 #include "files/frmProperties.h"
 
+#include "common/mainWindow.h"
 #include "unit/support/fakes.h"
 
 #include <QCheckBox>

@@ -1,3 +1,4 @@
+#include "common/mainWindow.h"
 #include "unit/support/fakes.h"
 
 #include <sys/socket.h>

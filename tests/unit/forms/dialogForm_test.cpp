@@ -1,5 +1,7 @@
 #include "forms/dialogForm.h"
 
+#include "common/mainWindow.h"
+#include "common/programState.h"
 #include "surface/editSurface.h"
 #include "unit/support/testDesktop.h"
 

@@ -1,4 +1,5 @@
 // What a document window does that no script of the user can look at.
+#include "common/mainWindow.h"
 #include "desktop/desktopServices.h"
 #include "document/frmWrite.h"
 #include "frame/application.h"

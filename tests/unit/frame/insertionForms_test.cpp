@@ -1,5 +1,6 @@
 #include "insertion/insertionForms.h"
 
+#include "common/mainWindow.h"
 #include "desktop/desktopServices.h"
 #include "forms/dialogForm.h"
 #include "forms/formRuntime.h"

@@ -1,3 +1,4 @@
+#include "common/mainWindow.h"
 #include "desktop/desktopServices.h"
 #include "forms/form.h"
 #include "frame/application.h"

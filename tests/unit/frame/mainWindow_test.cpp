@@ -1,3 +1,5 @@
+#include "common/mainWindow.h"
+#include "common/programState.h"
 #include "desktop/desktopServices.h"
 #include "forms/formRuntime.h"
 #include "frame/application.h"

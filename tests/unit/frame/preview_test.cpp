@@ -1,6 +1,8 @@
 // The live preview on a machine without a page engine, and at a start.
 #include "browser/modulePageViews.h"
 #include "browser/webBrowser.h"
+#include "common/mainWindow.h"
+#include "common/programState.h"
 #include "desktop/desktopServices.h"
 #include "forms/form.h"
 #include "frame/application.h"

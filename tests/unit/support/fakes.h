@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/mainWindow.h"
+#include "common/programState.h"
 #include "common/siteProject.h"
 #include "files/documentFiles.h"
 #include "forms/form.h"
