@@ -172,6 +172,35 @@ TEST_F(Dev, InstallsForLintWhatOnlyLintNeeds)
     EXPECT_THAT(deeds().constLast().toStdString(), testing::EndsWith(" clang-tidy"));
 }
 
+TEST_F(Dev, LintsWhatDiffersFromMainAlone)
+{
+    for (const char *name : {"find", "grep", "head", "sort"})
+        ASSERT_TRUE(QFile::link(QStringLiteral("/usr/bin/") + QLatin1String{name}, bin(name)));
+    pretend("dpkg-query", "printf '%s\\n' 'g++ installed' 'cmake installed' 'clang-tidy installed'");
+    pretend(
+        "git",
+        "case $1 in merge-base) echo base ;; diff) printf '%s\\n' src/a.h dev src/b.cpp ;; *) echo tests/c.h ;; esac");
+    for (const char *name : {"clang-format", "shellcheck"})
+        pretend(name, ":");
+    for (const char *name : {"tree/src", "tree/tests", "tree/bench"})
+        QDir(m_folder.path()).mkdir(QLatin1String{name});
+    write(tree("src/a.h"), "");
+    write(tree("src/a.cpp"), "");
+    write(tree("tests/d.cpp"), "#include \"unit/c.h\"\n");
+    pretend("cmake", "mkdir -p build/lint && : >build/lint/build.ninja");
+    EXPECT_EQ(dev({QStringLiteral("lint"), QStringLiteral("--changed")}).status, 0);
+    QStringList calls = deeds();
+    calls.removeIf([](const QString &call) { return call.startsWith(QLatin1String("git ")); });
+    calls.removeIf([](const QString &call) { return call.startsWith(QLatin1String("shellcheck ")); });
+    const QString root = QFileInfo(tree("src")).canonicalPath();
+    EXPECT_THAT(
+        calls,
+        ElementsAre(
+            QStringLiteral("clang-format --dry-run -Werror src/a.h src/b.cpp tests/c.h"),
+            QStringLiteral("cmake --preset lint"),
+            QStringLiteral("cmake --build build/lint -- -k 0 %1/src/a.cpp^ %1/src/b.cpp^ %1/tests/d.cpp^").arg(root)));
+}
+
 TEST_F(Dev, InstallsThroughSudoWhereTheUserIsNotRoot)
 {
     pretend("id", "echo 1000");
@@ -252,6 +281,7 @@ TEST_F(Dev, TellsItsUseWhereItIsMisused)
         {QStringLiteral("drive")},
         {QStringLiteral("drive"), QStringLiteral("--unknown"), QStringLiteral("a")},
         {QStringLiteral("test"), QStringLiteral("--unknown")},
+        {QStringLiteral("lint"), QStringLiteral("--unknown")},
         {QStringLiteral("shot")},
         {QStringLiteral("shot"), QStringLiteral("a.png"), QStringLiteral("--scale")},
         {QStringLiteral("shot"), QStringLiteral("a.png"), QStringLiteral("--scale"), QStringLiteral("b")},
