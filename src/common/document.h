@@ -2,6 +2,7 @@
 
 #include "common/encodings.h"
 #include "common/fileStamp.h"
+#include "common/notices.h"
 #include "common/textSurface.h"
 
 #include <optional>
@@ -31,6 +32,7 @@ public:
     Encoding plainEncoding = Encoding::Utf8; ///< what it is written in unless as Unicode
     bool mixedLineEnds = false;              ///< the file has line ends of more than one kind; a save makes them one
     std::optional<FileStamp> fileStamp;      ///< the file's state when it was opened or saved last; nothing if unknown
+    Notices notices;                         ///< what stands in the line above the text
     qint16 autoSaveTicks = 0;                ///< minutes since the last automatic save
     qsizetype AvailableDocumentLines = 0;    ///< lines as UpdateLineInformation last counted them
 

@@ -7,6 +7,7 @@
 
 class CodeAssistant;
 class EditSurface;
+class NoticeBar;
 class QPoint;
 class QUrl;
 class Timer;
@@ -71,6 +72,8 @@ protected:
 private:
     void buildPanes();
     void buildBrowser();
+    void buildNotices();
+    void showNotice();
     void buildSurface();
     void buildTimers();
     void buildAssistant();
@@ -113,10 +116,12 @@ private:
     void recordStep(const SurfaceKey &key);
     void leaveForPane(SurfaceKey &key);
     void openPopup(SurfaceKey &key);
+    void enterNotice(SurfaceKey &key);
     void openHelp(SurfaceKey &key);
     void runEditingKey(SurfaceKey &key);
     bool startIndentedLine();
 
+    NoticeBar *m_noticeBar = nullptr;
     ViewingPanes *m_panes = nullptr;
     EditSurface *m_edit = nullptr;
     WebBrowser *m_browser = nullptr;

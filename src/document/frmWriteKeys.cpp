@@ -9,6 +9,7 @@
 #include "services/settings.h"
 #include "services/timer.h"
 #include "surface/editSurface.h"
+#include "widgets/noticeBar.h"
 
 #include <utility>
 
@@ -88,6 +89,7 @@ void frmWrite::txtEdit_KeyDown(SurfaceKey &key)
     leaveForPane(key);
     openHelp(key);
     openPopup(key);
+    enterNotice(key);
     runEditingKey(key);
 }
 
@@ -181,6 +183,13 @@ void frmWrite::openPopup(SurfaceKey &key)
         return;
     showPopup(m_edit->positionOfCharacter(m_edit->SelStart()).bottomLeft());
     useUp(key);
+}
+
+/// The way to the line above the text without a mouse; Escape leads back.
+void frmWrite::enterNotice(SurfaceKey &key)
+{
+    if (key.key == Qt::Key_F8 && heldKeys(key) == Qt::NoModifier && m_noticeBar->takeFocus())
+        useUp(key);
 }
 
 void frmWrite::runEditingKey(SurfaceKey &key)

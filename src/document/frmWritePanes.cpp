@@ -25,7 +25,8 @@ void frmWrite::buildPanes()
     m_resized = false;
     IsSplit = false;
     m_panes = new ViewingPanes;
-    contents().addWidget(m_panes);
+    buildNotices();
+    contents().addWidget(m_panes, 1);
     buildSurface();
     buildBrowser();
     connect(m_panes, &ViewingPanes::resized, this, &frmWrite::Form_Resize);
@@ -62,7 +63,8 @@ bool frmWrite::maySendForm(const QUrl &where)
                                             "Do you want to send it?")
                                  .arg(where.host()),
                          .icon = MessageIcon::Question,
-                         .buttons = MessageButtons::YesNo};
+                         .buttons = MessageButtons::YesNo,
+                         .byEnter = MessageAnswer::No};
     return services().messageBoxes.show(box) == MessageAnswer::Yes;
 }
 

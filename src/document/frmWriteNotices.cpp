@@ -1,0 +1,35 @@
+// The line above a document's text.
+#include "document/frmWrite.h"
+#include "surface/editSurface.h"
+#include "widgets/noticeBar.h"
+
+#include <QApplication>
+#include <QVBoxLayout>
+
+void frmWrite::buildNotices()
+{
+    m_noticeBar = new NoticeBar;
+    contents().addWidget(m_noticeBar);
+    connect(m_noticeBar, &NoticeBar::pressed, this, [this](int button) { notices.press(button); });
+    connect(m_noticeBar, &NoticeBar::left, this, [this] { m_edit->SetFocus(); });
+    notices.watch([this] { showNotice(); });
+    showNotice();
+}
+
+void frmWrite::showNotice()
+{
+    if (!isLoaded())
+        return;
+    const bool hadFocus = m_noticeBar->isAncestorOf(QApplication::focusWidget());
+    const Notice *notice = notices.current();
+    QList<NoticeBar::Button> buttons;
+    if (notice)
+        for (const NoticeButton &button : notice->buttons)
+            buttons.append({button.caption, button.enabled});
+    if (notice)
+        m_noticeBar->tell(notice->text, buttons);
+    else
+        m_noticeBar->clear();
+    if (hadFocus) // the button that had it may be another one now
+        m_edit->SetFocus();
+}

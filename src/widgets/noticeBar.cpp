@@ -1,0 +1,167 @@
+#include "widgets/noticeBar.h"
+
+#include "widgets/noticeLayout.h"
+
+#include <QAccessible>
+#include <QEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QStyleOptionButton>
+#include <QStylePainter>
+#include <algorithm>
+
+namespace
+{
+constexpr int StripeWidth = 4;
+constexpr int Padding = 4;
+constexpr qreal Tint = 0.16; ///< how much of the mark's colour the line's ground has
+
+QColor mixed(const QColor &ground, const QColor &tint, qreal share)
+{
+    const auto part = [share](int a, int b) { return qRound(a * (1 - share) + b * share); };
+    return {part(ground.red(), tint.red()), part(ground.green(), tint.green()), part(ground.blue(), tint.blue())};
+}
+
+/// A button whose caption is plain text: a "&" in it is a "&" and no key's mark.
+class PlainButton final : public QPushButton
+{
+public:
+    using QPushButton::QPushButton;
+
+    void setCaption(const QString &caption)
+    {
+        setText(caption);
+        setShortcut({}); // which setText takes from a "&"
+    }
+
+    QSize sizeHint() const override
+    {
+        const QSize hint = QPushButton::sizeHint();
+        const int marks = static_cast<int>(text().count(u'&')); // not counted there
+        return {hint.width() + marks * fontMetrics().horizontalAdvance(u'&'), hint.height()};
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QStylePainter painter(this);
+        QStyleOptionButton option;
+        initStyleOption(&option);
+        option.text.replace(u'&', QStringLiteral("&&"));
+        painter.drawControl(QStyle::CE_PushButton, option);
+    }
+};
+} // namespace
+
+NoticeBar::NoticeBar(QWidget *parent) : QFrame(parent), m_layout(new NoticeLayout(this)), m_text(new QLabel(this))
+{
+    setObjectName(QStringLiteral("picNotice"));
+    setAutoFillBackground(true);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // it follows the width that there is
+    m_layout->setContentsMargins(StripeWidth + 2 * Padding, Padding, 2 * Padding, Padding);
+    m_text->setObjectName(QStringLiteral("lblNotice"));
+    m_text->setTextFormat(Qt::PlainText);
+    m_text->setWordWrap(true);
+    m_layout->addWidget(m_text);
+    followTheme();
+    hide();
+}
+
+void NoticeBar::tell(const QString &text, const QList<Button> &buttons)
+{
+    const bool isNew = isHidden() || m_text->text() != text;
+    m_text->setText(text);
+    setAccessibleName(text);
+    showButtons(buttons);
+    m_layout->invalidate();
+    updateGeometry();
+    show();
+    if (isNew)
+        announce();
+}
+
+void NoticeBar::clear()
+{
+    hide();
+    m_text->clear();
+    setAccessibleName({});
+    showButtons({});
+}
+
+bool NoticeBar::takeFocus()
+{
+    const auto first = std::find_if(m_buttons.begin(), m_buttons.end(), [](const QPushButton *button) {
+        return button->isVisible() && button->isEnabled();
+    });
+    if (first == m_buttons.end())
+        return false;
+    (*first)->setFocus(Qt::TabFocusReason);
+    return true;
+}
+
+void NoticeBar::showButtons(const QList<Button> &buttons)
+{
+    while (m_buttons.size() < buttons.size())
+        m_buttons.append(makeButton(static_cast<int>(m_buttons.size())));
+    for (qsizetype i = 0; i < m_buttons.size(); ++i) {
+        auto *button = static_cast<PlainButton *>(m_buttons[i]);
+        button->setVisible(i < buttons.size());
+        button->setCaption(i < buttons.size() ? buttons[i].caption : QString());
+        button->setEnabled(i < buttons.size() && buttons[i].enabled);
+    }
+}
+
+QPushButton *NoticeBar::makeButton(int index)
+{
+    auto *button = new PlainButton(this);
+    button->setObjectName(QStringLiteral("cmdNotice(%1)").arg(index));
+    button->setFocusPolicy(Qt::TabFocus); // a click leaves the keyboard where it is
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, [this, index] { Q_EMIT pressed(index); });
+    m_layout->addWidget(button);
+    return button;
+}
+
+void NoticeBar::announce()
+{
+    QAccessibleEvent event(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
+}
+
+void NoticeBar::changeEvent(QEvent *event)
+{
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ThemeChange)
+        followTheme();
+}
+
+/// The ground has a touch of the mark's colour, on a light theme and on a dark one.
+void NoticeBar::followTheme()
+{
+    if (m_colouring)
+        return;
+    m_colouring = true;
+    const QWidget *around = parentWidget();
+    const QPalette theme = around ? around->palette() : palette();
+    QPalette own = theme;
+    own.setColor(QPalette::Window, mixed(theme.color(QPalette::Window), theme.color(QPalette::Highlight), Tint));
+    setPalette(own);
+    m_colouring = false;
+}
+
+void NoticeBar::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape)
+        Q_EMIT left();
+    else
+        QFrame::keyPressEvent(event);
+}
+
+void NoticeBar::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.fillRect(0, 0, StripeWidth, height(), palette().color(QPalette::Highlight));
+    painter.fillRect(0, height() - 1, width(), 1, palette().color(QPalette::Mid));
+}
