@@ -41,17 +41,18 @@ QMessageBox::StandardButtons buttonsOf(MessageButtons buttons)
     return QMessageBox::Ok;
 }
 
-// The button that Enter presses is the first one, as the questions are worded for it.
-QMessageBox::StandardButton defaultOf(MessageButtons buttons)
+QMessageBox::StandardButton buttonOf(MessageAnswer answer)
 {
-    switch (buttons) {
-    case MessageButtons::YesNo:
-    case MessageButtons::YesNoCancel:
+    switch (answer) {
+    case MessageAnswer::Yes:
         return QMessageBox::Yes;
-    case MessageButtons::RetryCancel:
+    case MessageAnswer::No:
+        return QMessageBox::No;
+    case MessageAnswer::Cancel:
+        return QMessageBox::Cancel;
+    case MessageAnswer::Retry:
         return QMessageBox::Retry;
-    case MessageButtons::OK:
-    case MessageButtons::OKCancel:
+    case MessageAnswer::OK:
         break;
     }
     return QMessageBox::Ok;
@@ -80,6 +81,6 @@ MessageAnswer DesktopMessageBoxes::show(const MessageBox &box)
     // File names and pages are quoted in messages: none of it is ever markup.
     window.setTextFormat(Qt::PlainText);
     window.setText(QString(box.text).replace(QLatin1String("\r\n"), QLatin1String("\n")));
-    window.setDefaultButton(defaultOf(box.buttons));
+    window.setDefaultButton(buttonOf(answerByEnter(box)));
     return answerOf(window.exec());
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 enum class MessageIcon { None, Critical, Question, Exclamation, Information };
 enum class MessageButtons { OK, OKCancel, YesNo, YesNoCancel, RetryCancel };
@@ -12,7 +13,13 @@ struct MessageBox {
     QString text; ///< plain text, whatever it looks like; breaks are CR LF
     MessageIcon icon = MessageIcon::None;
     MessageButtons buttons = MessageButtons::OK;
+    /// What Enter answers, by default the first button. A question whose Yes takes something away that can't be had
+    /// back, or sends it away, says No here.
+    std::optional<MessageAnswer> byEnter = {};
 };
+
+/// What Enter answers to the box.
+MessageAnswer answerByEnter(const MessageBox &box);
 
 class MessageBoxes
 {
