@@ -6,3 +6,8 @@ Encoding encodingOfDocument(const Document &document)
         return document.plainEncoding;
     return document.fileFormat.encoding == Encoding::Utf16BE ? Encoding::Utf16BE : Encoding::Utf16LE;
 }
+
+FileFormat formatOfDocument(const Document &document, Encoding encoding)
+{
+    return {encoding, document.fileFormat.lineEnd, document.fileFormat.charset};
+}

@@ -1,8 +1,10 @@
 #include "common/encodings.h"
 
+#include "common/charsets.h"
 #include "common/text.h"
 #include "common/utf8.h"
 
+#include <QSet>
 #include <QtEndian>
 
 #include <algorithm>
@@ -150,6 +152,13 @@ QString withLineEnd(const QString &text, LineEnd lineEnd)
     return normal;
 }
 
+DecodedText withBreaksCounted(const QString &raw, Encoding encoding)
+{
+    const Breaks breaks = breaksOf(raw);
+    const int kinds = (breaks.crLf > 0 ? 1 : 0) + (breaks.lf > 0 ? 1 : 0) + (breaks.cr > 0 ? 1 : 0);
+    return {withOnlyCrLf(raw, breaks), {encoding, lineEndOf(breaks), {}}, kinds > 1};
+}
+
 EncodedText asUtf8(const QString &text, bool mark)
 {
     const bool needsMark = mark || text.startsWith(QChar(byteOrderMark)) || hasLoneHalves(text);
@@ -159,6 +168,13 @@ EncodedText asUtf8(const QString &text, bool mark)
     return {utf8Mark.toByteArray() + bytes, Encoding::Utf8Bom};
 }
 
+EncodedText insteadAsUtf8(const QString &text)
+{
+    EncodedText encoded = asUtf8(text, false);
+    encoded.switchedToUtf8 = true;
+    return encoded;
+}
+
 EncodedText asWindows1252(const QString &text)
 {
     if (const std::optional<QByteArray> bytes = toWindows1252(text)) {
@@ -166,18 +182,55 @@ EncodedText asWindows1252(const QString &text)
         if (!utf8EncodingOf(*bytes) || (contents && contents->onlyAscii))
             return {*bytes, Encoding::Windows1252};
     }
-    EncodedText encoded = asUtf8(text, false);
-    encoded.switchedToUtf8 = true;
-    return encoded;
+    return insteadAsUtf8(text);
+}
+
+EncodedText asOther(const QString &text, const QString &charset)
+{
+    if (const std::optional<QByteArray> bytes = toCharset(text, charset))
+        return {*bytes, Encoding::Other};
+    return insteadAsUtf8(text);
+}
+
+/// Whether the encoding has a place for one character, which may be a pair.
+bool fits(QStringView character, const FileFormat &format)
+{
+    if (format.encoding == Encoding::Windows1252)
+        return character.size() == 1 && windows1252Byte(character.front().unicode());
+    return format.encoding != Encoding::Other || toCharset(character, format.charset);
+}
+
+/// The length of the character that starts there: 2 for a pair.
+qsizetype lengthOfCharacter(QStringView text, qsizetype start)
+{
+    const bool pair = text[start].isHighSurrogate() && start + 1 < text.size() && text[start + 1].isLowSurrogate();
+    return pair ? 2 : 1;
+}
+
+QString referenceTo(QStringView character)
+{
+    if (character.size() == 1 && character.front().isSurrogate())
+        return character.toString();
+    const char32_t code = character.size() == 2 ? QChar::surrogateToUcs4(character[0], character[1])
+                                                : char32_t(character.front().unicode());
+    return QStringLiteral("&#%1;").arg(static_cast<uint>(code));
 }
 } // namespace
 
 DecodedText decode(const QByteArray &bytes, bool unicodeRow)
 {
     const RawText raw = unicodeRow ? fromUtf16(bytes) : fromPlainBytes(bytes);
-    const Breaks breaks = breaksOf(raw.text);
-    const int kinds = (breaks.crLf > 0 ? 1 : 0) + (breaks.lf > 0 ? 1 : 0) + (breaks.cr > 0 ? 1 : 0);
-    return {withOnlyCrLf(raw.text, breaks), {raw.encoding, lineEndOf(breaks)}, kinds > 1};
+    return withBreaksCounted(raw.text, raw.encoding);
+}
+
+std::optional<DecodedText> decodeAs(const QByteArray &bytes, const QString &charset)
+{
+    const std::optional<QString> text = fromCharset(bytes, charset);
+    if (!text)
+        return std::nullopt;
+    DecodedText decoded = withBreaksCounted(*text, Encoding::Other);
+    decoded.format.charset = charset;
+    return decoded;
 }
 
 EncodedText encode(const QString &text, const FileFormat &format)
@@ -189,6 +242,8 @@ EncodedText encode(const QString &text, const FileFormat &format)
         return {toUtf16(lines, format.encoding == Encoding::Utf16BE), format.encoding};
     case Encoding::Windows1252:
         return asWindows1252(lines);
+    case Encoding::Other:
+        return asOther(lines, format.charset);
     case Encoding::Utf8:
     case Encoding::Utf8Bom:
         break;
@@ -196,9 +251,44 @@ EncodedText encode(const QString &text, const FileFormat &format)
     return asUtf8(lines, format.encoding == Encoding::Utf8Bom);
 }
 
+QStringList charactersThatDoNotFit(const QString &text, const FileFormat &format)
+{
+    QStringList characters;
+    QSet<QString> seen;
+    for (qsizetype place = 0; place < text.size(); place += lengthOfCharacter(text, place)) {
+        if (text[place].unicode() < 0x80)
+            continue;
+        const QString character = text.sliced(place, lengthOfCharacter(text, place));
+        if (seen.contains(character))
+            continue;
+        seen.insert(character);
+        if (!fits(character, format))
+            characters.append(character);
+    }
+    return characters;
+}
+
+QString withReferences(const QString &text, const FileFormat &format)
+{
+    const QStringList unfit = charactersThatDoNotFit(text, format);
+    if (unfit.isEmpty() && !encode(text, format).switchedToUtf8)
+        return text;
+    const QSet<QString> replaced(unfit.begin(), unfit.end());
+    QString written;
+    written.reserve(text.size());
+    for (qsizetype place = 0; place < text.size();) {
+        const QStringView character = QStringView(text).sliced(place, lengthOfCharacter(text, place));
+        const bool ascii = character.front().unicode() < 0x80;
+        const bool refer = !ascii && (replaced.isEmpty() || replaced.contains(character.toString()));
+        written += refer ? referenceTo(character) : character.toString();
+        place += character.size();
+    }
+    return written;
+}
+
 QByteArray encodeOwnFile(const QString &text)
 {
-    return encode(text, {Encoding::Windows1252, LineEnd::CrLf}).bytes;
+    return encode(text, {Encoding::Windows1252, LineEnd::CrLf, {}}).bytes;
 }
 
 QString decodeOwnFile(const QByteArray &bytes)
@@ -206,9 +296,9 @@ QString decodeOwnFile(const QByteArray &bytes)
     return decode(bytes).text;
 }
 
-QString encodingName(Encoding encoding)
+QString encodingName(const FileFormat &format)
 {
-    switch (encoding) {
+    switch (format.encoding) {
     case Encoding::Utf8:
         return QStringLiteral("UTF-8");
     case Encoding::Utf8Bom:
@@ -219,6 +309,8 @@ QString encodingName(Encoding encoding)
         return QStringLiteral("UTF-16 LE");
     case Encoding::Utf16BE:
         return QStringLiteral("UTF-16 BE");
+    case Encoding::Other:
+        return format.charset;
     }
     return QString();
 }

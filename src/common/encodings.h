@@ -2,6 +2,8 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
+#include <optional>
 
 /// How the characters of a file stand as bytes.
 enum class Encoding {
@@ -10,6 +12,7 @@ enum class Encoding {
     Windows1252,
     Utf16LE, ///< with its mark (FF FE)
     Utf16BE, ///< with its mark (FE FF)
+    Other,   ///< the one that FileFormat::charset names
 };
 
 /// How the lines of a file end. In memory every break is CR LF.
@@ -22,6 +25,7 @@ enum class LineEnd {
 struct FileFormat {
     Encoding encoding = Encoding::Utf8;
     LineEnd lineEnd = LineEnd::CrLf;
+    QString charset = {}; ///< of Encoding::Other: its name as charsetOfLabel() gives it
     bool operator==(const FileFormat &) const = default;
 };
 
@@ -34,7 +38,7 @@ struct DecodedText {
 struct EncodedText {
     QByteArray bytes;
     Encoding encoding = Encoding::Utf8; ///< the one taken, which is not always the one asked for
-    bool switchedToUtf8 = false;        ///< Windows-1252 was asked for but cannot hold the text
+    bool switchedToUtf8 = false;        ///< the encoding asked for cannot hold the text
 };
 
 /// Reads a file of text. Never fails, and no character or byte is dropped: encode() with the format told gives the same
@@ -46,19 +50,32 @@ struct EncodedText {
 /// as CR LF.
 DecodedText decode(const QByteArray &bytes, bool unicodeRow = false);
 
-/// Writes text to be read by decode() as the same text.
+/// Reads a file in an encoding by its name, as charsetOfLabel() gives it. Nothing where the bytes are not valid in it,
+/// or would not be written as the same bytes again.
+std::optional<DecodedText> decodeAs(const QByteArray &bytes, const QString &charset);
+
+/// Writes text to be read by decode(), or decodePage(), as the same text.
 ///
 /// Windows-1252 gives way to UTF-8 where a character does not fit, or where the bytes would read back as UTF-8. UTF-8
 /// takes its mark where the text itself starts with that character, or holds half a surrogate pair: such a half is
-/// written in the three bytes it would have as a character, which decode() takes behind a mark only.
+/// written in the three bytes it would have as a character, which decode() takes behind a mark only. An encoding by
+/// name gives way to UTF-8 where a character does not fit.
 EncodedText encode(const QString &text, const FileFormat &format);
+
+/// The characters that have no place in an encoding, each once, in the order of their first appearance; none for the
+/// Unicode encodings.
+QStringList charactersThatDoNotFit(const QString &text, const FileFormat &format);
+/// The text with each such character as a numeric reference, "&#321;" for U+0141. Where all fit, and yet the text would
+/// read back as another, that is every character but the ASCII ones. Half a surrogate pair stays: no page can refer to
+/// it.
+QString withReferences(const QString &text, const FileFormat &format);
 
 /// The program's own text files: Windows-1252 with CR LF, UTF-8 where that cannot hold the text or would read back as
 /// another. decodeOwnFile(encodeOwnFile(text)) is the text with every break as CR LF.
 QByteArray encodeOwnFile(const QString &text);
 QString decodeOwnFile(const QByteArray &bytes);
 
-/// As shown to the user: "UTF-8", "UTF-8 with mark", "Windows-1252", "UTF-16 LE", "UTF-16 BE".
-QString encodingName(Encoding encoding);
+/// As shown to the user: "UTF-8", "UTF-8 with mark", "Windows-1252", "UTF-16 LE", "UTF-16 BE", "KOI8-R".
+QString encodingName(const FileFormat &format);
 /// "CR LF", "LF", "CR".
 QString lineEndName(LineEnd lineEnd);

@@ -7,6 +7,6 @@ QString fileFormatText(const Document &document)
     const FileFormat &format = document.fileFormat;
     const QString lineEnd = lineEndName(format.lineEnd);
     if (document.mixedLineEnds)
-        return QStringLiteral("%1, mixed line ends (saved as %2)").arg(encodingName(format.encoding), lineEnd);
-    return encodingName(format.encoding) + QStringLiteral(", ") + lineEnd;
+        return QStringLiteral("%1, mixed line ends (saved as %2)").arg(encodingName(format), lineEnd);
+    return encodingName(format) + QStringLiteral(", ") + lineEnd;
 }

@@ -60,6 +60,9 @@ private:
     bool writeToNewName(Document &document, bool closing, const Target &target);
     bool isChangedOnDisk(const Document &document) const;
     bool mayWriteOver(Document &document);
+    bool leavesEncoding(const Document &document, SaveForm form) const;
+    bool mayLeaveEncoding(Document &document, SaveForm form);
+    void tellEncoding(Document &document, const Target &target, const EncodedText &encoded);
     std::optional<FileError> write(Document &document, const Target &target);
     bool writeAndTell(Document &document, const Target &target);
     void noteWritten(Document &document);

@@ -117,6 +117,13 @@ bool DocumentFiles::AutoSaveDocument(Document &document)
             QStringLiteral("\" has not been automatically saved: another program has changed its file."));
         return false;
     }
+    if (leavesEncoding(document, SaveForm::AsOpened)) {
+        m_context.mainWindow->SetStatusText(
+            QStringLiteral("The document \"") + document.DocSavePath +
+            QStringLiteral(
+                "\" has not been automatically saved: its encoding has no place for some of its characters."));
+        return false;
+    }
     // A dialog that is open keeps its hold on the main window.
     const bool enabled = m_context.mainWindow->Enabled();
     const bool saved = writeAndTell(document, {document.DocSavePath, SaveForm::AsOpened});

@@ -3,6 +3,7 @@
 
 #include "common/fileFormatText.h"
 #include "common/mainWindow.h"
+#include "common/pageCharset.h"
 #include "files/fileDialogRows.h"
 #include "files/modFileErrors.h"
 #include "files/modRecentFiles.h"
@@ -191,7 +192,7 @@ std::optional<DocumentFiles::Opened> DocumentFiles::readInto(Document &document,
         return std::nullopt;
     }
     try {
-        Opened opened{&document, decode(file.bytes, unicode), stamp};
+        Opened opened{&document, decodePage(file.bytes, unicode), stamp};
         document.txtEdit().setText(opened.contents.text);
         return opened;
     } catch (const std::bad_alloc &) {

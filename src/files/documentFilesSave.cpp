@@ -2,9 +2,12 @@
 #include "files/documentFiles.h"
 
 #include "common/mainWindow.h"
+#include "common/pageCharset.h"
+#include "common/replaceText.h"
 #include "common/programState.h"
 #include "common/siteProject.h"
 #include "files/autoSavePause.h"
+#include "files/encodingNotice.h"
 #include "files/fileDialogRows.h"
 #include "files/frmMsgAddSavedFileToProject.h"
 #include "files/modFileNames.h"
@@ -41,7 +44,8 @@ MessageBox replaceQuestion(const QString &path)
             .text = QStringLiteral("The file ") + quoted(path) +
                     QStringLiteral(" already exists.\r\nDo you want to replace it?"),
             .icon = MessageIcon::Exclamation,
-            .buttons = MessageButtons::YesNoCancel};
+            .buttons = MessageButtons::YesNoCancel,
+            .byEnter = MessageAnswer::No};
 }
 
 MessageBox fileChangedQuestion(const QString &path)
@@ -51,7 +55,8 @@ MessageBox fileChangedQuestion(const QString &path)
                     QStringLiteral(" has been changed by another program since it was opened or saved here.\r\n"
                                    "Do you want to save over those changes?"),
             .icon = MessageIcon::Exclamation,
-            .buttons = MessageButtons::YesNo};
+            .buttons = MessageButtons::YesNo,
+            .byEnter = MessageAnswer::No};
 }
 } // namespace
 
@@ -82,7 +87,8 @@ bool DocumentFiles::saveDocument(Document &document, bool closing)
         m_context.mainWindow->setEnabled(true);
         return saveDocumentAs(document, closing, saveAsTitle(document));
     }
-    if (!mayWriteOver(document) || !writeAndTell(document, {document.DocSavePath, SaveForm::AsOpened}))
+    const Target target{document.DocSavePath, SaveForm::AsOpened};
+    if (!mayWriteOver(document) || !mayLeaveEncoding(document, target.form) || !writeAndTell(document, target))
         return notSaved(document, closing);
     noteWritten(document);
     return true;
@@ -153,7 +159,7 @@ bool DocumentFiles::WriteDocumentTo(Document &document, bool closing, const Targ
 
 bool DocumentFiles::writeToNewName(Document &document, bool closing, const Target &target)
 {
-    if (!writeAndTell(document, target))
+    if (!mayLeaveEncoding(document, target.form) || !writeAndTell(document, target))
         return notSaved(document, closing);
     document.setDocumentCaption(target.path);
     document.DocSavePath = target.path;
@@ -180,6 +186,48 @@ bool DocumentFiles::mayWriteOver(Document &document)
     return answer == MessageAnswer::Yes;
 }
 
+/// Whether the save would have to leave the encoding that the page names.
+bool DocumentFiles::leavesEncoding(const Document &document, SaveForm form) const
+{
+    return formatOfSave(document, form).encoding == Encoding::Other && encodedForSave(document, form).switchedToUtf8;
+}
+
+bool DocumentFiles::mayLeaveEncoding(Document &document, SaveForm form)
+{
+    if (!leavesEncoding(document, form))
+        return true;
+    const AutoSavePause pause(document);
+    const MessageBox question = utf8Question(document.txtEdit().Text(), formatOfSave(document, form));
+    const MessageAnswer answer = m_context.services.messageBoxes.show(question);
+    document.txtEdit().SetFocus();
+    return answer == MessageAnswer::Yes;
+}
+
+/// Until the user has answered, the file is one that has lost nothing.
+void DocumentFiles::tellEncoding(Document &document, const Target &target, const EncodedText &encoded)
+{
+    const QString text = document.txtEdit().Text();
+    if (!encoded.switchedToUtf8) {
+        const bool settled =
+            encoded.encoding != Encoding::Utf8 || namesEncoding(declaredCharset(text), {encoded.encoding});
+        if (settled)
+            document.notices.remove(encodingNoticeKey());
+        return;
+    }
+    const FileFormat wanted = formatOfSave(document, target.form);
+    const auto writeReferences = [this, &document, wanted] {
+        document.plainEncoding = wanted.encoding;
+        document.fileFormat.charset = wanted.charset;
+        replaceText(document, withReferences(document.txtEdit().Text(), wanted));
+        saveDocument(document, false);
+    };
+    const auto nameUtf8 = [this, &document] {
+        replaceText(document, withDeclaredCharset(document.txtEdit().Text(), QStringLiteral("utf-8")));
+        saveDocument(document, false);
+    };
+    document.notices.put(savedAsUtf8Notice(target.path, text, wanted, writeReferences, nameUtf8));
+}
+
 std::optional<FileError> DocumentFiles::write(Document &document, const Target &target)
 {
     FileSystem &files = m_context.services.files;
@@ -189,6 +237,7 @@ std::optional<FileError> DocumentFiles::write(Document &document, const Target &
             return error;
         document.fileStamp = files.stamp(target.path);
         showRemark(saveRemark(document, target.form, encoded));
+        tellEncoding(document, target, encoded);
         noteSaved(document, encoded.encoding);
     } catch (const std::bad_alloc &) {
         return FileError{.code = OutOfMemoryError, .systemError = 0, .description = {}};

@@ -1,7 +1,7 @@
 #include "files/documentText.h"
 
 #include "common/documentEncoding.h"
-#include "files/metaElements.h"
+#include "common/pageCharset.h"
 
 #include <QStringList>
 
@@ -19,36 +19,39 @@ Encoding encodingOfSave(const Document &document, SaveForm form)
     return form == SaveForm::Plain ? document.plainEncoding : encodingOfDocument(document);
 }
 
-bool isOtherKind(Encoding a, Encoding b)
+bool isOtherKind(const FileFormat &a, const FileFormat &b)
 {
-    const auto kind = [](Encoding encoding) { return encoding == Encoding::Utf8Bom ? Encoding::Utf8 : encoding; };
+    const auto kind = [](const FileFormat &format) {
+        return format.encoding == Encoding::Utf8Bom ? Encoding::Utf8 : format.encoding;
+    };
     return kind(a) != kind(b);
 }
 
 QString encodingRemark(const Document &document, SaveForm form, const EncodedText &encoded)
 {
     if (encoded.switchedToUtf8)
-        return QStringLiteral("Saved as UTF-8: in Windows-1252 this text would not read back the same.");
+        return QStringLiteral("Saved as UTF-8: in %1 this text would not read back the same.")
+            .arg(encodingName(formatOfSave(document, form)));
     // In the dialog the user has chosen; a plain save that changes the file's encoding is told.
-    if (form == SaveForm::AsOpened && isOtherKind(encoded.encoding, document.fileFormat.encoding))
+    const FileFormat written = formatOfDocument(document, encoded.encoding);
+    if (form == SaveForm::AsOpened && isOtherKind(written, document.fileFormat))
         return QStringLiteral("Saved as %1; the file was %2 before.")
-            .arg(encodingName(encoded.encoding), encodingName(document.fileFormat.encoding));
+            .arg(encodingName(written), encodingName(document.fileFormat));
     return {};
 }
 
-QString charsetRemark(const QString &pageText, Encoding encoding)
+QString charsetRemark(const QString &pageText, const FileFormat &format)
 {
     const QString charset = declaredCharset(pageText);
-    if (charset.isEmpty() || namesEncoding(charset, encoding))
+    if (charset.isEmpty() || namesEncoding(charset, format))
         return {};
-    return QStringLiteral("The page names the encoding \"%1\" but is saved as %2.")
-        .arg(charset, encodingName(encoding));
+    return QStringLiteral("The page names the encoding \"%1\" but is saved as %2.").arg(charset, encodingName(format));
 }
 } // namespace
 
 FileFormat formatOfSave(const Document &document, SaveForm form)
 {
-    return {encodingOfSave(document, form), document.fileFormat.lineEnd};
+    return formatOfDocument(document, encodingOfSave(document, form));
 }
 
 EncodedText encodedForSave(const Document &document, SaveForm form)
@@ -61,7 +64,7 @@ void noteOpened(Document &document, const DecodedText &opened, bool unicode)
     document.IsInUnicode = unicode;
     document.fileFormat = opened.format;
     document.mixedLineEnds = opened.mixedLineEnds;
-    document.plainEncoding = isUtf16(opened.format.encoding) ? Encoding::Utf8 : opened.format.encoding;
+    document.plainEncoding = unicode ? Encoding::Utf8 : opened.format.encoding; // UTF-16 by its mark stays so
 }
 
 void noteSaved(Document &document, Encoding written)
@@ -75,7 +78,7 @@ void noteSaved(Document &document, Encoding written)
 QString saveRemark(const Document &document, SaveForm form, const EncodedText &encoded)
 {
     QStringList remarks{encodingRemark(document, form, encoded),
-                        charsetRemark(document.txtEdit().Text(), encoded.encoding)};
+                        charsetRemark(document.txtEdit().Text(), formatOfDocument(document, encoded.encoding))};
     remarks.removeAll(QString());
     return remarks.join(u' ');
 }

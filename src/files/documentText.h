@@ -17,7 +17,7 @@ FileFormat formatOfSave(const Document &document, SaveForm form);
 /// The document's bytes: its text and one line break more, which each save adds.
 EncodedText encodedForSave(const Document &document, SaveForm form);
 
-/// Takes over how a file was read: the text's format, and whether it was read as UTF-16.
+/// Takes over how a file was read: the text's format, and whether a Unicode row read it.
 void noteOpened(Document &document, const DecodedText &opened, bool unicode);
 /// Takes over how the document was written.
 void noteSaved(Document &document, Encoding written);

@@ -8,6 +8,7 @@
 DocumentCopy writeDocumentCopy(Services &services, const Document &document, const QString &name)
 {
     const QString path = joinPath(services.appPath, name);
-    const FileFormat format{encodingOfDocument(document), LineEnd::CrLf};
+    FileFormat format = formatOfDocument(document, encodingOfDocument(document));
+    format.lineEnd = LineEnd::CrLf;
     return {path, services.files.writeScratch(path, encode(document.txtEdit().Text(), format).bytes)};
 }

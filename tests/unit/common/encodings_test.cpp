@@ -307,13 +307,46 @@ TEST(OwnFile, IsWindows1252AsLongAsThatHoldsIt)
 
 TEST(EncodingName, TellsTheUser)
 {
-    EXPECT_EQ(encodingName(Encoding::Utf8), QStringLiteral("UTF-8"));
-    EXPECT_EQ(encodingName(Encoding::Utf8Bom), QStringLiteral("UTF-8 with mark"));
-    EXPECT_EQ(encodingName(Encoding::Windows1252), QStringLiteral("Windows-1252"));
-    EXPECT_EQ(encodingName(Encoding::Utf16LE), QStringLiteral("UTF-16 LE"));
-    EXPECT_EQ(encodingName(Encoding::Utf16BE), QStringLiteral("UTF-16 BE"));
+    EXPECT_EQ(encodingName({Encoding::Utf8}), QStringLiteral("UTF-8"));
+    EXPECT_EQ(encodingName({Encoding::Utf8Bom}), QStringLiteral("UTF-8 with mark"));
+    EXPECT_EQ(encodingName({Encoding::Windows1252}), QStringLiteral("Windows-1252"));
+    EXPECT_EQ(encodingName({Encoding::Utf16LE}), QStringLiteral("UTF-16 LE"));
+    EXPECT_EQ(encodingName({Encoding::Utf16BE}), QStringLiteral("UTF-16 BE"));
+    EXPECT_EQ(encodingName({Encoding::Other, LineEnd::Lf, QStringLiteral("KOI8-R")}), QStringLiteral("KOI8-R"));
     EXPECT_EQ(lineEndName(LineEnd::CrLf), QStringLiteral("CR LF"));
     EXPECT_EQ(lineEndName(LineEnd::Lf), QStringLiteral("LF"));
     EXPECT_EQ(lineEndName(LineEnd::Cr), QStringLiteral("CR"));
+}
+
+const FileFormat windows1252{Encoding::Windows1252};
+const FileFormat koi8{Encoding::Other, LineEnd::CrLf, QStringLiteral("KOI8-R")};
+
+TEST(CharactersThatDoNotFit, AreNamedOnceEach)
+{
+    const QString text = codes({0x141, 0x61, 0x4F8B, 0x141, 0xD83D, 0xDE00, 0x20AC, 0xE9});
+    const QStringList expected{codes({0x141}), codes({0x4F8B}), codes({0xD83D, 0xDE00})};
+    EXPECT_EQ(charactersThatDoNotFit(text, windows1252), expected);
+    EXPECT_EQ(charactersThatDoNotFit(text, {Encoding::Utf8}), QStringList());
+    EXPECT_EQ(charactersThatDoNotFit(codes({0x41F, 0xE9}), koi8), QStringList{codes({0xE9})});
+}
+
+TEST(WithReferences, WritesWhatDoesNotFitByItsNumber)
+{
+    EXPECT_EQ(withReferences(codes({0x141, 0xE9, 0xD83D, 0xDE00}), windows1252),
+              QStringLiteral("&#321;") + codes({0xE9}) + QStringLiteral("&#128512;"));
+    EXPECT_EQ(withReferences(codes({0x41F, 0xE9}), koi8), codes({0x41F}) + QStringLiteral("&#233;"));
+    // All fit, but as bytes these two would be one character of UTF-8.
+    EXPECT_EQ(withReferences(codes({0xC3, 0xA9}), windows1252), QStringLiteral("&#195;&#169;"));
+    EXPECT_EQ(withReferences(codes({0xE9}), windows1252), codes({0xE9}));
+    EXPECT_EQ(withReferences(codes({0x141, 0xD83D}), windows1252), QStringLiteral("&#321;") + codes({0xD83D}));
+}
+
+TEST(Encode, GoesToUtf8WhereTheNamedEncodingHasNoPlace)
+{
+    EXPECT_EQ(encode(codes({0x41F}), koi8).bytes, hex("F0"));
+    const EncodedText other = encode(codes({0x41F, 0xE9}), koi8);
+    EXPECT_EQ(other.bytes, hex("D09FC3A9"));
+    EXPECT_EQ(other.encoding, Encoding::Utf8);
+    EXPECT_TRUE(other.switchedToUtf8);
 }
 } // namespace
