@@ -44,8 +44,23 @@ struct DesktopServices::Parts {
     EventYielder yielder;
     ModulePageViews pageViews{moduleFolders()};
     XdgFileClasses fileClasses{currentXdgPlaces(), startInBackground};
-    Services services{messageBoxes, commonDialogs, settings,    files,     launcher, clipboard, clock,  random,
-                      help,         timers,        fileClasses, modalLoop, yielder,  pageViews, appPath};
+    Services services{
+        .messageBoxes = messageBoxes,
+        .commonDialogs = commonDialogs,
+        .settings = settings,
+        .files = files,
+        .launcher = launcher,
+        .clipboard = clipboard,
+        .clock = clock,
+        .random = random,
+        .help = help,
+        .timers = timers,
+        .fileClasses = fileClasses,
+        .modalLoop = modalLoop,
+        .yielder = yielder,
+        .pageViews = pageViews,
+        .appPath = appPath,
+    };
 };
 
 DesktopServices::DesktopServices() : parts(std::make_unique<Parts>()) {}

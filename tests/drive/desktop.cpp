@@ -153,8 +153,23 @@ Desktop::Desktop(Referee &referee, const World &world)
       // The desktop's own tools are left alone: what they make of the registered files is not the program's.
       m_fileClasses(currentXdgPlaces(), [](const QString &, const QStringList &) {}),
       m_pageViews(moduleFolders()),
-      m_services{boxes, dialogs,  m_settings,    files,     launcher, m_clipboard, clock,      random,
-                 help,  m_timers, m_fileClasses, modalLoop, yielder,  m_pageViews, world.app()}
+      m_services{
+          .messageBoxes = boxes,
+          .commonDialogs = dialogs,
+          .settings = m_settings,
+          .files = files,
+          .launcher = launcher,
+          .clipboard = m_clipboard,
+          .clock = clock,
+          .random = random,
+          .help = help,
+          .timers = m_timers,
+          .fileClasses = m_fileClasses,
+          .modalLoop = modalLoop,
+          .yielder = yielder,
+          .pageViews = m_pageViews,
+          .appPath = world.app(),
+      }
 {
 }
 } // namespace drive

@@ -3,8 +3,23 @@
 #include <QFile>
 
 FilesTest::FilesTest()
-    : m_services{boxes,  dialogs,  settings,      disk,  m_launcher, m_clipboard, m_clock,        m_random,
-                 m_help, m_timers, m_fileClasses, modal, m_yielder,  m_pageViews, m_folder.path()},
+    : m_services{
+          .messageBoxes = boxes,
+          .commonDialogs = dialogs,
+          .settings = settings,
+          .files = disk,
+          .launcher = m_launcher,
+          .clipboard = m_clipboard,
+          .clock = m_clock,
+          .random = m_random,
+          .help = m_help,
+          .timers = m_timers,
+          .fileClasses = m_fileClasses,
+          .modalLoop = modal,
+          .yielder = m_yielder,
+          .pageViews = m_pageViews,
+          .appPath = m_folder.path(),
+      },
       context{.services = m_services, .forms = m_runtime, .state = state, .screenPointer = m_pointer}
 {
     context.mainWindow = &mainWindow;
