@@ -1,10 +1,12 @@
 #include "browser/webBrowser.h"
 
+#include "browser/pageFocus.h"
 #include "services/pageViews.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -131,6 +133,29 @@ void WebBrowser::pageText(const std::function<void(const QString &)> &taken)
         taken({});
 }
 
+void WebBrowser::placeOfText(const QString &text, const std::function<void(const std::optional<QPoint> &)> &taken)
+{
+    if (!m_view || m_gone) {
+        taken({});
+        return;
+    }
+    m_view->place(text, [self = QPointer(this), taken](const std::optional<QPoint> &found) {
+        QWidget *view = self && self->m_view ? self->m_view->widget() : nullptr;
+        taken(found && view ? std::optional(view->mapTo(self, *found)) : std::nullopt);
+    });
+}
+
+int WebBrowser::ScrollTop() const
+{
+    return m_view && !m_gone ? m_view->scrollTop() : 0;
+}
+
+void WebBrowser::releaseFocus()
+{
+    if (m_focus)
+        m_focus->release();
+}
+
 bool WebBrowser::makeView()
 {
     if (m_view)
@@ -144,6 +169,8 @@ bool WebBrowser::makeView()
     showView(false); // until its first page there would be only a white sheet to see
     m_layout->insertWidget(1, m_view->widget(), 1);
     setFocusProxy(m_view->widget());
+    m_focus = new PageFocus(*m_view->widget());
+    connect(m_focus, &PageFocus::taken, this, &WebBrowser::focusTaken);
     return true;
 }
 

@@ -4,11 +4,13 @@
 #include "services/pageView.h"
 
 #include <QElapsedTimer>
+#include <QPointer>
 #include <QTimer>
 #include <QUrl>
 #include <QWidget>
 #include <optional>
 
+class PageFocus;
 class PageViews;
 class QFrame;
 class QLabel;
@@ -40,8 +42,15 @@ public:
     QString Notice() const;
     /// Hands over the text of the page on show; at once, and empty, without one.
     void pageText(const std::function<void(const QString &)> &taken);
+    /// Hands over the middle of the first place where the text stands in the page on show, scrolled into view, in
+    /// logical pixels; nothing if it does not stand there.
+    void placeOfText(const QString &text, const std::function<void(const std::optional<QPoint> &)> &taken);
+    int ScrollTop() const; ///< how far the page on show is scrolled down, in logical pixels
     /// Asks whether a page may send a form to a place outside this machine. Without it, none may.
     void setMaySend(std::function<bool(const QUrl &)> maySend) { m_maySend = std::move(maySend); }
+
+    /// The user has moved the keyboard to another part of the page's window.
+    void releaseFocus();
 
     /// After how long a page that leaves no room for anything else counts as one whose script never ends, in
     /// milliseconds.
@@ -50,6 +59,7 @@ public:
 Q_SIGNALS:
     void navigationStarted();
     void navigationFinished();
+    void focusTaken(); ///< the engine has taken the keyboard by itself; whoever had it is to take it back
 
 private:
     void loadStarted() override;
@@ -72,6 +82,7 @@ private:
 
     PageViews &m_views;
     std::unique_ptr<PageView> m_view;
+    QPointer<PageFocus> m_focus; ///< of the view; nothing without one
     QVBoxLayout *m_layout;
     QFrame *m_strip;
     QLabel *m_notice;

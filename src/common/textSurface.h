@@ -22,6 +22,19 @@ struct FormatRange {
     TextFormat format;
 };
 
+/// A range that the surface marks for its user, in positions of TextSurface, and what as.
+enum class MarkKind {
+    Match, ///< one of the places that a search has found
+    Pair,  ///< the other end of what the caret stands at
+    Error, ///< a fault in the source
+};
+struct MarkedRange {
+    qsizetype start = 0;
+    qsizetype length = 0;
+    MarkKind kind = MarkKind::Match;
+    bool operator==(const MarkedRange &) const = default;
+};
+
 /// The text of a document with its selection and its colours.
 ///
 /// Positions count characters (UTF-16 code units) of `Text` from 0, and a line break is two of them, CR and LF. A
@@ -73,6 +86,9 @@ public:
         for (const FormatRange &range : ranges)
             setFormat(range.start, range.length, range.format);
     }
+
+    /// What is marked now, beside the colours and without a change of them; in order of their starts.
+    virtual QList<MarkedRange> markedRanges() const { return {}; }
 
     virtual bool Locked() const = 0;
     virtual void setLocked(bool locked) = 0; ///< the user cannot change the text; keys are still seen

@@ -52,7 +52,6 @@ void frmWrite::buildSurface()
     m_edit->setAccessibleName(QStringLiteral("Source"));
     m_edit->setFrameStyle(QFrame::NoFrame);
     m_panes->pane(0)->layout()->addWidget(m_edit);
-    window()->setFocusProxy(m_edit);
     m_edit->setContextMenuPolicy(Qt::NoContextMenu);
     connect(m_edit, &EditSurface::Change, this, &frmWrite::txtEdit_Change);
     connect(m_edit, &EditSurface::gotFocus, this, &frmWrite::txtEdit_GotFocus);

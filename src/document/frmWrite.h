@@ -87,6 +87,7 @@ private:
     void tmrUpdateLiveSplitPreview_Timer();
     void Form_Resize();
     void tabWindowDisplay_Click(int tab);
+    void leadFocus();
     void brwWebBrowser_Navigation();
     bool maySendForm(const QUrl &where);
     void restore(const UndoSnapshot &snapshot);

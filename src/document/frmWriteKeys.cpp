@@ -1,4 +1,5 @@
 // What a document window does at the keys and changes of its edit surface.
+#include "browser/webBrowser.h"
 #include "codeknowledge/tagHelp.h"
 #include "common/mainWindow.h"
 #include "document/codeAssistant.h"
@@ -246,6 +247,7 @@ void frmWrite::txtEdit_GotFocus()
 {
     if (m_unloading)
         return;
+    m_browser->releaseFocus();
     if (!ColouringActive)
         frmMdi().SetStatusReady();
     frmMdi().selectDocumentTab(DocKeyDescription);

@@ -42,6 +42,7 @@ void frmWrite::buildBrowser()
     m_browser->setMaySend([this](const QUrl &where) { return maySendForm(where); });
     connect(m_browser, &WebBrowser::navigationStarted, this, &frmWrite::brwWebBrowser_Navigation);
     connect(m_browser, &WebBrowser::navigationFinished, this, &frmWrite::brwWebBrowser_Navigation);
+    connect(m_browser, &WebBrowser::focusTaken, m_edit, &EditSurface::SetFocus);
 }
 
 void frmWrite::brwWebBrowser_Navigation()
@@ -81,6 +82,14 @@ void frmWrite::SplitEditingPreviewWindows()
 void frmWrite::RepositionEditingandPreviewWindows()
 {
     m_panes->place(IsSplit);
+    leadFocus();
+}
+
+/// A click beside the panes puts the keyboard into the one that is on show.
+void frmWrite::leadFocus()
+{
+    QWidget *front = m_panes->pane(0)->isHidden() ? static_cast<QWidget *>(m_browser) : m_edit;
+    window()->setFocusProxy(front);
 }
 
 void frmWrite::Form_Resize()
@@ -92,6 +101,7 @@ void frmWrite::Form_Resize()
 
 void frmWrite::tabWindowDisplay_Click(int tab)
 {
+    leadFocus();
     UpdateLineInformation();
     if (tab == EditorTab) {
         m_edit->SetFocus();

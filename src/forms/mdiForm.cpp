@@ -1,6 +1,7 @@
 #include "forms/mdiForm.h"
 
 #include "forms/formRuntime.h"
+#include "widgets/mdiArrange.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -27,6 +28,16 @@ protected:
         QCoreApplication::sendEvent(this, &changed);
     }
 
+    /// A window that has filled the area from its beginning has no other place yet to go back to.
+    void changeEvent(QEvent *event) override
+    {
+        QMdiSubWindow::changeEvent(event);
+        const bool isNormal = !isMaximized() && !isMinimized();
+        const bool collapsed = height() < SmallestSize.height() || width() < SmallestSize.width();
+        if (event->type() == QEvent::WindowStateChange && isNormal && collapsed && mdiArea())
+            setGeometry(usualPlace(*mdiArea(), numberOf(*mdiArea())));
+    }
+
     void closeEvent(QCloseEvent *event) override
     {
         event->ignore();
@@ -34,7 +45,27 @@ protected:
     }
 
 private:
+    static constexpr QSize SmallestSize = QSize(160, 120); ///< a smaller one is of no use
+
+    int numberOf(const QMdiArea &area) const
+    {
+        return static_cast<int>(area.subWindowList(QMdiArea::CreationOrder).indexOf(this));
+    }
+
     std::function<void()> m_unload;
+};
+
+/// Keeps the area from showing the steps in between.
+class HeldPainting
+{
+public:
+    explicit HeldPainting(QWidget &widget) : m_widget(widget) { m_widget.setUpdatesEnabled(false); }
+    HeldPainting(const HeldPainting &) = delete;
+    HeldPainting &operator=(const HeldPainting &) = delete;
+    ~HeldPainting() { m_widget.setUpdatesEnabled(true); }
+
+private:
+    QWidget &m_widget;
 };
 } // namespace
 
@@ -43,8 +74,21 @@ void MdiForm::bringToFront()
     auto *child = qobject_cast<QMdiSubWindow *>(window());
     if (!child)
         return;
+    QMdiArea *area = context().forms.mdiArea();
+    const HeldPainting held(*area);
+    const QMdiSubWindow *before = area->currentSubWindow();
+    const bool filled = before && before != child && before->isMaximized();
     context().forms.setActiveChild(this);
-    context().forms.mdiArea()->setActiveSubWindow(child);
+    area->setActiveSubWindow(child);
+    if (filled)
+        fillArea();
+}
+
+/// The children share one state: what comes to the front of one that filled the area fills it, too.
+void MdiForm::fillArea()
+{
+    if (isLoaded() && !window()->isMaximized() && !window()->isMinimized())
+        window()->showMaximized();
 }
 
 QWidget *MdiForm::createWindow()
@@ -67,7 +111,6 @@ QWidget *MdiForm::createWindow()
 
 void MdiForm::presentWindow()
 {
-    // The children share one state: a page opened beside a maximised one is maximised too.
     const QMdiSubWindow *current = context().forms.mdiArea()->currentSubWindow();
     if (!current || current == window() || current->isMaximized())
         window()->showMaximized();
@@ -81,10 +124,16 @@ void MdiForm::detachWindow()
     FormRuntime &forms = context().forms;
     forms.forgetChild(this);
     // The area would make another child active by an order of its own; the next one is the one that was active before.
+    const HeldPainting held(*forms.mdiArea());
+    const bool filled = window()->isMaximized();
     forms.setActivationHeld(true);
     window()->hide();
     forms.mdiArea()->removeSubWindow(window());
     forms.setActivationHeld(false);
-    if (MdiForm *next = forms.activeChild())
-        next->bringToFront();
+    MdiForm *next = forms.activeChild();
+    if (!next)
+        return;
+    next->bringToFront();
+    if (filled)
+        next->fillArea();
 }

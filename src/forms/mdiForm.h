@@ -24,5 +24,7 @@ protected:
     QVBoxLayout &contents() const { return *m_contents; }
 
 private:
+    void fillArea();
+
     QVBoxLayout *m_contents = nullptr;
 };

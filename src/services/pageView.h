@@ -1,9 +1,11 @@
 #pragma once
 
+#include <QPoint>
 #include <QString>
 #include <QtPlugin>
 #include <functional>
 #include <memory>
+#include <optional>
 
 class QUrl;
 class QWidget;
@@ -52,6 +54,11 @@ public:
     virtual void ask(std::function<void()> answered) = 0;
     /// Hands over the page's text as a reader sees it.
     virtual void text(std::function<void(const QString &)> taken) = 0;
+    /// Hands over the middle of the first place where the text stands in the page, which is scrolled to where it can be
+    /// seen, in the view's logical pixels; nothing if it does not stand there in one piece.
+    virtual void place(const QString &text, std::function<void(const std::optional<QPoint> &)> taken) = 0;
+    /// How far the page is scrolled down, in logical pixels.
+    virtual int scrollTop() const = 0;
     /// Ends the process that runs the page, whatever it is doing.
     virtual void endPage() = 0;
 };

@@ -227,7 +227,8 @@ void EditSurface::SetFocus()
         if (current && current != inner)
             return;
     }
-    setFocus();
+    if (isVisibleTo(window())) // behind the preview, the keyboard would be lost in it
+        setFocus();
 }
 
 qsizetype EditSurface::characterFromPosition(const QPoint &point) const

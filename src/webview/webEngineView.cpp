@@ -2,10 +2,52 @@
 
 #include "webview/enginePage.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QWebEngineDownloadRequest>
 #include <QWebEngineScript>
 #include <QWebEngineView>
 #include <csignal>
+
+namespace
+{
+/// A script that gives the middle of the first place where the text stands, in a text of the page or on one of its
+/// buttons, in the page's pixels from the corner of what is on view.
+QString placeScript(const QString &text)
+{
+    static const QString script = QStringLiteral(R"((function (wanted) {
+        function placeOf(where) {
+            const inView = box => box.top >= 0 && box.bottom <= innerHeight && box.left >= 0 && box.right <= innerWidth;
+            let box = where.getClientRects()[0];
+            if (!box)
+                return null;
+            if (!inView(box)) {
+                const holder = where.startContainer ? where.startContainer.parentElement : where;
+                holder.scrollIntoView({block: 'center', inline: 'center', behavior: 'instant'});
+                box = where.getClientRects()[0];
+            }
+            return [box.left + box.width / 2, box.top + box.height / 2];
+        }
+        const texts = document.createTreeWalker(document.documentElement, NodeFilter.SHOW_TEXT);
+        while (texts.nextNode()) {
+            const at = texts.currentNode.data.indexOf(wanted);
+            if (at < 0)
+                continue;
+            const range = document.createRange();
+            range.setStart(texts.currentNode, at);
+            range.setEnd(texts.currentNode, at + wanted.length);
+            const place = placeOf(range);
+            if (place)
+                return place;
+        }
+        for (const button of document.querySelectorAll('input[type=submit], input[type=button], input[type=reset]'))
+            if (button.value.includes(wanted))
+                return placeOf(button);
+        return null;
+    })(%1[0]))");
+    return script.arg(QString::fromUtf8(QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact)));
+}
+} // namespace
 
 WebEngineView::WebEngineView(QWebEngineProfile &profile, PageViewListener &listener, QWidget *parent)
     : m_listener(listener), m_page(new EnginePage(profile, listener, this)), m_view(new QWebEngineView(m_page, parent))
@@ -92,6 +134,25 @@ void WebEngineView::text(std::function<void(const QString &)> taken)
 {
     if (m_page)
         m_page->toPlainText(std::move(taken));
+}
+
+void WebEngineView::place(const QString &text, std::function<void(const std::optional<QPoint> &)> taken)
+{
+    if (!m_page)
+        return;
+    m_page->runJavaScript(placeScript(text), QWebEngineScript::ApplicationWorld,
+                          [taken = std::move(taken), zoom = m_page->zoomFactor()](const QVariant &answer) {
+                              const QVariantList place = answer.toList();
+                              if (place.size() == 2)
+                                  taken((QPointF(place[0].toDouble(), place[1].toDouble()) * zoom).toPoint());
+                              else
+                                  taken({});
+                          });
+}
+
+int WebEngineView::scrollTop() const
+{
+    return m_page ? qRound(m_page->scrollPosition().y()) : 0;
 }
 
 void WebEngineView::endPage()

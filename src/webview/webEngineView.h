@@ -34,6 +34,8 @@ public:
     void reload() override;
     void ask(std::function<void()> answered) override;
     void text(std::function<void(const QString &)> taken) override;
+    void place(const QString &text, std::function<void(const std::optional<QPoint> &)> taken) override;
+    int scrollTop() const override;
     void endPage() override;
 
 private:

@@ -2,6 +2,7 @@
 
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QStyle>
 
 namespace
 {
@@ -35,6 +36,14 @@ void tile(const QList<QMdiSubWindow *> &windows, const QSize &room, Qt::Orientat
     }
 }
 
+void cascade(const QMdiArea &area, const QList<QMdiSubWindow *> &windows)
+{
+    for (int number = 0; number < windows.size(); ++number) {
+        windows[number]->setGeometry(usualPlace(area, number));
+        windows[number]->raise();
+    }
+}
+
 void lineUpIcons(const QList<QMdiSubWindow *> &windows, const QSize &room)
 {
     QPoint corner(0, room.height());
@@ -46,6 +55,15 @@ void lineUpIcons(const QList<QMdiSubWindow *> &windows, const QSize &room)
     }
 }
 } // namespace
+
+QRect usualPlace(const QMdiArea &area, int number)
+{
+    const QSize room = area.viewport()->size();
+    const QSize size = room * 3 / 4;
+    const int step = qMax(1, area.style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    const int rows = qMax(1, qMin(room.width() - size.width(), room.height() - size.height()) / step + 1);
+    return {QPoint(step, step) * (number % rows), size};
+}
 
 void arrangeWindows(QMdiArea &area, MdiArrangement arrangement)
 {
@@ -59,7 +77,7 @@ void arrangeWindows(QMdiArea &area, MdiArrangement arrangement)
     for (QMdiSubWindow *window : windows)
         window->showNormal();
     if (arrangement == MdiArrangement::Cascade)
-        area.cascadeSubWindows();
+        cascade(area, windows);
     else
         tile(windows, room, arrangement == MdiArrangement::TileHorizontally ? Qt::Vertical : Qt::Horizontal);
     if (active)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QRect>
+
 class QMdiArea;
 
 /// How the windows in the area are arranged.
@@ -9,6 +11,10 @@ enum class MdiArrangement {
     Cascade,          ///< one behind the other, each a little lower and further right
     ArrangeIcons,     ///< the minimised ones in rows along the bottom
 };
+
+/// Where a window of the area stands that its user has not placed: three quarters of the area in either direction, each
+/// a title bar lower and further right than the one before, and from the top again where there is no room left.
+QRect usualPlace(const QMdiArea &area, int number);
 
 /// Arranges the visible windows in the order of their making. The first three restore maximised windows and leave the
 /// minimised ones alone; the last one touches none but those.

@@ -48,6 +48,11 @@ public:
             answered();
     }
     void text(std::function<void(const QString &)> taken) override { taken(QStringLiteral("text")); }
+    void place(const QString &text, std::function<void(const std::optional<QPoint> &)> taken) override
+    {
+        taken(text == QStringLiteral("text") ? std::optional(QPoint(10, 20)) : std::nullopt);
+    }
+    int scrollTop() const override { return 30; }
     void endPage() override { m_page.calls << QStringLiteral("end"); }
 
 private:

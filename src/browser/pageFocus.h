@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QObject>
+
+class QWidget;
+
+/// Tells a keyboard that the user has moved into a page from one that the engine takes by itself, as it does where it
+/// makes a page's process anew.
+class PageFocus final : public QObject
+{
+    Q_OBJECT
+public:
+    /// Watches the view's widget and those that the engine puts into it.
+    explicit PageFocus(QWidget &view);
+
+    /// The user has left the page for another part of its window.
+    void release() { m_held = false; }
+
+Q_SIGNALS:
+    void taken(); ///< the page has the keyboard and nobody has put it there
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void focusCame(Qt::FocusReason reason);
+
+    bool m_held = false; ///< the user has put the keyboard into the page, where it comes back to with the window
+};
