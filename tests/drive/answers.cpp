@@ -3,6 +3,7 @@
 #include "drive/referee.h"
 #include "drive/told.h"
 
+#include <QScopedValueRollback>
 #include <algorithm>
 #include <span>
 
@@ -79,6 +80,14 @@ bool hasButton(MessageButtons buttons, MessageAnswer answer)
     }
     return false;
 }
+/// What leaving a box by its close box answers.
+MessageAnswer closed(MessageButtons buttons)
+{
+    for (const MessageAnswer answer : {MessageAnswer::Cancel, MessageAnswer::No})
+        if (hasButton(buttons, answer))
+            return answer;
+    return MessageAnswer::OK;
+}
 } // namespace
 
 QString buttonsName(MessageButtons buttons)
@@ -117,16 +126,54 @@ QString boxText(const MessageBox &box)
         .arg(quoted(box.title), quoted(box.text), iconName(box.icon), buttonsName(box.buttons));
 }
 
-MessageAnswer ScriptedBoxes::show(const MessageBox &box)
+MessageAnswer ScriptedBoxes::check(MessageAnswer answer, const MessageBox &box) const
 {
-    shown.add({box, m_referee.line()});
-    if (m_answers.isEmpty())
-        m_referee.fail(QStringLiteral("no box without a queued answer"), boxText(box));
-    const MessageAnswer answer = m_answers.takeFirst();
     if (!hasButton(box.buttons, answer))
         m_referee.fail(QStringLiteral("a box with the button %1, which is the queued answer").arg(answerName(answer)),
                        boxText(box));
     return answer;
+}
+
+MessageAnswer ScriptedBoxes::show(const MessageBox &box)
+{
+    if (tellOnly) {
+        tellOnly(boxText(box));
+        return closed(box.buttons);
+    }
+    shown.add({box, m_referee.line()});
+    if (const auto block = takeBlock(box.title)) {
+        check(block->answer, box);
+        const QScopedValueRollback guard(m_onShow, box.title);
+        playBlock(block->line);
+        return block->answer;
+    }
+    if (m_answers.isEmpty())
+        m_referee.fail(QStringLiteral("no box without a queued answer"), boxText(box));
+    return check(m_answers.takeFirst(), box);
+}
+
+std::optional<ScriptedBoxes::Block> ScriptedBoxes::takeBlock(const QString &title)
+{
+    const auto found = std::find_if(m_blocks.begin(), m_blocks.end(),
+                                    [&](const Block &block) { return block.line.words.front() == title; });
+    if (found == m_blocks.end())
+        return std::nullopt;
+    const Block block = *found;
+    m_blocks.erase(found);
+    return block;
+}
+
+std::optional<Line> ScriptedBoxes::unshown() const
+{
+    return m_blocks.isEmpty() ? std::nullopt : std::optional(m_blocks.front().line);
+}
+
+QList<int> ScriptedBoxes::waiting() const
+{
+    QList<int> lines;
+    for (const Block &block : m_blocks)
+        lines.append(block.line.number);
+    return lines;
 }
 
 QString dialogName(DialogKind kind)

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "drive/script.h"
 #include "services/commonDialogs.h"
 #include "services/messageBoxes.h"
 
 #include <QList>
 #include <QStringList>
+#include <functional>
 
 namespace drive
 {
@@ -19,6 +21,8 @@ public:
     bool isEmpty() const { return m_things.isEmpty(); }
     const Thing &oldest() const { return m_things.front(); }
     Thing take() { return m_things.takeFirst(); }
+    const QList<Thing> &all() const { return m_things; }
+    void set(const QList<Thing> &things) { m_things = things; }
 
 private:
     QList<Thing> m_things;
@@ -47,12 +51,33 @@ public:
 
     MessageAnswer show(const MessageBox &box) override;
     void queue(MessageAnswer answer) { m_answers.append(answer); }
+    const QList<MessageAnswer> &answers() const { return m_answers; }
+
+    /// What happens while the next box of a title is on show, which is then answered so.
+    struct Block {
+        Line line; ///< `when-box` with the title and the commands
+        MessageAnswer answer = MessageAnswer::OK;
+    };
+    void queueBlock(const Block &block) { m_blocks.append(block); }
+    std::function<void(const Line &)> playBlock; ///< plays the commands of a block
+    std::optional<Line> unshown() const;         ///< the first block whose box never came
+    QList<int> waiting() const;                  ///< the lines of the blocks whose boxes are still to come
+    /// The title of the box that is on show while a block is played; empty without one.
+    QString onShow() const { return m_onShow; }
+
+    /// Takes what a box says, in a program that no script answers: boxes are left by their close box then.
+    std::function<void(const QString &)> tellOnly;
 
     Recorded<ShownBox> shown; ///< those not yet looked at
 
 private:
+    MessageAnswer check(MessageAnswer answer, const MessageBox &box) const;
+    std::optional<Block> takeBlock(const QString &title);
+
     Referee &m_referee;
     QList<MessageAnswer> m_answers;
+    QList<Block> m_blocks;
+    QString m_onShow;
 };
 
 enum class DialogKind { Open, Save, Colour, Folder, Font, Print };
@@ -90,6 +115,7 @@ public:
     std::optional<FontChoice> showFont(const FontChoice &initial) override;
     std::optional<int> showPrint() override;
     void queue(const DialogAnswer &answer) { m_answers.append(answer); }
+    const QList<DialogAnswer> &answers() const { return m_answers; }
 
     Recorded<ShownDialog> shown;
 

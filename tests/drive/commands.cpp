@@ -6,6 +6,12 @@ namespace drive
 {
 namespace
 {
+std::vector<std::span<const Command>> allTables()
+{
+    return {lifeCommands(),    menuCommands(), inputCommands(),  controlCommands(), answerCommands(),
+            compareCommands(), lookCommands(), recordCommands(), fileCommands()};
+}
+
 QString countOf(const Command &command)
 {
     if (command.most < 0)
@@ -18,8 +24,7 @@ QString countOf(const Command &command)
 QStringList commandNames()
 {
     QStringList names;
-    for (const auto &table : {lifeCommands(), menuCommands(), inputCommands(), controlCommands(), answerCommands(),
-                              lookCommands(), recordCommands(), fileCommands()})
+    for (const auto &table : allTables())
         for (const Command &command : table)
             names.append(QLatin1String(command.name));
     std::sort(names.begin(), names.end());
@@ -41,8 +46,7 @@ std::optional<QString> wrongWith(const Line &line)
 
 const Command *commandNamed(const QString &name)
 {
-    for (const auto &table : {lifeCommands(), menuCommands(), inputCommands(), controlCommands(), answerCommands(),
-                              lookCommands(), recordCommands(), fileCommands()})
+    for (const auto &table : allTables())
         for (const Command &command : table)
             if (name == QLatin1String(command.name))
                 return &command;

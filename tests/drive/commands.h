@@ -24,6 +24,7 @@ std::span<const Command> controlCommands();
 std::span<const Command> answerCommands();
 std::span<const Command> lookCommands();
 std::span<const Command> recordCommands();
+std::span<const Command> compareCommands();
 std::span<const Command> fileCommands();
 
 /// Nothing if there is no such command.

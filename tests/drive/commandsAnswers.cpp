@@ -73,6 +73,14 @@ void when(Stage &stage, const Line &line)
     stage.queueWhen(line);
 }
 
+void whenBox(Stage &stage, const Line &line)
+{
+    const auto button = parseAnswer(line.words[1]);
+    if (!button)
+        stage.referee.wrong(QStringLiteral("%1 is none of OK, Yes, No, Cancel and Retry").arg(line.words[1]));
+    stage.desktop.boxes.queueBlock({line, *button});
+}
+
 constexpr Command commands[] = {
     {"answer", 1, 1, answer},
     {"choose", 1, 2, choose},
@@ -83,6 +91,7 @@ constexpr Command commands[] = {
     {"choose-copies", 1, 1, chooseCopies},
     {"refuse-launch", 0, 0, refuseLaunch},
     {"when", 1, 1, when},
+    {"when-box", 2, 2, whenBox},
 };
 } // namespace
 

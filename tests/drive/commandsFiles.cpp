@@ -1,5 +1,7 @@
 // The files and settings of the script's world: preparing them and looking at them.
+#include "common/fileErrors.h"
 #include "drive/commands.h"
+#include "drive/diskRoom.h"
 #include "drive/patterns.h"
 #include "drive/stage.h"
 #include "drive/told.h"
@@ -10,6 +12,9 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QTest>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
 
 namespace drive
 {
@@ -17,12 +22,26 @@ namespace
 {
 constexpr int FileMilliseconds = 2000;
 
+/// A file system tells time in steps: what is written twice within one would look as if it had been written once.
+void makeNewer(const QString &path, const QDateTime &before)
+{
+    const QFileInfo info(path);
+    if (before.isValid() && info.lastModified() <= before) {
+        QFile file(path);
+        if (file.open(QIODevice::ReadWrite))
+            file.setFileTime(before.addMSecs(10), QFileDevice::FileModificationTime);
+    }
+}
+
 void write(Stage &stage, const QString &path, const QByteArray &bytes)
 {
     QDir().mkpath(QFileInfo(path).path());
+    const QDateTime before = QFileInfo(path).lastModified();
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush())
         stage.referee.wrong(QStringLiteral("%1 cannot be written: %2").arg(path, file.errorString()));
+    file.close();
+    makeNewer(path, before);
 }
 
 QByteArray bytesOf(Stage &stage, const QString &word)
@@ -85,12 +104,56 @@ int codeOf(Stage &stage, const QString &word)
 
 void failWrites(Stage &stage, const Line &line)
 {
-    stage.desktop.files.failNextWrite(line.words[0], codeOf(stage, line.words[1]));
+    stage.desktop.files.failNext({line.words[0], codeOf(stage, line.words[1]), ScriptedFiles::Act::Write});
 }
 
 void failReads(Stage &stage, const Line &line)
 {
-    stage.desktop.files.failNextRead(line.words[0], codeOf(stage, line.words[1]));
+    stage.desktop.files.failNext({line.words[0], codeOf(stage, line.words[1]), ScriptedFiles::Act::Read});
+}
+
+void failListing(Stage &stage, const Line &line)
+{
+    stage.desktop.files.failNext({line.words[0], PermissionDeniedError, ScriptedFiles::Act::List});
+}
+
+void limitDiskBelow(Stage &stage, const Line &line)
+{
+    requireInWorld(stage, line.words[0]);
+    if (line.words.size() < 2) {
+        liftDiskLimit();
+        return;
+    }
+    bool ok = false;
+    const qint64 bytes = line.words[1].toLongLong(&ok);
+    if (!ok || bytes < 0)
+        stage.referee.wrong(QStringLiteral("%1 is no number of bytes").arg(line.words[1]));
+    const QString folder = QFileInfo(line.words[0]).canonicalFilePath();
+    if (folder.isEmpty())
+        stage.referee.wrong(QStringLiteral("there is no folder %1").arg(line.words[0]));
+    limitDisk(QFile::encodeName(folder), bytes);
+}
+
+void renameFile(Stage &stage, const Line &line)
+{
+    for (const QString &path : {line.words[0], line.words[1]})
+        requireInWorld(stage, path);
+    if (::rename(QFile::encodeName(line.words[0]).constData(), QFile::encodeName(line.words[1]).constData()) != 0)
+        stage.referee.wrong(QStringLiteral("%1 cannot be renamed to %2: %3")
+                                .arg(line.words[0], line.words[1], QString::fromLocal8Bit(std::strerror(errno))));
+}
+
+void touch(Stage &stage, const Line &line)
+{
+    const QString &path = line.words[0];
+    requireInWorld(stage, path);
+    const QDateTime before = QFileInfo(path).lastModified();
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadWrite) ||
+        !file.setFileTime(QDateTime::currentDateTime(), QFileDevice::FileModificationTime))
+        stage.referee.wrong(QStringLiteral("%1 cannot be touched: %2").arg(path, file.errorString()));
+    file.close();
+    makeNewer(path, before);
 }
 
 /// The bytes of a file; nothing if there is no such file.
@@ -138,6 +201,27 @@ void expectNoFile(Stage &stage, const Line &line)
     const auto isThere = [&] { return QFileInfo::exists(path) || QFileInfo(path).isSymLink(); };
     if (!QTest::qWaitFor([&] { return !isThere(); }, FileMilliseconds))
         stage.referee.fail(QStringLiteral("no file %1").arg(path), QStringLiteral("one"));
+}
+
+QStringList namesIn(const QString &folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                                  QDir::Unsorted);
+}
+
+void expectFolder(Stage &stage, const Line &line)
+{
+    const QString &folder = line.words[0];
+    QStringList expected = line.words.mid(1);
+    QStringList got;
+    expected.sort();
+    const auto holds = [&] {
+        got = namesIn(folder);
+        got.sort();
+        return got == expected;
+    };
+    if (!QTest::qWaitFor(holds, FileMilliseconds))
+        stage.referee.fail(QStringLiteral("%1 to hold %2").arg(folder, quotedList(expected)), quotedList(got));
 }
 
 void saveSetting(Stage &stage, const Line &line)
@@ -201,11 +285,16 @@ constexpr Command commands[] = {
     {"read-only", 1, 1, readOnly},
     {"fail-writes", 2, 2, failWrites},
     {"fail-reads", 2, 2, failReads},
+    {"fail-listing", 1, 1, failListing},
+    {"disk-full", 1, 2, limitDiskBelow},
+    {"rename", 2, 2, renameFile},
+    {"touch", 1, 1, touch},
     {"setting", 4, 4, saveSetting},
     {"no-setting", 3, 3, deleteSetting},
     {"expect-file", 2, 2, expectFile},
     {"expect-file-hex", 2, 2, expectFileHex},
     {"expect-no-file", 1, 1, expectNoFile},
+    {"expect-folder", 1, -1, expectFolder},
     {"expect-setting", 4, 4, expectSetting},
     {"expect-setting-match", 4, 4, expectSettingMatch},
     {"expect-no-setting", 3, 3, expectNoSetting},

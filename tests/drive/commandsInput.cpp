@@ -1,17 +1,22 @@
 // Keys, mouse, clipboard, drag and drop: what the user does without regard to what is under it.
+#include "browser/webBrowser.h"
 #include "common/document.h"
 #include "common/mainWindow.h"
 #include "drive/commands.h"
 #include "drive/controlAdapter.h"
+#include "drive/controlParts.h"
 #include "drive/events.h"
 #include "drive/input.h"
 #include "drive/stage.h"
 #include "drive/targets.h"
+#include "drive/told.h"
 #include "forms/form.h"
 
 #include <QApplication>
 #include <QClipboard>
+#include <QImage>
 #include <QMimeData>
+#include <QTest>
 #include <QUrl>
 #include <QWidget>
 
@@ -55,6 +60,8 @@ QWidget &widgetOf(Stage &stage, const Target &target)
 {
     QObject *object = target.control ? target.control : target.form->window();
     auto *widget = qobject_cast<QWidget *>(object);
+    if (widget && target.control && takesInput(stage, *target.form))
+        turnToPageOf(*widget);
     if (!widget)
         stage.referee.wrong(QStringLiteral("%1 is nothing that a mouse can point at").arg(target.name));
     if (!widget->isVisible())
@@ -106,7 +113,7 @@ void mouse(Stage &stage, const Line &line)
     if (*act != MouseAct::Move && *act != MouseAct::Release && takesInput(stage, *target.form))
         activateWindowOf(*target.form);
     settle();
-    if (widget)
+    if (widget && stage.desktop.boxes.onShow().isEmpty()) // a box keeps it off as a real one does
         moveMouse(*widget, *act, {*x, *y}, modifiers);
 }
 
@@ -116,6 +123,7 @@ void select(Stage &stage, const Line &line)
     auto *form = dynamic_cast<Form *>(&document);
     requireInput(stage, *form, QStringLiteral("a selection"));
     activate(stage, *form);
+    document.txtEdit().SetFocus();
     settle();
     const auto start = wholeNumber(line.words[0]);
     const auto length = wholeNumber(line.words[1]);
@@ -128,6 +136,66 @@ void select(Stage &stage, const Line &line)
 void setClipboard(Stage &, const Line &line)
 {
     QGuiApplication::clipboard()->setText(line.words[0]);
+}
+
+void setClipboardPicture(Stage &stage, const Line &line)
+{
+    const QImage picture(line.words[0]);
+    if (picture.isNull())
+        stage.referee.wrong(QStringLiteral("there is no picture %1").arg(line.words[0]));
+    QGuiApplication::clipboard()->setImage(picture);
+}
+
+/// Where a text stands in the page on show; the script fails if it does not come up in time.
+QPoint placeInPage(Stage &stage, WebBrowser &browser, const QString &text)
+{
+    constexpr int LongestMilliseconds = 5000;
+    std::optional<QPoint> place;
+    const auto ask = [&] {
+        const auto answer = std::make_shared<std::optional<std::optional<QPoint>>>();
+        browser.placeOfText(text, [answer](const std::optional<QPoint> &found) { *answer = found; });
+        (void)QTest::qWaitFor([&] { return answer->has_value(); }, LongestMilliseconds);
+        place = answer->value_or(std::nullopt);
+        return place.has_value();
+    };
+    if (!QTest::qWaitFor(ask, LongestMilliseconds))
+        stage.referee.fail(QStringLiteral("%1 in the page on show").arg(quoted(text)),
+                           QStringLiteral("no such text in it"));
+    return *place;
+}
+
+void clickPreview(Stage &stage, const Line &line)
+{
+    const Target target = findTarget(stage, QStringLiteral("doc.brwWebBrowser"));
+    auto *browser = qobject_cast<WebBrowser *>(target.control);
+    requireInput(stage, *target.form, target.name);
+    if (!browser || !browser->isVisible())
+        stage.referee.fail(QStringLiteral("the preview on show"), QStringLiteral("it hidden"));
+    activate(stage, *target.form);
+    settle();
+    const QPoint place = placeInPage(stage, *browser, line.words[0]);
+    moveMouse(*browser, MouseAct::Move, place, Qt::NoModifier);
+    moveMouse(*browser, MouseAct::Click, place, Qt::NoModifier);
+}
+
+void resizeWindow(Stage &stage, const Line &line)
+{
+    Form &form = findForm(stage, line.words[0]);
+    const auto width = wholeNumber(line.words[1]);
+    const auto height = wholeNumber(line.words[2]);
+    if (!width || !height || *width < 1 || *height < 1)
+        stage.referee.wrong(QStringLiteral("a size is a width and a height in pixels"));
+    requireInput(stage, form, QStringLiteral("another size"));
+    QWidget &window = *form.window();
+    if (window.isMaximized() || window.isMinimized())
+        window.showNormal();
+    window.resize(*width, *height);
+}
+
+void reveal(Stage &stage, const Line &line)
+{
+    const Target target = findTarget(stage, line.words[0]);
+    bringIntoView(widgetOf(stage, target));
 }
 
 void drop(Stage &stage, const Line &line)
@@ -167,11 +235,17 @@ void clickTarget(Stage &stage, const Line &line)
 void during(Stage &stage, const Line &line)
 {
     const auto number = wholeNumber(line.words[0]);
-    const QString &what = line.words[1];
-    const QString &object = line.words[2];
+    if (number && *number >= 1 && line.words.size() == 1) {
+        stage.desktop.yielder.queue({line.number, *number, [&stage, line] { stage.playBlock(line); }});
+        return;
+    }
+    const QString what = line.words.value(1);
+    const QString object = line.words.value(2);
     const bool isKey = what == QStringLiteral("key");
-    if (!number || *number < 1 || (!isKey && what != QStringLiteral("click")))
-        stage.referee.wrong(QStringLiteral("during takes a number from 1 on and `key CHORD` or `click TARGET`"));
+    if (!number || *number < 1 || (!isKey && what != QStringLiteral("click")) || object.isEmpty())
+        stage.referee.wrong(
+            QStringLiteral("during takes a number from 1 on and `key CHORD`, `click TARGET` or commands "
+                           "up to `end`"));
     if (isKey)
         chordNamed(stage, object);
     const auto act = [&stage, isKey, object] {
@@ -187,9 +261,18 @@ void during(Stage &stage, const Line &line)
 }
 
 constexpr Command commands[] = {
-    {"key", 1, -1, key},          {"type", 1, 1, type},     {"mouse", 4, 7, mouse},
-    {"select", 2, 2, select},     {"drop", 3, -1, drop},    {"clipboard", 1, 1, setClipboard},
-    {"click", 1, 1, clickTarget}, {"during", 3, 3, during},
+    {"key", 1, -1, key},
+    {"type", 1, 1, type},
+    {"mouse", 4, 7, mouse},
+    {"select", 2, 2, select},
+    {"drop", 3, -1, drop},
+    {"clipboard", 1, 1, setClipboard},
+    {"clipboard-picture", 1, 1, setClipboardPicture},
+    {"click", 1, 1, clickTarget},
+    {"click-preview", 1, 1, clickPreview},
+    {"size", 3, 3, resizeWindow},
+    {"reveal", 1, 1, reveal},
+    {"during", 1, 3, during},
 };
 } // namespace
 

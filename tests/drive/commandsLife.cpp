@@ -13,6 +13,7 @@
 #include <QElapsedTimer>
 #include <QPointer>
 #include <QTest>
+#include <cmath>
 
 namespace drive
 {
@@ -113,6 +114,36 @@ void waitFor(Stage &stage, const Line &line)
             got ? quotedAgainst(line.words[2], *got) : QStringLiteral("no such property by then"));
 }
 
+void pass(Stage &stage, const Line &line)
+{
+    bool ok = false;
+    const double seconds = line.words[0].toDouble(&ok);
+    if (!ok || seconds < 0)
+        stage.referee.wrong(QStringLiteral("%1 is no number of seconds").arg(line.words[0]));
+    const auto milliseconds = static_cast<qint64>(std::llround(seconds * 1000));
+    QDateTime &now = stage.desktop.clock.moment;
+    const QDateTime begin = now;
+    stage.desktop.timers.pass(milliseconds, [&](qint64 passed, const std::function<void()> &fireTimer) {
+        now = begin.addMSecs(passed);
+        insideEvent(fireTimer);
+        settle();
+        stage.playShownForms();
+    });
+    now = begin.addMSecs(milliseconds);
+}
+
+void killProgram(Stage &stage, const Line &)
+{
+    stage.program();
+    stage.killProgram();
+}
+
+void startSecond(Stage &stage, const Line &line)
+{
+    stage.program();
+    stage.secondStarts.start(line.words.value(0));
+}
+
 void setClock(Stage &stage, const Line &line)
 {
     const QDateTime moment = QDateTime::fromString(line.words[0], Qt::ISODate);
@@ -123,7 +154,7 @@ void setClock(Stage &stage, const Line &line)
 
 void seed(Stage &stage, const Line &line)
 {
-    stage.desktop.random.seed(static_cast<quint32>(numberOf(stage, line.words[0], 0)));
+    stage.desktop.seed(static_cast<quint32>(numberOf(stage, line.words[0], 0)));
 }
 
 void testForm(Stage &stage, const Line &line)
@@ -148,6 +179,9 @@ constexpr Command commands[] = {
     {"expect-running", 0, 0, expectRunning},
     {"tick", 1, 2, tick},
     {"wait-for", 3, 4, waitFor},
+    {"pass", 1, 1, pass},
+    {"kill", 0, 0, killProgram},
+    {"start-second", 0, 1, startSecond},
     {"clock", 1, 1, setClock},
     {"seed", 1, 1, seed},
     {"test-form", 1, 1, testForm},

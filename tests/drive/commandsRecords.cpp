@@ -60,6 +60,16 @@ void expectNoBox(Stage &stage, const Line &)
         stage.referee.fail(QStringLiteral("no box"), boxText(stage.desktop.boxes.shown.oldest().box));
 }
 
+void lookAtBoxes(Stage &stage, const Line &line)
+{
+    const QString expected = QStringLiteral("boxes %1, all of them").arg(quoted(line.words[0]));
+    do {
+        const MessageBox box = nextBox(stage, expected);
+        if (box.title != line.words[0])
+            stage.referee.fail(expected, boxText(box));
+    } while (!stage.desktop.boxes.shown.isEmpty());
+}
+
 /// Whether the dialog has what one "NAME=VALUE" says.
 bool hasProperty(Stage &stage, const ShownDialog &dialog, const QString &word)
 {
@@ -102,6 +112,17 @@ void expectText(Stage &stage, Recorded<QString> &record, const QString &what, co
         stage.referee.fail(expected, quotedAgainst(text, got));
 }
 
+void expectTextMatch(Stage &stage, Recorded<QString> &record, const QString &what, const QString &form)
+{
+    const QRegularExpression pattern = wholePattern(stage, form);
+    const QString expected = QStringLiteral("%1 to match %2").arg(what, form);
+    if (record.isEmpty())
+        stage.referee.fail(expected, None);
+    const QString got = record.take();
+    if (!pattern.match(got).hasMatch())
+        stage.referee.fail(expected, quoted(got));
+}
+
 void expectNothing(Stage &stage, const Recorded<QString> &record, const QString &what)
 {
     if (!record.isEmpty())
@@ -111,6 +132,11 @@ void expectNothing(Stage &stage, const Recorded<QString> &record, const QString 
 void expectLaunched(Stage &stage, const Line &line)
 {
     expectText(stage, stage.desktop.launcher.launched, QStringLiteral("the start of"), line.words[0]);
+}
+
+void expectLaunchedMatch(Stage &stage, const Line &line)
+{
+    expectTextMatch(stage, stage.desktop.launcher.launched, QStringLiteral("what is started"), line.words[0]);
 }
 
 void expectNoLaunched(Stage &stage, const Line &)
@@ -123,6 +149,16 @@ void expectHelp(Stage &stage, const Line &line)
     expectText(stage, stage.desktop.help.shown, QStringLiteral("the help on"), line.words[0]);
 }
 
+void expectHelpMatch(Stage &stage, const Line &line)
+{
+    expectTextMatch(stage, stage.desktop.help.shown, QStringLiteral("the help's topic"), line.words[0]);
+}
+
+void expectSecond(Stage &stage, const Line &line)
+{
+    expectTextMatch(stage, stage.secondStarts.told, QStringLiteral("what the second start says"), line.words[0]);
+}
+
 void expectNoHelp(Stage &stage, const Line &)
 {
     expectNothing(stage, stage.desktop.help.shown, QStringLiteral("help"));
@@ -132,11 +168,15 @@ constexpr Command commands[] = {
     {"expect-box", 1, 4, expectBox},
     {"expect-box-match", 2, 2, expectBoxMatch},
     {"expect-no-box", 0, 0, expectNoBox},
+    {"look-at-boxes", 1, 1, lookAtBoxes},
     {"expect-dialog", 1, -1, expectDialog},
     {"expect-no-dialog", 0, 0, expectNoDialog},
     {"expect-launched", 1, 1, expectLaunched},
+    {"expect-launched-match", 1, 1, expectLaunchedMatch},
     {"expect-no-launched", 0, 0, expectNoLaunched},
     {"expect-help", 1, 1, expectHelp},
+    {"expect-help-match", 1, 1, expectHelpMatch},
+    {"expect-second", 1, 1, expectSecond},
     {"expect-no-help", 0, 0, expectNoHelp},
 };
 } // namespace

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "common/colour.h"
+
 #include <QList>
 #include <QString>
 #include <optional>
@@ -23,6 +25,8 @@ enum class NodeAction { Click, DoubleClick, Enter };
 /// read "True" and "False"; lengths are logical pixels; colours are decimal, or "window", "highlight", "button-face"
 /// and "window-text" for the theme's. Works for controls, timers and menu entries (QAction).
 std::optional<QString> readProperty(QObject &control, const QString &property);
+/// A colour as scripts name it.
+QString colourName(ColourValue colour);
 /// The properties that readProperty knows of for this control, without those that take an index.
 QList<QString> propertyNames(QObject &control);
 

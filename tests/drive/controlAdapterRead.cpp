@@ -59,6 +59,16 @@ QString number(qlonglong value)
     return QString::number(value);
 }
 
+/// Whether the place where the next typed character goes is on view.
+bool isCaretVisible(const QWidget &surface)
+{
+    const auto *area = qobject_cast<const QAbstractScrollArea *>(&surface);
+    const auto *text = qobject_cast<const QPlainTextEdit *>(&surface);
+    const QRect caret = text ? text->cursorRect() : surface.inputMethodQuery(Qt::ImCursorRectangle).toRect();
+    return surface.isVisible() && (area ? area->viewport()->rect() : surface.rect()).intersects(caret);
+}
+} // namespace
+
 QString colourName(ColourValue colour)
 {
     switch (colour) {
@@ -75,6 +85,8 @@ QString colourName(ColourValue colour)
     }
 }
 
+namespace
+{
 QString mousePointer(const QWidget &widget)
 {
     if (!widget.testAttribute(Qt::WA_SetCursor))
@@ -104,6 +116,8 @@ Value readWindow(const QWidget &widget, const QString &name)
         return {};
     if (name == u"Caption")
         return widget.windowTitle();
+    if (name == u"Topmost")
+        return boolean(widget.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     return name == u"WindowState" ? Value(windowState(widget)) : std::nullopt;
 }
 
@@ -199,6 +213,8 @@ Value readTextLimits(const QWidget &widget, const QString &name)
     const auto *surface = dynamic_cast<const TextSurface *>(&widget);
     if (surface && name == u"FirstVisibleLine")
         return number(surface->firstVisibleLine());
+    if (surface && name == u"CaretVisible")
+        return boolean(isCaretVisible(widget));
     if (surface && name == u"Locked")
         return boolean(surface->Locked());
     const QLineEdit *edit = lineEditOf(const_cast<QWidget &>(widget));
@@ -228,6 +244,8 @@ Value readBrowser(const QWidget &widget, const QString &name)
         return browser->LocationURL();
     if (name == u"Notice")
         return browser->Notice();
+    if (name == u"ScrollTop")
+        return number(browser->ScrollTop());
     if (name == u"Busy")
         return boolean(browser->isLoading());
     return name == u"PageText" ? pageText(*browser) : Value();
@@ -243,7 +261,11 @@ Value readRow(const ControlRows &rows, const QString &textProperty, const Asked 
     if (asked.name == u"Key")
         return rows.key(row);
     if (asked.name == u"SubItem")
-        return rows.subItem(row, asked.second);
+        return rows.subItem(row, asked.second).value_or(QString());
+    if (asked.name == u"SmallIcon")
+        return rows.smallIcon(row);
+    if (asked.name == u"ToolTipText")
+        return rows.toolTip(row);
     if (asked.name == u"Selected")
         return boolean(rows.isSelected(row));
     if (asked.name != u"Ticked")
@@ -258,6 +280,8 @@ Value readRows(const QWidget &widget, const Asked &asked)
     if (!rows)
         return {};
     const bool tabs = qobject_cast<const QTabBar *>(&widget);
+    if (asked.first && asked.name == u"ItemHeader")
+        return rows->header(*asked.first);
     if (asked.first)
         return readRow(*rows, tabs ? QStringLiteral("Tab") : QStringLiteral("List"), asked);
     if (asked.name == (tabs ? u"TabCount" : u"ListCount"))

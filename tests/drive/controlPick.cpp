@@ -170,6 +170,11 @@ QModelIndex cellOf(const QAbstractItemModel &days, int day)
 }
 } // namespace
 
+bool hasNode(const NodeTree &tree, const QString &path)
+{
+    return findNode(tree, path).row.has_value();
+}
+
 ActionResult pickRow(QWidget &control, const QString &row, std::optional<bool> selected, bool textFirst)
 {
     if (qobject_cast<NodeTree *>(&control))

@@ -20,6 +20,7 @@ ControlRows rowsOfCombo(const QComboBox &combo)
 ControlRows rowsOfTabs(const QTabBar &tabs)
 {
     ControlRows rows{tabs.count(), tabs.currentIndex(), [&tabs](int row) { return tabs.tabText(row); }};
+    rows.toolTip = [&tabs](int row) { return tabs.tabToolTip(row); };
     if (const auto *strip = qobject_cast<const TabStrip *>(&tabs)) {
         rows.key = [strip](int row) { return strip->keyAt(row); };
         rows.text = [strip](int row) { return strip->tabText(row).replace(QStringLiteral("&&"), QStringLiteral("&")); };
@@ -52,6 +53,10 @@ ControlRows rowsOfListView(const ListView &list)
                      [&list](int row) { return list.rowAt(row).text; }};
     rows.key = [&list](int row) { return list.rowAt(row).key; };
     rows.subItem = [&list](int row, int column) { return columnOf(list.rowAt(row), column); };
+    rows.smallIcon = [&list](int row) { return QString::number(list.rowAt(row).smallIcon); };
+    rows.header = [&list](int column) {
+        return column < list.columnCount() ? std::optional(list.headerItem()->text(column)) : std::nullopt;
+    };
     rows.selected = [&list](int row) { return list.selectedRows().contains(row); };
     if (list.hasCheckBoxes())
         rows.ticked = [&list](int row) { return list.rowAt(row).checked; };

@@ -17,6 +17,9 @@ struct ControlRows {
     std::function<QString(int)> key = [](int) { return QString(); };
     std::function<std::optional<QString>(int, int)> subItem = [](int, int) { return std::nullopt; };
     std::function<std::optional<bool>(int)> ticked = [](int) { return std::nullopt; };
+    std::function<std::optional<QString>(int)> smallIcon = [](int) { return std::nullopt; }; ///< from 1; "0" for none
+    std::function<std::optional<QString>(int)> toolTip = [](int) { return std::nullopt; };
+    std::function<std::optional<QString>(int)> header = [](int) { return std::nullopt; }; ///< of a column, from 0
     std::function<bool(int)> selected = {}; ///< by default, whether it is the current one
 
     bool isSelected(int row) const { return selected ? selected(row) : row == current; }

@@ -1,6 +1,7 @@
 #include "drive/desktop.h"
 
 #include "common/paths.h"
+#include "drive/carriedOver.h"
 #include "drive/world.h"
 
 #include <QDir>
@@ -12,13 +13,6 @@ namespace drive
 {
 namespace
 {
-class StillTicker final : public Ticker
-{
-public:
-    void start(int) override {}
-    void stop() override {}
-};
-
 /// Where the program keeps its settings.
 QString settingsFolder()
 {
@@ -36,21 +30,16 @@ bool ScriptedLauncher::launch(const QString &what)
     return false;
 }
 
-std::unique_ptr<Ticker> StillTimers::makeTicker(std::function<void()>)
-{
-    return std::make_unique<StillTicker>();
-}
-
-QList<ScriptedFiles::Failing>::const_iterator ScriptedFiles::waiting(const QString &path, bool write) const
+QList<ScriptedFiles::Failing>::const_iterator ScriptedFiles::waiting(const QString &path, Act act) const
 {
     return std::find_if(m_failing.cbegin(), m_failing.cend(), [&](const Failing &failing) {
-        return failing.write == write && QDir::cleanPath(failing.path) == QDir::cleanPath(path);
+        return failing.act == act && QDir::cleanPath(failing.path) == QDir::cleanPath(path);
     });
 }
 
-std::optional<FileError> ScriptedFiles::failure(const QString &path, bool write)
+std::optional<FileError> ScriptedFiles::failure(const QString &path, Act act)
 {
-    const auto found = waiting(path, write);
+    const auto found = waiting(path, act);
     if (found == m_failing.cend())
         return std::nullopt;
     const FileError error{found->code, 0, QStringLiteral("Error %1").arg(found->code)};
@@ -60,7 +49,7 @@ std::optional<FileError> ScriptedFiles::failure(const QString &path, bool write)
 
 FileContents ScriptedFiles::readAll(const QString &path)
 {
-    if (const auto error = failure(path, false))
+    if (const auto error = failure(path, Act::Read))
         return {{}, error};
     return m_real.readAll(path);
 }
@@ -68,44 +57,45 @@ FileContents ScriptedFiles::readAll(const QString &path)
 std::optional<FileError> ScriptedFiles::checkReadable(const QString &path)
 {
     // A bad disk or too little memory is met by the reading itself: the file can be opened.
-    const auto found = waiting(path, false);
+    const auto found = waiting(path, Act::Read);
     const bool opens = found == m_failing.cend() || QList<int>{7, 57, 61, 62, 71}.contains(found->code);
-    return opens ? m_real.checkReadable(path) : failure(path, false);
+    return opens ? m_real.checkReadable(path) : failure(path, Act::Read);
 }
 
 std::optional<FileError> ScriptedFiles::writeWhole(const QString &path, const QByteArray &bytes)
 {
-    if (const auto error = failure(path, true))
+    if (const auto error = failure(path, Act::Write))
         return error;
     return m_real.writeWhole(path, bytes);
 }
 
 std::optional<FileError> ScriptedFiles::writeScratch(const QString &path, const QByteArray &bytes)
 {
-    if (const auto error = failure(path, true))
+    if (const auto error = failure(path, Act::Write))
         return error;
     return m_real.writeScratch(path, bytes);
 }
 
 FolderListing ScriptedFiles::list(const QString &folder)
 {
-    if (const auto error = failure(folder, false))
-        return {{}, error};
+    for (const Act act : {Act::List, Act::Read})
+        if (const auto error = failure(folder, act))
+            return {{}, error};
     return m_real.list(folder);
 }
 
 std::optional<FileError> ScriptedFiles::makeFolder(const QString &folder)
 {
-    if (const auto error = failure(folder, true))
+    if (const auto error = failure(folder, Act::Write))
         return error;
     return m_real.makeFolder(folder);
 }
 
 std::optional<FileError> ScriptedFiles::copyFile(const QString &from, const QString &to)
 {
-    if (const auto error = failure(from, false))
+    if (const auto error = failure(from, Act::Read))
         return error;
-    if (const auto error = failure(to, true))
+    if (const auto error = failure(to, Act::Write))
         return error;
     return m_real.copyFile(from, to);
 }
@@ -126,6 +116,7 @@ void ScriptedYielder::yield()
         return;
     ++m_yields;
     const QScopedValueRollback guard(m_acting, true);
+    yielded();
     const auto isDue = [this](const Act &act) { return act.number == m_yields; };
     for (auto due = std::find_if(m_ofPass.begin(), m_ofPass.end(), isDue); due != m_ofPass.end();
          due = std::find_if(m_ofPass.begin(), m_ofPass.end(), isDue)) {
@@ -133,6 +124,15 @@ void ScriptedYielder::yield()
         m_ofPass.erase(due);
         act.run();
     }
+}
+
+QList<int> ScriptedYielder::waiting() const
+{
+    QList<int> lines;
+    for (const auto &acts : {m_ofPass, m_queued})
+        for (const Act &act : acts)
+            lines.append(act.line);
+    return lines;
 }
 
 QList<ScriptedYielder::MissedAct> ScriptedYielder::missed() const
@@ -163,7 +163,7 @@ Desktop::Desktop(Referee &referee, const World &world)
           .clock = clock,
           .random = random,
           .help = help,
-          .timers = m_timers,
+          .timers = timers,
           .fileClasses = m_fileClasses,
           .modalLoop = modalLoop,
           .yielder = yielder,
@@ -171,5 +171,48 @@ Desktop::Desktop(Referee &referee, const World &world)
           .appPath = world.app(),
       }
 {
+}
+
+void Desktop::seed(quint32 value)
+{
+    m_seed = value;
+    random.seed(value);
+}
+
+CarriedOver Desktop::carriedOver() const
+{
+    CarriedOver carried;
+    carried.clock = clock.moment;
+    carried.seed = m_seed;
+    carried.answers = boxes.answers();
+    carried.boxes = boxes.shown.all();
+    carried.choices = dialogs.answers();
+    carried.dialogs = dialogs.shown.all();
+    carried.launched = launcher.launched.all();
+    carried.refusals = launcher.refusals();
+    carried.help = help.shown.all();
+    carried.failing = files.failing();
+    carried.disk = diskLimit();
+    carried.waiting = yielder.waiting() + boxes.waiting();
+    return carried;
+}
+
+void Desktop::take(const CarriedOver &carried)
+{
+    clock.moment = carried.clock;
+    seed(carried.seed);
+    for (const MessageAnswer answer : carried.answers)
+        boxes.queue(answer);
+    for (const DialogAnswer &answer : carried.choices)
+        dialogs.queue(answer);
+    for (const ScriptedFiles::Failing &failing : carried.failing)
+        files.failNext(failing);
+    boxes.shown.set(carried.boxes);
+    dialogs.shown.set(carried.dialogs);
+    launcher.launched.set(carried.launched);
+    launcher.setRefusals(carried.refusals);
+    help.shown.set(carried.help);
+    if (carried.disk)
+        limitDisk(carried.disk->folder, carried.disk->bytes);
 }
 } // namespace drive

@@ -4,6 +4,7 @@
 #include "desktop/desktopClipboard.h"
 #include "desktop/xdgFileClasses.h"
 #include "drive/answers.h"
+#include "drive/scriptedTimers.h"
 #include "services/clock.h"
 #include "services/helpViewer.h"
 #include "services/launcher.h"
@@ -20,6 +21,7 @@
 namespace drive
 {
 class World;
+struct CarriedOver;
 
 class ScriptedLauncher final : public Launcher
 {
@@ -27,6 +29,8 @@ public:
     bool openUrl(const QString &target) override { return launch(target); }
     bool start(const QString &command) override { return launch(command); }
     void refuseNext() { ++m_refusals; }
+    int refusals() const { return m_refusals; }
+    void setRefusals(int refusals) { m_refusals = refusals; }
 
     Recorded<QString> launched;
 
@@ -54,21 +58,21 @@ public:
     QDateTime moment = QDateTime(QDate(2026, 1, 1), QTime(12, 0));
 };
 
-/// Timers that never fire by themselves.
-class StillTimers final : public TimerSource
-{
-public:
-    std::unique_ptr<Ticker> makeTicker(std::function<void()> tick) override;
-};
-
 /// Does to the files of the machine what the program asks for, but for what the script lets fail.
 class ScriptedFiles final : public FileSystem
 {
 public:
     explicit ScriptedFiles(FileSystem &real) : m_real(real) {}
 
-    void failNextWrite(const QString &path, int code) { m_failing.append({path, code, true}); }
-    void failNextRead(const QString &path, int code) { m_failing.append({path, code, false}); }
+    enum class Act { Read, Write, List };
+    /// The next act of a kind on a path fails with that code of the program's.
+    struct Failing {
+        QString path;
+        int code = 0;
+        Act act = Act::Read;
+    };
+    void failNext(const Failing &failing) { m_failing.append(failing); }
+    const QList<Failing> &failing() const { return m_failing; }
 
     FileContents readAll(const QString &path) override;
     std::optional<FileError> checkReadable(const QString &path) override;
@@ -85,13 +89,8 @@ public:
     std::optional<FileError> copyFile(const QString &from, const QString &to) override;
 
 private:
-    struct Failing {
-        QString path;
-        int code = 0;
-        bool write = false;
-    };
-    QList<Failing>::const_iterator waiting(const QString &path, bool write) const;
-    std::optional<FileError> failure(const QString &path, bool write);
+    QList<Failing>::const_iterator waiting(const QString &path, Act act) const;
+    std::optional<FileError> failure(const QString &path, Act act);
 
     FileSystem &m_real;
     QList<Failing> m_failing;
@@ -121,7 +120,11 @@ public:
         std::optional<int> yields; ///< that the pass had; nothing if there was no pass
     };
 
+    std::function<void()> yielded = [] {}; ///< runs at every yield, in front of the acts
+
     void queue(const Act &act) { m_queued.push_back(act); }
+    /// The lines of the acts that are still to come.
+    QList<int> waiting() const;
     void beginPass() override;
     void yield() override;
     QList<MissedAct> missed() const;
@@ -142,6 +145,11 @@ public:
 
     Services &services() { return m_services; }
 
+    void seed(quint32 value);
+    /// What of it outlives the program's process.
+    CarriedOver carriedOver() const;
+    void take(const CarriedOver &carried);
+
 private:
     LocalFileSystem m_realFiles;
 
@@ -154,12 +162,14 @@ public:
     ScriptedFiles files;
     ScriptedModalLoop modalLoop;
     ScriptedYielder yielder;
-    Random random{1};
+    Random random{FirstSeed};
+    ScriptedTimers timers;
 
 private:
+    static constexpr quint32 FirstSeed = 1;
+    quint32 m_seed = FirstSeed;
     SettingsFiles m_settings;
     DesktopClipboard m_clipboard;
-    StillTimers m_timers;
     XdgFileClasses m_fileClasses;
     ModulePageViews m_pageViews;
     Services m_services;

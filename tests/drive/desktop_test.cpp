@@ -31,7 +31,7 @@ std::optional<int> codeOf(const std::optional<FileError> &error)
 
 TEST_F(FilesTest, FailTheNextWriteOfThatFileOnly)
 {
-    files.failNextWrite(path(), 61);
+    files.failNext({path(), 61, ScriptedFiles::Act::Write});
     EXPECT_EQ(codeOf(files.writeWhole(world.site() + QStringLiteral("/b.txt"), "b")), std::nullopt);
     EXPECT_EQ(codeOf(files.writeWhole(world.site() + QStringLiteral("/./a.txt"), "a")), 61);
     EXPECT_FALSE(QFile::exists(path()));
@@ -42,7 +42,7 @@ TEST_F(FilesTest, FailTheNextWriteOfThatFileOnly)
 TEST_F(FilesTest, FailReadsApartFromWrites)
 {
     ASSERT_FALSE(files.writeWhole(path(), "a"));
-    files.failNextRead(path(), 62);
+    files.failNext({path(), 62, ScriptedFiles::Act::Read});
     EXPECT_EQ(codeOf(files.writeWhole(path(), "b")), std::nullopt);
     EXPECT_EQ(codeOf(files.readAll(path()).error), 62);
     EXPECT_EQ(files.readAll(path()).bytes, "b");
@@ -52,11 +52,19 @@ TEST_F(FilesTest, FailCopiesAtTheirEnd)
 {
     ASSERT_FALSE(files.writeWhole(path(), "a"));
     const QString copy = world.site() + QStringLiteral("/copy.txt");
-    files.failNextWrite(copy, 70);
+    files.failNext({copy, 70, ScriptedFiles::Act::Write});
     EXPECT_EQ(codeOf(files.copyFile(path(), copy)), 70);
-    files.failNextRead(path(), 75);
+    files.failNext({path(), 75, ScriptedFiles::Act::Read});
     EXPECT_EQ(codeOf(files.copyFile(path(), copy)), 75);
     EXPECT_FALSE(QFile::exists(copy));
+}
+
+TEST_F(FilesTest, FailTheNextListing)
+{
+    files.failNext({world.site(), 70, ScriptedFiles::Act::List});
+    EXPECT_EQ(codeOf(files.readAll(world.site()).error), codeOf(real.readAll(world.site()).error));
+    EXPECT_EQ(codeOf(files.list(world.site()).error), 70);
+    EXPECT_EQ(codeOf(files.list(world.site()).error), std::nullopt);
 }
 
 TEST(ScriptedYielder, ActsAtTheNumberedYieldOfTheNextPass)

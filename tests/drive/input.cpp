@@ -3,9 +3,11 @@
 #include "common/document.h"
 #include "common/mainWindow.h"
 #include "drive/controlAdapter.h"
+#include "drive/controlParts.h"
 #include "drive/events.h"
 #include "drive/stage.h"
 #include "drive/targets.h"
+#include "drive/told.h"
 #include "forms/form.h"
 #include "frame/application.h"
 
@@ -109,6 +111,8 @@ void requireInput(Stage &stage, Form &form, const QString &what)
     };
     if (!form.Visible())
         fail(QStringLiteral("%1 on show").arg(form.Name()), QStringLiteral("it hidden or not loaded"));
+    if (const QString box = stage.desktop.boxes.onShow(); !box.isEmpty())
+        fail(QStringLiteral("%1 taking input").arg(form.Name()), QStringLiteral("the box %1 over it").arg(quoted(box)));
     if (isBlocked(*form.window()))
         fail(QStringLiteral("%1 taking input").arg(form.Name()), QStringLiteral("a modal box over it"));
     if (isOfMainWindow(form) && !stage.program().context().mainWindow->Enabled())
@@ -120,6 +124,11 @@ QObject &readyControl(Stage &stage, const Target &target)
     requireInput(stage, *target.form, target.name);
     if (!target.control)
         stage.referee.wrong(QStringLiteral("%1 is a form, a control is needed").arg(target.name));
+    const QPointer<QObject> turnedTo = target.control;
+    turnToPageOf(*target.control);
+    if (!turnedTo)
+        stage.referee.fail(QStringLiteral("%1 to stay when its page comes to the front").arg(target.name),
+                           QStringLiteral("it gone"));
     if (const ActionResult state = usable(*target.control); !state.done)
         stage.referee.fail(QStringLiteral("%1 enabled and on show").arg(target.name), state.reason);
     const QPointer<QObject> control = target.control;
@@ -133,7 +142,8 @@ QObject &readyControl(Stage &stage, const Target &target)
 
 bool takesInput(Stage &stage, Form &form)
 {
-    return !isBlocked(*form.window()) && (!isOfMainWindow(form) || stage.program().context().mainWindow->Enabled());
+    return stage.desktop.boxes.onShow().isEmpty() && !isBlocked(*form.window()) &&
+           (!isOfMainWindow(form) || stage.program().context().mainWindow->Enabled());
 }
 
 void activateWindowOf(Form &form)
@@ -176,6 +186,8 @@ void waitForAnimatedClicks()
 void pressKey(Stage &stage, const Chord &chord)
 {
     const QPointer<QWindow> window = windowWithKeyboard();
+    if (const QString box = stage.desktop.boxes.onShow(); !box.isEmpty())
+        stage.referee.fail(QStringLiteral("a window that takes keys"), QStringLiteral("the box %1").arg(quoted(box)));
     if (!window)
         stage.referee.fail(QStringLiteral("a window that takes keys"), QStringLiteral("none"));
     Qt::KeyboardModifiers held;

@@ -22,9 +22,12 @@ int main(int count, char **words)
 {
     if (const std::optional<int> status = readPictureIfAsked(count, words))
         return *status;
+    const QStringList asked = wordsOf(count, words);
+    if (asked.size() == 3 && asked.front() == QLatin1String(drive::SecondStartOption))
+        return drive::playSecondStart(asked[1], asked[2]);
     drive::RunOptions options;
     options.installedData = QStringLiteral(TAGWRIGHTER_DATA);
-    QStringList files = wordsOf(count, words);
+    QStringList files = asked;
     options.keepWorld = files.removeAll(QStringLiteral("--keep")) > 0;
     const bool unknown =
         std::any_of(files.begin(), files.end(), [](const QString &word) { return word.startsWith(u'-'); });

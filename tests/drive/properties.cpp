@@ -12,6 +12,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QColor>
 #include <QMenu>
 #include <QToolBar>
 #include <QVariant>
@@ -54,7 +55,12 @@ std::optional<QString> ownProperty(const QObject &object, const QString &name)
     const QVariant value = object.property(name.toUtf8().constData());
     if (!value.isValid())
         return std::nullopt;
-    return value.typeId() == QMetaType::Bool ? truth(value.toBool()) : value.toString();
+    if (value.typeId() == QMetaType::Bool)
+        return truth(value.toBool());
+    if (value.typeId() == QMetaType::QColor)
+        return colourName(
+            colourOf(value.value<QColor>().red(), value.value<QColor>().green(), value.value<QColor>().blue()));
+    return name.endsWith(QStringLiteral("Color")) ? colourName(value.toUInt()) : value.toString();
 }
 
 bool isEnabled(Stage &stage, const Form &form)
@@ -93,25 +99,13 @@ std::optional<QString> formProperty(Stage &stage, Form &form, const QString &pro
     return readProperty(*form.window(), property);
 }
 
-bool isMenuShown(const QAction &entry)
-{
-    const auto places = entry.associatedObjects();
-    for (QObject *place : places) {
-        if (const auto *menu = qobject_cast<QMenu *>(place); menu && !isMenuShown(*menu->menuAction()))
-            return false;
-        if (const auto *bar = qobject_cast<QToolBar *>(place); bar && !bar->isVisible())
-            return false;
-    }
-    return entry.isVisible();
-}
-
 constexpr Property<TextSurface> surfaceProperties[] = {
     {"WordWrap", [](const TextSurface &surface) { return truth(surface.wrapToWindow()); }},
     {"LineCount", [](const TextSurface &surface) { return QString::number(surface.lineCount()); }},
 };
 
 constexpr Property<QAction> entryProperties[] = {
-    {"Visible", [](const QAction &entry) { return truth(isMenuShown(entry)); }},
+    {"Visible", [](const QAction &entry) { return truth(isEntryShown(entry)); }},
     {"Checked", [](const QAction &entry) { return truth(entry.isChecked()); }},
     {"Value", [](const QAction &entry) { return QString::number(entry.isChecked() ? 1 : 0); }},
 };

@@ -13,6 +13,7 @@ constexpr int StatusScriptWrong = 2; ///< the script itself is wrong
 struct Progress {
     std::atomic<int> line = 0;
     std::atomic<bool> finished = false; ///< the script was played to its end, or its failure has been told
+    std::atomic<bool> killed = false;   ///< the process has ended itself at a `kill`, and another one is to go on
 };
 
 /// Tells the first thing that does not hold, and ends the process with it: from within a handler of the program there
@@ -25,6 +26,7 @@ public:
     void enterLine(int line) { m_progress.line = line; }
     int line() const { return m_progress.line; }
     const QString &file() const { return m_file; }
+    void tellKilled() const { m_progress.killed = true; }
 
     [[noreturn]] void fail(const QString &expected, const QString &got) const { failAt(line(), expected, got); }
     [[noreturn]] void failAt(int line, const QString &expected, const QString &got) const;

@@ -124,7 +124,7 @@ public:
     Script read()
     {
         Script script;
-        script.lines = block(0);
+        script.lines = block(nullptr);
         script.error = m_error;
         return script;
     }
@@ -137,9 +137,8 @@ private:
             m_error = ScriptError{line, reason};
     }
 
-    /// The commands up to the block's `end`, or up to the end of the text outside of any `when`, which `opening` 0
-    /// tells.
-    std::vector<Line> block(int opening)
+    /// The commands up to the block's `end`, or up to the end of the text outside of any block.
+    std::vector<Line> block(const Line *opening)
     {
         std::vector<Line> lines;
         while (!atEnd()) {
@@ -147,16 +146,16 @@ private:
             if (!line)
                 continue;
             if (line->command == QStringLiteral("end")) {
-                if (opening == 0)
-                    fail(line->number, QStringLiteral("there is no `when` for this `end`"));
+                if (!opening)
+                    fail(line->number, QStringLiteral("there is no `when` or `during` for this `end`"));
                 return lines;
             }
-            if (line->command == QStringLiteral("when"))
-                line->block = block(line->number);
+            if (opensBlock(*line))
+                line->block = block(&*line);
             lines.push_back(std::move(*line));
         }
-        if (opening != 0)
-            fail(opening, QStringLiteral("this `when` has no `end`"));
+        if (opening)
+            fail(opening->number, QStringLiteral("this `%1` has no `end`").arg(opening->command));
         return lines;
     }
 
@@ -206,6 +205,12 @@ Script parseScript(const QString &text)
 {
     const bool marked = text.startsWith(QChar(0xFEFF));
     return ScriptReader(marked ? text.mid(1) : text).read();
+}
+
+bool opensBlock(const Line &line)
+{
+    return line.command == QStringLiteral("when") || line.command == QStringLiteral("when-box") ||
+           (line.command == QStringLiteral("during") && line.words.size() == 1);
 }
 
 std::optional<TargetName> parseTargetName(const QString &text)

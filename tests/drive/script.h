@@ -12,7 +12,7 @@ struct Line {
     int number = 0;          ///< counted from 1 in the script's file
     QString command;         ///< its first word
     QStringList words;       ///< the words behind it, escapes resolved, marks such as %SITE% not yet
-    std::vector<Line> block; ///< the commands between `when` and its `end`
+    std::vector<Line> block; ///< the commands between `when`, `when-box` or `during N` and its `end`
 };
 
 /// Why a text is no script.
@@ -27,8 +27,10 @@ struct Script {
 };
 
 /// Takes a script's text apart: one command a line, words parted by blanks, quoted words with escapes, `<<END` texts,
-/// comments, and `when` … `end` blocks within each other.
+/// comments, and blocks (`when`, `when-box`, `during N` up to `end`) within each other.
 Script parseScript(const QString &text);
+/// Whether the commands up to an `end` belong to this one.
+bool opensBlock(const Line &line);
 
 /// A target as it is written: "frmInsList.picBullet(3)", "doc(2).txtEdit", "doc", "frmMdi".
 struct TargetName {

@@ -1,5 +1,6 @@
 #include "drive/scriptRun.h"
 
+#include "drive/carriedOver.h"
 #include "drive/commands.h"
 #include "drive/events.h"
 #include "drive/referee.h"
@@ -74,32 +75,56 @@ Script readScript(const QString &file, const Referee &referee)
     return script;
 }
 
+/// The toolkit as the program sets it up, with the looks of a script.
+class Toolkit
+{
+public:
+    Toolkit() : m_application(m_count, m_arguments)
+    {
+        QApplication::setApplicationName(QStringLiteral("tagwrighter"));
+        QApplication::setApplicationDisplayName(QString());
+        QApplication::setQuitOnLastWindowClosed(false);
+        setLooks();
+        new ActivationOrder(m_application);
+    }
+
+private:
+    int m_count = 1;
+    QByteArray m_name{"tagwrighter"};
+    char *m_arguments[2] = {m_name.data(), nullptr};
+    QApplication m_application;
+};
+
+void prepareProcess(const World &world)
+{
+    world.setEnvironment();
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    qInstallMessageHandler(tellMessage);
+}
+
 /// What the new process does.
 int playScript(const QString &file, const World &world, const RunOptions &options, Progress &progress)
 {
     Referee referee(file, progress);
     const Script script = readScript(file, referee);
-    world.setEnvironment();
-    world.seedProgramFolder(options.installedData);
-    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
-
-    qInstallMessageHandler(tellMessage);
-    int count = 1;
-    QByteArray name("tagwrighter");
-    char *arguments[] = {name.data(), nullptr};
-    QApplication application(count, arguments);
-    QApplication::setApplicationName(QStringLiteral("tagwrighter"));
-    QApplication::setApplicationDisplayName(QString());
-    QApplication::setQuitOnLastWindowClosed(false);
-    setLooks();
-    new ActivationOrder(application);
+    const auto carried = takeStored(world.carriedOverFile());
+    prepareProcess(world);
+    if (!carried)
+        world.seedProgramFolder(options.installedData);
+    const Toolkit toolkit;
     {
         Stage stage(referee, world);
-        insideEvent([&] { stage.play(script.lines); });
+        insideEvent([&] { carried ? stage.goOn(script.lines, *carried) : stage.playScript(script.lines); });
         stage.checkNothingIsLeft();
     }
     progress.finished = true;
     return StatusHeld;
+}
+
+void tellUser(const QString &text)
+{
+    std::fprintf(stdout, "%s\n", text.toUtf8().constData());
+    std::fflush(stdout);
 }
 
 /// Memory that the new process shares with this one.
@@ -115,6 +140,18 @@ int waitFor(pid_t process)
     while (waitpid(process, &status, 0) < 0 && errno == EINTR) {
     }
     return status;
+}
+
+/// The status of the process, as the system tells it.
+int playInProcess(const QString &file, const World &world, const RunOptions &options, Progress &progress)
+{
+    std::fflush(nullptr);
+    const pid_t process = fork();
+    if (process == 0) {
+        prctl(PR_SET_PDEATHSIG, SIGKILL); // a script whose test was given up must not play on
+        std::exit(playScript(file, world, options, progress));
+    }
+    return process > 0 ? waitFor(process) : -1;
 }
 
 void tellUnfinished(const QString &file, const Progress &progress, int status)
@@ -138,6 +175,29 @@ int judge(const QString &file, const Progress &progress, int status)
 }
 } // namespace
 
+int playSecondStart(const QString &root, const QString &commandLine)
+{
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
+    Progress progress;
+    Referee referee(QStringLiteral("second start"), progress);
+    const World world = World::at(root);
+    prepareProcess(world);
+    const Toolkit toolkit;
+    Stage stage(referee, world);
+    stage.desktop.boxes.tellOnly = tellUser;
+    insideEvent([&] { stage.launch(commandLine); });
+    settle();
+    constexpr qint64 PastTheSplash = 1000; // milliseconds
+    if (stage.isRunning())
+        stage.desktop.timers.pass(PastTheSplash, [](qint64, const std::function<void()> &fire) { insideEvent(fire); });
+    settle();
+    if (!stage.isRunning())
+        return 0;
+    std::fputs(SecondStartStands, stdout);
+    std::fflush(stdout);
+    return QApplication::exec();
+}
+
 int runScript(const QString &file, const RunOptions &options)
 {
     const auto world = World::make();
@@ -146,13 +206,9 @@ int runScript(const QString &file, const RunOptions &options)
         std::fprintf(stderr, "%s: there is no room for the script's files\n", file.toUtf8().constData());
         return StatusFailed;
     }
-    std::fflush(nullptr);
-    const pid_t process = fork();
-    if (process == 0) {
-        prctl(PR_SET_PDEATHSIG, SIGKILL); // a script whose test was given up must not play on
-        std::exit(playScript(file, *world, options, *progress));
-    }
-    const int status = process > 0 ? waitFor(process) : -1;
+    int status = playInProcess(file, *world, options, *progress);
+    while (progress->killed.exchange(false))
+        status = playInProcess(file, *world, options, *progress);
     const int result = judge(file, *progress, status);
     if (options.keepWorld)
         std::printf("%s: its world is kept in %s\n", file.toUtf8().constData(), world->root().toUtf8().constData());

@@ -130,6 +130,12 @@ std::optional<Target> awaitTarget(Stage &stage, const QString &text)
     return Target{text, form, name.control.isEmpty() ? nullptr : controlOf(stage, *form, name.control)};
 }
 
+std::optional<Target> awaitForm(Stage &stage, const QString &text)
+{
+    Form *form = formOf(stage, parsedName(stage, text));
+    return form && form->isLoaded() ? std::optional(Target{text, form, nullptr}) : std::nullopt;
+}
+
 Form &findForm(Stage &stage, const QString &text)
 {
     const Target target = findTarget(stage, text);
@@ -180,6 +186,18 @@ QStringList controlNames(Stage &stage, Form &form)
     names.removeDuplicates();
     names.sort();
     return names;
+}
+
+bool isEntryShown(const QAction &entry)
+{
+    const auto places = entry.associatedObjects();
+    for (QObject *place : places) {
+        if (const auto *menu = qobject_cast<QMenu *>(place); menu && !isEntryShown(*menu->menuAction()))
+            return false;
+        if (const auto *bar = qobject_cast<QToolBar *>(place); bar && !bar->isVisible())
+            return false;
+    }
+    return entry.isVisible();
 }
 
 std::optional<int> findNamed(const QList<Named> &things, const QString &name)

@@ -28,6 +28,9 @@ Target findTarget(Stage &stage, const QString &name);
 /// The same for one that may come yet; nothing as long as its form is not loaded.
 std::optional<Target> awaitTarget(Stage &stage, const QString &name);
 
+/// The form of a target alone, whatever control it names; nothing as long as it is not loaded.
+std::optional<Target> awaitForm(Stage &stage, const QString &name);
+
 /// The form of a target that is to be a form alone.
 Form &findForm(Stage &stage, const QString &name);
 /// A timer by its name: one of the active document or the main window, or a target like any other.
@@ -40,6 +43,9 @@ Document *documentOf(Form &form);
 QObject *findControl(Stage &stage, Form &form, const QString &name);
 /// The names of a form's controls, in the order of the alphabet.
 QStringList controlNames(Stage &stage, Form &form);
+
+/// Whether a menu entry or toolbar button shows: it and all that it stands in.
+bool isEntryShown(const QAction &entry);
 
 /// One of several things by its 0-based number, its key or its text. Nothing if it is none of them.
 struct Named {

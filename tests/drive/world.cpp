@@ -41,6 +41,13 @@ std::optional<World> World::make()
     return world;
 }
 
+World World::at(const QString &root)
+{
+    World world;
+    world.m_root = root;
+    return world;
+}
+
 QString World::app() const
 {
     return m_root + QStringLiteral("/tagwrighter");
@@ -56,17 +63,35 @@ QString World::home() const
     return m_root + QStringLiteral("/home");
 }
 
+QString World::state() const
+{
+    return stateHome() + QStringLiteral("/tagwrighter");
+}
+
+QString World::stateHome() const
+{
+    return home() + QStringLiteral("/.local/state");
+}
+
+QString World::carriedOverFile() const
+{
+    return m_root + QStringLiteral("/.carried-over");
+}
+
 void World::setEnvironment() const
 {
     setVariable("HOME", home());
     setVariable("XDG_CONFIG_HOME", home() + QStringLiteral("/.config"));
     setVariable("XDG_DATA_HOME", home() + QStringLiteral("/.local/share"));
-    setVariable("XDG_STATE_HOME", home() + QStringLiteral("/.local/state"));
+    setVariable("XDG_STATE_HOME", stateHome());
     const QString running = home() + QStringLiteral("/.run");
     QDir().mkpath(running);
     QFile::setPermissions(running, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     setVariable("XDG_RUNTIME_DIR", running);
     setVariable("XDG_CACHE_HOME", home() + QStringLiteral("/.cache"));
+    for (const char *proxy : {"http_proxy", "https_proxy", "ftp_proxy", "all_proxy", "no_proxy", "HTTP_PROXY",
+                              "HTTPS_PROXY", "FTP_PROXY", "ALL_PROXY", "NO_PROXY"})
+        qunsetenv(proxy);
     // A copy of the program that is installed on this machine must not show in the script's world.
     setVariable("XDG_DATA_DIRS", home() + QStringLiteral("/.system/share"));
     setVariable("XDG_CONFIG_DIRS", home() + QStringLiteral("/.system/etc"));
@@ -95,7 +120,8 @@ QString World::expanded(QString text) const
 {
     return text.replace(QStringLiteral("%APP%"), app())
         .replace(QStringLiteral("%SITE%"), site())
-        .replace(QStringLiteral("%HOME%"), home());
+        .replace(QStringLiteral("%HOME%"), home())
+        .replace(QStringLiteral("%STATE%"), state());
 }
 
 bool World::holds(const QString &path) const

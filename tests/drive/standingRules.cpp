@@ -1,0 +1,195 @@
+#include "drive/standingRules.h"
+
+#include "browser/webBrowser.h"
+#include "common/document.h"
+#include "common/mainWindow.h"
+#include "drive/script.h"
+#include "drive/stage.h"
+#include "forms/form.h"
+#include "forms/formRuntime.h"
+#include "frame/application.h"
+
+#include <QApplication>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QScreen>
+
+namespace drive
+{
+namespace
+{
+constexpr int SmallestSurface = 30;   ///< logical pixels in height: less is no place to write in
+constexpr int SmallestOfWindow = 100; ///< of the main window on the screen: less can't be dragged back
+
+QString told(const QRect &place)
+{
+    return QStringLiteral("%1 x %2 at %3, %4").arg(place.width()).arg(place.height()).arg(place.x()).arg(place.y());
+}
+
+bool arranges(const Line &line)
+{
+    const QString what = line.words.value(0);
+    if (line.command == QStringLiteral("menu"))
+        return what.startsWith(QStringLiteral("mnuWin"));
+    const auto target = parseTargetName(what);
+    const bool atWindow = target && target->isDocument() && target->control.isEmpty();
+    return atWindow &&
+           QStringList{QStringLiteral("size"), QStringLiteral("mouse"), QStringLiteral("click")}.contains(line.command);
+}
+
+bool pointsAtPreview(const Line &line)
+{
+    static const QStringList commands = {QStringLiteral("focus"), QStringLiteral("mouse"), QStringLiteral("click")};
+    if (line.command == QStringLiteral("click-preview"))
+        return true;
+    if (line.command == QStringLiteral("key")) // the way of the keyboard through all controls
+        return line.words.contains(QStringLiteral("Tab")) || line.words.contains(QStringLiteral("Shift+Tab"));
+    return commands.contains(line.command) && line.words.value(0).endsWith(QStringLiteral(".brwWebBrowser"));
+}
+
+QWidget *ancestorPreview(QWidget *widget)
+{
+    while (widget && !qobject_cast<WebBrowser *>(widget))
+        widget = widget->parentWidget();
+    return widget;
+}
+
+/// Whether the source of the document that the preview belongs to is on show.
+bool isSourceShown(const QWidget &preview)
+{
+    const QWidget *place = &preview;
+    while (place && !qobject_cast<const QMdiSubWindow *>(place))
+        place = place->parentWidget();
+    const auto *source = place ? place->findChild<QWidget *>(QStringLiteral("txtEdit")) : nullptr;
+    return source && source->isVisible();
+}
+
+/// The rectangle of a widget in the coordinates of one that it lies in.
+QRect placeIn(const QWidget &outer, const QWidget &widget)
+{
+    return {widget.mapTo(&outer, QPoint()), widget.size()};
+}
+
+QRect roomOf(const QWidget &window)
+{
+    return window.screen() ? window.screen()->availableGeometry() : QRect();
+}
+
+QMdiSubWindow *windowOf(Document *document)
+{
+    auto *form = dynamic_cast<Form *>(document);
+    return form ? qobject_cast<QMdiSubWindow *>(form->window()) : nullptr;
+}
+} // namespace
+
+void StandingRules::enter(Stage &, const Line &line)
+{
+    m_arranges = arranges(line);
+    m_pointsAtPreview = pointsAtPreview(line);
+}
+
+void StandingRules::check(Stage &stage)
+{
+    Form *mainForm = stage.isRunning() ? stage.program().form(QStringLiteral("frmMdi")) : nullptr;
+    if (!mainForm || !mainForm->Visible() || mainForm->window()->isMinimized()) {
+        m_filled = false;
+        return;
+    }
+    QMdiSubWindow *window = windowOf(stage.program().context().mainWindow->activeDocument());
+    if (window && !window->isMinimized() && window->isVisible()) {
+        checkFilling(stage, *window);
+        checkDocument(stage, *window);
+    } else if (window && !window->isVisible()) {
+        stage.referee.fail(QStringLiteral("the active document on show"), QStringLiteral("its window hidden"));
+    }
+    m_filled = window && window->isMaximized();
+    checkFocus(stage, window);
+    checkForms(stage);
+}
+
+void StandingRules::checkFilling(Stage &stage, QMdiSubWindow &window)
+{
+    const QMdiArea &area = *stage.program().forms().mdiArea();
+    const QRect room = area.viewport()->rect();
+    if (m_filled && !m_arranges && !window.isMaximized())
+        stage.referee.fail(QStringLiteral("the active document filling the area of documents, as the one before did"),
+                           QStringLiteral("its window %1 in an area of %2").arg(told(window.geometry()), told(room)));
+    if (!window.isMaximized())
+        return;
+    if (window.geometry() != room)
+        stage.referee.fail(QStringLiteral("the maximised document filling the area of documents, %1").arg(told(room)),
+                           told(window.geometry()));
+    if (area.subWindowList(QMdiArea::StackingOrder).constLast() != &window)
+        stage.referee.fail(QStringLiteral("the maximised document in front of the others"),
+                           QStringLiteral("another one in front of it"));
+}
+
+void StandingRules::checkDocument(Stage &stage, QMdiSubWindow &window)
+{
+    const auto part = [&](const QString &name) { return window.findChild<QWidget *>(name); };
+    const bool source = part(QStringLiteral("picViewingPane(0)"))->isVisible();
+    const QWidget *pane = part(source ? QStringLiteral("picViewingPane(0)") : QStringLiteral("picViewingPane(1)"));
+    const QWidget *surface = part(source ? QStringLiteral("txtEdit") : QStringLiteral("brwWebBrowser"));
+    const QString what = QStringLiteral("%1 of the active document").arg(surface->objectName());
+    if (!surface->isVisible())
+        stage.referee.fail(what + QStringLiteral(" on show"), QStringLiteral("it hidden"));
+    const QRect place = surface->geometry();
+    // What the program has to tell of the document stands above its text, nothing beside or below.
+    if (place.width() != pane->width() || place.bottom() != pane->height() - 1 || place.height() < SmallestSurface)
+        stage.referee.fail(what + QStringLiteral(" filling its pane, %1").arg(told(pane->rect())), told(place));
+    const QRect inside = placeIn(window, *surface);
+    if (!window.rect().contains(inside))
+        stage.referee.fail(what + QStringLiteral(" inside its window, %1").arg(told(window.rect())), told(inside));
+}
+
+void StandingRules::checkFocus(Stage &stage, QMdiSubWindow *window)
+{
+    QWidget *focused = QApplication::focusWidget();
+    Form &mainForm = *stage.program().form(QStringLiteral("frmMdi"));
+    const bool writes = window && !window->isMinimized() && mainForm.window()->isActiveWindow() &&
+                        stage.program().context().mainWindow->Enabled();
+    if (!focused) {
+        if (writes)
+            stage.referee.fail(QStringLiteral("the keyboard in a control of the main window"),
+                               QStringLiteral("it nowhere"));
+        return;
+    }
+    if (!focused->isVisible())
+        stage.referee.fail(QStringLiteral("the keyboard in a control that is on show"),
+                           QStringLiteral("it in %1, which is hidden").arg(focused->objectName()));
+    for (QWidget *place = focused; place; place = place->parentWidget())
+        if (qobject_cast<QMdiSubWindow *>(place) && place != window)
+            stage.referee.fail(QStringLiteral("the keyboard in the active document"),
+                               QStringLiteral("it in the document %1").arg(place->windowTitle()));
+    checkPreviewFocus(stage, *focused);
+}
+
+void StandingRules::checkPreviewFocus(Stage &stage, QWidget &focused)
+{
+    QWidget *preview = ancestorPreview(&focused);
+    if (!preview || m_previews.contains(preview))
+        return;
+    // In the place of the source, the preview is what the keyboard goes on to.
+    if (!m_pointsAtPreview && isSourceShown(*preview))
+        stage.referee.fail(QStringLiteral("the keyboard outside the preview, where no command has put it"),
+                           QStringLiteral("it in the preview"));
+    m_previews.append(preview);
+}
+
+void StandingRules::checkForms(Stage &stage)
+{
+    const auto loaded = stage.program().forms().loaded();
+    for (const Form *form : loaded) {
+        if (!form->Visible() || !form->window()->isWindow() || form->window()->isMinimized())
+            continue;
+        const QRect place = form->window()->frameGeometry();
+        const QRect room = roomOf(*form->window());
+        const QRect seen = place & room;
+        const bool isMain = form->Name() == QStringLiteral("frmMdi");
+        const bool fits = place.width() <= room.width() && place.height() <= room.height();
+        const bool reachable = seen.width() >= SmallestOfWindow && seen.height() >= SmallestOfWindow;
+        if (isMain ? !reachable || place.top() < room.top() : fits && seen != place)
+            stage.referee.fail(QStringLiteral("%1 on the screen, %2").arg(form->Name(), told(room)), told(place));
+    }
+}
+} // namespace drive
