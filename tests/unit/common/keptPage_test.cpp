@@ -1,0 +1,73 @@
+#include "common/keptPage.h"
+
+#include <QRandomGenerator>
+#include <gtest/gtest.h>
+
+namespace
+{
+KeptPage samplePage()
+{
+    KeptPage page;
+    page.order = 7;
+    page.path = QStringLiteral("/home/ann/a page.htm");
+    page.newDoc = false;
+    page.unicode = true;
+    page.format = {Encoding::Other, LineEnd::Lf, QStringLiteral("KOI8-R")};
+    page.plainEncoding = Encoding::Windows1252;
+    page.mixedLineEnds = true;
+    page.internetOrigin = QStringLiteral("http://example.org/");
+    page.text = QStringLiteral("<p>\r\n\u20AC") + QChar(0xD800) + QChar(u'\0'); // half a pair and a NUL, as files hold them
+    page.selStart = 3;
+    page.selLength = 2;
+    page.stamp = FileStamp{12, 34, 56};
+    page.fileDigest = digestOf("old");
+    return page;
+}
+
+TEST(KeptPage, ComesBackAsItWas)
+{
+    const KeptPage page = samplePage();
+    const std::optional<KeptPage> read = keptPageOf(keptPageBytes(page));
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->order, 7);
+    EXPECT_EQ(read->path, page.path);
+    EXPECT_FALSE(read->newDoc);
+    EXPECT_TRUE(read->unicode);
+    EXPECT_EQ(read->format, page.format);
+    EXPECT_EQ(read->plainEncoding, Encoding::Windows1252);
+    EXPECT_TRUE(read->mixedLineEnds);
+    EXPECT_EQ(read->internetOrigin, page.internetOrigin);
+    EXPECT_EQ(read->text, page.text);
+    EXPECT_EQ(read->selStart, 3);
+    EXPECT_EQ(read->selLength, 2);
+    EXPECT_EQ(read->stamp, page.stamp);
+    EXPECT_EQ(read->fileDigest, digestOf("old"));
+}
+
+TEST(KeptPage, KnowsAPageWithoutAFile)
+{
+    KeptPage page;
+    page.newDoc = true;
+    page.text = QStringLiteral("x");
+    const std::optional<KeptPage> read = keptPageOf(keptPageBytes(page));
+    ASSERT_TRUE(read);
+    EXPECT_TRUE(read->newDoc);
+    EXPECT_TRUE(read->path.isEmpty());
+    EXPECT_FALSE(read->stamp);
+}
+
+TEST(KeptPage, RefusesWhatIsCutShortOrChanged)
+{
+    const QByteArray bytes = keptPageBytes(samplePage());
+    for (qsizetype length = 0; length < bytes.size(); ++length)
+        EXPECT_FALSE(keptPageOf(bytes.first(length))) << length;
+    EXPECT_FALSE(keptPageOf(bytes + 'x'));
+    QRandomGenerator random(20261122);
+    for (int i = 0; i < 2000; ++i) {
+        QByteArray changed = bytes;
+        changed[random.bounded(static_cast<int>(bytes.size()))] ^= static_cast<char>(1 << random.bounded(8));
+        EXPECT_FALSE(keptPageOf(changed));
+    }
+    EXPECT_FALSE(keptPageOf("no page at all"));
+}
+} // namespace
