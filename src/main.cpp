@@ -1,4 +1,5 @@
 #include "desktop/desktopServices.h"
+#include "desktop/endSignals.h"
 #include "frame/application.h"
 #include "pictures/pictureReader.h"
 #include "shell/commandLine.h"
@@ -20,6 +21,9 @@ int main(int argc, char **argv)
     DesktopServices services;
     Application program(services.services());
     QObject::connect(&program, &Application::ended, &desktop, &QCoreApplication::quit, Qt::QueuedConnection);
+    const EndSignals signals([&program] { program.endKeepingText(); });
+    QObject::connect(&desktop, &QGuiApplication::commitDataRequest, &program,
+                     [&program] { program.keepUnsavedText(); });
     program.Main(commandLineText(QApplication::arguments().mid(1)));
     return QApplication::exec();
 }

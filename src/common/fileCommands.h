@@ -40,6 +40,10 @@ public:
     /// Puts a path in front of the recent files, as each open and save does.
     virtual void AddToRecentFiles(const QString &path) = 0;
 
+    /// Reads the document's file anew, as one step of its history: it is clean then, and the caret stays where it was
+    /// as far as there is text. False if the file cannot be read, which is told.
+    virtual bool LoadAgain(Document &document) = 0;
+
     /// Asks about unsaved changes as the document, or the exit, demands. False keeps the document open.
     virtual bool mayClose(Document &document) = 0;
     /// One minute of a document's automatic saving has passed.

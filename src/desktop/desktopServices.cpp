@@ -9,6 +9,8 @@
 #include "desktop/desktopMessageBoxes.h"
 #include "desktop/programFolder.h"
 #include "desktop/qtTimerSource.h"
+#include "desktop/stateFolder.h"
+#include "desktop/threadWorker.h"
 #include "desktop/xdgFileClasses.h"
 #include "forms/eventModalLoop.h"
 #include "services/clock.h"
@@ -43,6 +45,7 @@ struct DesktopServices::Parts {
     EventModalLoop modalLoop;
     EventYielder yielder;
     ModulePageViews pageViews{moduleFolders()};
+    ThreadWorker worker;
     XdgFileClasses fileClasses{currentXdgPlaces(), startInBackground};
     Services services{
         .messageBoxes = messageBoxes,
@@ -59,7 +62,9 @@ struct DesktopServices::Parts {
         .modalLoop = modalLoop,
         .yielder = yielder,
         .pageViews = pageViews,
+        .worker = worker,
         .appPath = appPath,
+        .statePath = stateFolder(),
     };
 };
 

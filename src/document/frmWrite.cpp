@@ -4,6 +4,7 @@
 #include "common/fileFormatText.h"
 #include "common/mainWindow.h"
 #include "common/paths.h"
+#include "common/unsavedText.h"
 #include "document/viewingPanes.h"
 #include "services/services.h"
 #include "services/settings.h"
@@ -139,6 +140,8 @@ void frmWrite::Form_Activate()
 {
     if (m_unloading)
         return;
+    if (context().unsavedText)
+        context().unsavedText->noteActivation();
     frmMdi().selectDocumentTab(DocKeyDescription);
     frmMdi().showFileFormat(fileFormatText(*this));
     CheckWordWrapSettings();
@@ -155,6 +158,8 @@ bool frmWrite::Form_QueryUnload()
 void frmWrite::Form_Unload()
 {
     m_unloading = true;
+    if (context().unsavedText)
+        context().unsavedText->forget(*this);
     if (--frmMdi().OpenDocumentCount == 0) {
         frmMdi().SetDocumentControlsEnabled(false);
         frmMdi().showDocumentTabs(false);

@@ -2,6 +2,7 @@
 #include "browser/webBrowser.h"
 #include "codeknowledge/tagHelp.h"
 #include "common/mainWindow.h"
+#include "common/unsavedText.h"
 #include "document/codeAssistant.h"
 #include "document/frmWrite.h"
 #include "document/modClipboard.h"
@@ -68,6 +69,8 @@ void frmWrite::txtEdit_Change()
     tmrRefresh->setEnabled(true);
     tmrUpdateLiveSplitPreview->setEnabled(false);
     tmrUpdateLiveSplitPreview->setEnabled(true);
+    if (context().unsavedText)
+        context().unsavedText->noteChange(*this);
     boolDirty = true; // by the assistant's own changes, too
     if (!std::exchange(SkipLineUpdate, false))
         UpdateLineInformation();

@@ -28,6 +28,7 @@ public:
 
     void LoadRecentFilesMenu() override;
     void AddToRecentFiles(const QString &path) override;
+    bool LoadAgain(Document &document) override;
 
     bool mayClose(Document &document) override;
     void autoSaveTick(Document &document) override;

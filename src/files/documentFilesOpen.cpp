@@ -4,6 +4,7 @@
 #include "common/fileFormatText.h"
 #include "common/mainWindow.h"
 #include "common/pageCharset.h"
+#include "common/unsavedText.h"
 #include "files/fileDialogRows.h"
 #include "files/modFileErrors.h"
 #include "files/modRecentFiles.h"
@@ -14,6 +15,7 @@
 #include "services/settings.h"
 #include "widgets/screenPointer.h"
 
+#include <algorithm>
 #include <new>
 
 namespace
@@ -208,6 +210,24 @@ void DocumentFiles::finishOpened(Document &document)
     showFormat(document);
     finish();
     document.txtEdit().SetFocus();
+}
+
+bool DocumentFiles::LoadAgain(Document &document)
+{
+    begin();
+    document.UndoRedoChange(); // what stands there is a step that can be gone back to
+    const qsizetype caret = document.txtEdit().SelStart();
+    const std::optional<Opened> opened = readInto(document, document.DocSavePath, document.IsInUnicode);
+    if (!opened)
+        return false;
+    document.fileStamp = opened->stamp;
+    noteOpened(document, opened->contents, document.IsInUnicode);
+    document.txtEdit().setSelStart(std::min(caret, opened->contents.text.size()));
+    document.UndoRedoChange();
+    finishOpened(document);
+    if (m_context.unsavedText)
+        m_context.unsavedText->forget(document);
+    return true;
 }
 
 void DocumentFiles::LoadRecentFilesMenu()

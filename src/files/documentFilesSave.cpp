@@ -3,9 +3,10 @@
 
 #include "common/mainWindow.h"
 #include "common/pageCharset.h"
-#include "common/replaceText.h"
 #include "common/programState.h"
+#include "common/replaceText.h"
 #include "common/siteProject.h"
+#include "common/unsavedText.h"
 #include "files/autoSavePause.h"
 #include "files/encodingNotice.h"
 #include "files/fileDialogRows.h"
@@ -260,6 +261,8 @@ void DocumentFiles::noteWritten(Document &document)
 {
     document.boolDirty = false;
     document.NewDoc = false;
+    if (m_context.unsavedText)
+        m_context.unsavedText->forget(document);
     document.DocSelUpdate(document.DocSavePath);
     AddToRecentFiles(document.DocSavePath);
     showFormat(document);

@@ -13,6 +13,7 @@ class FormRuntime;
 class MainWindow;
 class NodeTreeModel;
 class SiteProject;
+class UnsavedText;
 class ScreenPointer;
 
 /// What every form is given: the desktop's services, the forms of the session and the state that they share.
@@ -23,6 +24,7 @@ struct ProgramContext {
     ScreenPointer &screenPointer;
     MainWindow *mainWindow = nullptr;                  ///< set by the main window's form for as long as it exists
     FileCommands *files = nullptr;                     ///< what opens, saves and closes documents
+    UnsavedText *unsavedText = nullptr;                ///< what keeps it safe while the program runs
     SiteProject *project = nullptr;                    ///< the open project; nothing until there is a project pane
     const CodeKnowledge *codes = nullptr;              ///< what the program knows of HTML and CSS
     std::shared_ptr<NodeTreeModel> codeElements = {};  ///< the elements that the code assistant offers in all documents

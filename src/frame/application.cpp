@@ -1,6 +1,7 @@
 #include "frame/application.h"
 
 #include "common/mainWindow.h"
+#include "common/unsavedText.h"
 #include "document/modDocument.h"
 #include "files/documentFiles.h"
 #include "files/frmMsgAddSavedFileToProject.h"
@@ -8,6 +9,8 @@
 #include "files/frmMsgSaveChanges.h"
 #include "files/frmProperties.h"
 #include "files/frmUnsavedFiles.h"
+#include "files/frmWhatChanged.h"
+#include "files/recovery.h"
 #include "frame/frmMdi.h"
 #include "frame/frmSplash.h"
 #include "insertion/insertionForms.h"
@@ -36,6 +39,9 @@ void Application::addFiles()
 {
     m_files = std::make_unique<DocumentFiles>(m_context);
     m_context.files = m_files.get();
+    m_unsavedText = std::make_unique<Recovery>(m_context);
+    m_context.unsavedText = m_unsavedText.get();
+    own<frmWhatChanged>(m_context);
     own<frmMsgSaveChanges>(m_context);
     own<frmUnsavedFiles>(m_context);
     own<frmMsgNoFileForAutoSave>(m_context);
@@ -63,6 +69,18 @@ void Application::Main(const QString &commandLine)
     m_commandLine = commandLine;
     m_splash->Load();
     m_splash->Show();
+}
+
+void Application::endKeepingText()
+{
+    keepUnsavedText();
+    End();
+}
+
+void Application::keepUnsavedText()
+{
+    if (!m_ended && m_mdi->isLoaded())
+        m_unsavedText->keepNow();
 }
 
 void Application::End()

@@ -9,6 +9,7 @@
 #include <memory>
 
 class FileCommands;
+class UnsavedText;
 class frmMdi;
 class frmSplash;
 
@@ -26,6 +27,10 @@ public:
 
     /// Ends the program at once: no further handler of a form runs.
     void End();
+    /// Ends the program from outside, as at the end of the desktop's session: unsaved text is kept for the next start.
+    void endKeepingText();
+    /// Brings all unsaved text to the disk, as before the desktop's session ends.
+    void keepUnsavedText();
     bool hasEnded() const { return m_ended; }
 
     const QString &commandLine() const { return m_commandLine; }
@@ -49,6 +54,7 @@ private:
     QString m_commandLine;
     bool m_ended = false;
     std::unique_ptr<FileCommands> m_files;
+    std::unique_ptr<UnsavedText> m_unsavedText;
     frmMdi *m_mdi = nullptr;
     frmSplash *m_splash = nullptr;
 };

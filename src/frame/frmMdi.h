@@ -99,6 +99,7 @@ private:
     void picAddress_Resize();
     void openCommandLineFile();
     void decideWelcome();
+    void restoreUnsavedText(Document *opened);
 
     void savePlacement();
     void saveBands();

@@ -3,6 +3,7 @@
 
 #include "common/fileCommands.h"
 #include "common/programState.h"
+#include "common/unsavedText.h"
 #include "document/modDocument.h"
 #include "files/modRecentFiles.h"
 #include "forms/formRuntime.h"
@@ -183,17 +184,27 @@ void frmMdi::openCommandLineFile()
 
 void frmMdi::decideWelcome()
 {
+    Document *opened = m_commandLine.isEmpty() ? nullptr : activeDocument();
     if (!settings::isOn(services().settings, settings::WelcomeScreen)) {
         NewBlankDocument(context());
         FillBlankDocument(context());
         setEnabled(true);
         if (Document *document = activeDocument())
             document->txtEdit().SetFocus();
+        restoreUnsavedText(opened);
         return;
     }
     setEnabled(false);
     Form &welcome = context().forms.get<frmWelcome>();
     welcome.Load();
     presentWindow();
+    restoreUnsavedText(opened);
+    setEnabled(false); // making documents has given it back
     welcome.Show();
+}
+
+void frmMdi::restoreUnsavedText(Document *opened)
+{
+    if (context().unsavedText)
+        context().unsavedText->restore(opened);
 }

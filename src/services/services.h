@@ -15,6 +15,7 @@ class PageViews;
 class Random;
 class SettingsStore;
 class TimerSource;
+class Worker;
 class Yielder;
 
 /// What the program needs of the desktop, handed down to all that use it. Its owner outlives every user.
@@ -33,5 +34,7 @@ struct Services {
     ModalLoop &modalLoop;
     Yielder &yielder;
     PageViews &pageViews;
-    QString appPath; ///< the program's folder (`App.Path`), without a final separator
+    Worker &worker;
+    QString appPath;   ///< the program's folder (`App.Path`), without a final separator
+    QString statePath; ///< where the program keeps what it has to remember by itself, without a final separator
 };

@@ -1,6 +1,7 @@
 #include "drive/desktop.h"
 
 #include "common/paths.h"
+#include "desktop/stateFolder.h"
 #include "drive/carriedOver.h"
 #include "drive/world.h"
 
@@ -168,7 +169,9 @@ Desktop::Desktop(Referee &referee, const World &world)
           .modalLoop = modalLoop,
           .yielder = yielder,
           .pageViews = m_pageViews,
+          .worker = m_worker,
           .appPath = world.app(),
+          .statePath = stateFolder(),
       }
 {
 }

@@ -12,6 +12,7 @@
 #include "services/random.h"
 #include "services/services.h"
 #include "services/timer.h"
+#include "services/worker.h"
 #include "services/yielder.h"
 #include "storage/localFileSystem.h"
 #include "storage/settingsFiles.h"
@@ -172,6 +173,7 @@ private:
     DesktopClipboard m_clipboard;
     XdgFileClasses m_fileClasses;
     ModulePageViews m_pageViews;
+    InlineWorker m_worker; // nothing happens by itself in a script
     Services m_services;
 };
 } // namespace drive

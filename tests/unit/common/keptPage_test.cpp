@@ -16,7 +16,8 @@ KeptPage samplePage()
     page.plainEncoding = Encoding::Windows1252;
     page.mixedLineEnds = true;
     page.internetOrigin = QStringLiteral("http://example.org/");
-    page.text = QStringLiteral("<p>\r\n\u20AC") + QChar(0xD800) + QChar(u'\0'); // half a pair and a NUL, as files hold them
+    page.text =
+        QStringLiteral("<p>\r\n\u20AC") + QChar(0xD800) + QChar(u'\0'); // half a pair and a NUL, as files hold them
     page.selStart = 3;
     page.selLength = 2;
     page.stamp = FileStamp{12, 34, 56};

@@ -17,10 +17,7 @@ class RecoveryFolderTest : public Sandbox
 {
 protected:
     /// One run of the program; destroying it is what the end of its process does to its lock.
-    std::unique_ptr<RecoveryFolder> program()
-    {
-        return std::make_unique<RecoveryFolder>(m_files, path("state"));
-    }
+    std::unique_ptr<RecoveryFolder> program() { return std::make_unique<RecoveryFolder>(m_files, path("state")); }
 
     static QByteArray page(const char *text, int order = 1)
     {

@@ -18,7 +18,9 @@ FilesTest::FilesTest()
           .modalLoop = modal,
           .yielder = m_yielder,
           .pageViews = m_pageViews,
+          .worker = m_worker,
           .appPath = m_folder.path(),
+          .statePath = m_folder.path() + QStringLiteral("/state"),
       },
       context{.services = m_services, .forms = m_runtime, .state = state, .screenPointer = m_pointer}
 {

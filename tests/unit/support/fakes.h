@@ -19,6 +19,7 @@
 #include "services/random.h"
 #include "services/services.h"
 #include "services/timer.h"
+#include "services/worker.h"
 #include "services/yielder.h"
 #include "storage/localFileSystem.h"
 #include "surface/editSurface.h"
@@ -315,6 +316,7 @@ private:
     EventYielder m_yielder;
     NoPageViews m_pageViews;
     QTemporaryDir m_folder;
+    InlineWorker m_worker;
     Services m_services;
     FormRuntime m_runtime;
     ScreenPointer m_pointer;
