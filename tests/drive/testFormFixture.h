@@ -80,9 +80,25 @@ private:
     /// The services of the desktop, with dialogs that are answered.
     Services scripted(Services &real)
     {
-        return {real.messageBoxes, dialogs,    real.settings, real.files,     real.launcher,
-                real.clipboard,    real.clock, real.random,   real.help,      real.timers,
-                real.fileClasses,  modalLoop,  real.yielder,  real.pageViews, QString()};
+        return {
+            .messageBoxes = real.messageBoxes,
+            .commonDialogs = dialogs,
+            .settings = real.settings,
+            .files = real.files,
+            .launcher = real.launcher,
+            .clipboard = real.clipboard,
+            .clock = real.clock,
+            .random = real.random,
+            .help = real.help,
+            .timers = real.timers,
+            .fileClasses = real.fileClasses,
+            .modalLoop = modalLoop,
+            .yielder = real.yielder,
+            .pageViews = real.pageViews,
+            .worker = real.worker,
+            .appPath = QString(),
+            .statePath = QString(),
+        };
     }
 
     qsizetype m_seen = 0;

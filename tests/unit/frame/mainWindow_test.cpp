@@ -106,9 +106,25 @@ private:
 
     static Services servicesOver(Services &real, MessageBoxes &messageBoxes)
     {
-        return {messageBoxes,     real.commonDialogs, real.settings, real.files,     real.launcher,
-                real.clipboard,   real.clock,         real.random,   real.help,      real.timers,
-                real.fileClasses, real.modalLoop,     real.yielder,  real.pageViews, real.appPath};
+        return {
+            .messageBoxes = messageBoxes,
+            .commonDialogs = real.commonDialogs,
+            .settings = real.settings,
+            .files = real.files,
+            .launcher = real.launcher,
+            .clipboard = real.clipboard,
+            .clock = real.clock,
+            .random = real.random,
+            .help = real.help,
+            .timers = real.timers,
+            .fileClasses = real.fileClasses,
+            .modalLoop = real.modalLoop,
+            .yielder = real.yielder,
+            .pageViews = real.pageViews,
+            .worker = real.worker,
+            .appPath = real.appPath,
+            .statePath = real.statePath,
+        };
     }
 };
 } // namespace

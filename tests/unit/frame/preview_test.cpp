@@ -55,9 +55,25 @@ protected:
         Services &real = desktop->services();
         settings::write(real.settings, settings::WelcomeScreen, QStringLiteral("false"));
         views = std::make_unique<CountedViews>(home.path());
-        services.reset(new Services{real.messageBoxes, real.commonDialogs, real.settings, real.files, real.launcher,
-                                    real.clipboard, real.clock, real.random, real.help, real.timers, real.fileClasses,
-                                    real.modalLoop, real.yielder, *views, home.path()});
+        services.reset(new Services{
+            .messageBoxes = real.messageBoxes,
+            .commonDialogs = real.commonDialogs,
+            .settings = real.settings,
+            .files = real.files,
+            .launcher = real.launcher,
+            .clipboard = real.clipboard,
+            .clock = real.clock,
+            .random = real.random,
+            .help = real.help,
+            .timers = real.timers,
+            .fileClasses = real.fileClasses,
+            .modalLoop = real.modalLoop,
+            .yielder = real.yielder,
+            .pageViews = *views,
+            .worker = real.worker,
+            .appPath = home.path(),
+            .statePath = real.statePath,
+        });
         application = std::make_unique<Application>(*services);
         application->form(QStringLiteral("frmMdi"))->Show();
     }
