@@ -9,16 +9,16 @@
 
 namespace
 {
-std::unique_ptr<DesktopServices> servicesAt(const QString &home)
+std::unique_ptr<DesktopServices> servicesAt(const QString &home, CommonDialogs &dialogs)
 {
     qputenv("XDG_CONFIG_HOME", home.toUtf8());
     qputenv("XDG_DATA_HOME", home.toUtf8());
-    return std::make_unique<DesktopServices>();
+    return std::make_unique<DesktopServices>(&dialogs);
 }
 } // namespace
 
 RunningProgram::RunningProgram(const std::function<void(const QString &)> &prepare)
-    : m_services(servicesAt(m_home.path())), m_program(m_services->services())
+    : m_services(servicesAt(m_home.path(), m_dialogs)), m_program(m_services->services())
 {
     if (prepare)
         prepare(m_services->services().appPath);

@@ -3,6 +3,7 @@
 #include "common/mainWindow.h"
 #include "desktop/desktopServices.h"
 #include "frame/application.h"
+#include "services/commonDialogs.h"
 
 #include <QTemporaryDir>
 #include <functional>
@@ -29,7 +30,20 @@ public:
     void press(Qt::Key key, const QString &text);
 
 private:
+    /// Leaves every dialog at once.
+    class NoDialogs final : public CommonDialogs
+    {
+    public:
+        std::optional<FileDialogResult> showOpen(const FileDialogRequest &) override { return {}; }
+        std::optional<FileDialogResult> showSave(const FileDialogRequest &) override { return {}; }
+        std::optional<QString> showFolder(const QString &, const QString &) override { return {}; }
+        std::optional<ColourValue> showColour(ColourValue) override { return {}; }
+        std::optional<FontChoice> showFont(const FontChoice &) override { return {}; }
+        std::optional<int> showPrint() override { return {}; }
+    };
+
     QTemporaryDir m_home;
+    NoDialogs m_dialogs;
     std::unique_ptr<DesktopServices> m_services;
     Application m_program;
 };

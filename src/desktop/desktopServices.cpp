@@ -31,9 +31,12 @@ QString settingsFolder()
 } // namespace
 
 struct DesktopServices::Parts {
+    explicit Parts(CommonDialogs *dialogs) : commonDialogs(dialogs ? *dialogs : desktopDialogs) {}
+
     QString appPath = programFolder(runningProgramPlaces());
     DesktopMessageBoxes messageBoxes;
-    DesktopCommonDialogs commonDialogs;
+    DesktopCommonDialogs desktopDialogs;
+    CommonDialogs &commonDialogs;
     SettingsFiles settings{settingsFolder()};
     LocalFileSystem files;
     DesktopLauncher launcher;
@@ -68,7 +71,7 @@ struct DesktopServices::Parts {
     };
 };
 
-DesktopServices::DesktopServices() : parts(std::make_unique<Parts>()) {}
+DesktopServices::DesktopServices(CommonDialogs *dialogs) : parts(std::make_unique<Parts>(dialogs)) {}
 
 DesktopServices::~DesktopServices() = default;
 

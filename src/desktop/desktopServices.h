@@ -8,7 +8,8 @@
 class DesktopServices
 {
 public:
-    DesktopServices();
+    /// `dialogs` takes the place of the desktop's own dialogs where nobody is there to answer them.
+    explicit DesktopServices(CommonDialogs *dialogs = nullptr);
     DesktopServices(const DesktopServices &) = delete;
     DesktopServices &operator=(const DesktopServices &) = delete;
     ~DesktopServices();

@@ -171,17 +171,16 @@ ui::Node frmInsImage::previewGroup()
 
 void frmInsImage::readTag()
 {
-    TextSurface *edit = frmMdi().activeDocument() ? &frmMdi().activeDocument()->txtEdit() : nullptr;
-    if (!edit)
-        return;
-    ui::addRows(*cboImgMapName, tagValues(edit->Text(), QStringLiteral("<map "), QStringLiteral("name"), MostMaps));
-    const std::optional<TagUnderCaret> tag = readImageTag(edit->Text(), edit->SelStart(), edit->SelLength());
+    const Document *document = frmMdi().activeDocument();
+    if (document) {
+        const QString text = document->txtEdit().Text();
+        ui::addRows(*cboImgMapName, tagValues(text, QStringLiteral("<map "), QStringLiteral("name"), MostMaps));
+    }
+    const std::optional<TagUnderCaret> tag = takeTag(readImageTag);
     if (!tag)
         return;
     LeftoverAttributes = tag->leftoverAttributes;
     showFields(imageFields(*tag));
-    edit->setSelStart(tag->start);
-    edit->setSelLength(tag->length);
     m_knownSrc = cboSrc->currentText();
     previewOnceShown();
 }

@@ -32,7 +32,7 @@ void InsertionForm::prepareLoad()
 
 ui::Node InsertionForm::dialogButtons()
 {
-    m_ok = ui::button(m_design.okName, QStringLiteral("&OK"), [this] { confirm(); });
+    m_ok = ui::button(m_design.okName, m_design.okCaption, [this] { confirm(); });
     QPushButton *cancelButton = ui::button(m_design.cancelName, QStringLiteral("Cancel"), [this] { cancel(); });
     QList<QPushButton *> all{m_ok, cancelButton};
     if (!m_design.helpTopic.isEmpty()) {
@@ -59,10 +59,25 @@ void InsertionForm::insert(const QString &text, qsizetype caretBack)
         edit.setSelText(text);
         if (caretBack > 0)
             edit.setSelStart(edit.SelStart() - caretBack);
+        afterInsertion(edit);
     }
     Unload();
     if (Document *document = frmMdi().activeDocument())
         document->txtEdit().SetFocus();
+}
+
+std::optional<TagUnderCaret> InsertionForm::takeTag(TagReader read)
+{
+    Document *document = frmMdi().activeDocument();
+    if (!document)
+        return std::nullopt;
+    TextSurface &edit = document->txtEdit();
+    std::optional<TagUnderCaret> tag = read(edit.Text(), edit.SelStart(), edit.SelLength());
+    if (tag) {
+        edit.setSelStart(tag->start);
+        edit.setSelLength(tag->length);
+    }
+    return tag;
 }
 
 QString InsertionForm::documentFolder() const

@@ -1,12 +1,14 @@
 #pragma once
 
 #include "forms/dialogForm.h"
+#include "insertion/tagUnderCaret.h"
 
 #include <functional>
 #include <optional>
 
 class QPushButton;
 class QWidget;
+class TextSurface;
 namespace ui
 {
 class Node;
@@ -33,6 +35,7 @@ public:
         QString caption;
         QString helpTopic = {}; ///< "::/topics/…"; a dialog without one has no Help button
         QString okName = QStringLiteral("cmdOK");
+        QString okCaption = QStringLiteral("&OK");
         QString cancelName = QStringLiteral("cmdCancel");
     };
 
@@ -47,9 +50,18 @@ protected:
     /// How many characters before the markup's end the caret is to stand; asked once the markup is made.
     virtual qsizetype caretBack() const { return 0; }
 
+    /// Runs once the markup stands in the document, for a dialog that writes at another place, too.
+    virtual void afterInsertion(TextSurface &) {}
+
     /// OK, Cancel and Help, one below the other; OK is the default button and Escape presses Cancel. Once a load.
     ui::Node dialogButtons();
     QPushButton *okButton() const { return m_ok; }
+
+    /// How a dialog that edits what it finds reads the element around the caret of a text: see ReadTagUnderCaret.
+    using TagReader = std::optional<TagUnderCaret> (*)(const QString &text, qsizetype selStart, qsizetype selLength);
+    /// The element around the document's caret, which is selected from now on, so that the markup takes its place.
+    /// Nothing, and nothing selected, where there is none.
+    std::optional<TagUnderCaret> takeTag(TagReader read);
 
     /// The folder of the active document's file, with its final separator, from which relative paths start; empty if
     /// it has none.

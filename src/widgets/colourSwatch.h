@@ -8,6 +8,7 @@
 class ColourSwatch final : public QFrame
 {
     Q_OBJECT
+    Q_PROPERTY(ColourValue FillColor READ BackColor)
 public:
     explicit ColourSwatch(ColourValue colour = WindowColour, QWidget *parent = nullptr);
 

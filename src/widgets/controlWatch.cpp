@@ -35,7 +35,7 @@ QLineEdit *lineEditOf(QWidget *control)
 /// Keys with Ctrl are commands, such as Paste, and no characters.
 bool isRefused(const QKeyEvent &key)
 {
-    const QString typed = key.text();
+    const QString typed = key.modifiers() & Qt::ControlModifier ? QString() : key.text();
     return !typed.isEmpty() && typed[0].isPrint() && (typed[0] < u'0' || typed[0] > u'9');
 }
 /// The list of a combo and the menu of a text box have the focus only for as long as they are open.

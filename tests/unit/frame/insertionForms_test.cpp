@@ -8,6 +8,7 @@
 #include "services/services.h"
 #include "services/settings.h"
 #include "services/settingsStore.h"
+#include "unit/support/fakes.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -25,7 +26,7 @@ protected:
     {
         qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
         qputenv("XDG_DATA_HOME", home.path().toUtf8());
-        desktop = std::make_unique<DesktopServices>();
+        desktop = std::make_unique<DesktopServices>(&leftDialogs);
         settings::write(desktop->services().settings, settings::WelcomeScreen, QStringLiteral("false"));
         application = std::make_unique<Application>(desktop->services());
         application->form(QStringLiteral("frmMdi"))->Show();
@@ -52,6 +53,7 @@ protected:
     }
 
     QTemporaryDir home;
+    AnsweredDialogs leftDialogs; // each is left: the designer of image maps opens with one
     std::unique_ptr<DesktopServices> desktop;
     std::unique_ptr<Application> application;
 };
@@ -90,7 +92,7 @@ TEST_F(InsertionFormsTest, DisableTheMainWindowUntilTheyAreGone)
     int dialogs = 0;
     for (const QString &name : names()) {
         Form &form = *application->form(name);
-        if (!qobject_cast<DialogForm *>(&form)) // the table's grid drops down, and the palettes are modal by themselves
+        if (!qobject_cast<DialogForm *>(&form)) // the grid drops down, and palettes and companions are modal
             continue;
         ++dialogs;
         form.Show();
