@@ -1,15 +1,28 @@
 #include "insertion/insertionForms.h"
 
+#include "insertion/frmAddJavaParam.h"
+#include "insertion/frmAddMenuItem.h"
+#include "insertion/frmAddObjectParam.h"
 #include "insertion/frmColourSel.h"
 #include "insertion/frmColourSelSafe.h"
 #include "insertion/frmDateTime.h"
 #include "insertion/frmFont.h"
+#include "insertion/frmFormButton.h"
+#include "insertion/frmFormCheck.h"
+#include "insertion/frmFormField.h"
+#include "insertion/frmFormHidden.h"
+#include "insertion/frmFormMenu.h"
+#include "insertion/frmFormRadioButton.h"
+#include "insertion/frmFormTextArea.h"
+#include "insertion/frmFormTextbox.h"
 #include "insertion/frmInsBgSound.h"
 #include "insertion/frmInsCodeComment.h"
 #include "insertion/frmInsHorizontalRule.h"
 #include "insertion/frmInsHyperlink.h"
 #include "insertion/frmInsImage.h"
+#include "insertion/frmInsJavaApplet.h"
 #include "insertion/frmInsList.h"
+#include "insertion/frmInsObject.h"
 #include "insertion/frmInsSpecChar.h"
 #include "insertion/frmInsTable.h"
 #include "insertion/frmInsVideo.h"
@@ -30,5 +43,7 @@ std::vector<std::unique_ptr<Form>> insertionForms(ProgramContext &context)
 {
     return made<frmInsHyperlink, frmInsImage, frmInsVideo, frmInsBgSound, frmInsTable, frmSelInsertTable,
                 frmInsHorizontalRule, frmInsList, frmInsCodeComment, frmDateTime, frmFont, frmInsSpecChar,
-                frmColourSelSafe, frmColourSel>(context);
+                frmColourSelSafe, frmColourSel, frmFormField, frmFormTextbox, frmFormTextArea, frmFormMenu,
+                frmAddMenuItem, frmFormCheck, frmFormRadioButton, frmFormButton, frmFormHidden, frmInsJavaApplet,
+                frmAddJavaParam, frmInsObject, frmAddObjectParam>(context);
 }

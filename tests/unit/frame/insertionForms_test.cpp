@@ -101,6 +101,6 @@ TEST_F(InsertionFormsTest, DisableTheMainWindowUntilTheyAreGone)
         EXPECT_TRUE(mainWindow.Enabled()) << name.toStdString();
         settle();
     }
-    EXPECT_EQ(dialogs, names().size() - 3);
+    EXPECT_EQ(dialogs, names().size() - 6);
 }
 } // namespace

@@ -42,12 +42,20 @@ private:
     void attribute(ReadElement &element)
     {
         const QString name = word();
+        skipBlanks();
         if (at(m_at) != u'=') {
             element.attributes.insert(name, QString());
             return;
         }
         ++m_at;
+        skipBlanks();
         element.attributes.insert(name, at(m_at) == u'"' ? quoted() : word());
+    }
+
+    void skipBlanks()
+    {
+        while (at(m_at).isSpace())
+            ++m_at;
     }
 
     QString quoted()

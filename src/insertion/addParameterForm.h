@@ -1,0 +1,33 @@
+#pragma once
+
+#include "insertion/companionForm.h"
+
+#include <optional>
+
+class QLineEdit;
+
+/// A value that is handed to an applet or object under a name.
+struct ElementParameter {
+    QString name;
+    QString value;
+};
+
+/// Asks for a parameter. Its two kinds differ in name and caption alone.
+class AddParameterForm : public CompanionForm
+{
+    Q_OBJECT
+public:
+    AddParameterForm(ProgramContext &context, const QString &name, const QString &caption);
+
+    /// Nothing if the user left the form without adding one.
+    std::optional<ElementParameter> askForParameter();
+
+protected:
+    void Form_Load() override;
+    bool accept() override;
+
+private:
+    std::optional<ElementParameter> m_parameter;
+    QLineEdit *txtName = nullptr;
+    QLineEdit *txtValue = nullptr;
+};

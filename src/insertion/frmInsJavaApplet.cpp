@@ -1,0 +1,163 @@
+#include "insertion/frmInsJavaApplet.h"
+
+#include "forms/formRuntime.h"
+#include "insertion/attributeText.h"
+#include "insertion/embeddedElement.h"
+#include "insertion/frmAddJavaParam.h"
+#include "widgets/numberField.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+
+QString appletMarkup(const AppletFields &fields)
+{
+    return QStringLiteral("<applet") + attributeUnlessEmpty(QStringLiteral("codebase"), fields.codeBase) +
+           attributeUnlessEmpty(QStringLiteral("code"), fields.code) +
+           attributeUnlessEmpty(QStringLiteral("name"), fields.name) +
+           attributeUnlessEmpty(QStringLiteral("archive"), fields.archive) +
+           attributeUnlessEmpty(QStringLiteral("object"), fields.object) +
+           attributeUnlessEmpty(QStringLiteral("width"), fields.width) +
+           attributeUnlessEmpty(QStringLiteral("height"), fields.height) +
+           attributeUnlessEmpty(QStringLiteral("align"), fields.align) +
+           attributeUnlessEmpty(QStringLiteral("alt"), fields.alt) +
+           attributeUnlessEmpty(QStringLiteral("vspace"), fields.vSpace) +
+           attributeUnlessEmpty(QStringLiteral("hspace"), fields.hSpace) + fields.leftoverAttributes + u'>' +
+           parametersMarkup(fields.parameters, fields.edited ? QString() : QStringLiteral("</applet>"));
+}
+
+std::optional<TagUnderCaret> readAppletTag(const QString &text, qsizetype selStart, qsizetype selLength)
+{
+    static const QStringList attributes{QStringLiteral("codebase"), QStringLiteral("code"),   QStringLiteral("name"),
+                                        QStringLiteral("archive"),  QStringLiteral("object"), QStringLiteral("align"),
+                                        QStringLiteral("alt"),      QStringLiteral("width"),  QStringLiteral("height"),
+                                        QStringLiteral("hspace"),   QStringLiteral("vspace")};
+    return ReadTagUnderCaret(text, selStart, selLength, QStringLiteral("<applet "), attributes);
+}
+
+AppletFields appletFields(const TagUnderCaret &tag)
+{
+    const auto value = [&tag](const char *attribute) { return tag.value(QLatin1String(attribute)); };
+    return {.codeBase = value("codebase"),
+            .code = value("code"),
+            .name = value("name"),
+            .archive = value("archive"),
+            .object = value("object"),
+            .width = value("width"),
+            .height = value("height"),
+            .align = value("align"),
+            .alt = value("alt"),
+            .vSpace = value("vspace"),
+            .hSpace = value("hspace"),
+            .leftoverAttributes = tag.leftoverAttributes,
+            .parameters = {},
+            .edited = true};
+}
+
+frmInsJavaApplet::frmInsJavaApplet(ProgramContext &context)
+    : InsertionForm(context, {.name = QStringLiteral("frmInsJavaApplet"),
+                              .caption = QStringLiteral("Insert Java Applet"),
+                              .helpTopic = QStringLiteral("::/topics/using/Function_Insert_JavaApplet.htm")})
+{
+}
+
+void frmInsJavaApplet::Form_Load()
+{
+    setContent(ui::beside({
+        ui::column({
+            sourceRows(),
+            placeRows(),
+            m_parameters
+                .build(QStringLiteral("Applet Parameters:"),
+                       [this] { return context().forms.get<frmAddJavaParam>().askForParameter(); })
+                .stretched(),
+        }),
+        dialogButtons(),
+    }));
+    readTag();
+}
+
+ui::Node frmInsJavaApplet::sourceRows()
+{
+    txtBase = ui::text(QStringLiteral("txtBase"));
+    txtSource = ui::text(QStringLiteral("txtSource"));
+    txtName = ui::text(QStringLiteral("txtName"));
+    txtArchive = ui::text(QStringLiteral("txtArchive"));
+    txtObject = ui::text(QStringLiteral("txtObject"));
+    txtAlternative = ui::text(QStringLiteral("txtAlternative"));
+    return ui::rows({
+        ui::row(QStringLiteral("Base URL:"), txtBase),
+        ui::row(QStringLiteral("Source:"), txtSource),
+        ui::row(QStringLiteral("Name:"), txtName),
+        ui::row(QStringLiteral("Archive:"), txtArchive),
+        ui::row(QStringLiteral("Object:"), txtObject),
+        ui::row(QStringLiteral("Alternative Text:"), txtAlternative),
+    });
+}
+
+ui::Node frmInsJavaApplet::placeRows()
+{
+    txtWidth = embedded::sizeField(QStringLiteral("txtWidth"));
+    txtHeight = embedded::sizeField(QStringLiteral("txtHeight"));
+    cboAlignment = embedded::alignmentBox();
+    txtVert = embedded::sizeField(QStringLiteral("txtVert"));
+    txtHoz = embedded::sizeField(QStringLiteral("txtHoz"));
+    return ui::line({
+        ui::rows({
+            ui::row(QStringLiteral("Width:"), ui::counted(txtWidth)),
+            ui::row(QStringLiteral("Height:"), ui::counted(txtHeight)),
+            ui::row(QStringLiteral("Alignment:"), cboAlignment),
+        }),
+        ui::rows({
+            ui::row(QStringLiteral("Vertical Spacing:"), ui::counted(txtVert)),
+            ui::row(QStringLiteral("Horizontal Spacing:"), ui::counted(txtHoz)),
+        }),
+    });
+}
+
+void frmInsJavaApplet::readTag()
+{
+    const std::optional<TagUnderCaret> tag = takeTag(readAppletTag);
+    if (!tag)
+        return;
+    LeftoverAttributes = tag->leftoverAttributes;
+    m_edited = true;
+    showFields(appletFields(*tag));
+}
+
+void frmInsJavaApplet::showFields(const AppletFields &fields)
+{
+    txtBase->setText(fields.codeBase);
+    txtSource->setText(fields.code);
+    txtName->setText(fields.name);
+    txtArchive->setText(fields.archive);
+    txtObject->setText(fields.object);
+    txtWidth->setText(fields.width);
+    txtHeight->setText(fields.height);
+    cboAlignment->setEditText(fields.align);
+    txtAlternative->setText(fields.alt);
+    txtVert->setText(fields.vSpace);
+    txtHoz->setText(fields.hSpace);
+}
+
+AppletFields frmInsJavaApplet::fields() const
+{
+    return {.codeBase = txtBase->text(),
+            .code = txtSource->text(),
+            .name = txtName->text(),
+            .archive = txtArchive->text(),
+            .object = txtObject->text(),
+            .width = txtWidth->text(),
+            .height = txtHeight->text(),
+            .align = cboAlignment->currentText(),
+            .alt = txtAlternative->text(),
+            .vSpace = txtVert->text(),
+            .hSpace = txtHoz->text(),
+            .leftoverAttributes = LeftoverAttributes,
+            .parameters = m_parameters.parameters(),
+            .edited = m_edited};
+}
+
+std::optional<QString> frmInsJavaApplet::markup()
+{
+    return appletMarkup(fields());
+}

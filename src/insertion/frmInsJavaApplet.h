@@ -1,0 +1,67 @@
+#pragma once
+
+#include "insertion/insertionForm.h"
+#include "insertion/parameterList.h"
+#include "insertion/tagUnderCaret.h"
+
+class NumberField;
+class QComboBox;
+class QLineEdit;
+
+/// What the applet dialog holds. Numbers are the texts of their boxes.
+struct AppletFields {
+    QString codeBase;
+    QString code;
+    QString name;
+    QString archive;
+    QString object;
+    QString width;
+    QString height;
+    QString align;
+    QString alt;
+    QString vSpace;
+    QString hSpace;
+    QString leftoverAttributes; ///< what goes into the tag as it stands, with its own blank in front
+    QList<ElementParameter> parameters;
+    bool edited = false; ///< the element is there already, with its closing tag
+};
+
+QString appletMarkup(const AppletFields &fields);
+
+/// The `applet` element around a caret, as ReadTagUnderCaret finds it, and the fields that it fills.
+std::optional<TagUnderCaret> readAppletTag(const QString &text, qsizetype selStart, qsizetype selLength);
+AppletFields appletFields(const TagUnderCaret &tag);
+
+/// Inserts a Java applet, or edits the one under the caret.
+class frmInsJavaApplet final : public InsertionForm
+{
+    Q_OBJECT
+public:
+    explicit frmInsJavaApplet(ProgramContext &context);
+
+protected:
+    void Form_Load() override;
+    std::optional<QString> markup() override;
+
+private:
+    ui::Node sourceRows();
+    ui::Node placeRows();
+    void readTag();
+    void showFields(const AppletFields &fields);
+    AppletFields fields() const;
+
+    QString LeftoverAttributes; ///< of the tag read last; it outlives the dialog and goes into the next new applet, too
+    bool m_edited = false;      ///< outlives the dialog: once a tag was read, no applet gets a closing tag any more
+    ParameterList m_parameters;
+    QLineEdit *txtBase = nullptr;
+    QLineEdit *txtSource = nullptr;
+    QLineEdit *txtName = nullptr;
+    QLineEdit *txtArchive = nullptr;
+    QLineEdit *txtObject = nullptr;
+    NumberField *txtWidth = nullptr;
+    NumberField *txtHeight = nullptr;
+    QComboBox *cboAlignment = nullptr;
+    QLineEdit *txtAlternative = nullptr;
+    NumberField *txtVert = nullptr;
+    NumberField *txtHoz = nullptr;
+};
