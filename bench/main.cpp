@@ -21,6 +21,7 @@ constexpr Group groups[] = {
     {"preview", previewFigures},
     {"tables", tableFigures},
     {"dialogs", dialogFigures},
+    {"designers", designerFigures},
     {"opening", openingFigures},
     {"idle", idleFigures},
     {"start", startFigures},

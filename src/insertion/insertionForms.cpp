@@ -20,12 +20,14 @@
 #include "insertion/frmInsHorizontalRule.h"
 #include "insertion/frmInsHyperlink.h"
 #include "insertion/frmInsImage.h"
+#include "insertion/frmInsImageMap.h"
 #include "insertion/frmInsJavaApplet.h"
 #include "insertion/frmInsList.h"
 #include "insertion/frmInsObject.h"
 #include "insertion/frmInsSpecChar.h"
 #include "insertion/frmInsTable.h"
 #include "insertion/frmInsVideo.h"
+#include "insertion/frmInsertDHTMLMenu.h"
 #include "insertion/frmSelInsertTable.h"
 
 namespace
@@ -45,5 +47,5 @@ std::vector<std::unique_ptr<Form>> insertionForms(ProgramContext &context)
                 frmInsHorizontalRule, frmInsList, frmInsCodeComment, frmDateTime, frmFont, frmInsSpecChar,
                 frmColourSelSafe, frmColourSel, frmFormField, frmFormTextbox, frmFormTextArea, frmFormMenu,
                 frmAddMenuItem, frmFormCheck, frmFormRadioButton, frmFormButton, frmFormHidden, frmInsJavaApplet,
-                frmAddJavaParam, frmInsObject, frmAddObjectParam>(context);
+                frmInsImageMap, frmInsertDHTMLMenu, frmAddJavaParam, frmInsObject, frmAddObjectParam>(context);
 }
