@@ -146,6 +146,7 @@ QToolBar *frmInsImageMap::toolBar()
     tbrMain = new QToolBar;
     tbrMain->setObjectName(QStringLiteral("tbrMain"));
     tbrMain->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    tbrMain->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed); // no tool goes behind an arrow
     new QActionGroup(tbrMain);
     addTool(AreaShape::Rectangle, "Rect", "Rectangle", "rectangle-horizontal", Qt::ALT | Qt::Key_R);
     addTool(AreaShape::Circle, "Circ", "Circle", "circle", Qt::ALT | Qt::Key_C);
@@ -218,6 +219,7 @@ ui::Node frmInsImageMap::areaColumn()
     lstAreas = ui::listView(QStringLiteral("lstAreas"),
                             {QStringLiteral("Link"), QStringLiteral("Shape"), QStringLiteral("Coordinates")});
     lstAreas->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    lstAreas->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding); // the room is the picture's
     lstAreas->setMinimumWidth(lstAreas->fontMetrics().averageCharWidth() * CharactersOfAreas);
     cmdTakeBack =
         ui::button(QStringLiteral("cmdTakeBack"), QStringLiteral("&Take Last Back"), [this] { cmdTakeBack_Click(); });
