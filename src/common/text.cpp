@@ -74,3 +74,10 @@ QString LCase(QStringView text)
     std::transform(text.begin(), text.end(), result.begin(), [](QChar c) { return LCase(c); });
     return result;
 }
+
+QString UCase(QStringView text)
+{
+    QString result(text.size(), Qt::Uninitialized);
+    std::transform(text.begin(), text.end(), result.begin(), [](QChar c) { return UCase(c); });
+    return result;
+}

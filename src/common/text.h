@@ -31,3 +31,13 @@ inline QChar LCase(QChar c)
         return c >= u'A' && c <= u'Z' ? QChar(c.unicode() + 32) : c;
     return c.toLower();
 }
+
+/// Upper case character by character, so that every position stays what it was; a letter whose upper case is longer
+/// stays as it is.
+QString UCase(QStringView text);
+inline QChar UCase(QChar c)
+{
+    if (c.unicode() < 128)
+        return c >= u'a' && c <= u'z' ? QChar(c.unicode() - 32) : c;
+    return c.toUpper();
+}

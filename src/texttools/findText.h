@@ -1,0 +1,87 @@
+#pragma once
+
+#include "document/textSelection.h"
+
+#include <QString>
+#include <optional>
+
+/// The search of the Find window: plain text in plain text, with filters on what stands around a match. Positions count
+/// from 1, and 0 is "not found".
+
+enum class SearchDirection { Down, Up, All };
+enum class SearchType { EntireDocument, TextOnly, TagsOnly };
+
+struct FindOptions {
+    QString find;
+    SearchDirection direction = SearchDirection::All;
+    SearchType type = SearchType::EntireDocument;
+    bool matchCase = false;
+    bool wholeWords = false;
+};
+
+/// What one search leaves for the next.
+struct FindState {
+    bool ContinueSearch = false;  ///< a match was turned down: the next step goes on from NextPosition
+    qsizetype NextPosition = 0;   ///< behind the first character of the last match; 0 for none
+    bool FoundMatch = false;      ///< the last step has found a match
+    bool operator==(const FindState &) const = default;
+};
+
+/// Whether the question must be asked that turns a search into one of the entire document: upwards, a single character
+/// cannot be told to lie in a tag or beside one.
+bool isSingleCharacterUpwards(const FindOptions &options);
+
+/// Where the next step starts; for "Up" the last place at which a match may end, and below 1 if there is none.
+///
+/// "All" begins at the text's start unless a search has begun. Everything else goes by the selection: behind it the
+/// search starts at the selection's last character, or at the character in front of a caret. Only a selection of one
+/// character is stepped over.
+qsizetype searchStart(const FindOptions &options, const FindState &state, const TextSelection &selection);
+
+/// Where a step goes on once the match at `place` was turned down.
+qsizetype startBehindRejected(const FindOptions &options, qsizetype place);
+
+/// Searches from a start as `searchStart` gives it, passing over what the filters turn down, and notes the outcome.
+qsizetype SearchText(QStringView text, const FindOptions &options, qsizetype start, FindState &state);
+
+/// Which side of a match's start the ">" lies on that belongs to the last "<" at or before it.
+enum class TagEnd { NoTag, Before, At, Behind, Missing };
+
+/// Whether the filter on tags lets a match through. Without a "<" in front of it, everything passes.
+bool passesTagFilter(SearchType type, TagEnd end);
+
+/// Tells of places in a text, in any order, where the tag in front of them ends. What it has found it knows for the
+/// places nearby, so that a text without tags costs one walk and not one for each match.
+class TagPlaces
+{
+public:
+    explicit TagPlaces(QStringView text) : m_text(text) {}
+
+    /// What the text in front of `from` comes to, for a text of which only the part from there on is to be looked at.
+    enum class Side { NoTag, Open, Closed };
+    TagPlaces(QStringView text, qsizetype from, Side side) : m_text(text), m_from(from), m_side(side), m_at(from) {}
+
+    TagEnd at(qsizetype place); ///< counted from 0
+    static Side behind(Side side, QStringView passed);
+
+private:
+    void lookBack(qsizetype place);
+    qsizetype endOf(qsizetype bracket);
+
+    QStringView m_text;
+    qsizetype m_from = 0;
+    Side m_side = Side::NoTag;
+    qsizetype m_at = 0;         ///< the place asked about last
+    qsizetype m_bracket = -1;   ///< the last "<" at or before it
+    qsizetype m_endSought = -1; ///< from where on the ">" was sought
+    qsizetype m_end = -1;
+};
+
+/// The raw search: the first place at or behind `from`, the last place that ends at or before `end`, counted from 0; -1
+/// for none. Upper and lower case are compared character by character.
+qsizetype indexOfText(QStringView text, QStringView find, qsizetype from, bool matchCase);
+qsizetype lastIndexOfText(QStringView text, QStringView find, qsizetype end, bool matchCase);
+
+/// Whether what stands around a match parts words: in front of it the text's start, a line feed or a blank, behind it the
+/// text's end, a blank or a control character.
+bool isWordEdge(std::optional<QChar> before, std::optional<QChar> behind);
