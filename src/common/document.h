@@ -45,6 +45,8 @@ public:
     virtual bool unload() = 0;
     /// Brings the document's window to the front and the focus to its edit surface.
     virtual void activate() = 0;
+    /// Puts the document's window behind the others, whereupon the one that was active before it is the active one.
+    virtual void sendToBack() {}
 
     /// Puts the document's tab at the end of the strip, under the window's caption and without taking a tab away; a key
     /// that is in the strip already adds no second tab.
@@ -85,6 +87,8 @@ public:
 
     /// Brings what is told of the text's lines up to date.
     virtual void UpdateLineInformation() = 0;
+    /// The switch of `tmrRefresh`: off, the text is coloured at its next change only.
+    virtual void setRefreshEnabled(bool) {}
     /// Colours the document after text was put in from outside.
     virtual void ExternalCallColourCode() = 0;
 };

@@ -32,6 +32,7 @@ public:
     bool AskedForThisSession = false; ///< the user wants no more questions about saved files and the project
     bool AddSavedFileAnswer = false;  ///< the saved file is to be added to the project
     bool WordWrap = true;
+    QString LastFindText;        ///< what the Find window searched for when it was closed last
     bool MainWindowBusy = false; ///< the program itself is at work on a document
     ColouringOptions colouring;  ///< read at the load; documents read it here, never from the store
 

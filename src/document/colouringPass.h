@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/syntaxScanner.h"
-#include "document/textSelection.h"
+#include "common/textSelection.h"
 
 #include <QPointer>
 

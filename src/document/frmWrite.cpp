@@ -130,6 +130,11 @@ void frmWrite::setAutoSaveEnabled(bool enabled)
     tmrAutoSave->setEnabled(enabled);
 }
 
+void frmWrite::setRefreshEnabled(bool enabled)
+{
+    tmrRefresh->setEnabled(enabled);
+}
+
 void frmWrite::activate()
 {
     bringToFront();

@@ -32,6 +32,7 @@ public:
     TextSurface &txtEdit() override;
     bool unload() override { return Unload(); }
     void activate() override;
+    void sendToBack() override { MdiForm::sendToBack(); }
     void DocSelUpdate() override;
     void DocSelUpdate(const QString &path) override;
     bool autoSaveEnabled() const override;
@@ -50,6 +51,7 @@ public:
     void OptimiseSyntax() override;
 
     void UpdateLineInformation() override;
+    void setRefreshEnabled(bool enabled) override;
     void ExternalCallColourCode() override;
     /// Colours the document and rebuilds the structure tree, whatever else is on show.
     void ExternalInitiateColourCodeAndDocStructure();

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/textSearch.h"
-#include "document/textSelection.h"
+#include "common/textSelection.h"
 
 #include <QSet>
 #include <QString>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/textSelection.h"
+#include "common/textSelection.h"
 
 #include <QString>
 #include <array>

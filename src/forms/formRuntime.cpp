@@ -56,6 +56,12 @@ void FormRuntime::forgetChild(MdiForm *child)
         m_activated = nullptr;
 }
 
+void FormRuntime::deferChild(MdiForm *child)
+{
+    if (m_activation.removeAll(child))
+        m_activation.prepend(child);
+}
+
 void FormRuntime::adopt(std::unique_ptr<Form> form)
 {
     m_adopted.push_back(std::move(form));

@@ -61,6 +61,8 @@ public:
     /// Makes a child the active one and runs the Deactivate and Activate of the two, once each change.
     void setActiveChild(MdiForm *child);
     void forgetChild(MdiForm *child);
+    /// Counts a child as the one that was active longest ago; who is active now is told by the next setActiveChild.
+    void deferChild(MdiForm *child);
     void setActivationHeld(bool held) { m_activationHeld = held; } ///< meanwhile setActiveChild does nothing
 
     /// Takes over a form that lives only as long as its window, such as a document; it is deleted once it is unloaded

@@ -91,6 +91,16 @@ void MdiForm::fillArea()
         window()->showMaximized();
 }
 
+void MdiForm::sendToBack()
+{
+    FormRuntime &forms = context().forms;
+    forms.deferChild(this);
+    if (MdiForm *next = forms.activeChild(); next != this) {
+        window()->lower();
+        next->bringToFront();
+    }
+}
+
 QWidget *MdiForm::createWindow()
 {
     auto *child = new ChildWindow([this] { Unload(); });

@@ -14,6 +14,8 @@ public:
     bool MDIChild() const final { return true; }
     /// Brings the window to the front of the main window and makes it the active child.
     void bringToFront();
+    /// Puts the window behind all others of its kind; the one that was active before it becomes the active child.
+    void sendToBack();
 
 protected:
     QWidget *createWindow() override;

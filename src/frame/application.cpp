@@ -1,5 +1,6 @@
 #include "frame/application.h"
 
+#include "codeknowledge/codeknowledgeForms.h"
 #include "common/mainWindow.h"
 #include "common/unsavedText.h"
 #include "document/modDocument.h"
@@ -16,6 +17,7 @@
 #include "insertion/insertionForms.h"
 #include "internet/frmMsgPreviewUnsavedDocument.h"
 #include "shell/frmWelcome.h"
+#include "texttools/texttoolsForms.h"
 
 #include <utility>
 
@@ -31,6 +33,10 @@ Application::Application(Services &services)
     addFiles();
     own<frmMsgPreviewUnsavedDocument>(m_context);
     for (std::unique_ptr<Form> &form : insertionForms(m_context))
+        m_forms.own(std::move(form));
+    for (std::unique_ptr<Form> &form : codeknowledgeForms(m_context))
+        m_forms.own(std::move(form));
+    for (std::unique_ptr<Form> &form : texttoolsForms(m_context))
         m_forms.own(std::move(form));
     connect(m_mdi, &Form::unloaded, this, &Application::End);
 }

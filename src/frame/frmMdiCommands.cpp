@@ -18,6 +18,7 @@
 #include "services/messageBoxes.h"
 #include "services/services.h"
 #include "services/settings.h"
+#include "texttools/frmFind.h"
 #include "widgets/mdiArrange.h"
 
 #include <QAction>
@@ -143,6 +144,25 @@ void MainCommands::deleteSelection()
 {
     if (Document *active = document())
         active->txtEdit().setSelText(QString());
+}
+
+void MainCommands::mnuReplace_Click()
+{
+    auto &find = m_context.forms.get<frmFind>();
+    find.Show();
+    find.SetFindReplace();
+}
+
+void MainCommands::mnuFindNext_Click()
+{
+    if (document())
+        m_context.forms.get<frmFind>().FindAgain(false);
+}
+
+void MainCommands::mnuFindPrevious_Click()
+{
+    if (document())
+        m_context.forms.get<frmFind>().FindAgain(true);
 }
 
 void MainCommands::mnuPreviousTag_Click()

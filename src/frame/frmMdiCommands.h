@@ -52,6 +52,9 @@ public:
     void mnuPaste_Click();
     void mnuSelectAll_Click();
     void deleteSelection();
+    void mnuReplace_Click();
+    void mnuFindNext_Click();
+    void mnuFindPrevious_Click();
     void mnuPreviousTag_Click();
     void mnuNextTag_Click();
     // View

@@ -108,6 +108,13 @@ TagEnd TagPlaces::at(qsizetype place)
     return end < place ? TagEnd::Before : end == place ? TagEnd::At : TagEnd::Behind;
 }
 
+void TagPlaces::restart(qsizetype from, Side side)
+{
+    m_from = m_at = from;
+    m_side = side;
+    m_bracket = -1;
+}
+
 TagPlaces::Side TagPlaces::behind(Side side, QStringView passed)
 {
     const qsizetype bracket = passed.lastIndexOf(u'<');

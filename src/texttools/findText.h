@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/textSelection.h"
+#include "common/textSelection.h"
 
 #include <QString>
 #include <optional>
@@ -21,9 +21,9 @@ struct FindOptions {
 
 /// What one search leaves for the next.
 struct FindState {
-    bool ContinueSearch = false;  ///< a match was turned down: the next step goes on from NextPosition
-    qsizetype NextPosition = 0;   ///< behind the first character of the last match; 0 for none
-    bool FoundMatch = false;      ///< the last step has found a match
+    bool ContinueSearch = false; ///< a match was turned down: the next step goes on from NextPosition
+    qsizetype NextPosition = 0;  ///< behind the first character of the last match; 0 for none
+    bool FoundMatch = false;     ///< the last step has found a match
     bool operator==(const FindState &) const = default;
 };
 
@@ -57,12 +57,13 @@ class TagPlaces
 public:
     explicit TagPlaces(QStringView text) : m_text(text) {}
 
-    /// What the text in front of `from` comes to, for a text of which only the part from there on is to be looked at.
+    /// What a stretch of text comes to for the places behind it.
     enum class Side { NoTag, Open, Closed };
-    TagPlaces(QStringView text, qsizetype from, Side side) : m_text(text), m_from(from), m_side(side), m_at(from) {}
+    /// From now on no place before `from` is asked about, and all that stands there is passed over for `side`.
+    void restart(qsizetype from, Side side);
+    static Side behind(Side side, QStringView passed);
 
     TagEnd at(qsizetype place); ///< counted from 0
-    static Side behind(Side side, QStringView passed);
 
 private:
     void lookBack(qsizetype place);
@@ -82,6 +83,6 @@ private:
 qsizetype indexOfText(QStringView text, QStringView find, qsizetype from, bool matchCase);
 qsizetype lastIndexOfText(QStringView text, QStringView find, qsizetype end, bool matchCase);
 
-/// Whether what stands around a match parts words: in front of it the text's start, a line feed or a blank, behind it the
-/// text's end, a blank or a control character.
+/// Whether what stands around a match parts words: in front of it the text's start, a line feed or a blank, behind it
+/// the text's end, a blank or a control character.
 bool isWordEdge(std::optional<QChar> before, std::optional<QChar> behind);

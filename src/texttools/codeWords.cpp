@@ -1,0 +1,57 @@
+#include "texttools/codeWords.h"
+
+#include "common/codeKnowledge.h"
+#include "common/text.h"
+
+CodeWords::CodeWords(const CodeKnowledge &codes) : m_codes(codes)
+{
+    const QString html = QStringLiteral("html");
+    int parent = -1; // that of the node before, since children mostly follow one another
+    QList<int> siblings;
+    const auto store = [&] {
+        if (parent >= 0)
+            m_children[m_codes.node(parent).text] += siblings;
+        siblings.clear();
+    };
+    for (int number = 1; number < codes.HtmlCodeNodeCount(); ++number) {
+        const int above = codes.node(number).parent;
+        if (above != parent) {
+            store();
+            parent = above;
+        }
+        siblings += number;
+        if (above >= 0 && codes.node(above).key == html)
+            m_elements += number;
+    }
+    store();
+    m_elementNames = lowerTextsOf(m_elements);
+}
+
+bool CodeWords::isElement(const QString &word) const
+{
+    return m_elementNames.contains(LCase(word));
+}
+
+bool CodeWords::isAttribute(const QString &tag, const QString &word) const
+{
+    auto names = m_attributeNames.constFind(tag);
+    if (names == m_attributeNames.constEnd())
+        names = m_attributeNames.insert(tag, lowerTextsOf(m_children.value(tag)));
+    return names->contains(LCase(word));
+}
+
+QStringList CodeWords::textsOf(const QList<int> &nodes) const
+{
+    QStringList texts;
+    for (const int number : nodes)
+        texts += m_codes.node(number).text;
+    return texts;
+}
+
+QSet<QString> CodeWords::lowerTextsOf(const QList<int> &nodes) const
+{
+    QSet<QString> texts;
+    for (const int number : nodes)
+        texts += LCase(m_codes.node(number).text);
+    return texts;
+}

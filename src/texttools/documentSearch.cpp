@@ -1,0 +1,240 @@
+#include "texttools/documentSearch.h"
+
+#include "common/document.h"
+#include "common/mainWindow.h"
+#include "common/text.h"
+#include "forms/programContext.h"
+#include "services/messageBoxes.h"
+#include "services/services.h"
+#include "services/yielder.h"
+#include "texttools/replaceRun.h"
+
+#include <QScopedValueRollback>
+#include <algorithm>
+
+namespace
+{
+constexpr qint64 MillisecondsBeforeProgress = 500;
+/// Up to this length a text is coloured, and each match is replaced by itself, so that what stands between matches
+/// keeps its colours. In longer texts several are replaced at once, the more the longer it is.
+constexpr qsizetype ReplacedOneByOne = 63900;
+constexpr qsizetype CharactersForAMatch = 4096;
+
+qsizetype matchesAtOnce(qsizetype textLength)
+{
+    return textLength <= ReplacedOneByOne ? 1 : textLength / CharactersForAMatch;
+}
+
+MessageBox information(const QString &text)
+{
+    return {QStringLiteral("Find"), text, MessageIcon::Information, MessageButtons::OK};
+}
+
+MessageBox entireDocumentQuestion()
+{
+    return {QStringLiteral("Single-Character Upwards Search"),
+            QStringLiteral("An \"upwards\" search for a single character can not be performed when \"tags only\" or "
+                           "\"text only\" has been selected from the Search box.\r\n\r\n"
+                           "Would you like to search the entire document instead?"),
+            MessageIcon::Question, MessageButtons::YesNo};
+}
+
+TextSelection selectionOf(const TextSurface &edit)
+{
+    return {edit.SelStart(), edit.SelLength()};
+}
+
+void apply(const ReplaceRun::Change &change, TextSurface &edit)
+{
+    edit.setSelStart(change.start);
+    edit.setSelLength(change.length);
+    edit.setSelText(change.text);
+}
+} // namespace
+
+DocumentSearch::DocumentSearch(ProgramContext &context, std::function<void()> becomeEntire)
+    : m_context(context), m_becomeEntire(std::move(becomeEntire))
+{
+}
+
+void DocumentSearch::restart()
+{
+    m_state.NextPosition = 0;
+    m_started = false;
+}
+
+void DocumentSearch::begin()
+{
+    const Document *document = m_context.mainWindow->activeDocument();
+    if (m_started || !document)
+        return;
+    m_startCaption = document->documentCaption();
+    m_started = true;
+}
+
+void DocumentSearch::FindNext(SearchOrder &order)
+{
+    begin();
+    FindStep(order);
+}
+
+void DocumentSearch::ReplaceNext(SearchOrder &order, const QString &replacement)
+{
+    begin();
+    Document *document = m_context.mainWindow->activeDocument();
+    if (document && m_state.FoundMatch && UCase(document->txtEdit().SelText()) == UCase(order.options.find))
+        document->txtEdit().setSelText(replacement);
+    FindStep(order);
+}
+
+/// The document at which the search began may be closed or have another name by now, so the documents are counted, too.
+void DocumentSearch::FindStep(SearchOrder &order)
+{
+    for (qsizetype left = m_context.mainWindow->openDocuments().size(); left > 0; --left) {
+        Document *document = m_context.mainWindow->activeDocument();
+        if (!document || !mayBeEntire(order.options) || SearchDocument(*document, order.options))
+            return;
+        if (!order.openDocuments || !toNextDocument(*document))
+            break;
+    }
+    tellEnd();
+}
+
+bool DocumentSearch::SearchDocument(Document &document, const FindOptions &options)
+{
+    TextSurface &edit = document.txtEdit();
+    const qsizetype start = searchStart(options, m_state, selectionOf(edit));
+    const qsizetype place = SearchText(edit.Text(), options, start, m_state);
+    if (place == 0)
+        return false;
+    edit.setSelStart(place - 1);
+    edit.setSelLength(options.find.size());
+    return true;
+}
+
+bool DocumentSearch::toNextDocument(const Document &document)
+{
+    const_cast<Document &>(document).sendToBack();
+    const Document *next = m_context.mainWindow->activeDocument();
+    return next && next->documentCaption() != m_startCaption;
+}
+
+bool DocumentSearch::mayBeEntire(FindOptions &options)
+{
+    if (!isSingleCharacterUpwards(options))
+        return true;
+    if (m_context.services.messageBoxes.show(entireDocumentQuestion()) != MessageAnswer::Yes) {
+        m_state.FoundMatch = false;
+        return false;
+    }
+    options.type = SearchType::EntireDocument;
+    m_becomeEntire();
+    return true;
+}
+
+void DocumentSearch::tellEnd()
+{
+    m_context.services.messageBoxes.show(information(QStringLiteral("The specified region has been searched.")));
+}
+
+void DocumentSearch::ReplaceAll(SearchOrder &order, const QString &replacement)
+{
+    const QScopedValueRollback<bool> replacing(m_replacing, true);
+    m_replaceCount = 0;
+    m_cancelled = false;
+    m_sinceBegin.start();
+    if (order.openDocuments)
+        replaceInOpenDocuments(order, replacement);
+    else if (Document *document = m_context.mainWindow->activeDocument())
+        ReplaceAllInDocument(*document, order.options, replacement);
+    tellReplacements();
+}
+
+/// Each document is taken once, in the order in which the windows lie, and the one in front is in front again at the
+/// end.
+void DocumentSearch::replaceInOpenDocuments(SearchOrder &order, const QString &replacement)
+{
+    QList<const Document *> done;
+    Document *document = m_context.mainWindow->activeDocument();
+    m_startCaption = document ? document->documentCaption() : QString();
+    while (document && !m_cancelled && !done.contains(document)) {
+        done.append(document);
+        ReplaceAllInDocument(*document, order.options, replacement);
+        m_state = {};
+        if (document == m_context.mainWindow->activeDocument())
+            document->sendToBack();
+        document = m_context.mainWindow->activeDocument();
+    }
+}
+
+void DocumentSearch::ReplaceAllInDocument(Document &document, FindOptions &options, const QString &replacement)
+{
+    TextSurface &edit = document.txtEdit();
+    edit.setLocked(true);
+    const bool mayReplace = mayBeEntire(options);
+    edit.setPaintingHeld(true);
+    const qsizetype last = mayReplace ? replaceMatches(document, options, replacement) : 0;
+    if (!isOpen(&document))
+        return;
+    edit.setPaintingHeld(false);
+    if (mayReplace && !m_cancelled)
+        tellEnd();
+    if (!isOpen(&document))
+        return;
+    edit.setLocked(false);
+    edit.setSelStart(last);
+}
+
+/// Where the last match stood; 0 without one.
+qsizetype DocumentSearch::replaceMatches(Document &document, FindOptions &options, const QString &replacement)
+{
+    TextSurface &edit = document.txtEdit();
+    Yielder &yielder = m_context.services.yielder;
+    qsizetype last = 0;
+    qsizetype start = searchStart(options, m_state, selectionOf(edit));
+    m_state = {};
+    yielder.beginPass();
+    while (true) {
+        yielder.yield();
+        if (!isOpen(&document) || m_cancelled)
+            return last;
+        ReplaceRun run(edit.Text(), options, replacement, start);
+        for (qsizetype left = matchesAtOnce(edit.textLength()); left > 0 && run.advance(); --left)
+            ;
+        if (run.count() == 0)
+            return last;
+        apply(run.change(), edit);
+        last = run.lastPlace();
+        start = run.nextStart();
+        m_replaceCount += run.count();
+        showProgress();
+    }
+}
+
+void DocumentSearch::showProgress()
+{
+    if (m_sinceBegin.elapsed() >= MillisecondsBeforeProgress)
+        m_context.mainWindow->SetStatusText(
+            QStringLiteral("%L1 replaced so far... [press Escape to stop]").arg(m_replaceCount));
+}
+
+void DocumentSearch::tellReplacements()
+{
+    if (!m_context.mainWindow->activeDocument()) // closed meanwhile, perhaps with the whole program
+        return;
+    m_context.mainWindow->SetStatusReady();
+    if (m_cancelled) {
+        m_context.mainWindow->SetStatusText(QStringLiteral("Stopped. Replaced: %L1").arg(m_replaceCount));
+        return;
+    }
+    const QString made = m_replaceCount == 1 ? QStringLiteral("One replacement was made.")
+                                             : QStringLiteral("%1 replacements were made.").arg(m_replaceCount);
+    m_context.services.messageBoxes.show(
+        information(QStringLiteral("The specified region has been searched. ") + made));
+}
+
+bool DocumentSearch::isOpen(const Document *document) const
+{
+    const QList<Document *> open = m_context.mainWindow->openDocuments();
+    return std::any_of(open.begin(), open.end(), [document](const Document *each) { return each == document; });
+}

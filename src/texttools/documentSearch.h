@@ -1,0 +1,62 @@
+#pragma once
+
+#include "texttools/findText.h"
+
+#include <QElapsedTimer>
+#include <functional>
+
+class Document;
+class ReplaceRun;
+struct ProgramContext;
+
+/// What is searched for, and where.
+struct SearchOrder {
+    FindOptions options;
+    bool openDocuments = false; ///< all open documents, from the active one on; otherwise the active one alone
+};
+
+/// Finding and replacing in the documents, as the Find window orders it. Each search goes on where the last one left
+/// off; all outcomes are told to the user here.
+class DocumentSearch
+{
+public:
+    /// `becomeEntire` runs where the user lets a search become one of the entire document, which the order then is.
+    DocumentSearch(ProgramContext &context, std::function<void()> becomeEntire);
+
+    /// Another text is searched for: the next search is a new one.
+    void restart();
+    void FindNext(SearchOrder &order);
+    /// Replaces the selection if it is what was found last, and finds the next match.
+    void ReplaceNext(SearchOrder &order, const QString &replacement);
+
+    /// Replaces every match, and tells the number. The main window stays usable meanwhile, but for the document that is
+    /// being worked on.
+    void ReplaceAll(SearchOrder &order, const QString &replacement);
+    bool isReplacing() const { return m_replacing; }
+    void cancelReplacing() { m_cancelled = true; }
+
+private:
+    void begin();
+    void FindStep(SearchOrder &order);
+    bool SearchDocument(Document &document, const FindOptions &options);
+    bool toNextDocument(const Document &document);
+    bool mayBeEntire(FindOptions &options);
+    void tellEnd();
+
+    void replaceInOpenDocuments(SearchOrder &order, const QString &replacement);
+    void ReplaceAllInDocument(Document &document, FindOptions &options, const QString &replacement);
+    qsizetype replaceMatches(Document &document, FindOptions &options, const QString &replacement);
+    void showProgress();
+    void tellReplacements();
+    bool isOpen(const Document *document) const;
+
+    ProgramContext &m_context;
+    std::function<void()> m_becomeEntire;
+    FindState m_state;
+    bool m_started = false; ///< a search has begun since the find text changed
+    QString m_startCaption; ///< of the document at which it began
+    bool m_replacing = false;
+    bool m_cancelled = false;
+    qsizetype m_replaceCount = 0;
+    QElapsedTimer m_sinceBegin;
+};
