@@ -80,6 +80,10 @@ void dialogFigures(Figures &figures)
     for (const std::unique_ptr<Form> &form : insertionForms(context))
         figures.add(form->Name() + QStringLiteral(" from command to painted"),
                     openingTime(*context.forms.find(form->Name())) * Milli, QStringLiteral("ms"), 60);
+    for (const char *name : {"frmFind", "frmGoToLine", "frmGoToCharacter", "frmWordCount", "frmChangeCase",
+                             "frmChangeRootDirectory", "frmAddToCodeLib"})
+        figures.add(QLatin1String(name) + QStringLiteral(" from command to painted"),
+                    openingTime(*context.forms.find(QLatin1String(name))) * Milli, QStringLiteral("ms"), 60);
     figures.add(QStringLiteral("preview of a photograph of 12 megapixels"), loadingTime("jpg") * Milli,
                 QStringLiteral("ms"), 1000);
     figures.add(QStringLiteral("preview of a PNG of 12 megapixels"), loadingTime("png") * Milli, QStringLiteral("ms"),

@@ -44,6 +44,7 @@ void documentFigures(Figures &figures);
 void codeFigures(Figures &figures);
 void previewFigures(Figures &figures);
 void tableFigures(Figures &figures);
+void textToolFigures(Figures &figures);
 void dialogFigures(Figures &figures);
 void designerFigures(Figures &figures);
 void openingFigures(Figures &figures);

@@ -20,6 +20,7 @@ constexpr Group groups[] = {
     {"codes", codeFigures},
     {"preview", previewFigures},
     {"tables", tableFigures},
+    {"texttools", textToolFigures},
     {"dialogs", dialogFigures},
     {"designers", designerFigures},
     {"opening", openingFigures},

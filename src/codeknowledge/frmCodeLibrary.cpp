@@ -19,6 +19,7 @@
 #include "widgets/programIcon.h"
 
 #include <QAction>
+#include <QFontDatabase>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -60,7 +61,7 @@ frmCodeLibrary::frmCodeLibrary(ProgramContext &context) : DialogForm(context, QS
 void frmCodeLibrary::Form_Load()
 {
     m_code.clear();
-    setContent(ui::beside({ui::line({library(), entry().stretched()}), commands()}));
+    setContent(ui::beside({ui::line({library().stretched(2), entry().stretched(3)}), commands()}));
     addPopup();
     FillCodeLibraryTree();
 }
@@ -81,6 +82,7 @@ ui::Node frmCodeLibrary::library()
 ui::Node frmCodeLibrary::entry()
 {
     txtPreview = shownText("txtPreview");
+    txtPreview->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     txtPreview->setLineWrapMode(QPlainTextEdit::NoWrap);
     txtDescription = shownText("txtDescription");
     return ui::column({ui::under(QStringLiteral("&Preview:"), txtPreview).stretched(2),

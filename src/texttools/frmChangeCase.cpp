@@ -15,8 +15,8 @@ frmChangeCase::frmChangeCase(ProgramContext &context) : DialogForm(context, QStr
 
 void frmChangeCase::Form_Load()
 {
-    optUppercase = ui::option(QStringLiteral("optUppercase"), QStringLiteral("&UPPERCASE"));
-    optLowerCase = ui::option(QStringLiteral("optLowerCase"), QStringLiteral("&lowercase"));
+    optUppercase = ui::option(QStringLiteral("optUppercase"), QStringLiteral("UPPERCASE"));
+    optLowerCase = ui::option(QStringLiteral("optLowerCase"), QStringLiteral("lowercase"));
     optUppercase->setChecked(true);
     QPushButton *cmdOK = ui::button(QStringLiteral("cmdOK"), QStringLiteral("&OK"), [this] { cmdOK_Click(); });
     QPushButton *cmdCancel = ui::button(QStringLiteral("cmdCancel"), QStringLiteral("Cancel"), [this] { cancel(); });

@@ -55,14 +55,14 @@ void frmChangeRootDirectory::Form_Load()
     txtLocal = pathBox("txtLocal");
     txtInternet = pathBox("txtInternet");
     optLocalInternet =
-        ui::option(QStringLiteral("optLocalInternet"), QStringLiteral("&Local Directory to Internet Directory"));
+        ui::option(QStringLiteral("optLocalInternet"), QStringLiteral("Local Directory to Internet Directory"));
     optInternetLocal =
-        ui::option(QStringLiteral("optInternetLocal"), QStringLiteral("&Internet Directory to Local Directory"));
+        ui::option(QStringLiteral("optInternetLocal"), QStringLiteral("Internet Directory to Local Directory"));
     optLocalInternet->setChecked(true);
     const auto button = [](const char *name, const QString &caption, const ui::Handler &click) {
         return ui::button(QLatin1String(name), caption, click);
     };
-    QPushButton *cmdBrowse = button("cmdBrowse", QStringLiteral("&Browse..."), [this] { cmdBrowse_Click(); });
+    QPushButton *cmdBrowse = button("cmdBrowse", QStringLiteral("Browse..."), [this] { cmdBrowse_Click(); });
     QPushButton *cmdChange = button("cmdChange", QStringLiteral("&Change"), [this] { cmdChange_Click(); });
     QPushButton *cmdCancel = button("cmdCancel", QStringLiteral("Cancel"), [this] { cancel(); });
     QPushButton *cmdHelp = button("cmdHelp", QStringLiteral("Help"), [this] {
@@ -71,8 +71,8 @@ void frmChangeRootDirectory::Form_Load()
     setContent(ui::beside({
         ui::column({
             ui::rows({
-                ui::row(QStringLiteral("L&ocal Directory:"), txtLocal, {cmdBrowse}),
-                ui::row(QStringLiteral("I&nternet Directory:"), txtInternet),
+                ui::row(QStringLiteral("Local Directory:"), txtLocal, {cmdBrowse}),
+                ui::row(QStringLiteral("Internet Directory:"), txtInternet),
             }),
             ui::group(QStringLiteral("Convert"), ui::options({optLocalInternet, optInternetLocal})),
         }),

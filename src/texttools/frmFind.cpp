@@ -97,8 +97,8 @@ ui::Node frmFind::fields()
     for (QComboBox *combo : {cboFindString, cboReplace})
         combo->setMinimumWidth(combo->fontMetrics().averageCharWidth() * CharactersShown);
     return ui::rows({
-        ui::row(QStringLiteral("Fi&nd What:"), cboFindString),
-        ui::row(QStringLiteral("Re&place With:"), cboReplace, {}, QStringLiteral("lblReplace")),
+        ui::row(QStringLiteral("Find What:"), cboFindString),
+        ui::row(QStringLiteral("Replace With:"), cboReplace, {}, QStringLiteral("lblReplace")),
     });
 }
 
@@ -118,8 +118,8 @@ ui::Node frmFind::options()
     optSearchCurrentDoc->setChecked(true);
     return ui::column({
         ui::rows({
-            ui::row(QStringLiteral("&Search Direction:"), cboSearchDirection),
-            ui::row(QStringLiteral("Search &Type:"), cboSearchType),
+            ui::row(QStringLiteral("Search Direction:"), cboSearchDirection),
+            ui::row(QStringLiteral("Search Type:"), cboSearchType),
         }),
         ui::line({
             ui::column({chkCase, chkWholeWords}),

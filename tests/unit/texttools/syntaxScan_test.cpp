@@ -73,7 +73,7 @@ TEST_F(SyntaxScanTest, StopsAtWordsThatAreNotKnown)
         {"x <a bogus=\"1\" id=\"2\"></a>", "bogus=@5+6 done"},
         {"<bogus", "bogus@1+5! done"}, // a tag without an end
         {"<>", "done"},                // an empty word is accepted
-        {"a < b", "b@4+1! done"},       // a "<" in a text starts a tag
+        {"a < b", "b@4+1! done"},      // a "<" in a text starts a tag
         {"<p bogus a>x", "bogus@3+5 a@9+1 done"},
         {"<A HREF=\"x\" ID=\"y\">", "done"}, // case does not count
         {"<td nowrap>", "done"},             // stored without "="
@@ -148,7 +148,8 @@ TEST_F(SyntaxScanTest, ReadsTagsOverSeveralLines)
     };
     for (const Row &row : rows)
         EXPECT_EQ(stops(q(row.text)), q(row.stops)) << row.text;
-    EXPECT_EQ(stops(q("<a\r\n href=\"x\" id=\"y\">")), q("a\r\n@1+3! href=@5+5 done")); // a break behind the name is part of it
+    EXPECT_EQ(stops(q("<a\r\n href=\"x\" id=\"y\">")),
+              q("a\r\n@1+3! href=@5+5 done")); // a break behind the name is part of it
 }
 
 /// What the tag's text begins with counts as its name, wherever it stands.
@@ -255,8 +256,7 @@ TEST_F(SyntaxScanTest, GoesOnBehindAChange)
         {"<p><bogus><zork>", "bogus", "table", "<p><table><zork>", "zork"},
         {"....<p bgous id=\"1\" zork>", "bgous", "title", "....<p title id=\"1\" zork>", "zork"},
         // A longer name reaches behind the place where the words go on, and its end is taken for a word.
-        {"....<p bogus title=\"1\" id=\"1\">", "bogus", "title=\"x\"", "....<p title=\"x\" title=\"1\" id=\"1\">",
-         "="},
+        {"....<p bogus title=\"1\" id=\"1\">", "bogus", "title=\"x\"", "....<p title=\"x\" title=\"1\" id=\"1\">", "="},
     };
     for (const After &row : rows) {
         SyntaxScan scan(words, dictionary);
