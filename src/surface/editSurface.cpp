@@ -51,6 +51,7 @@ EditSurface::EditSurface(QWidget *parent)
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &EditSurface::tellScrolling);
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     followFont();
+    keepSelectionColours();
 }
 
 EditSurface::~EditSurface() = default;
@@ -345,6 +346,16 @@ void EditSurface::keepPastChange(int from, int removed, int added)
 bool EditSurface::isOnDarkGround() const
 {
     return palette().color(QPalette::Base).lightness() < palette().color(QPalette::Text).lightness();
+}
+
+/// What a dialog beside the text has selected is seen as well as what the user has.
+void EditSurface::keepSelectionColours()
+{
+    QPalette colours = palette();
+    for (const QPalette::ColorRole role : {QPalette::Highlight, QPalette::HighlightedText})
+        colours.setBrush(QPalette::Inactive, role, colours.brush(QPalette::Active, role));
+    if (colours != palette())
+        setPalette(colours);
 }
 
 void EditSurface::followGround()

@@ -129,6 +129,7 @@ private:
     QColor colourFor(ColourValue colour) const;
     bool isOnDarkGround() const;
     void followGround();
+    void keepSelectionColours();
     void followFont();
     void placeMargin();
     void moveMargin(const QRect &rect, int dy);

@@ -92,8 +92,10 @@ void EditSurface::changeEvent(QEvent *event)
     QPlainTextEdit::changeEvent(event);
     if (event->type() == QEvent::FontChange)
         followFont();
-    if (event->type() == QEvent::PaletteChange)
+    if (event->type() == QEvent::PaletteChange) {
+        keepSelectionColours();
         followGround();
+    }
 }
 
 void EditSurface::resizeEvent(QResizeEvent *event)

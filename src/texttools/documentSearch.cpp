@@ -60,16 +60,16 @@ DocumentSearch::DocumentSearch(ProgramContext &context, std::function<void()> be
 void DocumentSearch::restart()
 {
     m_state.NextPosition = 0;
-    m_started = false;
+    SearchStarted = false;
 }
 
 void DocumentSearch::begin()
 {
     const Document *document = m_context.mainWindow->activeDocument();
-    if (m_started || !document)
+    if (SearchStarted || !document)
         return;
-    m_startCaption = document->documentCaption();
-    m_started = true;
+    StartCaption = document->documentCaption();
+    SearchStarted = true;
 }
 
 void DocumentSearch::FindNext(SearchOrder &order)
@@ -78,7 +78,7 @@ void DocumentSearch::FindNext(SearchOrder &order)
     FindStep(order);
 }
 
-void DocumentSearch::ReplaceNext(SearchOrder &order, const QString &replacement)
+void DocumentSearch::ReplaceCurrent(SearchOrder &order, const QString &replacement)
 {
     begin();
     Document *document = m_context.mainWindow->activeDocument();
@@ -90,6 +90,8 @@ void DocumentSearch::ReplaceNext(SearchOrder &order, const QString &replacement)
 /// The document at which the search began may be closed or have another name by now, so the documents are counted, too.
 void DocumentSearch::FindStep(SearchOrder &order)
 {
+    if (!m_context.mainWindow->activeDocument())
+        return;
     for (qsizetype left = m_context.mainWindow->openDocuments().size(); left > 0; --left) {
         Document *document = m_context.mainWindow->activeDocument();
         if (!document || !mayBeEntire(order.options) || SearchDocument(*document, order.options))
@@ -112,11 +114,11 @@ bool DocumentSearch::SearchDocument(Document &document, const FindOptions &optio
     return true;
 }
 
-bool DocumentSearch::toNextDocument(const Document &document)
+bool DocumentSearch::toNextDocument(Document &document)
 {
-    const_cast<Document &>(document).sendToBack();
+    document.sendToBack();
     const Document *next = m_context.mainWindow->activeDocument();
-    return next && next->documentCaption() != m_startCaption;
+    return next && next->documentCaption() != StartCaption;
 }
 
 bool DocumentSearch::mayBeEntire(FindOptions &options)
@@ -139,8 +141,8 @@ void DocumentSearch::tellEnd()
 
 void DocumentSearch::ReplaceAll(SearchOrder &order, const QString &replacement)
 {
-    const QScopedValueRollback<bool> replacing(m_replacing, true);
-    m_replaceCount = 0;
+    const QScopedValueRollback<bool> replacing(ReplaceAllRunning, true);
+    ReplaceCount = 0;
     m_cancelled = false;
     m_sinceBegin.start();
     if (order.openDocuments)
@@ -156,7 +158,7 @@ void DocumentSearch::replaceInOpenDocuments(SearchOrder &order, const QString &r
 {
     QList<const Document *> done;
     Document *document = m_context.mainWindow->activeDocument();
-    m_startCaption = document ? document->documentCaption() : QString();
+    StartCaption = document ? document->documentCaption() : QString();
     while (document && !m_cancelled && !done.contains(document)) {
         done.append(document);
         ReplaceAllInDocument(*document, order.options, replacement);
@@ -206,7 +208,7 @@ qsizetype DocumentSearch::replaceMatches(Document &document, FindOptions &option
         apply(run.change(), edit);
         last = run.lastPlace();
         start = run.nextStart();
-        m_replaceCount += run.count();
+        ReplaceCount += run.count();
         showProgress();
     }
 }
@@ -215,7 +217,7 @@ void DocumentSearch::showProgress()
 {
     if (m_sinceBegin.elapsed() >= MillisecondsBeforeProgress)
         m_context.mainWindow->SetStatusText(
-            QStringLiteral("%L1 replaced so far... [press Escape to stop]").arg(m_replaceCount));
+            QStringLiteral("%L1 replaced so far... [press Escape to stop]").arg(ReplaceCount));
 }
 
 void DocumentSearch::tellReplacements()
@@ -224,13 +226,13 @@ void DocumentSearch::tellReplacements()
         return;
     m_context.mainWindow->SetStatusReady();
     if (m_cancelled) {
-        m_context.mainWindow->SetStatusText(QStringLiteral("Stopped. Replaced: %L1").arg(m_replaceCount));
+        m_context.mainWindow->SetStatusText(QStringLiteral("Stopped. Replaced: %L1").arg(ReplaceCount));
         return;
     }
-    const QString made = m_replaceCount == 1 ? QStringLiteral("One replacement was made.")
-                                             : QStringLiteral("%1 replacements were made.").arg(m_replaceCount);
-    m_context.services.messageBoxes.show(
-        information(QStringLiteral("The specified region has been searched. ") + made));
+    m_context.services.messageBoxes.show(information(
+        ReplaceCount == 1
+            ? QStringLiteral("The specified region has been searched. One replacement was made.")
+            : QStringLiteral("The specified region has been searched. %1 replacements were made.").arg(ReplaceCount)));
 }
 
 bool DocumentSearch::isOpen(const Document *document) const

@@ -27,19 +27,19 @@ public:
     void restart();
     void FindNext(SearchOrder &order);
     /// Replaces the selection if it is what was found last, and finds the next match.
-    void ReplaceNext(SearchOrder &order, const QString &replacement);
+    void ReplaceCurrent(SearchOrder &order, const QString &replacement);
 
     /// Replaces every match, and tells the number. The main window stays usable meanwhile, but for the document that is
     /// being worked on.
     void ReplaceAll(SearchOrder &order, const QString &replacement);
-    bool isReplacing() const { return m_replacing; }
+    bool isReplacing() const { return ReplaceAllRunning; }
     void cancelReplacing() { m_cancelled = true; }
 
 private:
     void begin();
     void FindStep(SearchOrder &order);
     bool SearchDocument(Document &document, const FindOptions &options);
-    bool toNextDocument(const Document &document);
+    bool toNextDocument(Document &document);
     bool mayBeEntire(FindOptions &options);
     void tellEnd();
 
@@ -53,10 +53,10 @@ private:
     ProgramContext &m_context;
     std::function<void()> m_becomeEntire;
     FindState m_state;
-    bool m_started = false; ///< a search has begun since the find text changed
-    QString m_startCaption; ///< of the document at which it began
-    bool m_replacing = false;
+    bool SearchStarted = false; ///< a search has begun since the find text changed
+    QString StartCaption;       ///< of the document at which it began
+    bool ReplaceAllRunning = false;
     bool m_cancelled = false;
-    qsizetype m_replaceCount = 0;
+    qsizetype ReplaceCount = 0;
     QElapsedTimer m_sinceBegin;
 };

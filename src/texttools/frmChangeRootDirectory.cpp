@@ -38,9 +38,8 @@ QString question(const QString &kind, const QString &old, const QString &newKind
 
 QString report(qsizetype count)
 {
-    const QString searched = QStringLiteral("The document has been searched. ");
-    return count == 1 ? searched + QStringLiteral("One replacement was made.")
-                      : searched + QStringLiteral("%1 replacements were made.").arg(count);
+    return count == 1 ? QStringLiteral("The document has been searched. One replacement was made.")
+                      : QStringLiteral("The document has been searched. %1 replacements were made.").arg(count);
 }
 } // namespace
 

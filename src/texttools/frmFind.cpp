@@ -4,6 +4,7 @@
 #include "common/mainWindow.h"
 #include "forms/dialogForm.h"
 #include "forms/programContext.h"
+#include "texttools/cornerPlace.h"
 #include "widgets/layout.h"
 
 #include <QCheckBox>
@@ -194,6 +195,14 @@ void frmFind::find(SearchOrder order)
     m_search.FindNext(order);
 }
 
+void frmFind::presentWindow()
+{
+    const bool isNew = !Visible();
+    Form::presentWindow();
+    if (isNew)
+        placeInCorner(*window());
+}
+
 bool frmFind::Form_QueryUnload()
 {
     if (!m_search.isReplacing())
@@ -253,7 +262,7 @@ void frmFind::cmdReplace_Click()
     AddFindHistory();
     AddReplaceHistory();
     SearchOrder next = order();
-    m_search.ReplaceNext(next, cboReplace->currentText());
+    m_search.ReplaceCurrent(next, cboReplace->currentText());
 }
 
 void frmFind::cmdReplaceAll_Click()

@@ -25,6 +25,7 @@ protected:
     bool Form_QueryUnload() override;
     void Form_Load() override;
     void Form_Unload() override;
+    void presentWindow() override;
 
 private:
     ui::Node fields();

@@ -11,6 +11,7 @@
 #include "services/messageBoxes.h"
 #include "services/services.h"
 #include "services/yielder.h"
+#include "texttools/cornerPlace.h"
 #include "widgets/layout.h"
 #include "widgets/screenPointer.h"
 
@@ -249,8 +250,12 @@ void frmSyntaxCheck::showSuggestions(const QStringList &names)
 /// During the first pass there is nothing to show yet.
 void frmSyntaxCheck::presentWindow()
 {
-    if (m_stands || Visible())
-        Form::presentWindow();
+    const bool isNew = !Visible();
+    if (!m_stands && isNew)
+        return;
+    Form::presentWindow();
+    if (isNew)
+        placeInCorner(*window());
 }
 
 void frmSyntaxCheck::finish()

@@ -1,5 +1,7 @@
 #include "insertion/insertionForms.h"
 
+#include "codeknowledge/codeknowledgeForms.h"
+#include "common/document.h"
 #include "common/mainWindow.h"
 #include "desktop/desktopServices.h"
 #include "forms/dialogForm.h"
@@ -8,6 +10,7 @@
 #include "services/services.h"
 #include "services/settings.h"
 #include "services/settingsStore.h"
+#include "texttools/texttoolsForms.h"
 #include "unit/support/fakes.h"
 
 #include <QAbstractButton>
@@ -28,8 +31,11 @@ protected:
         qputenv("XDG_DATA_HOME", home.path().toUtf8());
         desktop = std::make_unique<DesktopServices>(&leftDialogs);
         settings::write(desktop->services().settings, settings::WelcomeScreen, QStringLiteral("false"));
+        settings::write(desktop->services().settings, settings::CodeLibDir, home.path());
         application = std::make_unique<Application>(desktop->services());
         application->form(QStringLiteral("frmMdi"))->Show();
+        // The checker is on show where there is something that it does not know.
+        application->context().mainWindow->activeDocument()->txtEdit().setText(QStringLiteral("<bogus>"));
         settle();
     }
     ~InsertionFormsTest() override
@@ -47,8 +53,9 @@ protected:
     QStringList names()
     {
         QStringList all;
-        for (const std::unique_ptr<Form> &form : insertionForms(application->context()))
-            all.append(form->Name());
+        for (const auto &forms : {insertionForms, texttoolsForms, codeknowledgeForms})
+            for (const std::unique_ptr<Form> &form : forms(application->context()))
+                all.append(form->Name());
         return all;
     }
 
@@ -92,7 +99,9 @@ TEST_F(InsertionFormsTest, DisableTheMainWindowUntilTheyAreGone)
     int dialogs = 0;
     for (const QString &name : names()) {
         Form &form = *application->form(name);
-        if (!qobject_cast<DialogForm *>(&form)) // the grid drops down, and palettes and companions are modal
+        // The grid drops down, palettes, companions and the renaming are modal, and the documents stay usable beside
+        // Find and the checker.
+        if (!qobject_cast<DialogForm *>(&form))
             continue;
         ++dialogs;
         form.Show();

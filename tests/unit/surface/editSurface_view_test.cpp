@@ -203,6 +203,18 @@ TEST_F(EditSurfaceView, AHiddenSelectionIsNotPainted)
     EXPECT_EQ(picture(), selected);
 }
 
+TEST_F(EditSurfaceView, ASelectionKeepsItsColoursBesideADialog)
+{
+    QPalette theme = surface.palette();
+    theme.setColor(QPalette::Active, QPalette::Highlight, Qt::darkGreen);
+    theme.setColor(QPalette::Inactive, QPalette::Highlight, Qt::lightGray);
+    theme.setColor(QPalette::Active, QPalette::HighlightedText, Qt::yellow);
+    theme.setColor(QPalette::Inactive, QPalette::HighlightedText, Qt::black);
+    surface.setPalette(theme);
+    EXPECT_EQ(surface.palette().color(QPalette::Inactive, QPalette::Highlight), QColor(Qt::darkGreen));
+    EXPECT_EQ(surface.palette().color(QPalette::Inactive, QPalette::HighlightedText), QColor(Qt::yellow));
+}
+
 TEST_F(EditSurfaceView, NothingIsPaintedWhilePaintingIsHeld)
 {
     surface.setText(lines(100));

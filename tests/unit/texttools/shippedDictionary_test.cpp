@@ -100,6 +100,16 @@ TEST_F(ShippedDictionary, KeepsTheCheckQuietOnTheHelp)
         EXPECT_EQ(firstStop(page.text, dictionary), QString()) << page.name.toStdString();
 }
 
+TEST_F(ShippedDictionary, KeepsTheCheckQuietOnTheCodeLibrary)
+{
+    const CheckDictionary dictionary = dictionaryOf(rows);
+    QDirIterator walk(source + QStringLiteral("/data/CodeLibrary"), QDir::Files, QDirIterator::Subdirectories);
+    while (walk.hasNext()) {
+        const QString path = walk.next();
+        EXPECT_EQ(firstStop(decodeOwnFile(bytesOf(path)), dictionary), QString()) << path.toStdString();
+    }
+}
+
 TEST_F(ShippedDictionary, HoldsNoRowThatNoPageNeeds)
 {
     const QList<Page> pages = pagesUnder(QStringLiteral("/tests/unit/texttools/pages"));
