@@ -222,8 +222,7 @@ void frmFind::Form_Unload()
 void frmFind::cboFindString_Change()
 {
     m_search.restart();
-    if (cmdOK)
-        enableButtons();
+    enableButtons();
 }
 
 void frmFind::enableButtons()

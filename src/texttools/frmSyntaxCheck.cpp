@@ -274,9 +274,9 @@ void frmSyntaxCheck::Form_Unload()
     m_scan.reset();
     m_words.reset();
     m_stands = false;
-    Document *document = std::exchange(m_document, nullptr);
+    m_document = nullptr;
     frmMdi().SetStatusReady();
-    if (document)
+    if (Document *document = frmMdi().activeDocument())
         document->txtEdit().SetFocus();
 }
 
