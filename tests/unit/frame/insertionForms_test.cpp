@@ -110,6 +110,6 @@ TEST_F(InsertionFormsTest, DisableTheMainWindowUntilTheyAreGone)
         EXPECT_TRUE(mainWindow.Enabled()) << name.toStdString();
         settle();
     }
-    EXPECT_EQ(dialogs, names().size() - 6);
+    EXPECT_EQ(dialogs, names().size() - 9);
 }
 } // namespace
