@@ -67,8 +67,9 @@ std::optional<FileDialogResult> runFileDialog(QFileDialog &dialog, const FileDia
     setStartingPoint(dialog, request);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
-    return FileDialogResult{dialog.selectedFiles().constFirst(),
-                            chosenIndex(filters, dialog.selectedNameFilter(), proposed)};
+    const QStringList chosen = dialog.selectedFiles();
+    return FileDialogResult{chosen.constFirst(), chosenIndex(filters, dialog.selectedNameFilter(), proposed),
+                            chosen.sliced(1)};
 }
 } // namespace
 
@@ -76,7 +77,7 @@ std::optional<FileDialogResult> DesktopCommonDialogs::showOpen(const FileDialogR
 {
     QFileDialog dialog(boxOwner());
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
-    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setFileMode(request.severalFiles ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
     return runFileDialog(dialog, request);
 }
 
@@ -85,7 +86,8 @@ std::optional<FileDialogResult> DesktopCommonDialogs::showSave(const FileDialogR
     QFileDialog dialog(boxOwner());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
-    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.asksBeforeReplacing);
+    dialog.setDefaultSuffix(request.DefaultExt);
     return runFileDialog(dialog, request);
 }
 

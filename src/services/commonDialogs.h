@@ -3,20 +3,27 @@
 #include "common/colour.h"
 
 #include <QString>
+#include <QStringList>
 #include <optional>
 
 /// What an open or save dialog is to show.
 struct FileDialogRequest {
-    QString DialogTitle; ///< empty: the dialog's usual title
-    QString Filter;      ///< "Description|patterns|Description|patterns"; empty: all files
-    int FilterIndex = 1; ///< the row preselected, counted from 1
-    QString InitDir;     ///< folder to start in, unless FileName names one
-    QString FileName;    ///< name or full path proposed
+    QString DialogTitle = {};         ///< empty: the dialog's usual title
+    QString Filter = {};              ///< "Description|patterns|Description|patterns"; empty: all files
+    int FilterIndex = 1;              ///< the row preselected, counted from 1
+    QString InitDir = {};             ///< folder to start in, unless FileName names one
+    QString FileName = {};            ///< name or full path proposed
+    QString DefaultExt = {};          ///< of a save: put behind a name that is typed without an extension
+    bool severalFiles = false;        ///< of an open: more than one file may be chosen
+    bool asksBeforeReplacing = false; ///< of a save: the dialog itself asks before a file that is there is chosen
 };
 
 struct FileDialogResult {
-    QString fileName;    ///< full native path
-    int filterIndex = 1; ///< the row in force when the user confirmed, counted from 1
+    QString fileName;        ///< full native path
+    int filterIndex = 1;     ///< the row in force when the user confirmed, counted from 1
+    QStringList others = {}; ///< the files chosen beside it, where several may be
+
+    QStringList allFileNames() const { return QStringList(fileName) + others; }
 };
 
 struct FontChoice {
@@ -34,7 +41,8 @@ public:
     virtual ~CommonDialogs() = default;
 
     virtual std::optional<FileDialogResult> showOpen(const FileDialogRequest &request) = 0;
-    /// Does not ask whether an existing file is to be replaced: the program does that itself.
+    /// Does not ask whether an existing file is to be replaced unless the request says so: the program does that
+    /// itself.
     virtual std::optional<FileDialogResult> showSave(const FileDialogRequest &request) = 0;
     /// A folder without a final separator.
     virtual std::optional<QString> showFolder(const QString &title, const QString &initialFolder) = 0;

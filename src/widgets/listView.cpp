@@ -1,5 +1,8 @@
 #include "widgets/listView.h"
 
+#include "widgets/droppedFiles.h"
+
+#include <QDropEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
@@ -41,6 +44,13 @@ void ListView::setMultiSelect(bool on)
 void ListView::setCheckBoxes(bool on)
 {
     m_checkBoxes = on;
+}
+
+void ListView::setFileDropHandler(std::function<void(const QStringList &)> dropped)
+{
+    m_dropped = std::move(dropped);
+    setAcceptDrops(true);
+    viewport()->setAcceptDrops(true);
 }
 
 bool ListView::isTaken(const QString &key, const QTreeWidgetItem *except) const
@@ -160,4 +170,21 @@ void ListView::keyPressEvent(QKeyEvent *event)
         Q_EMIT rowEntered(indexOfTopLevelItem(currentItem()));
     else
         QTreeWidget::keyPressEvent(event); // the dialog's default button takes it where the list has no use for it
+}
+
+void ListView::dragEnterEvent(QDragEnterEvent *event)
+{
+    acceptFiles(*event);
+}
+
+void ListView::dragMoveEvent(QDragMoveEvent *event)
+{
+    acceptFiles(*event);
+}
+
+void ListView::dropEvent(QDropEvent *event)
+{
+    acceptFiles(*event);
+    if (event->isAccepted() && m_dropped)
+        m_dropped(filesOf(*event->mimeData()));
 }

@@ -3,6 +3,7 @@
 #include <QHash>
 #include <QIcon>
 #include <QTreeWidget>
+#include <functional>
 #include <optional>
 
 /// One row of a list view. Columns are counted from 0: column 0 is `text`, column 1 `subItems[0]` and so on.
@@ -25,6 +26,8 @@ public:
     void setSmallIcons(const QList<QIcon> &icons);
     void setMultiSelect(bool on);
     void setCheckBoxes(bool on); ///< before the first row is added
+    /// Takes files that are dropped on the list.
+    void setFileDropHandler(std::function<void(const QStringList &)> dropped);
     bool hasCheckBoxes() const { return m_checkBoxes; }
 
     /// Adds the row in front of the row `before`, at the end without one. False, and no row, if its key is in the list.
@@ -51,6 +54,9 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
     bool isTaken(const QString &key, const QTreeWidgetItem *except) const;
@@ -58,6 +64,7 @@ private:
 
     QHash<QString, QTreeWidgetItem *> m_byKey;
     QList<QIcon> m_icons;
+    std::function<void(const QStringList &)> m_dropped;
     bool m_checkBoxes = false;
     bool m_showing = false;
 };

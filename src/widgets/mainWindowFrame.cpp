@@ -1,31 +1,8 @@
 #include "widgets/mainWindowFrame.h"
 
+#include "widgets/droppedFiles.h"
+
 #include <QCloseEvent>
-#include <QMimeData>
-#include <QUrl>
-
-namespace
-{
-/// The local files of a drag, in its order; empty if it holds no list of files.
-QStringList filesOf(const QMimeData &data)
-{
-    QStringList paths;
-    for (const QUrl &url : data.urls())
-        if (url.isLocalFile())
-            paths.append(url.toLocalFile());
-    return paths;
-}
-
-void acceptFiles(QDropEvent &event)
-{
-    if (filesOf(*event.mimeData()).isEmpty()) {
-        event.ignore();
-        return;
-    }
-    event.setDropAction(Qt::CopyAction);
-    event.accept();
-}
-} // namespace
 
 MainWindowFrame::MainWindowFrame(std::function<void()> closeRequested) : m_closeRequested(std::move(closeRequested))
 {

@@ -243,7 +243,9 @@ std::optional<FileDialogResult> ScriptedDialogs::showFile(DialogKind kind, const
                                    {QStringLiteral("FileName"), request.FileName}}});
     if (!answer)
         return std::nullopt;
-    return FileDialogResult{answer->text, answer->number.value_or(request.FilterIndex)};
+    if (!answer->others.isEmpty() && !request.severalFiles)
+        m_referee.fail(QStringLiteral("a dialog for several files"), QStringLiteral("one for a single file"));
+    return FileDialogResult{answer->text, answer->number.value_or(request.FilterIndex), answer->others};
 }
 
 std::optional<FileDialogResult> ScriptedDialogs::showOpen(const FileDialogRequest &request)

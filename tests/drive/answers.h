@@ -100,6 +100,7 @@ struct DialogAnswer {
     QString text;                   ///< path, folder, or name of the font
     std::optional<int> number = {}; ///< filter index, copies, or size of the font
     ColourValue colour = 0;
+    QStringList others = {}; ///< the paths chosen beside the first
     bool fits(DialogKind dialog) const;
 };
 

@@ -32,6 +32,13 @@ void choose(Stage &stage, const Line &line)
     stage.desktop.dialogs.queue(choice);
 }
 
+void chooseFiles(Stage &stage, const Line &line)
+{
+    DialogAnswer choice{DialogAnswer::Kind::Path, line.words[0]};
+    choice.others = line.words.sliced(1);
+    stage.desktop.dialogs.queue(choice);
+}
+
 void chooseCancel(Stage &stage, const Line &)
 {
     stage.desktop.dialogs.queue({DialogAnswer::Kind::Cancel, QString()});
@@ -84,6 +91,7 @@ void whenBox(Stage &stage, const Line &line)
 constexpr Command commands[] = {
     {"answer", 1, 1, answer},
     {"choose", 1, 2, choose},
+    {"choose-files", 2, -1, chooseFiles},
     {"choose-cancel", 0, 0, chooseCancel},
     {"choose-colour", 1, 1, chooseColour},
     {"choose-folder", 1, 1, chooseFolder},
