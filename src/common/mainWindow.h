@@ -47,6 +47,13 @@ public:
     /// if all are. Captions are plain text: a "&" in them is a "&".
     virtual void showRecentFiles(const QStringList &captions) = 0;
     virtual void SetDocumentControlsEnabled(bool enabled) = 0;
+    /// Enables the commands that need an open site project, or disables them.
+    virtual void SetProjectCommandsEnabled(bool /*enabled*/) {}
+
+    /// Shows the Task Manager Pane if it is hidden, and remembers that.
+    virtual void showTaskManagerPane() {}
+    /// Brings up the pane's page of the open project, or else its first page.
+    virtual void showProjectPage(bool /*shown*/) {}
 
     // The document selector.
     virtual void addDocumentTab(const QString &key,

@@ -1,9 +1,21 @@
 #pragma once
 
+#include <QString>
 #include <functional>
 
-/// What the exit has to know of the open site project.
+/// The open site project beside its lists, which are on the pane.
 struct ProjectState {
-    bool ProjectChanged = false; ///< it holds changes that its file does not
-    std::function<void()> save;  ///< writes the project file; nothing until there is something that can
+    bool ProjectOpen = false;    ///< the commands of an open project are enabled
+    bool ProjectChanged = false; ///< its list of files holds changes that its file does not
+    QString SiteName = {};
+    QString SiteAuthor = {};
+    std::function<bool()> save = {}; ///< writes the project file; false if it could not
+
+    /// Nothing is known of a project, and there is nothing to save.
+    void forget()
+    {
+        ProjectChanged = false;
+        SiteName.clear();
+        SiteAuthor.clear();
+    }
 };

@@ -4,6 +4,7 @@
 #include "common/fileFormatText.h"
 #include "common/mainWindow.h"
 #include "common/pageCharset.h"
+#include "common/siteProject.h"
 #include "common/unsavedText.h"
 #include "files/fileDialogRows.h"
 #include "files/modFileErrors.h"
@@ -114,9 +115,10 @@ void DocumentFiles::OpenCombinedTemplate(const QString & /*path*/)
     tellComesLater(QStringLiteral("Combined templates can not be opened yet."));
 }
 
-void DocumentFiles::OpenProject(const QString & /*path*/)
+void DocumentFiles::OpenProject(const QString &path)
 {
-    tellComesLater(QStringLiteral("Site projects can not be opened yet."));
+    if (m_context.project)
+        m_context.project->OpenProject(path);
 }
 
 void DocumentFiles::OpenRecentFile(int index)

@@ -1,10 +1,9 @@
 #pragma once
 
+#include "files/filePropertiesPage.h"
 #include "forms/dialogForm.h"
-#include "services/fileSystem.h"
 #include "widgets/layout.h"
 
-class QCheckBox;
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
@@ -23,23 +22,10 @@ private:
     void buildControls();
     ui::Node filePage();
     ui::Node summaryPage();
-    void showFile(const QString &path);
-    void showDetails(const QString &path, const FileDetails &details);
     void showSummary(const Document &document);
 
-    QLabel *lblFileName = nullptr;
-    QLabel *lblType = nullptr;
-    QLabel *lblMsDosName = nullptr;
-    QLabel *lblLocation = nullptr;
-    QLabel *lblSize = nullptr;
-    QLabel *lblCreated = nullptr;
-    QLabel *lblLastModified = nullptr;
-    QLabel *lblLastAccessed = nullptr;
+    FilePropertiesPage m_file;
     QLabel *lblSaved = nullptr;
-    QCheckBox *chkReadOnly = nullptr;
-    QCheckBox *chkArchive = nullptr;
-    QCheckBox *chkHidden = nullptr;
-    QCheckBox *chkSystem = nullptr;
     QLineEdit *txtAuthor = nullptr;
     QLineEdit *txtKeywords = nullptr;
     QPlainTextEdit *txtDescription = nullptr;

@@ -16,6 +16,7 @@
 #include "frame/frmSplash.h"
 #include "insertion/insertionForms.h"
 #include "internet/frmMsgPreviewUnsavedDocument.h"
+#include "project/projectForms.h"
 #include "shell/frmWelcome.h"
 #include "texttools/texttoolsForms.h"
 
@@ -37,6 +38,8 @@ Application::Application(Services &services)
     for (std::unique_ptr<Form> &form : codeknowledgeForms(m_context))
         m_forms.own(std::move(form));
     for (std::unique_ptr<Form> &form : texttoolsForms(m_context))
+        m_forms.own(std::move(form));
+    for (std::unique_ptr<Form> &form : projectForms(m_context, m_mdi->project()))
         m_forms.own(std::move(form));
     connect(m_mdi, &Form::unloaded, this, &Application::End);
 }

@@ -2,11 +2,13 @@
 
 #include "codeknowledge/codeLibraries.h"
 #include "common/fileCommands.h"
+#include "common/programState.h"
 #include "forms/formRuntime.h"
 #include "forms/inputGate.h"
 #include "forms/mdiForm.h"
 #include "frame/frmMdiCommands.h"
 #include "frame/frmMdiPane.h"
+#include "project/modProjectFileCtrl.h"
 #include "widgets/mainWindowFrame.h"
 #include "widgets/nodeTree.h"
 #include "widgets/programIcon.h"
@@ -19,10 +21,12 @@ frmMdi::frmMdi(ProgramContext &context, const QString &commandLine)
     : Form(context, QStringLiteral("frmMdi")),
       m_commandLine(commandLine),
       m_commands(std::make_unique<MainCommands>(*this, context)),
-      m_codes(std::make_unique<CodeLibraries>())
+      m_codes(std::make_unique<CodeLibraries>()),
+      m_project(std::make_unique<ProjectFileCtrl>(context))
 {
     context.mainWindow = this;
     context.codes = m_codes.get();
+    context.project = m_project.get();
     context.codeElements = m_codes->elementNodes();
     setCaption(QStringLiteral("Tagwrighter"));
 }
@@ -32,6 +36,8 @@ frmMdi::~frmMdi()
     discard();
     context().mainWindow = nullptr;
     context().codes = nullptr;
+    context().project = nullptr;
+    context().state.project.save = {};
     context().codeElements.reset();
 }
 
@@ -108,6 +114,31 @@ void frmMdi::SetDocumentControlsEnabled(bool enabled)
     m_commands->setDocumentControlsEnabled(enabled);
     for (QWidget *control : QList<QWidget *>{cboFont, cboFontSize, cboSize, m_pane->treCodes})
         control->setEnabled(enabled);
+}
+
+void frmMdi::SetProjectCommandsEnabled(bool enabled)
+{
+    m_commands->setProjectCommandsEnabled(enabled);
+}
+
+QString frmMdi::SiteName() const
+{
+    return context().state.project.SiteName;
+}
+
+QString frmMdi::SiteAuthor() const
+{
+    return context().state.project.SiteAuthor;
+}
+
+bool frmMdi::ProjectChanged() const
+{
+    return context().state.project.ProjectChanged;
+}
+
+bool frmMdi::ProjectOpen() const
+{
+    return context().state.project.ProjectOpen;
 }
 
 void frmMdi::setWordWrapChecked(bool checked)

@@ -11,6 +11,7 @@ class CodeLibraries;
 class CoolBar;
 class InputGate;
 class MainCommands;
+class ProjectFileCtrl;
 class QBoxLayout;
 class QComboBox;
 class QFrame;
@@ -25,6 +26,10 @@ class Timer;
 class frmMdi final : public Form, public MainWindow
 {
     Q_OBJECT
+    Q_PROPERTY(QString SiteName READ SiteName)
+    Q_PROPERTY(QString SiteAuthor READ SiteAuthor)
+    Q_PROPERTY(bool ProjectChanged READ ProjectChanged)
+    Q_PROPERTY(bool ProjectOpen READ ProjectOpen)
 public:
     /// `commandLine` is read at the form's load.
     frmMdi(ProgramContext &context, const QString &commandLine);
@@ -42,6 +47,9 @@ public:
     void showFileFormat(const QString &text) override;
     void showRecentFiles(const QStringList &captions) override;
     void SetDocumentControlsEnabled(bool enabled) override;
+    void SetProjectCommandsEnabled(bool enabled) override;
+    void showTaskManagerPane() override;
+    void showProjectPage(bool shown) override;
 
     void addDocumentTab(const QString &key, const QString &caption) override;
     void removeDocumentTab(const QString &key) override;
@@ -63,6 +71,13 @@ public:
     void showBar(const QString &entry, bool shown);
     void toggleBar(const QString &entry);
 
+    /// The open site project; it lives as long as this form.
+    ProjectFileCtrl &project() { return *m_project; }
+    QString SiteName() const;
+    QString SiteAuthor() const;
+    bool ProjectChanged() const; ///< its lists hold changes that its file does not
+    bool ProjectOpen() const;
+
     QObject *control(const QString &name) const override;
     QMainWindow *frame() const;
 
@@ -81,6 +96,7 @@ private:
     void buildDocumentSelector();
     void buildStatusBar();
     void layOut();
+    void followProject();
 
     void restoreState();
     void fillFontCombos();
@@ -125,6 +141,7 @@ private:
     InputGate *m_gate = nullptr;
     std::unique_ptr<MainCommands> m_commands;
     std::unique_ptr<CodeLibraries> m_codes;
+    std::unique_ptr<ProjectFileCtrl> m_project;
     CoolBar *cbrMain = nullptr;
     QComboBox *cboFont = nullptr;
     QComboBox *cboSize = nullptr;

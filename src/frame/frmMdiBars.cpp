@@ -88,6 +88,17 @@ void frmMdi::showBar(const QString &entry, bool shown)
             settings::writeBoolean(services().settings, bar.setting, shown);
 }
 
+void frmMdi::showTaskManagerPane()
+{
+    if (m_pane->picProject()->isHidden())
+        showBar(QStringLiteral("mnuShowPrjWindow"), true);
+}
+
+void frmMdi::showProjectPage(bool shown)
+{
+    m_pane->showPage(shown ? TaskManagerPane::ProjectTab : TaskManagerPane::CodesTab);
+}
+
 void frmMdi::SetStatusText(const QString &text)
 {
     if (!m_message)
@@ -173,7 +184,7 @@ void frmMdi::clearStructureTree()
 
 bool frmMdi::structurePageShown() const
 {
-    return !m_pane->picProject()->isHidden() && m_pane->page() == TaskManagerPane::StructurePage;
+    return !m_pane->picProject()->isHidden() && m_pane->page() == TaskManagerPane::StructureTab;
 }
 
 void frmMdi::addStructureNode(qsizetype parent, const QString &key, const QString &text, const QString &image)

@@ -1,11 +1,16 @@
 // The making of the main window's controls; what they show is restored later.
 #include "frame/frmMdi.h"
 
+#include "common/fileCommands.h"
 #include "forms/formRuntime.h"
 #include "forms/inputGate.h"
 #include "frame/frmMdiCommands.h"
 #include "frame/frmMdiPane.h"
 #include "insertion/modFontTags.h"
+#include "project/fileReference.h"
+#include "project/localPage.h"
+#include "project/modProjectFileCtrl.h"
+#include "project/projectPage.h"
 #include "services/services.h"
 #include "services/timer.h"
 #include "widgets/controlWatch.h"
@@ -45,6 +50,7 @@ void frmMdi::buildControls()
     connect(m_pane, &TaskManagerPane::closeChosen, this,
             [this] { showBar(QStringLiteral("mnuShowPrjWindow"), false); });
     connect(m_pane, &TaskManagerPane::popupWanted, this, &frmMdi::PopupMenu);
+    followProject();
     connect(m_pane->treStructure, &NodeTree::nodeClicked, this, &frmMdi::treStructure_NodeClick);
     buildFontCombos();
     buildAddressPanel();
@@ -53,6 +59,24 @@ void frmMdi::buildControls()
     buildStatusBar();
     layOut();
     window()->resize(DesignSize);
+}
+
+void frmMdi::followProject()
+{
+    ProjectPage *page = m_pane->projectPage();
+    m_project->setPage(page);
+    connect(page, &ProjectPage::fileChosen, this, [this](const QString &path, bool isEditorFile) {
+        if (!isEditorFile)
+            InsertFileReference(context(), path);
+        else if (context().files)
+            context().files->OpenDocumentFile(path, false);
+    });
+    connect(page, &ProjectPage::removeWanted, this,
+            [this](bool editorFiles) { editorFiles ? m_project->RemoveEditorFile() : m_project->RemoveOtherFile(); });
+    connect(page, &ProjectPage::filesDropped, this,
+            [this](const QStringList &paths, bool editorFiles) { m_project->AddFiles(paths, editorFiles); });
+    connect(m_pane->localPage(), &LocalPage::fileChosen, this,
+            [this](const QString &path) { InsertFileReference(context(), path); });
 }
 
 void frmMdi::layOut()

@@ -13,6 +13,7 @@
 #include "insertion/modColourProcesses.h"
 #include "insertion/modExcludePath.h"
 #include "internet/modViewInBrowser.h"
+#include "project/modProjectFileCtrl.h"
 #include "services/commonDialogs.h"
 #include "services/helpViewer.h"
 #include "services/messageBoxes.h"
@@ -312,6 +313,42 @@ void MainCommands::mnuCodeOptimise_Click()
         active->OptimiseSyntax();
         active->txtEdit().SetFocus();
     }
+}
+
+void MainCommands::mnuOpenProject_Click()
+{
+    m_form.project().OpenProjectDialog();
+    focusEditor();
+}
+
+void MainCommands::addEditorFile()
+{
+    m_form.project().AddEditorFile();
+}
+
+void MainCommands::addOtherFile()
+{
+    m_form.project().AddOtherFile();
+}
+
+void MainCommands::removeEditorFile()
+{
+    m_form.project().RemoveEditorFile();
+}
+
+void MainCommands::removeOtherFile()
+{
+    m_form.project().RemoveOtherFile();
+}
+
+void MainCommands::saveProject()
+{
+    m_form.project().SaveProject();
+}
+
+void MainCommands::mnuCloseProject_Click()
+{
+    m_form.project().AskCloseProject();
 }
 
 void MainCommands::mnuWinTile_Click()

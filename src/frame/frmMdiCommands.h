@@ -5,6 +5,7 @@
 
 #include <QHash>
 #include <QString>
+#include <optional>
 
 class CoolBar;
 class QAction;
@@ -23,6 +24,7 @@ public:
     /// Makes the menus, the pop-ups and the toolbars of a newly loaded window; the toolbars are not placed yet.
     void build(QMainWindow &window);
     void setDocumentControlsEnabled(bool enabled);
+    void setProjectCommandsEnabled(bool enabled);
     /// A menu entry by its name, a toolbar's button as "bar(key)"; nothing if there is none.
     QAction *action(const QString &name) const { return m_actions.value(name); }
     QToolBar *toolBar(const QString &name) const { return m_toolBars.value(name); }
@@ -77,6 +79,14 @@ public:
     void mnuIndent_Click();
     void mnuOutdent_Click();
     void mnuCodeOptimise_Click();
+    // Projects
+    void mnuOpenProject_Click();
+    void addEditorFile();
+    void addOtherFile();
+    void removeEditorFile();
+    void removeOtherFile();
+    void saveProject();
+    void mnuCloseProject_Click();
     // Window
     void mnuWinTile_Click();
     void mnuWinTileVert_Click();
@@ -103,7 +113,10 @@ private:
     void makeCheckable();
     void followMenus();
     bool isAvailable(const CommandAction &action) const;
+    bool isMet(Needs needs) const;
     void enable(const QString &name, const CommandAction &action, Needs needs);
+    /// All commands, or those alone that need one thing.
+    void enableAll(std::optional<Needs> those = {});
     void run(const CommandAction &action);
     void wrapSelection(const CommandAction &action);
 
@@ -119,6 +132,7 @@ private:
     frmMdi &m_form;
     ProgramContext &m_context;
     bool m_documentControls = false;
+    bool m_projectCommands = false;
     QHash<QString, QAction *> m_actions;
     QHash<QString, QToolBar *> m_toolBars;
 };

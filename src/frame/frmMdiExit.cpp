@@ -7,6 +7,7 @@
 #include "forms/mdiForm.h"
 #include "frame/frmMdiBands.h"
 #include "frame/frmMdiPane.h"
+#include "project/modProjectFileCtrl.h"
 #include "services/messageBoxes.h"
 #include "services/services.h"
 #include "services/settings.h"
@@ -41,7 +42,7 @@ bool frmMdi::Form_QueryUnload()
 bool frmMdi::projectMayClose()
 {
     ProjectState &project = context().state.project;
-    if (m_pane->projectPath() == NoProject || !project.ProjectChanged)
+    if (!m_project->isOpen() || !project.ProjectChanged)
         return true;
     const MessageAnswer answer = services().messageBoxes.show(
         {.title = QStringLiteral("Save Changes to Project File"),
@@ -50,7 +51,7 @@ bool frmMdi::projectMayClose()
          .icon = MessageIcon::Exclamation,
          .buttons = MessageButtons::YesNoCancel});
     if (answer == MessageAnswer::Yes && project.save)
-        project.save();
+        return project.save(); // what could not be saved is not lost by leaving
     return answer != MessageAnswer::Cancel;
 }
 

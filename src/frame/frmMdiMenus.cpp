@@ -49,6 +49,8 @@ void MainCommands::build(QMainWindow &window)
     for (const ToolCommand &command : toolCommands())
         addToolButton(window, command);
     addDropLists(window);
+    for (const CommandAlias &alias : commandAliases())
+        m_actions.insert(QLatin1String(alias.alias), action(QLatin1String(alias.name)));
     makeCheckable();
     followMenus();
 }
@@ -173,23 +175,49 @@ void MainCommands::enableSelectionEntries()
 
 bool MainCommands::isAvailable(const CommandAction &action) const
 {
-    if (action.kind == Kind::Form)
+    if (action.kind == Kind::Form || action.kind == Kind::ModalForm)
         return m_context.forms.find(QLatin1String(action.form)) != nullptr;
     return action.kind != Kind::Later;
 }
 
+bool MainCommands::isMet(Needs needs) const
+{
+    switch (needs) {
+    case Needs::Document:
+        return m_documentControls;
+    case Needs::Project:
+        return m_projectCommands;
+    case Needs::Nothing:
+        break;
+    }
+    return true;
+}
+
 void MainCommands::enable(const QString &name, const CommandAction &action, Needs needs)
 {
-    m_actions.value(name)->setEnabled(isAvailable(action) && (needs == Needs::Nothing || m_documentControls));
+    m_actions.value(name)->setEnabled(isAvailable(action) && isMet(needs));
 }
 
 void MainCommands::setDocumentControlsEnabled(bool enabled)
 {
     m_documentControls = enabled;
+    enableAll();
+}
+
+void MainCommands::setProjectCommandsEnabled(bool enabled)
+{
+    m_projectCommands = enabled;
+    enableAll(Needs::Project);
+}
+
+void MainCommands::enableAll(std::optional<Needs> those)
+{
+    const auto isMeant = [those](Needs needs) { return !those || *those == needs; };
     for (const MenuCommand &command : menuCommands())
-        enable(QLatin1String(command.name), command.action, command.needs);
+        if (isMeant(command.needs))
+            enable(QLatin1String(command.name), command.action, command.needs);
     for (const ToolCommand &command : toolCommands())
-        if (command.action.kind != Kind::Separator)
+        if (command.action.kind != Kind::Separator && isMeant(command.needs))
             enable(toolName(command), command.action, command.needs);
 }
 
@@ -232,6 +260,9 @@ void MainCommands::run(const CommandAction &action)
         break;
     case Kind::Form:
         m_context.forms.find(QLatin1String(action.form))->Show();
+        break;
+    case Kind::ModalForm:
+        m_context.forms.find(QLatin1String(action.form))->ShowModal();
         break;
     case Kind::Wrap:
         wrapSelection(action);

@@ -1,9 +1,9 @@
 #include "frame/frmMdiPane.h"
 
 #include "common/mainWindow.h"
-#include "common/paths.h"
 #include "forms/form.h"
-#include "services/fileSystem.h"
+#include "project/localPage.h"
+#include "project/projectPage.h"
 #include "services/services.h"
 #include "widgets/controlName.h"
 #include "widgets/controls.h"
@@ -13,11 +13,9 @@
 #include "widgets/programIcon.h"
 #include "widgets/sidePane.h"
 
-#include <QDir>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QTabBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -35,26 +33,6 @@ constexpr Page pages[Pages] = {{"Code", "Code Selection"},
                                {"Project", "Project Files"},
                                {"Structure", "Document Structure"},
                                {"Local", "Local File Navigation"}};
-
-/// The small picture of a local file, by the extension of its name.
-int localIcon(const QString &path)
-{
-    static const QHash<QString, int> icons{
-        {QStringLiteral("htm"), 1}, {QStringLiteral("html"), 1}, {QStringLiteral("gif"), 3}, {QStringLiteral("jpg"), 4},
-        {QStringLiteral("exe"), 5}, {QStringLiteral("ico"), 6},  {QStringLiteral("cab"), 7}, {QStringLiteral("zip"), 7},
-        {QStringLiteral("txt"), 8}, {QStringLiteral("bmp"), 9}};
-    return icons.value(GetFileExtension(path).toLower(), 2);
-}
-
-QIcon editorFileIcon()
-{
-    return programIcon(QStringLiteral("file-code"), QColor(0x1F5FA8), QColor(0x7DB4F0));
-}
-
-QIcon pictureIcon()
-{
-    return programIcon(QStringLiteral("file-image"), QColor(0x2F7D4F), QColor(0x7FCB9E));
-}
 
 /// The pictures of the document structure tree, each with the name of its drawing.
 QHash<QString, QIcon> imlDocStructure()
@@ -116,15 +94,14 @@ TaskManagerPane::TaskManagerPane(ProgramContext &context) : m_context(context)
         tabCodeWindow->setTabToolTip(page, QLatin1String(pages[page].toolTip));
     layout->addWidget(tabCodeWindow);
     addPage(*layout, 0, treCodes = ui::tree(QStringLiteral("treCodes")));
-    addPage(*layout, 1, projectPage());
+    addPage(*layout, 1, m_project = new ProjectPage);
     addPage(*layout, 2, treStructure = ui::tree(QStringLiteral("treStructure")));
-    addPage(*layout, 3, localPage());
+    addPage(*layout, 3, m_local = new LocalPage(context.services.files));
     treCodes->setAccessibleName(QStringLiteral("Codes"));
     treStructure->setAccessibleName(QStringLiteral("Document structure"));
-    loadImageLists();
+    treStructure->setImages(imlDocStructure());
+    connect(m_project, &ProjectPage::popupWanted, this, &TaskManagerPane::popupWanted);
     passKeys();
-    offerPopup(lstEditorFiles, QStringLiteral("mnuPopupEditorFiles"));
-    offerPopup(lstOtherFiles, QStringLiteral("mnuPopupOtherFiles"));
     tabCodeWindow_Click();
 }
 
@@ -158,84 +135,15 @@ void TaskManagerPane::addPage(QVBoxLayout &layout, int page, QWidget *contents)
     layout.addWidget(holder, 1);
 }
 
-QWidget *TaskManagerPane::projectPage()
-{
-    auto *contents = new QWidget;
-    auto *layout = columnIn(contents);
-    const QStringList columns{QStringLiteral("File"), QStringLiteral("Path"), QStringLiteral("Size"),
-                              QStringLiteral("Type")};
-    txtPrjPath = ui::text(QStringLiteral("txtPrjPath"));
-    txtPrjPath->setText(NoProject);
-    txtPrjPath->setReadOnly(true);
-    txtPrjPath->setAccessibleName(QStringLiteral("Open project"));
-    lstEditorFiles = ui::listView(QStringLiteral("lstEditorFiles"), columns);
-    lstEditorFiles->setAccessibleName(QStringLiteral("Editor files"));
-    lstOtherFiles = ui::listView(QStringLiteral("lstOtherFiles"), columns);
-    lstOtherFiles->setAccessibleName(QStringLiteral("Other files"));
-    layout->addWidget(txtPrjPath);
-    layout->addWidget(ui::label(QStringLiteral("lblEditorFiles"), QStringLiteral("Editor files:")));
-    layout->addWidget(lstEditorFiles, 1);
-    layout->addWidget(ui::label(QStringLiteral("lblOtherFiles"), QStringLiteral("Other files:")));
-    layout->addWidget(lstOtherFiles, 1);
-    return contents;
-}
-
-QWidget *TaskManagerPane::localPage()
-{
-    auto *contents = new QWidget;
-    auto *layout = columnIn(contents);
-    FileSystem &files = m_context.services.files;
-    drvLocal = ui::driveList(QStringLiteral("drvLocal"), [this] { dirLocal->setPath(drvLocal->Drive()); });
-    dirLocal = ui::folderList(QStringLiteral("dirLocal"), files, [this] { filTempLocal->setPath(dirLocal->Path()); });
-    filTempLocal = ui::fileList(QStringLiteral("filTempLocal"), files, [this] { filTempLocal_PathChange(); });
-    lstLocal = ui::listView(QStringLiteral("lstLocal"), {QStringLiteral("File"), QStringLiteral("Size")});
-    drvLocal->setAccessibleName(QStringLiteral("Drive"));
-    dirLocal->setAccessibleName(QStringLiteral("Folder"));
-    lstLocal->setAccessibleName(QStringLiteral("Local files"));
-    filTempLocal->hide();
-    layout->addWidget(drvLocal);
-    layout->addWidget(dirLocal, 1);
-    layout->addWidget(lstLocal, 1);
-    layout->addWidget(filTempLocal);
-    return contents;
-}
-
-void TaskManagerPane::loadImageLists()
-{
-    const QIcon other = programIcon(QStringLiteral("file"));
-    const QIcon picture = pictureIcon();
-    const QHash<QString, QIcon> filePictures{{QStringLiteral("EditorFile"), editorFileIcon()},
-                                             {QStringLiteral("OtherFile"), other}};
-    const QList<QIcon> project{filePictures[QStringLiteral("EditorFile")], filePictures[QStringLiteral("OtherFile")]};
-    treStructure->setImages(imlDocStructure());
-    lstEditorFiles->setSmallIcons(project);
-    lstOtherFiles->setSmallIcons(project);
-    lstLocal->setSmallIcons({editorFileIcon(), other, picture, picture, programIcon(QStringLiteral("app-window")),
-                             picture, programIcon(QStringLiteral("file-archive")),
-                             programIcon(QStringLiteral("file-text")), picture});
-}
-
 void TaskManagerPane::passKeys()
 {
     for (QWidget *control :
-         QList<QWidget *>{treCodes, treStructure, lstEditorFiles, lstOtherFiles, lstLocal, dirLocal, drvLocal})
+         QList<QWidget *>{treCodes, treStructure, m_project->lstEditorFiles, m_project->lstOtherFiles,
+                          m_local->lstLocal, m_local->dirLocal, m_local->drvLocal})
         ui::onKeyDown(control, [this](const QKeyEvent &event) {
             const int keyCode = event.key() == Qt::Key_F6 ? 117 : 0;
             return m_context.mainWindow->MoveToNextPane(keyCode, QStringLiteral("project"));
         });
-}
-
-void TaskManagerPane::offerPopup(ListView *list, const QString &menu)
-{
-    list->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(list, &QWidget::customContextMenuRequested, this, [this, list, menu](const QPoint &point) {
-        Q_EMIT popupWanted(menu, list->viewport()->mapToGlobal(point));
-    });
-}
-
-QString TaskManagerPane::projectPath() const
-{
-    return txtPrjPath->text();
 }
 
 int TaskManagerPane::page() const
@@ -250,7 +158,7 @@ void TaskManagerPane::showPage(int page)
 
 QWidget *TaskManagerPane::pageControl() const
 {
-    QWidget *const controls[Pages] = {treCodes, lstEditorFiles, treStructure, lstLocal};
+    QWidget *const controls[Pages] = {treCodes, m_project->lstEditorFiles, treStructure, m_local->lstLocal};
     return controls[page()];
 }
 
@@ -266,29 +174,5 @@ void TaskManagerPane::tabCodeWindow_Click()
 
 void TaskManagerPane::refreshLocalFiles()
 {
-    if (!dirLocal->Path().isEmpty()) {
-        filTempLocal->setPath(dirLocal->Path());
-        return;
-    }
-    drvLocal->setDrive(QDir::homePath());
-    dirLocal->setPath(drvLocal->Drive());
-}
-
-void TaskManagerPane::filTempLocal_PathChange()
-{
-    lstLocal->clearRows();
-    const QString folder = filTempLocal->Path();
-    for (const QString &name : filTempLocal->names()) {
-        const QString path = joinPath(folder, name);
-        const auto size = m_context.services.files.size(path);
-        lstLocal->addRow(
-            {.key = path,
-             .text = name,
-             .smallIcon = localIcon(path),
-             .subItems = {(size ? QString::number(GetFileSizeKB(*size)) : QString()) + QStringLiteral("KB")},
-             .tag = {},
-             .checked = false});
-        if (!size)
-            break; // the rest of a folder whose files cannot be looked at is not tried
-    }
+    m_local->refresh();
 }

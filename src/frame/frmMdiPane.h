@@ -5,19 +5,13 @@
 #include <QObject>
 #include <QString>
 
-class DriveList;
-class FileList;
-class FolderList;
-class ListView;
+class LocalPage;
 class NodeTree;
-class QLineEdit;
+class ProjectPage;
 class QTabBar;
 class QVBoxLayout;
 class QWidget;
 class SidePane;
-
-/// What stands in place of the open project's path while there is none.
-inline constexpr QLatin1String NoProject("(no project open)");
 
 /// The Task Manager Pane of the main window: the pages for the codes, the open project, the document's structure and
 /// the local files, one a tab.
@@ -29,8 +23,9 @@ public:
     explicit TaskManagerPane(ProgramContext &context);
 
     SidePane *picProject() const { return m_picProject; }
-    QString projectPath() const; ///< what txtPrjPath shows: "(no project open)" without a project
-    enum PageNumber { CodePage, ProjectPage, StructurePage, LocalPage };
+    ProjectPage *projectPage() const { return m_project; }
+    LocalPage *localPage() const { return m_local; }
+    enum PageNumber { CodesTab, ProjectTab, StructureTab, LocalTab };
     int page() const; ///< the page on show
     void showPage(int page);
     /// The control of the page on show that the keyboard goes to.
@@ -40,8 +35,6 @@ public:
 
     NodeTree *treCodes = nullptr;
     NodeTree *treStructure = nullptr;
-    ListView *lstEditorFiles = nullptr;
-    ListView *lstOtherFiles = nullptr;
 
 Q_SIGNALS:
     void closeChosen();
@@ -49,21 +42,13 @@ Q_SIGNALS:
 
 private:
     QWidget *titleBar();
-    QWidget *projectPage();
-    QWidget *localPage();
     void addPage(QVBoxLayout &layout, int page, QWidget *contents);
-    void loadImageLists();
     void passKeys();
-    void offerPopup(ListView *list, const QString &menu);
     void tabCodeWindow_Click();
-    void filTempLocal_PathChange();
 
     ProgramContext &m_context;
     SidePane *m_picProject = nullptr;
     QTabBar *tabCodeWindow = nullptr;
-    QLineEdit *txtPrjPath = nullptr;
-    ListView *lstLocal = nullptr;
-    DriveList *drvLocal = nullptr;
-    FolderList *dirLocal = nullptr;
-    FileList *filTempLocal = nullptr;
+    ProjectPage *m_project = nullptr;
+    LocalPage *m_local = nullptr;
 };

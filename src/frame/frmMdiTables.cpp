@@ -20,6 +20,10 @@ constexpr CommandAction shows(const char *form)
 {
     return {.kind = K::Form, .form = form};
 }
+constexpr CommandAction showsModal(const char *form)
+{
+    return {.kind = K::ModalForm, .form = form};
+}
 constexpr CommandAction wraps(const char *open, const char *close)
 {
     return {.kind = K::Wrap, .open = open, .close = close};
@@ -38,6 +42,7 @@ constexpr MenuCommand line(const char *name, const char *menu)
 }
 
 constexpr Needs Doc = Needs::Document;
+constexpr Needs Prj = Needs::Project;
 constexpr Needs Any = Needs::Nothing;
 
 // clang-format off
@@ -49,7 +54,7 @@ constexpr MenuCommand menuTable[] = {
     {"mnuImportRTF", "mnuFile", "Import &Rich Text Format File...", "", "", Any, nothing()},
     {"mnuClose", "mnuFile", "&Close", "Ctrl+W", "", Doc, runs(&C::mnuClose_Click)},
     line("mnuDashProject", "mnuFile"),
-    {"mnuNewSiteProject", "mnuFile", "New Site Project...", "", "", Any, shows("frmNewProject")},
+    {"mnuNewSiteProject", "mnuFile", "New Site Project...", "", "", Any, showsModal("frmNewProject")},
     line("mnuDashSave", "mnuFile"),
     {"mnuSave", "mnuFile", "&Save", "Ctrl+S", "save", Doc, runs(&C::mnuSave_Click)},
     {"mnuSaveAs", "mnuFile", "Save &As...", "Ctrl+Shift+S", "", Doc, runs(&C::mnuSaveAs_Click)},
@@ -168,19 +173,19 @@ constexpr MenuCommand menuTable[] = {
     {"mnuOptions", "mnuTools", "&Options...", "", "settings", Any, shows("frmOptions")},
 
     {"mnuSiteProjectHead", "bar", "&Projects", "", "", Any, head()},
-    {"mnuNewProject", "mnuSiteProjectHead", "New Site Project...", "", "", Any, shows("frmNewProject")},
-    {"mnuOpenProject", "mnuSiteProjectHead", "Open Site Project...", "", "", Any, later()},
+    {"mnuNewProject", "mnuSiteProjectHead", "New Site Project...", "", "", Any, showsModal("frmNewProject")},
+    {"mnuOpenProject", "mnuSiteProjectHead", "Open Site Project...", "", "", Any, runs(&C::mnuOpenProject_Click)},
     line("mnuDashFiles", "mnuSiteProjectHead"),
-    {"mnuAddSiteEditorFile", "mnuSiteProjectHead", "Add Editor File...", "", "", Any, later()},
-    {"mnuAddSiteOtherFile", "mnuSiteProjectHead", "Add Other File...", "", "", Any, later()},
-    {"mnuRemoveSiteEditorFile", "mnuSiteProjectHead", "Remove Editor File", "", "", Any, later()},
-    {"mnuRemoveSiteOtherFile", "mnuSiteProjectHead", "Remove Other File", "", "", Any, later()},
+    {"mnuAddSiteEditorFile", "mnuSiteProjectHead", "Add Editor File...", "", "", Prj, runs(&C::addEditorFile)},
+    {"mnuAddSiteOtherFile", "mnuSiteProjectHead", "Add Other File...", "", "", Prj, runs(&C::addOtherFile)},
+    {"mnuRemoveSiteEditorFile", "mnuSiteProjectHead", "Remove Editor File", "", "", Prj, runs(&C::removeEditorFile)},
+    {"mnuRemoveSiteOtherFile", "mnuSiteProjectHead", "Remove Other File", "", "", Prj, runs(&C::removeOtherFile)},
     line("mnuDashProjectSave", "mnuSiteProjectHead"),
-    {"mnuProjectSave", "mnuSiteProjectHead", "Save Site Project", "", "", Any, later()},
-    {"mnuCloseProject", "mnuSiteProjectHead", "Close Site Project...", "", "", Any, later()},
+    {"mnuProjectSave", "mnuSiteProjectHead", "Save Site Project", "", "", Prj, runs(&C::saveProject)},
+    {"mnuCloseProject", "mnuSiteProjectHead", "Close Site Project...", "", "", Prj, runs(&C::mnuCloseProject_Click)},
     line("mnuDashProjectProperties", "mnuSiteProjectHead"),
-    {"mnuPrjProperties", "mnuSiteProjectHead", "Project Properties", "", "", Any, shows("frmPrjProperties")},
-    {"mnuSiteProjectMap", "mnuSiteProjectHead", "View Site Project Map...", "", "network", Any, shows("frmProjectLayout")},
+    {"mnuPrjProperties", "mnuSiteProjectHead", "Project Properties", "", "", Prj, showsModal("frmPrjProperties")},
+    {"mnuSiteProjectMap", "mnuSiteProjectHead", "View Site Project Map...", "", "network", Prj, shows("frmProjectLayout")},
 
     {"mnuAddIns", "bar", "&Add-Ins", "", "", Any, head()},
     {"mnuAddInManager", "mnuAddIns", "Add-In Manager...", "", "", Any, shows("frmAddInManager")},
@@ -221,15 +226,26 @@ constexpr MenuCommand menuTable[] = {
     {"mnuPopupSiteProjectLayout", "mnuPopup", "View Site Project Layout", "", "network", Any, shows("frmProjectLayout")},
 
     {"mnuPopupEditorFiles", "popup", "Editor Files", "", "", Any, head()},
-    {"mnuEditorFileAdd", "mnuPopupEditorFiles", "Add Editor File...", "", "", Any, later()},
-    {"mnuEditorFileRem", "mnuPopupEditorFiles", "Remove Editor File", "", "", Any, later()},
+    {"mnuEditorFileAdd", "mnuPopupEditorFiles", "Add Editor File...", "", "", Prj, runs(&C::addEditorFile)},
+    {"mnuEditorFileRem", "mnuPopupEditorFiles", "Remove Editor File", "", "", Prj, runs(&C::removeEditorFile)},
+    line("mnuDashEditorFiles", "mnuPopupEditorFiles"),
+    {"mnuEditorFileSavePrj", "mnuPopupEditorFiles", "Save Site Project", "", "", Prj, runs(&C::saveProject)},
 
     {"mnuPopupOtherFiles", "popup", "Other Files", "", "", Any, head()},
-    {"mnuOtherFileAdd", "mnuPopupOtherFiles", "Add Other File...", "", "", Any, later()},
-    {"mnuOtherFileRem", "mnuPopupOtherFiles", "Remove Other File", "", "", Any, later()},
+    {"mnuOtherFileAdd", "mnuPopupOtherFiles", "Add Other File...", "", "", Prj, runs(&C::addOtherFile)},
+    {"mnuOtherFileRem", "mnuPopupOtherFiles", "Remove Other File", "", "", Prj, runs(&C::removeOtherFile)},
+    line("mnuDashOtherFiles", "mnuPopupOtherFiles"),
+    {"mnuOtherFileSavePrj", "mnuPopupOtherFiles", "Save Site Project", "", "", Prj, runs(&C::saveProject)},
 
     {"mnuAddressBar", "popup", "Address Bar", "", "", Any, head()},
     {"mnuHideAddressBar", "mnuAddressBar", "Hide Address Bar", "", "", Any, runs(&C::mnuHideAddressBar_Click)},
+};
+
+constexpr CommandAlias aliasTable[] = {
+    {"mnuAddEditFile", "mnuAddSiteEditorFile"},
+    {"mnuAddOtrFile", "mnuAddSiteOtherFile"},
+    {"mnuRemPrjFile", "mnuRemoveSiteEditorFile"},
+    {"mnuRemOtrFile", "mnuRemoveSiteOtherFile"},
 };
 
 constexpr ToolCommand toolTable[] = {
@@ -243,7 +259,7 @@ constexpr ToolCommand toolTable[] = {
     {"tbrMain", "-", "", "", "", Any, {.kind = K::Separator}},
     {"tbrMain", "Print", "Print", "printer", "mnuPrint", Doc, later()},
     {"tbrMain", "ViewPage", "View page in browser", "globe", "mnuViewPage", Doc, runs(&C::mnuViewPage_Click)},
-    {"tbrMain", "SiteLayout", "View site project map", "network", "", Any, shows("frmProjectLayout")},
+    {"tbrMain", "SiteLayout", "View site project map", "network", "", Prj, shows("frmProjectLayout")},
     {"tbrMain", "Syntax", "Check syntax", "list-checks", "", Doc, shows("frmSyntaxCheck")},
     {"tbrMain", "-", "", "", "", Any, {.kind = K::Separator}},
     {"tbrMain", "Cut", "Cut", "scissors", "mnuCut", Doc, runs(&C::mnuCut_Click)},
@@ -331,6 +347,11 @@ constexpr ToolCommand dropTable[] = {
 std::span<const MenuCommand> menuCommands()
 {
     return menuTable;
+}
+
+std::span<const CommandAlias> commandAliases()
+{
+    return aliasTable;
 }
 
 std::span<const ToolCommand> toolCommands()

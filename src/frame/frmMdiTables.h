@@ -11,6 +11,7 @@ struct CommandAction {
         Separator, ///< a line between entries
         Run,       ///< calls one of the handlers
         Form,      ///< loads and shows a form of the session
+        ModalForm, ///< the same as a modal box
         Wrap,      ///< puts a pair of tags around the selection
         Nothing,   ///< is there without a command behind it
         Later,     ///< waits for its command: disabled
@@ -23,7 +24,7 @@ struct CommandAction {
 };
 
 /// When a command is enabled.
-enum class Needs { Nothing, Document };
+enum class Needs { Nothing, Document, Project };
 
 /// One entry of the menus and pop-ups, in their order.
 struct MenuCommand {
@@ -47,7 +48,14 @@ struct ToolCommand {
     CommandAction action;
 };
 
+/// A second name of a menu entry.
+struct CommandAlias {
+    const char *alias;
+    const char *name;
+};
+
 std::span<const MenuCommand> menuCommands();
+std::span<const CommandAlias> commandAliases();
 std::span<const ToolCommand> toolCommands();
 /// The entries of the drop-down lists: `bar` is the toolbar, whose button with a list holds them.
 std::span<const ToolCommand> dropCommands();

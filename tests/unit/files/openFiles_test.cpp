@@ -157,11 +157,20 @@ TEST_F(OpenFiles, ComeFromTheDialog)
 TEST_F(OpenFiles, OfRowsThatComeLaterSaySo)
 {
     writeFile(page, "x");
-    for (const int row : {5, 6, 11}) {
+    for (const int row : {5, 6}) {
         dialogs.choices.append({path(page), row});
         files.ShowOpenDialog();
         EXPECT_EQ(takeBox().title, QStringLiteral("Not Available Yet"));
     }
+    EXPECT_TRUE(mainWindow.documents.isEmpty());
+}
+
+TEST_F(OpenFiles, OfTheRowForProjectsAreHandedOver)
+{
+    context.project = &project;
+    dialogs.choices.append({path(page), 11});
+    files.ShowOpenDialog();
+    EXPECT_EQ(project.opened, QStringList(path(page)));
     EXPECT_TRUE(mainWindow.documents.isEmpty());
 }
 

@@ -201,6 +201,7 @@ bool hasHandler(const CommandAction &action)
     case Kind::Run:
         return action.run != nullptr;
     case Kind::Form:
+    case Kind::ModalForm:
         return std::string(action.form).starts_with("frm");
     case Kind::Wrap:
         return *action.open == '<';

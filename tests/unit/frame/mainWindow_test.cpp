@@ -72,7 +72,7 @@ protected:
         control<QLineEdit>("txtPrjPath").setText(QStringLiteral("/site/site.tsp"));
         ProjectState &project = application->context().state.project;
         project.ProjectChanged = true;
-        project.save = [this] { ++saves; };
+        project.save = [this] { return ++saves > 0; };
         return project;
     }
 

@@ -265,8 +265,11 @@ public:
         EXPECT_TRUE(isEditorFile);
     }
 
+    void OpenProject(const QString &path) override { opened.append(path); }
+
     bool open = true;
     QStringList added;
+    QStringList opened;
 };
 
 class FilesTest : public testing::Test

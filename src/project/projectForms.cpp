@@ -1,0 +1,12 @@
+#include "project/projectForms.h"
+
+#include "project/frmNewProject.h"
+#include "project/frmPrjProperties.h"
+
+std::vector<std::unique_ptr<Form>> projectForms(ProgramContext &context, ProjectFileCtrl &project)
+{
+    std::vector<std::unique_ptr<Form>> forms;
+    forms.push_back(std::make_unique<frmNewProject>(context, project));
+    forms.push_back(std::make_unique<frmPrjProperties>(context, project));
+    return forms;
+}
