@@ -11,6 +11,7 @@
 #include "drive/targets.h"
 #include "drive/told.h"
 #include "forms/form.h"
+#include "widgets/drawnControl.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -59,6 +60,8 @@ std::optional<int> wholeNumber(const QString &word)
 QWidget &widgetOf(Stage &stage, const Target &target)
 {
     QObject *object = target.control ? target.control : target.form->window();
+    if (const auto *drawn = qobject_cast<DrawnControl *>(object))
+        object = drawn->surface();
     auto *widget = qobject_cast<QWidget *>(object);
     if (widget && target.control && takesInput(stage, *target.form))
         turnToPageOf(*widget);
@@ -67,6 +70,16 @@ QWidget &widgetOf(Stage &stage, const Target &target)
     if (!widget->isVisible())
         stage.referee.fail(QStringLiteral("%1 on show").arg(target.name), QStringLiteral("it hidden"));
     return *widget;
+}
+
+/// Where the target's own coordinates begin on that widget. What is drawn out of sight is scrolled into view first.
+QPoint cornerOf(const Target &target)
+{
+    auto *drawn = qobject_cast<DrawnControl *>(target.control);
+    if (!drawn)
+        return {};
+    drawn->reveal();
+    return drawn->area().topLeft();
 }
 
 std::optional<MouseAct> mouseAct(const QString &name)
@@ -114,7 +127,7 @@ void mouse(Stage &stage, const Line &line)
         activateWindowOf(*target.form);
     settle();
     if (widget && stage.desktop.boxes.onShow().isEmpty()) // a box keeps it off as a real one does
-        moveMouse(*widget, *act, {*x, *y}, modifiers);
+        moveMouse(*widget, *act, cornerOf(target) + QPoint(*x, *y), modifiers);
 }
 
 void select(Stage &stage, const Line &line)
@@ -195,6 +208,8 @@ void resizeWindow(Stage &stage, const Line &line)
 void reveal(Stage &stage, const Line &line)
 {
     const Target target = findTarget(stage, line.words[0]);
+    if (auto *drawn = qobject_cast<DrawnControl *>(target.control))
+        drawn->reveal();
     bringIntoView(widgetOf(stage, target));
 }
 

@@ -7,6 +7,7 @@
 #include "forms/inputGate.h"
 #include "userInput.h"
 #include "widgets/colourSelection.h"
+#include "widgets/drawnControl.h"
 #include "widgets/fileControls.h"
 #include "widgets/nodeTree.h"
 #include "widgets/spinButton.h"
@@ -169,6 +170,8 @@ std::optional<ActionResult> blocked(const QWidget &widget)
 
 ActionResult usable(QObject &control)
 {
+    if (const auto *drawn = qobject_cast<DrawnControl *>(&control))
+        return usable(*drawn->surface());
     const QWidget *widget = widgetOf(control);
     if (!widget)
         return refused(QStringLiteral("%1 is nothing that a user can press").arg(nameOf(control)));
@@ -207,6 +210,11 @@ ActionResult click(QObject &control)
 {
     if (const ActionResult result = usable(control); !result.done)
         return result;
+    if (auto *drawn = qobject_cast<DrawnControl *>(&control)) {
+        drawn->reveal();
+        clickAt(*drawn->surface(), drawn->area().center());
+        return {};
+    }
     QWidget &widget = *widgetOf(control);
     if (auto *colour = qobject_cast<ColourSelection *>(&widget))
         return click(*colour->changeButton());

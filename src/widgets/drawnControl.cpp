@@ -1,0 +1,3 @@
+#include "widgets/drawnControl.h"
+
+DrawnControl::~DrawnControl() = default;
