@@ -45,6 +45,7 @@ void codeFigures(Figures &figures);
 void previewFigures(Figures &figures);
 void tableFigures(Figures &figures);
 void textToolFigures(Figures &figures);
+void projectFigures(Figures &figures);
 void dialogFigures(Figures &figures);
 void designerFigures(Figures &figures);
 void openingFigures(Figures &figures);

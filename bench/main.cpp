@@ -21,6 +21,7 @@ constexpr Group groups[] = {
     {"preview", previewFigures},
     {"tables", tableFigures},
     {"texttools", textToolFigures},
+    {"project", projectFigures},
     {"dialogs", dialogFigures},
     {"designers", designerFigures},
     {"opening", openingFigures},
