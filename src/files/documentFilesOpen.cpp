@@ -2,6 +2,7 @@
 #include "files/documentFiles.h"
 
 #include "common/fileFormatText.h"
+#include "common/longLines.h"
 #include "common/mainWindow.h"
 #include "common/pageCharset.h"
 #include "common/siteProject.h"
@@ -197,12 +198,14 @@ std::optional<DocumentFiles::Opened> DocumentFiles::readInto(Document &document,
     }
     try {
         Opened opened{&document, decodePage(file.bytes, unicode), stamp};
-        document.txtEdit().setText(opened.contents.text);
-        return opened;
-    } catch (const std::bad_alloc &) {
-        failWith({.code = OutOfMemoryError, .systemError = 0, .description = {}});
-        return std::nullopt;
+        if (canBeShown(lineExtremesOf(opened.contents.text))) {
+            document.txtEdit().setText(opened.contents.text);
+            return opened;
+        }
+    } catch (const std::bad_alloc &) { // told below
     }
+    failWith({.code = OutOfMemoryError, .systemError = 0, .description = {}});
+    return std::nullopt;
 }
 
 void DocumentFiles::finishOpened(Document &document)

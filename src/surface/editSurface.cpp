@@ -1,6 +1,7 @@
 #include "surface/editSurface.h"
 
 #include "common/darkGround.h"
+#include "common/longLines.h"
 #include "common/text.h"
 #include "surface/lineMargin.h"
 
@@ -64,6 +65,8 @@ QString EditSurface::Text() const
 void EditSurface::setText(const QString &text)
 {
     const Step step(this);
+    setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    breakLongLines(text);
     m_text.load(withCrLf(text));
     m_formats.forget();
     m_textChanged = true;
@@ -283,8 +286,16 @@ void EditSurface::select(int anchor, int position)
     setTextCursor(cursor);
 }
 
+/// In a line of half a million characters without a blank, looking for blanks takes more than ten seconds.
+void EditSurface::breakLongLines(const QString &text)
+{
+    if (hasLongLines(lineExtremesOf(text)))
+        setWordWrapMode(QTextOption::WrapAnywhere);
+}
+
 void EditSurface::insertAtCaret(const QString &text)
 {
+    breakLongLines(text);
     const Step step(this);
     QTextCursor cursor = textCursor();
     QTextCharFormat format = cursor.charFormat();

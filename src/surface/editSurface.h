@@ -122,6 +122,7 @@ private:
     QTextCursor cursorOver(qsizetype start, qsizetype length) const;
     void select(int anchor, int position);
     void insertAtCaret(const QString &text);
+    void breakLongLines(const QString &text);
     void tellTextChange();
     void tellSelection();
     void tellScrolling();
