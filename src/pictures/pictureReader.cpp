@@ -7,7 +7,9 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QImageReader>
+#include <QPainter>
 #include <cstdio>
+#include <fcntl.h>
 #include <sys/resource.h>
 #include <unistd.h>
 
@@ -37,9 +39,35 @@ void limitSelf()
     const rlim_t seconds = static_cast<rlim_t>(used.ru_utime.tv_sec) + 2;
     const rlimit time{seconds, seconds};
     ::setrlimit(RLIMIT_CPU, &time);
+    // A reader that waits uses none of that time.
+    ::alarm(3);
     const rlim_t bytes = memoryInUse() + LargestMemory;
     const rlimit memory{bytes, bytes};
     ::setrlimit(RLIMIT_AS, &memory);
+}
+
+/// From here on nothing can be opened any more: a drawing may name files, and what never ends to be read.
+void openNothingMore()
+{
+    const int lowest = ::open("/dev/null", O_RDONLY | O_CLOEXEC); // all numbers below it are taken, and now it is, too
+    const auto most = static_cast<rlim_t>(lowest + 1);
+    const rlimit files{most, most};
+    ::setrlimit(RLIMIT_NOFILE, &files);
+}
+
+/// What a drawing needs beside its own bytes is brought in beforehand: what reads the pictures that it holds itself,
+/// and fonts for its text.
+void bringInWhatDrawingsNeed()
+{
+    QByteArray nothing("?");
+    QBuffer buffer(&nothing);
+    (void)QImageReader(&buffer).canRead(); // asks each kind of picture in turn, which brings them in
+    QImage paper(8, 8, QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&paper);
+    for (const char *family : {"sans-serif", "serif", "monospace"}) {
+        painter.setFont(QFont(QLatin1String(family)));
+        painter.drawText(0, 8, QStringLiteral("a"));
+    }
 }
 
 void send(const QByteArray &bytes)
@@ -63,11 +91,15 @@ QByteArray pixelBytes(const QImage &picture)
            QByteArray::fromRawData(reinterpret_cast<const char *>(pixels.constBits()), pixels.sizeInBytes());
 }
 
+bool isDrawing(const QImageReader &reader)
+{
+    return reader.format().startsWith("svg");
+}
+
 bool isTooLarge(const QImageReader &reader)
 {
-    const QSize size = reader.size();
-    const bool isDrawing = reader.format().startsWith("svg"); // drawn at any size
-    return !isDrawing && qint64(size.width()) * size.height() > MostPixels;
+    const QSize size = reader.size(); // a drawing is drawn at any size
+    return !isDrawing(reader) && qint64(size.width()) * size.height() > MostPixels;
 }
 
 QSize within(const QSize &size, const QSize &largest)
@@ -92,7 +124,12 @@ int readPicture(const QString &path, const QSize &largest)
     QBuffer buffer(&bytes);
     QImageReader reader(&buffer);
     reader.setAutoTransform(true);
-    if (!reader.canRead() || reader.size().isEmpty())
+    if (!reader.canRead())
+        return NoPicture;
+    if (isDrawing(reader))
+        bringInWhatDrawingsNeed();
+    openNothingMore();
+    if (reader.size().isEmpty())
         return NoPicture;
     send(sizeBytes(shownSize(reader)));
     if (isTooLarge(reader))

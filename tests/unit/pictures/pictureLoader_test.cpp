@@ -263,4 +263,47 @@ TEST_F(PictureLoaderTest, ReadsNamesOfAnyCharacters)
     const QString named = written("-a \"b\" é?.png", encoded(twoColours({40, 30}), "png"));
     EXPECT_TRUE(LoadPicture(named, Largest));
 }
+/// A drawing of one picture, which it names so, over white.
+QByteArray svgNaming(const QByteArray &reference)
+{
+    return "<?xml version=\"1.0\"?><svg xmlns=\"http://www.w3.org/2000/svg\" "
+           "xmlns:xlink=\"http://www.w3.org/1999/xlink\" width=\"40\" height=\"30\">"
+           "<rect width=\"40\" height=\"30\" fill=\"white\"/>"
+           "<image width=\"40\" height=\"30\" xlink:href=\"" +
+           reference + "\"/></svg>";
+}
+
+TEST_F(PictureLoaderTest, FollowsNoReferenceOutOfADrawing)
+{
+    QImage red(40, 30, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    const QByteArray picture = encoded(red, "png");
+    const QByteArray path = written("red.png", picture).toUtf8();
+    for (const QByteArray &reference : {path, "file://" + path, QByteArray("red.png")}) {
+        const auto loaded = LoadPicture(written("a.svg", svgNaming(reference)), Largest);
+        ASSERT_TRUE(loaded) << reference.constData();
+        EXPECT_EQ(loaded->size, QSize(40, 30));
+        EXPECT_TRUE(isNearly(loaded->pixels.pixelColor(20, 15), Qt::white)) << reference.constData();
+    }
+    for (const char *format : {"png", "jpg"}) {
+        const QByteArray held = "data:image/" + QByteArray(format) + ";base64," + encoded(red, format).toBase64();
+        const auto loaded = LoadPicture(written("b.svg", svgNaming(held)), Largest);
+        ASSERT_TRUE(loaded) << format;
+        EXPECT_TRUE(isNearly(loaded->pixels.pixelColor(20, 15), Qt::red)) << format;
+    }
+}
+
+TEST_F(PictureLoaderTest, WaitsForNoPipeThatADrawingNames)
+{
+    ASSERT_EQ(::mkfifo(path("pipe").toUtf8().constData(), 0600), 0);
+    const QByteArray pipe = path("pipe").toUtf8();
+    const QByteArray sheet = "<?xml-stylesheet type=\"text/css\" href=\"" + pipe + "\"?>";
+    QElapsedTimer taken;
+    taken.start();
+    EXPECT_TRUE(LoadPicture(written("a.svg", svgNaming(pipe)), Largest));
+    QByteArray styled = svgNaming("none");
+    styled.insert(styled.indexOf("<svg"), sheet);
+    EXPECT_TRUE(LoadPicture(written("b.svg", styled), Largest));
+    EXPECT_LT(taken.elapsed(), 2 * LongestMilliseconds);
+}
 } // namespace
