@@ -83,7 +83,9 @@ QString reasonAgainstPages()
     return {};
 }
 
-ModulePageViews::ModulePageViews(const QStringList &folders) : m_folders(folders) {}
+ModulePageViews::ModulePageViews(const QStringList &folders, PageSource &source) : m_folders(folders), m_source(source)
+{
+}
 
 ModulePageViews::~ModulePageViews()
 {
@@ -120,7 +122,9 @@ PageEngine *ModulePageViews::load()
     QPluginLoader module(file);
     module.setLoadHints(QLibrary::PreventUnloadHint);
     auto *engine = qobject_cast<PageEngine *>(module.instance());
-    if (!engine)
+    if (engine)
+        engine->setSource(m_source);
+    else
         m_reason = QStringLiteral("There is no preview: %1").arg(module.errorString());
     return engine;
 }

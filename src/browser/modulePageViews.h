@@ -9,17 +9,20 @@
 class ModulePageViews final : public PageViews
 {
 public:
-    explicit ModulePageViews(const QStringList &folders);
+    /// `source` outlives this object.
+    ModulePageViews(const QStringList &folders, PageSource &source);
     ~ModulePageViews() override;
 
     PageEngine *engine() override;
     QString reasonForNone() const override { return m_reason; }
+    PageSource &source() override { return m_source; }
 
 private:
     PageEngine *load();
     QString moduleFile() const;
 
     QStringList m_folders;
+    PageSource &m_source;
     PageEngine *m_engine = nullptr;
     QString m_reason;
 };

@@ -18,6 +18,16 @@ constexpr int WatchesPerPatience = 5;
 constexpr int SlowLoad = 2000; // milliseconds
 constexpr qsizetype LongestMessage = 200;
 
+constexpr int Second = 1000;              // milliseconds
+constexpr int MostOwnNavigations = 10;    // in a second; a page that goes on by itself does so once or twice
+constexpr int MostSlowNavigations = 40;   // in ten seconds, where pages take their time to load
+constexpr int MostFrameNavigations = 300; // in five seconds; a page of many advertisements has fifty frames
+// What a page's scripts report takes memory of the program's own until it is dealt with. An error in every picture of
+// an animation is six hundred in ten seconds.
+constexpr int MostConsoleLines = 1000;      // in ten seconds
+constexpr qsizetype ConsoleLine = 500;      // characters; a longer error counts as several lines
+constexpr qsizetype LongestError = 500'000; // characters; a longer one counts as this
+
 QUrl addressOf(const QString &target)
 {
     if (target.startsWith(u'/'))
@@ -40,7 +50,11 @@ WebBrowser::WebBrowser(PageViews &views, QWidget *parent)
       m_strip(new QFrame(this)),
       m_notice(new QLabel(m_strip)),
       m_again(new QPushButton(QStringLiteral("&Load Again"), m_strip)),
-      m_patience(UsualPatience)
+      m_patience(UsualPatience),
+      m_ownNavigations(MostOwnNavigations, Second),
+      m_slowNavigations(MostSlowNavigations, 10 * Second),
+      m_frameNavigations(MostFrameNavigations, 5 * Second),
+      m_consoleLines(MostConsoleLines, 10 * Second)
 {
     note(QUrl(QStringLiteral("about:blank")));
     setBackgroundRole(QPalette::Base);
@@ -83,6 +97,12 @@ void WebBrowser::note(const QUrl &address)
 
 void WebBrowser::Navigate(const QString &target)
 {
+    m_hasSaidNo = false;
+    Follow(target);
+}
+
+void WebBrowser::Follow(const QString &target)
+{
     note(addressOf(target));
     if (!m_loading)
         load(m_address);
@@ -93,19 +113,21 @@ void WebBrowser::Navigate(const QString &target)
 void WebBrowser::NavigateIfRunning(const QString &target)
 {
     if (m_view)
-        Navigate(target);
+        Follow(target);
     else
         note(addressOf(target));
 }
 
 void WebBrowser::GoBack()
 {
+    m_hasSaidNo = false;
     if (m_view)
         m_view->back();
 }
 
 void WebBrowser::GoForward()
 {
+    m_hasSaidNo = false;
     if (m_view)
         m_view->forward();
 }
@@ -119,6 +141,7 @@ void WebBrowser::Stop()
 
 void WebBrowser::Refresh()
 {
+    m_hasSaidNo = false;
     if (m_view && !m_gone)
         m_view->reload();
     else if (m_view || m_location != u"about:blank")
@@ -184,6 +207,10 @@ void WebBrowser::load(const QUrl &address)
 {
     m_waiting.reset();
     m_strip->hide();
+    m_ownNavigations.forget();
+    m_slowNavigations.forget();
+    m_frameNavigations.forget();
+    m_consoleLines.forget();
     if (!makeView())
         return;
     m_gone = false;
@@ -231,8 +258,7 @@ void WebBrowser::watch()
     if (m_sinceAsked.isValid()) {
         if (!m_sinceAsked.hasExpired(m_patience))
             return;
-        m_stoppedByUs = true;
-        m_view->endPage();
+        stopPage(QStringLiteral("A script of this page did not come to an end, so the page was stopped."));
         return;
     }
     const bool slow = m_sinceStart.hasExpired(SlowLoad);
@@ -252,7 +278,7 @@ void WebBrowser::askPage()
 
 void WebBrowser::pageEnded()
 {
-    const bool endless = std::exchange(m_stoppedByUs, false);
+    const QString whyStopped = std::exchange(m_whyStopped, {});
     m_loading = false;
     m_gone = true;
     m_watch.stop();
@@ -261,8 +287,7 @@ void WebBrowser::pageEnded()
         loadWaiting();
         return;
     }
-    tell(endless ? QStringLiteral("A script of this page did not come to an end, so the page was stopped.")
-                 : QStringLiteral("The page has ended: the process that showed it is gone."),
+    tell(whyStopped.isEmpty() ? QStringLiteral("The page has ended: the process that showed it is gone.") : whyStopped,
          true);
     Q_EMIT navigationFinished();
 }
@@ -282,9 +307,96 @@ void WebBrowser::downloadRefused(const QUrl &address)
     tell(QStringLiteral("This is no page, and is not downloaded: %1").arg(shortened(address.toDisplayString())), false);
 }
 
-bool WebBrowser::maySendForm(const QUrl &where)
+void WebBrowser::navigates(bool inFrame)
 {
-    return m_maySend && m_maySend(where);
+    if (inFrame) {
+        if (m_frameNavigations.happens())
+            stopPage(QStringLiteral("This page loaded frames without end, so it was stopped."));
+        return;
+    }
+    const bool tooFast = m_ownNavigations.happens();
+    if (m_slowNavigations.happens() || tooFast)
+        stopPage(QStringLiteral("This page loaded itself again and again, so it was stopped."));
+}
+
+void WebBrowser::consoleWritten(qsizetype length)
+{
+    bool tooMany = false;
+    for (qsizetype lines = 1 + std::min(length, LongestError) / ConsoleLine; lines > 0; --lines)
+        tooMany = m_consoleLines.happens() || tooMany;
+    if (tooMany)
+        stopPage(QStringLiteral("This page reported errors without end, so it was stopped."));
+}
+
+void WebBrowser::stopPage(const QString &reason)
+{
+    if (!m_whyStopped.isEmpty() || m_gone)
+        return;
+    m_whyStopped = reason;
+    m_view->endPage();
+}
+
+/// Asks from the event loop: the engine waits for an answer of ours, and the page may go on or end while the user
+/// thinks.
+void WebBrowser::formHeldBack(const QUrl &where)
+{
+    if (m_isAsking)
+        return;
+    if (m_hasSaidNo) {
+        tellOfPage(QStringLiteral("Nothing was sent to \"%1\". Load the page again to be asked.").arg(where.host()));
+        return;
+    }
+    m_isAsking = true;
+    QMetaObject::invokeMethod(
+        this, [this, where] { askToSend(where); }, Qt::QueuedConnection);
+}
+
+void WebBrowser::askToSend(const QUrl &where)
+{
+    const QPointer<WebBrowser> self(this);
+    const bool yes = m_maySend && m_maySend(where);
+    if (!self)
+        return;
+    m_isAsking = false;
+    m_hasSaidNo = !yes;
+    if (yes)
+        sendForm(where);
+}
+
+void WebBrowser::sendForm(const QUrl &where)
+{
+    m_view->sendForm([self = QPointer<WebBrowser>(this), host = where.host()](bool sent) {
+        if (self && !sent)
+            self->tellOfPage(QStringLiteral("Nothing was sent to \"%1\": the page has that form no more.").arg(host));
+    });
+}
+
+void WebBrowser::linkRefused(const QUrl &address)
+{
+    tellOfPage(QStringLiteral("The preview does not go there: %1").arg(shortened(address.toDisplayString())));
+}
+
+void WebBrowser::otherHostRefused(const QUrl &)
+{
+    Q_EMIT otherHostsNamed(false);
+}
+
+void WebBrowser::otherHostShown(const QUrl &)
+{
+    Q_EMIT otherHostsNamed(true);
+}
+
+void WebBrowser::fileRefused(const QUrl &address)
+{
+    tellOfPage(QStringLiteral("The preview shows files of the page's own folder and below, so this one is missing: %1")
+                   .arg(shortened(address.toLocalFile())));
+}
+
+/// Tells what the page did, unless something else is on show that the page did not do.
+void WebBrowser::tellOfPage(const QString &notice)
+{
+    if (!m_gone)
+        tell(notice, false);
 }
 
 void WebBrowser::tell(const QString &notice, bool canLoadAgain)

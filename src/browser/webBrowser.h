@@ -1,5 +1,6 @@
 #pragma once
 
+#include "browser/burst.h"
 #include "common/browser.h"
 #include "services/pageView.h"
 
@@ -30,6 +31,7 @@ public:
 
     QString LocationURL() const override { return m_location; }
     void Navigate(const QString &target) override;
+    void Follow(const QString &target) override;
     void NavigateIfRunning(const QString &target) override;
     void GoBack() override;
     void GoForward() override;
@@ -37,7 +39,7 @@ public:
     void Refresh() override;
 
     /// A page is being loaded, or waits for that.
-    bool isLoading() const { return m_loading; }
+    bool isLoading() const { return m_loading || m_isAsking; }
     /// What the strip says; empty while it is hidden.
     QString Notice() const;
     /// Hands over the text of the page on show; at once, and empty, without one.
@@ -46,7 +48,8 @@ public:
     /// logical pixels; nothing if it does not stand there.
     void placeOfText(const QString &text, const std::function<void(const std::optional<QPoint> &)> &taken);
     int ScrollTop() const; ///< how far the page on show is scrolled down, in logical pixels
-    /// Asks whether a page may send a form to a place outside this machine. Without it, none may.
+    /// Asks whether a page may send a form to a place outside this machine, and waits. Without it, none may. A page is
+    /// asked for once: "no" holds until the user loads it anew.
     void setMaySend(std::function<bool(const QUrl &)> maySend) { m_maySend = std::move(maySend); }
 
     /// The user has moved the keyboard to another part of the page's window.
@@ -60,6 +63,8 @@ Q_SIGNALS:
     void navigationStarted();
     void navigationFinished();
     void focusTaken(); ///< the engine has taken the keyboard by itself; whoever had it is to take it back
+    /// The page names pictures, styles or scripts of other hosts, which are shown, or not allowed.
+    void otherHostsNamed(bool shown);
 
 private:
     void loadStarted() override;
@@ -69,7 +74,13 @@ private:
     void closeAsked() override;
     void messageGiven(const QString &message) override;
     void downloadRefused(const QUrl &address) override;
-    bool maySendForm(const QUrl &where) override;
+    void navigates(bool inFrame) override;
+    void consoleWritten(qsizetype length) override;
+    void formHeldBack(const QUrl &where) override;
+    void linkRefused(const QUrl &address) override;
+    void otherHostRefused(const QUrl &address) override;
+    void otherHostShown(const QUrl &address) override;
+    void fileRefused(const QUrl &address) override;
 
     void note(const QUrl &address);
     bool makeView();
@@ -78,7 +89,11 @@ private:
     void loadWaiting();
     void watch();
     void askPage();
+    void askToSend(const QUrl &where);
+    void sendForm(const QUrl &where);
+    void stopPage(const QString &reason);
     void tell(const QString &notice, bool canLoadAgain);
+    void tellOfPage(const QString &notice);
 
     PageViews &m_views;
     std::unique_ptr<PageView> m_view;
@@ -99,5 +114,12 @@ private:
     QElapsedTimer m_sinceStart; ///< of the load under way
     QElapsedTimer m_sinceAsked; ///< valid while the page owes an answer
     int m_patience;             ///< milliseconds
-    bool m_stoppedByUs = false; ///< the page is being ended for its endless script
+    QString m_whyStopped;       ///< the page is being ended, for what it did
+
+    bool m_isAsking = false;  ///< the user is being asked, or about to be
+    bool m_hasSaidNo = false; ///< to this page, which is not asked for again
+    Burst m_ownNavigations;   ///< of the page by itself
+    Burst m_slowNavigations;  ///< the same, looked at over a longer time
+    Burst m_frameNavigations; ///< of its frames
+    Burst m_consoleLines;
 };

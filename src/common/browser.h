@@ -16,7 +16,11 @@ public:
     virtual QString LocationURL() const = 0;
     /// Goes to a native path or a URL. While a page is being loaded, the newest target waits for that to end.
     virtual void Navigate(const QString &target) = 0;
-    /// The same where a page was loaded before; otherwise the target is only noted, for the next Refresh to load.
+    /// The same for a page that comes along with the text by itself: what the user was asked about it is not asked
+    /// anew.
+    virtual void Follow(const QString &target) = 0;
+    /// The same as Follow where a page was loaded before; otherwise the target is only noted, for the next Refresh to
+    /// load.
     virtual void NavigateIfRunning(const QString &target) = 0;
 
     // Without a page, or with nowhere to go, these do nothing.

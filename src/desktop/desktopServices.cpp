@@ -1,6 +1,7 @@
 #include "desktop/desktopServices.h"
 
 #include "browser/modulePageViews.h"
+#include "browser/servedPages.h"
 #include "common/paths.h"
 #include "desktop/desktopClipboard.h"
 #include "desktop/desktopCommonDialogs.h"
@@ -47,7 +48,8 @@ struct DesktopServices::Parts {
     QtTimerSource timers;
     EventModalLoop modalLoop;
     EventYielder yielder;
-    ModulePageViews pageViews{moduleFolders()};
+    ServedPages pages{settings, {appPath}};
+    ModulePageViews pageViews{moduleFolders(), pages};
     ThreadWorker worker;
     XdgFileClasses fileClasses{currentXdgPlaces(), startInBackground};
     Services services{

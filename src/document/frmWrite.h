@@ -5,6 +5,8 @@
 #include "document/undoHistory.h"
 #include "forms/mdiForm.h"
 
+#include <optional>
+
 class CodeAssistant;
 class EditSurface;
 class NoticeBar;
@@ -92,6 +94,8 @@ private:
     void leadFocus();
     void brwWebBrowser_Navigation();
     bool maySendForm(const QUrl &where);
+    void brwWebBrowser_OtherHosts(bool shown);
+    void showOtherHosts(bool shown);
     void restore(const UndoSnapshot &snapshot);
     void take(const TextSelection &selection);
 
@@ -128,6 +132,7 @@ private:
     ViewingPanes *m_panes = nullptr;
     EditSurface *m_edit = nullptr;
     WebBrowser *m_browser = nullptr;
+    std::optional<bool> m_otherHostsTold; ///< what the line above the text has told of them last
     Timer *tmrRefresh = nullptr;
     Timer *tmrUpdateLiveSplitPreview = nullptr;
     Timer *tmrAutoSave = nullptr;

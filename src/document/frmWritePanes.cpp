@@ -1,9 +1,11 @@
 // The two panes of a document window: the source, and the preview that follows it.
+#include "browser/otherHosts.h"
 #include "browser/webBrowser.h"
 #include "common/mainWindow.h"
 #include "document/codeAssistant.h"
 #include "document/frmWrite.h"
 #include "document/modBrowserControl.h"
+#include "document/otherHostsNotice.h"
 #include "document/viewingPanes.h"
 #include "services/messageBoxes.h"
 #include "services/services.h"
@@ -42,6 +44,7 @@ void frmWrite::buildBrowser()
     m_browser->setMaySend([this](const QUrl &where) { return maySendForm(where); });
     connect(m_browser, &WebBrowser::navigationStarted, this, &frmWrite::brwWebBrowser_Navigation);
     connect(m_browser, &WebBrowser::navigationFinished, this, &frmWrite::brwWebBrowser_Navigation);
+    connect(m_browser, &WebBrowser::otherHostsNamed, this, &frmWrite::brwWebBrowser_OtherHosts);
     connect(m_browser, &WebBrowser::focusTaken, m_edit, &EditSurface::SetFocus);
 }
 
@@ -67,6 +70,23 @@ bool frmWrite::maySendForm(const QUrl &where)
                          .buttons = MessageButtons::YesNo,
                          .byEnter = MessageAnswer::No};
     return services().messageBoxes.show(box) == MessageAnswer::Yes;
+}
+
+/// Told once in a window, and once more when it has changed.
+void frmWrite::brwWebBrowser_OtherHosts(bool shown)
+{
+    if (m_unloading || m_otherHostsTold == shown)
+        return;
+    m_otherHostsTold = shown;
+    notices.put(shown ? otherHostsShownNotice([this] { showOtherHosts(false); })
+                      : otherHostsHiddenNotice(!DocSavePath.isEmpty(), [this] { showOtherHosts(true); }));
+}
+
+void frmWrite::showOtherHosts(bool shown)
+{
+    otherHosts::setShown(services().settings, otherHosts::folderOf(DocSavePath), shown);
+    m_otherHostsTold = shown;
+    m_browser->Refresh();
 }
 
 void frmWrite::SplitEditingPreviewWindows()

@@ -1,10 +1,13 @@
 #include "document/modBrowserControl.h"
 
+#include "browser/otherHosts.h"
 #include "common/browser.h"
 #include "common/mainWindow.h"
 #include "common/programState.h"
 #include "forms/programContext.h"
 #include "services/doEvents.h"
+#include "services/pageView.h"
+#include "services/pageViews.h"
 #include "services/services.h"
 #include "services/settings.h"
 #include "storage/documentCopy.h"
@@ -46,6 +49,7 @@ void showCopy(ProgramContext &context, BrowserCommand command)
     DoEvents();
     if (context.mainWindow->activeDocument() != document) // the copy is not the text of the one that is active now
         return;
+    context.services.pageViews.source().setFolderOf(copy.path, otherHosts::folderOf(document->DocSavePath));
     goTo(context, command, copy.path);
     DoEvents();
 }
@@ -75,7 +79,7 @@ void FollowWithLivePreview(ProgramContext &context)
     if (!document)
         return;
     const bool worthIt = document->boolDirty || showsSomething(document->txtEdit().Text());
-    preview(context, worthIt ? &Browser::Navigate : &Browser::NavigateIfRunning);
+    preview(context, worthIt ? &Browser::Follow : &Browser::NavigateIfRunning);
 }
 
 void GoBack(ProgramContext &context)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QByteArray>
+#include <QIODevice>
 #include <QPoint>
 #include <QString>
 #include <QtPlugin>
@@ -13,7 +15,45 @@ class QWidget;
 /// The view of web pages. Its one implementation stands in a module that is loaded with the first page, so these
 /// classes are all that the two have in common; there is nothing in them to link.
 
-/// What a page view tells its owner, from the event loop or from within a call of the owner's.
+/// The scheme of the addresses under which pages are shown. None of them ever gets an address of a file.
+inline constexpr const char *PageScheme = "tagwrighter-page";
+
+/// A page, or something that stands beside one, as the program hands it out.
+struct PagePart {
+    QByteArray type;                  ///< the media type alone: of its characters the page itself tells
+    std::unique_ptr<QIODevice> bytes; ///< open for reading
+};
+
+/// Where pages come from: it says what stands behind their addresses, and what a page may have.
+class PageSource
+{
+public:
+    PageSource() = default;
+    PageSource(const PageSource &) = delete;
+    PageSource &operator=(const PageSource &) = delete;
+    virtual ~PageSource() = default;
+
+    /// The address under which the engine is to show what the program goes to. A file gets one of PageScheme, and may
+    /// be had there from now on; any other address stays as it is.
+    virtual QUrl servedAddress(const QUrl &address) = 0;
+    /// The way back, for the user to read. An address that was never given out stays as it is.
+    virtual QUrl ownAddress(const QUrl &served) const = 0;
+    /// What a page gets at an address of PageScheme; nothing if it may not have it, or if nothing is there.
+    virtual std::optional<PagePart> open(const QUrl &served) = 0;
+    /// Whether something is there, but not for a page that asks for it under this address.
+    virtual bool holdsBack(const QUrl &served) const = 0;
+    /// Whether a page may show pictures, styles and scripts of other hosts.
+    virtual bool showsOtherHosts(const QUrl &served) const = 0;
+
+    /// From now on the page of that path shows this text instead of what its file holds.
+    virtual void setText(const QString &path, const QByteArray &bytes) = 0;
+    virtual void dropText(const QString &path) = 0;
+    /// The page of that path is a copy of one in this folder, and may what pages there may; none where it is empty.
+    virtual void setFolderOf(const QString &copy, const QString &folder) = 0;
+};
+
+/// What a page view tells its owner, from the event loop or from within a call of the owner's. All addresses are the
+/// program's own.
 class PageViewListener
 {
 public:
@@ -27,10 +67,17 @@ public:
     virtual void addressChanged(const QUrl &address) = 0;
     /// The process that runs the page has gone, by itself or by endPage(). The view shows nothing until it loads again.
     virtual void pageEnded() = 0;
-    virtual void closeAsked() = 0;                   ///< the page's script wants its window closed
-    virtual void messageGiven(const QString &) = 0;  ///< the page's script wants the user to read this
-    virtual void downloadRefused(const QUrl &) = 0;  ///< not a page: it would have been saved as a file
-    virtual bool maySendForm(const QUrl &where) = 0; ///< whether the user's input may leave the machine; waits
+    virtual void closeAsked() = 0;                     ///< the page's script wants its window closed
+    virtual void messageGiven(const QString &) = 0;    ///< the page's script wants the user to read this
+    virtual void downloadRefused(const QUrl &) = 0;    ///< not a page: it would have been saved as a file
+    virtual void navigates(bool inFrame) = 0;          ///< the page goes somewhere by itself, or one of its frames does
+    virtual void consoleWritten(qsizetype length) = 0; ///< an error of the page's scripts, so many characters long
+    /// The page wants to send a form out of the machine. It was not sent; PageView::sendForm does it.
+    virtual void formHeldBack(const QUrl &where) = 0;
+    virtual void linkRefused(const QUrl &) = 0;      ///< the page wanted to go to another host, or into a file
+    virtual void otherHostRefused(const QUrl &) = 0; ///< a picture, style or script of another host, not allowed
+    virtual void otherHostShown(const QUrl &) = 0;   ///< the same, allowed
+    virtual void fileRefused(const QUrl &) = 0;      ///< a file that is there, but not for this page
 };
 
 /// One view. Destroying it ends its page.
@@ -59,6 +106,8 @@ public:
     virtual void place(const QString &text, std::function<void(const std::optional<QPoint> &)> taken) = 0;
     /// How far the page is scrolled down, in logical pixels.
     virtual int scrollTop() const = 0;
+    /// Sends the form that was held back last, this once. False if the page has it no more.
+    virtual void sendForm(std::function<void(bool)> sent) = 0;
     /// Ends the process that runs the page, whatever it is doing.
     virtual void endPage() = 0;
 };
@@ -72,11 +121,13 @@ public:
     PageEngine &operator=(const PageEngine &) = delete;
     virtual ~PageEngine() = default;
 
+    /// Where all pages come from, before the first view is made. It outlives them.
+    virtual void setSource(PageSource &source) = 0;
     /// A view without a page. `listener` lives as long as the view.
     virtual std::unique_ptr<PageView> makeView(PageViewListener &listener, QWidget *parent) = 0;
     /// Ends every page there still is; views that outlive this do nothing. Before the application object goes.
     virtual void shutDown() = 0;
 };
 
-#define TAGWRIGHTER_PAGE_ENGINE "tagwrighter.PageEngine/1"
+#define TAGWRIGHTER_PAGE_ENGINE "tagwrighter.PageEngine/2"
 Q_DECLARE_INTERFACE(PageEngine, TAGWRIGHTER_PAGE_ENGINE)

@@ -3,6 +3,7 @@
 #include <QString>
 
 class PageEngine;
+class PageSource;
 
 /// Where the program gets its page views from.
 class PageViews
@@ -17,4 +18,6 @@ public:
     virtual PageEngine *engine() = 0;
     /// Why the last call of engine() gave nothing, for the user to read.
     virtual QString reasonForNone() const = 0;
+    /// Where all pages come from.
+    virtual PageSource &source() = 0;
 };

@@ -1,9 +1,18 @@
 #include "webview/enginePage.h"
 
-EnginePage::EnginePage(QWebEngineProfile &profile, PageViewListener &listener, QObject *parent)
-    : QWebEnginePage(&profile, parent), m_listener(listener)
+#include "webview/pageScripts.h"
+#include "webview/requestGuard.h"
+
+#include <QWebEngineScript>
+#include <QWebEngineScriptCollection>
+
+EnginePage::EnginePage(QWebEngineProfile &profile, RequestGuard &guard, PageSource &source, PageViewListener &listener,
+                       QObject *parent)
+    : QWebEnginePage(&profile, parent), m_guard(guard), m_source(source), m_listener(listener)
 {
     connect(this, &QWebEnginePage::featurePermissionRequested, this, &EnginePage::refuse);
+    connect(this, &QWebEnginePage::loadFinished, this, [this] { m_goesTo.clear(); });
+    scripts().insert({withoutWaysOut(), notesForms()});
 }
 
 void EnginePage::refuse(const QUrl &origin, Feature feature)
@@ -11,11 +20,63 @@ void EnginePage::refuse(const QUrl &origin, Feature feature)
     setFeaturePermission(origin, feature, PermissionDeniedByUser);
 }
 
-bool EnginePage::acceptNavigationRequest(const QUrl &url, NavigationType type, bool)
+void EnginePage::letOwn(const QUrl &address)
 {
-    const bool stays = url.isLocalFile() || url.scheme() == u"about" || url.scheme() == u"data";
-    if (type == NavigationTypeFormSubmitted && !stays)
-        return m_listener.maySendForm(url);
+    m_isOwn = true;
+    m_goesTo = isOnNetwork(address) ? address : QUrl();
+    m_mayBeSent = false;
+}
+
+void EnginePage::sendForm(std::function<void(bool)> sent)
+{
+    m_mayBeSent = true;
+    runJavaScript(sendsForm(m_heldBack), QWebEngineScript::ApplicationWorld,
+                  [sent = std::move(sent)](const QVariant &done) { sent(done.toBool()); });
+}
+
+bool EnginePage::acceptNavigationRequest(const QUrl &url, NavigationType type, bool isMainFrame)
+{
+    const bool isOwn = isMainFrame && std::exchange(m_isOwn, false);
+    if (!isOwn)
+        m_listener.navigates(!isMainFrame);
+    if (isOnNetwork(url))
+        return isMainFrame ? acceptsOnNetwork(url, type, isOwn) : refusesLink(url);
+    if (isOwn)
+        return true;
+    if (url.scheme() == QLatin1String(PageScheme))
+        return acceptsServed(url);
+    if (url.scheme() == u"about" || url.scheme() == u"data" || url.scheme() == u"blob")
+        return true;
+    return refusesLink(url);
+}
+
+bool EnginePage::acceptsServed(const QUrl &address)
+{
+    if (!m_source.holdsBack(address))
+        return true;
+    m_listener.fileRefused(m_source.ownAddress(address));
+    return false;
+}
+
+bool EnginePage::refusesLink(const QUrl &address)
+{
+    m_listener.linkRefused(address);
+    return false;
+}
+
+bool EnginePage::acceptsOnNetwork(const QUrl &address, NavigationType type, bool isOwn)
+{
+    if (type == NavigationTypeFormSubmitted && !std::exchange(m_mayBeSent, false)) {
+        m_heldBack = address;
+        m_listener.formHeldBack(address);
+        return false;
+    }
+    const bool leadsOn = isOwn || type == NavigationTypeRedirect;
+    const QUrl &agreed = type == NavigationTypeFormSubmitted ? m_heldBack : m_goesTo;
+    if (!isSameHost(address, agreed) || !(leadsOn || type == NavigationTypeFormSubmitted))
+        return refusesLink(address);
+    m_goesTo = address;
+    m_guard.letPage(address);
     return true;
 }
 
@@ -47,4 +108,7 @@ bool EnginePage::javaScriptPrompt(const QUrl &, const QString &message, const QS
 }
 
 // The page's author reads its errors in a browser's tools; the program's own output is not the place for them.
-void EnginePage::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString &, int, const QString &) {}
+void EnginePage::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString &message, int, const QString &)
+{
+    m_listener.consoleWritten(message.size());
+}

@@ -2,14 +2,25 @@
 
 #include "services/pageView.h"
 
+#include <QUrl>
 #include <QWebEnginePage>
 
-/// A page whose scripts get nothing from the user but through its owner: no boxes of their own, no windows, no files.
+class RequestGuard;
+
+/// A page whose scripts get nothing from the user but through its owner: no boxes of their own, no windows, no files,
+/// and no way to another host.
 class EnginePage final : public QWebEnginePage
 {
     Q_OBJECT
 public:
-    EnginePage(QWebEngineProfile &profile, PageViewListener &listener, QObject *parent);
+    EnginePage(QWebEngineProfile &profile, RequestGuard &guard, PageSource &source, PageViewListener &listener,
+               QObject *parent);
+
+    /// The owner goes somewhere, as the user wants it: the next navigation is not the page's own.
+    void letOwn(const QUrl &address);
+    /// Sends the form that was held back last; see PageView.
+    void sendForm(std::function<void(bool)> sent);
+    bool isServed() const { return url().scheme() == QLatin1String(PageScheme); }
 
 protected:
     bool acceptNavigationRequest(const QUrl &url, NavigationType type, bool isMainFrame) override;
@@ -23,6 +34,15 @@ protected:
 
 private:
     void refuse(const QUrl &origin, Feature feature);
+    bool acceptsOnNetwork(const QUrl &address, NavigationType type, bool isOwn);
+    bool refusesLink(const QUrl &address);
+    bool acceptsServed(const QUrl &address);
 
+    RequestGuard &m_guard;
+    PageSource &m_source;
     PageViewListener &m_listener;
+    bool m_isOwn = false; ///< the next navigation is the owner's
+    QUrl m_goesTo;        ///< the other host to which the load under way was let
+    QUrl m_heldBack;      ///< where the form that was held back last goes
+    bool m_mayBeSent = false;
 };

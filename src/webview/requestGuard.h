@@ -1,15 +1,37 @@
 #pragma once
 
+#include <QSet>
+#include <QUrl>
 #include <QWebEngineUrlRequestInterceptor>
 
-/// Says which files a page may have. What a page only shows (images, styles, fonts, sounds) and its scripts may stand
-/// anywhere, as sites keep them in folders of their own; what it could read and pass on (frames, data fetched by
-/// script) stands in its own folder or below.
+class PageSource;
+class RefusingProxy;
+
+/// Looks at each request before it is made. Pages have what the program serves them and what they hold themselves;
+/// of other hosts nothing but what the user has allowed, which the proxy is then told to let pass.
 class RequestGuard final : public QWebEngineUrlRequestInterceptor
 {
     Q_OBJECT
 public:
-    using QWebEngineUrlRequestInterceptor::QWebEngineUrlRequestInterceptor;
+    RequestGuard(PageSource &source, RefusingProxy &proxy, QObject *parent);
 
     void interceptRequest(QWebEngineUrlRequestInfo &request) override;
+    /// The user has said that a page may be had from there. Holds until the next page.
+    void letPage(const QUrl &address);
+
+Q_SIGNALS:
+    /// A page names something of another host.
+    void otherHostNamed(const QUrl &page, const QUrl &address, bool shown);
+
+private:
+    bool refuses(const QWebEngineUrlRequestInfo &request);
+    bool refusesOtherHost(const QWebEngineUrlRequestInfo &request);
+
+    PageSource &m_source;
+    RefusingProxy &m_proxy;
+    QUrl m_page; ///< on another host, which may be had
 };
+
+bool isOnNetwork(const QUrl &address);
+/// Whether two addresses are of the same scheme, host and port.
+bool isSameHost(const QUrl &one, const QUrl &other);

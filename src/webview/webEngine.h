@@ -7,6 +7,8 @@
 #include <memory>
 
 class QWebEngineProfile;
+class RefusingProxy;
+class RequestGuard;
 class WebEngineView;
 
 /// The module's root object.
@@ -19,12 +21,17 @@ public:
     WebEngine();
     ~WebEngine() override;
 
+    void setSource(PageSource &source) override { m_source = &source; }
     std::unique_ptr<PageView> makeView(PageViewListener &listener, QWidget *parent) override;
     void shutDown() override;
 
 private:
     void makeProfile();
+    void startEngine();
 
+    PageSource *m_source = nullptr;
+    std::unique_ptr<RefusingProxy> m_proxy;       ///< outlives the profiles: the engine is told of it once
     std::unique_ptr<QWebEngineProfile> m_profile; ///< outlives every page
+    RequestGuard *m_guard = nullptr;              ///< of the profile
     QList<WebEngineView *> m_views;
 };

@@ -2,6 +2,7 @@
 
 #include "webview/enginePage.h"
 
+#include <QAction>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QWebEngineDownloadRequest>
@@ -49,8 +50,12 @@ QString placeScript(const QString &text)
 }
 } // namespace
 
-WebEngineView::WebEngineView(QWebEngineProfile &profile, PageViewListener &listener, QWidget *parent)
-    : m_listener(listener), m_page(new EnginePage(profile, listener, this)), m_view(new QWebEngineView(m_page, parent))
+WebEngineView::WebEngineView(QWebEngineProfile &profile, RequestGuard &guard, PageSource &source,
+                             PageViewListener &listener, QWidget *parent)
+    : m_source(source),
+      m_listener(listener),
+      m_page(new EnginePage(profile, guard, source, listener, this)),
+      m_view(new QWebEngineView(m_page, parent))
 {
     m_view->setContextMenuPolicy(Qt::NoContextMenu); // it would offer to save pages and to show their source
     m_view->setAcceptDrops(false);                   // what is dropped belongs to the editor, or is opened by it
@@ -68,7 +73,8 @@ void WebEngineView::followPage()
 {
     connect(m_page, &QWebEnginePage::loadStarted, this, &WebEngineView::loadStarted);
     connect(m_page, &QWebEnginePage::loadFinished, this, &WebEngineView::loadFinished);
-    connect(m_page, &QWebEnginePage::urlChanged, this, [this](const QUrl &url) { m_listener.addressChanged(url); });
+    connect(m_page, &QWebEnginePage::urlChanged, this,
+            [this](const QUrl &url) { m_listener.addressChanged(m_source.ownAddress(url)); });
     connect(m_page, &QWebEnginePage::renderProcessTerminated, this, &WebEngineView::ended);
     connect(m_page, &QWebEnginePage::windowCloseRequested, this, [this] { m_listener.closeAsked(); });
 }
@@ -92,20 +98,27 @@ void WebEngineView::load(const QUrl &address)
         return;
     m_keepsPlace = m_page->url() == m_loaded;
     m_place = m_page->scrollPosition();
-    m_loaded = address;
-    m_page->setUrl(address);
+    m_loaded = m_source.servedAddress(address);
+    m_page->letOwn(m_loaded);
+    m_page->setUrl(m_loaded);
 }
 
 void WebEngineView::back()
 {
-    if (m_page)
-        m_page->triggerAction(QWebEnginePage::Back);
+    goByHistory(QWebEnginePage::Back);
 }
 
 void WebEngineView::forward()
 {
-    if (m_page)
-        m_page->triggerAction(QWebEnginePage::Forward);
+    goByHistory(QWebEnginePage::Forward);
+}
+
+void WebEngineView::goByHistory(QWebEnginePage::WebAction action)
+{
+    if (!m_page || !m_page->action(action)->isEnabled())
+        return;
+    m_page->letOwn({});
+    m_page->triggerAction(action);
 }
 
 void WebEngineView::stop()
@@ -116,8 +129,10 @@ void WebEngineView::stop()
 
 void WebEngineView::reload()
 {
-    if (m_page)
-        m_page->triggerAction(QWebEnginePage::Reload);
+    if (!m_page)
+        return;
+    m_page->letOwn(m_page->url());
+    m_page->triggerAction(QWebEnginePage::Reload);
 }
 
 void WebEngineView::ask(std::function<void()> answered)
@@ -153,6 +168,12 @@ void WebEngineView::place(const QString &text, std::function<void(const std::opt
 int WebEngineView::scrollTop() const
 {
     return m_page ? qRound(m_page->scrollPosition().y()) : 0;
+}
+
+void WebEngineView::sendForm(std::function<void(bool)> sent)
+{
+    if (m_page)
+        m_page->sendForm(std::move(sent));
 }
 
 void WebEngineView::endPage()
@@ -201,5 +222,21 @@ void WebEngineView::ended()
 void WebEngineView::tellDownload(const QWebEngineDownloadRequest &download)
 {
     if (download.page() == m_page)
-        m_listener.downloadRefused(download.url());
+        m_listener.downloadRefused(m_source.ownAddress(download.url()));
+}
+
+void WebEngineView::tellOtherHost(const QUrl &page, const QUrl &address, bool shown)
+{
+    if (!m_page || m_page->url() != page)
+        return;
+    if (shown)
+        m_listener.otherHostShown(address);
+    else
+        m_listener.otherHostRefused(address);
+}
+
+void WebEngineView::tellHeldBack(const QUrl &page, const QUrl &address)
+{
+    if (m_page && m_page->isServed() && m_page->url().host() == page.host())
+        m_listener.fileRefused(m_source.ownAddress(address));
 }

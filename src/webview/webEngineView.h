@@ -6,18 +6,21 @@
 #include <QPointF>
 #include <QPointer>
 #include <QUrl>
+#include <QWebEnginePage>
 
 class EnginePage;
 class QWebEngineDownloadRequest;
 class QWebEngineProfile;
 class QWebEngineView;
+class RequestGuard;
 
 /// One page and the widget that shows it.
 class WebEngineView final : public QObject, public PageView
 {
     Q_OBJECT
 public:
-    WebEngineView(QWebEngineProfile &profile, PageViewListener &listener, QWidget *parent);
+    WebEngineView(QWebEngineProfile &profile, RequestGuard &guard, PageSource &source, PageViewListener &listener,
+                  QWidget *parent);
     ~WebEngineView() override;
 
     /// Called once when this view goes.
@@ -25,6 +28,8 @@ public:
     /// Ends the page and takes the widget away; what comes after that does nothing.
     void end();
     void tellDownload(const QWebEngineDownloadRequest &download);
+    void tellOtherHost(const QUrl &page, const QUrl &address, bool shown);
+    void tellHeldBack(const QUrl &page, const QUrl &address);
 
     QWidget *widget() override;
     void load(const QUrl &address) override;
@@ -36,20 +41,23 @@ public:
     void text(std::function<void(const QString &)> taken) override;
     void place(const QString &text, std::function<void(const std::optional<QPoint> &)> taken) override;
     int scrollTop() const override;
+    void sendForm(std::function<void(bool)> sent) override;
     void endPage() override;
 
 private:
     void followPage();
+    void goByHistory(QWebEnginePage::WebAction action);
     void loadStarted();
     void loadFinished();
     void ended();
     void restorePlace();
 
+    PageSource &m_source;
     PageViewListener &m_listener;
     std::function<void(WebEngineView *)> m_forget;
     QPointer<EnginePage> m_page;
     QPointer<QWebEngineView> m_view;
-    QUrl m_loaded;             ///< what the owner asked for last
+    QUrl m_loaded;             ///< what the owner asked for last, as it is served
     QPointF m_place;           ///< where the page before was scrolled to
     bool m_keepsPlace = false; ///< the load under way is to be scrolled there
     bool m_ended = false;      ///< the page's process has gone and nothing was loaded since

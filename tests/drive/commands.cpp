@@ -9,7 +9,7 @@ namespace
 std::vector<std::span<const Command>> allTables()
 {
     return {lifeCommands(),    menuCommands(), inputCommands(),  controlCommands(), answerCommands(),
-            compareCommands(), lookCommands(), recordCommands(), fileCommands()};
+            compareCommands(), lookCommands(), recordCommands(), fileCommands(),    otherHostCommands()};
 }
 
 QString countOf(const Command &command)

@@ -26,6 +26,7 @@ std::span<const Command> lookCommands();
 std::span<const Command> recordCommands();
 std::span<const Command> compareCommands();
 std::span<const Command> fileCommands();
+std::span<const Command> otherHostCommands();
 
 /// Nothing if there is no such command.
 const Command *commandNamed(const QString &name);

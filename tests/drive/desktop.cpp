@@ -153,7 +153,8 @@ Desktop::Desktop(Referee &referee, const World &world)
       m_settings(settingsFolder()),
       // The desktop's own tools are left alone: what they make of the registered files is not the program's.
       m_fileClasses(currentXdgPlaces(), [](const QString &, const QStringList &) {}),
-      m_pageViews(moduleFolders()),
+      m_pages(m_settings, {world.app()}),
+      m_pageViews(moduleFolders(), m_pages),
       m_services{
           .messageBoxes = boxes,
           .commonDialogs = dialogs,
@@ -217,5 +218,10 @@ void Desktop::take(const CarriedOver &carried)
     help.shown.set(carried.help);
     if (carried.disk)
         limitDisk(carried.disk->folder, carried.disk->bytes);
+}
+
+QString Desktop::expanded(QString text) const
+{
+    return otherHost ? text.replace(QStringLiteral("%OTHERHOST%"), otherHost->name()) : text;
 }
 } // namespace drive

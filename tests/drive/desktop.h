@@ -1,9 +1,11 @@
 #pragma once
 
 #include "browser/modulePageViews.h"
+#include "browser/servedPages.h"
 #include "desktop/desktopClipboard.h"
 #include "desktop/xdgFileClasses.h"
 #include "drive/answers.h"
+#include "drive/otherHost.h"
 #include "drive/scriptedTimers.h"
 #include "services/clock.h"
 #include "services/helpViewer.h"
@@ -145,6 +147,8 @@ public:
     Desktop(Referee &referee, const World &world);
 
     Services &services() { return m_services; }
+    /// The text with the marks of what runs beside the program replaced, %OTHERHOST%.
+    QString expanded(QString text) const;
 
     void seed(quint32 value);
     /// What of it outlives the program's process.
@@ -165,6 +169,7 @@ public:
     ScriptedYielder yielder;
     Random random{FirstSeed};
     ScriptedTimers timers;
+    std::unique_ptr<OtherHost> otherHost; ///< once the script has started it
 
 private:
     static constexpr quint32 FirstSeed = 1;
@@ -172,6 +177,7 @@ private:
     SettingsFiles m_settings;
     DesktopClipboard m_clipboard;
     XdgFileClasses m_fileClasses;
+    ServedPages m_pages;
     ModulePageViews m_pageViews;
     InlineWorker m_worker; // nothing happens by itself in a script
     Services m_services;

@@ -94,7 +94,7 @@ void Stage::playLine(const Line &line)
     referee.enterLine(line.number);
     Line call = line;
     for (QString &word : call.words)
-        word = world.expanded(word);
+        word = desktop.expanded(world.expanded(word));
     insideEvent([&] { commandNamed(call.command)->run(*this, call); });
 }
 

@@ -1,5 +1,7 @@
 #include "browser/modulePageViews.h"
 
+#include "unit/support/noPages.h"
+
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -28,7 +30,8 @@ private:
 TEST(ModulePageViews, SayWhichPartIsNotInstalled)
 {
     const QTemporaryDir empty;
-    ModulePageViews views({empty.path(), empty.filePath(QStringLiteral("none"))});
+    NoPages pages;
+    ModulePageViews views({empty.path(), empty.filePath(QStringLiteral("none"))}, pages);
     EXPECT_EQ(views.engine(), nullptr);
     EXPECT_EQ(views.reasonForNone(),
               QStringLiteral("There is no preview: the program's part tagwrighter-webview.so is not installed."));
@@ -41,7 +44,8 @@ TEST(ModulePageViews, SayWhyAModuleCannotBeLoaded)
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("no module");
     file.close();
-    ModulePageViews views({folder.path()});
+    NoPages pages;
+    ModulePageViews views({folder.path()}, pages);
     EXPECT_EQ(views.engine(), nullptr);
     EXPECT_TRUE(views.reasonForNone().startsWith(QStringLiteral("There is no preview: ")))
         << qPrintable(views.reasonForNone());
@@ -51,7 +55,8 @@ TEST(ModulePageViews, SayWhyAModuleCannotBeLoaded)
 
 TEST(ModulePageViews, AreThereWhereTheModuleIs)
 {
-    ModulePageViews views(moduleFolders());
+    NoPages pages;
+    ModulePageViews views(moduleFolders(), pages);
     PageEngine *engine = views.engine();
     ASSERT_NE(engine, nullptr) << qPrintable(views.reasonForNone());
     EXPECT_EQ(views.engine(), engine);

@@ -1,5 +1,6 @@
 #include "browser/webBrowser.h"
 #include "services/pageViews.h"
+#include "unit/support/noPages.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -18,6 +19,7 @@ struct Page {
     PageViewListener *listener = nullptr;
     QWidget *widget = nullptr;
     bool answers = true;
+    bool hasForm = true;
 
     void finish()
     {
@@ -53,6 +55,11 @@ public:
         taken(text == QStringLiteral("text") ? std::optional(QPoint(10, 20)) : std::nullopt);
     }
     int scrollTop() const override { return 30; }
+    void sendForm(std::function<void(bool)> sent) override
+    {
+        m_page.calls << QStringLiteral("send");
+        sent(m_page.hasForm);
+    }
     void endPage() override { m_page.calls << QStringLiteral("end"); }
 
 private:
@@ -62,6 +69,8 @@ private:
 class PretendedViews final : public PageViews, public PageEngine
 {
 public:
+    PageSource &source() override { return m_source; }
+    void setSource(PageSource &) override {}
     PageEngine *engine() override
     {
         ++asked;
@@ -77,6 +86,9 @@ public:
     Page page;
     bool isThere = true;
     int asked = 0;
+
+private:
+    NoPages m_source;
 };
 
 class WebBrowserTest : public testing::Test
@@ -334,17 +346,167 @@ TEST_F(WebBrowserTest, ShowsWhatThePageSaysInOneShortPlainLine)
     EXPECT_EQ(strip(), QString());
 }
 
+const QUrl Elsewhere(QStringLiteral("http://example.org/take"));
+
 TEST_F(WebBrowserTest, SendsNoFormUnlessItIsLet)
 {
     browser.Navigate(file("a.htm"));
-    const QUrl where(QStringLiteral("http://example.org/take"));
-    EXPECT_FALSE(page.listener->maySendForm(where));
+    page.finish();
+    page.taken();
+    page.listener->formHeldBack(Elsewhere);
+    EXPECT_TRUE(browser.isLoading()) << "until the question was answered";
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !browser.isLoading(); }));
+    EXPECT_THAT(page.taken(), IsEmpty());
     QStringList asked;
     browser.setMaySend([&asked](const QUrl &url) {
         asked << url.host();
         return true;
     });
-    EXPECT_TRUE(page.listener->maySendForm(where));
+    browser.Refresh();
+    page.finish();
+    page.taken();
+    page.listener->formHeldBack(Elsewhere);
+    EXPECT_THAT(asked, IsEmpty()) << "the engine waits for an end of the call";
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !page.calls.isEmpty(); }));
+    EXPECT_THAT(page.taken(), ElementsAre(QStringLiteral("send")));
     EXPECT_THAT(asked, ElementsAre(QStringLiteral("example.org")));
+    EXPECT_EQ(strip(), QString());
+}
+
+TEST_F(WebBrowserTest, AsksOnceUntilTheUserLoadsThePageAnew)
+{
+    int asked = 0;
+    browser.setMaySend([&asked](const QUrl &) {
+        ++asked;
+        return false;
+    });
+    const auto sends = [&] {
+        page.listener->formHeldBack(Elsewhere);
+        page.listener->formHeldBack(Elsewhere);
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !browser.isLoading(); }));
+        page.listener->formHeldBack(Elsewhere);
+        EXPECT_EQ(strip(), QStringLiteral("Nothing was sent to \"example.org\". Load the page again to be asked."));
+        return asked;
+    };
+    browser.Navigate(file("a.htm"));
+    page.finish();
+    EXPECT_EQ(sends(), 1);
+    page.finish(); // the page itself goes on
+    EXPECT_EQ(sends(), 1);
+    browser.Follow(file("a.htm")); // the text has changed
+    page.finish();
+    EXPECT_EQ(sends(), 1);
+    browser.Refresh();
+    page.finish();
+    EXPECT_EQ(sends(), 2);
+    browser.Navigate(file("a.htm"));
+    page.finish();
+    EXPECT_EQ(sends(), 3);
+    browser.GoBack();
+    page.finish();
+    EXPECT_EQ(sends(), 4);
+    EXPECT_THAT(page.taken(), testing::Not(testing::Contains(QStringLiteral("send"))));
+}
+
+TEST_F(WebBrowserTest, SaysThatAFormWasNotSentAfterAll)
+{
+    page.hasForm = false;
+    browser.setMaySend([](const QUrl &) { return true; });
+    browser.Navigate(file("a.htm"));
+    page.finish();
+    page.listener->formHeldBack(Elsewhere);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !browser.isLoading(); }));
+    EXPECT_EQ(strip(), QStringLiteral("Nothing was sent to \"example.org\": the page has that form no more."));
+}
+
+TEST_F(WebBrowserTest, CanGoWhileTheUserIsAsked)
+{
+    auto *gone = new WebBrowser(views);
+    gone->setMaySend([&gone](const QUrl &) {
+        delete std::exchange(gone, nullptr);
+        return true;
+    });
+    gone->Navigate(file("a.htm"));
+    page.taken();
+    page.listener->formHeldBack(Elsewhere);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !gone; }));
+    EXPECT_THAT(page.taken(), IsEmpty());
+}
+
+TEST_F(WebBrowserTest, StopsAPageThatLoadsItselfTheTenthTimeWithinASecond)
+{
+    browser.Navigate(file("a.htm"));
+    page.finish();
+    page.taken();
+    for (int i = 0; i < 9; ++i)
+        page.listener->navigates(false);
+    EXPECT_THAT(page.taken(), IsEmpty());
+    page.listener->navigates(false);
+    page.listener->navigates(false);
+    EXPECT_THAT(page.taken(), ElementsAre(QStringLiteral("end")));
+    page.listener->pageEnded();
+    EXPECT_EQ(strip(), QStringLiteral("This page loaded itself again and again, so it was stopped."));
+    EXPECT_TRUE(again()->isVisible());
+    again()->click();
+    page.finish();
+    page.taken();
+    for (int i = 0; i < 9; ++i)
+        page.listener->navigates(false);
+    EXPECT_THAT(page.taken(), IsEmpty()) << "the user's own loading begins a new count";
+}
+
+TEST_F(WebBrowserTest, StopsAPageThatLoadsFramesWithoutEnd)
+{
+    browser.Navigate(file("a.htm"));
+    page.finish();
+    page.taken();
+    for (int i = 0; i < 299; ++i)
+        page.listener->navigates(true);
+    EXPECT_THAT(page.taken(), IsEmpty());
+    page.listener->navigates(true);
+    EXPECT_THAT(page.taken(), ElementsAre(QStringLiteral("end")));
+    page.listener->pageEnded();
+    EXPECT_EQ(strip(), QStringLiteral("This page loaded frames without end, so it was stopped."));
+}
+
+TEST_F(WebBrowserTest, StopsAPageThatReportsErrorsWithoutEnd)
+{
+    browser.Navigate(file("a.htm"));
+    page.finish();
+    page.taken();
+    for (int i = 0; i < 999; ++i)
+        page.listener->consoleWritten(499);
+    EXPECT_THAT(page.taken(), IsEmpty());
+    page.listener->consoleWritten(499);
+    EXPECT_THAT(page.taken(), ElementsAre(QStringLiteral("end")));
+    page.listener->pageEnded();
+    EXPECT_EQ(strip(), QStringLiteral("This page reported errors without end, so it was stopped."));
+    browser.Refresh();
+    page.finish();
+    page.taken();
+    page.listener->consoleWritten(499'499); // 999 lines' worth
+    EXPECT_THAT(page.taken(), IsEmpty());
+    page.listener->consoleWritten(1);
+    EXPECT_THAT(page.taken(), ElementsAre(QStringLiteral("end")));
+}
+
+TEST_F(WebBrowserTest, SaysWhatAPageWasRefused)
+{
+    browser.Navigate(file("a.htm"));
+    page.finish();
+    page.listener->linkRefused(QUrl(QStringLiteral("http://example.org/x")));
+    EXPECT_EQ(strip(), QStringLiteral("The preview does not go there: http://example.org/x"));
+    page.listener->fileRefused(QUrl(QStringLiteral("file:///site/up.css")));
+    EXPECT_EQ(strip(), QStringLiteral("The preview shows files of the page's own folder and below, so this one is "
+                                      "missing: /site/up.css"));
+    const QSignalSpy named(&browser, &WebBrowser::otherHostsNamed);
+    page.listener->otherHostRefused(Elsewhere);
+    page.listener->otherHostShown(Elsewhere);
+    ASSERT_EQ(named.count(), 2);
+    EXPECT_FALSE(named[0][0].toBool());
+    EXPECT_TRUE(named[1][0].toBool());
+    page.listener->pageEnded();
+    page.listener->linkRefused(QUrl(QStringLiteral("http://example.org/x")));
+    EXPECT_EQ(strip(), QStringLiteral("The page has ended: the process that showed it is gone."));
 }
 } // namespace

@@ -22,7 +22,7 @@ namespace
 class CountedViews final : public PageViews
 {
 public:
-    explicit CountedViews(const QString &folder) : m_views({folder}) {}
+    CountedViews(const QString &folder, PageSource &source) : m_views({folder}, source) {}
 
     PageEngine *engine() override
     {
@@ -30,6 +30,7 @@ public:
         return m_views.engine();
     }
     QString reasonForNone() const override { return m_views.reasonForNone(); }
+    PageSource &source() override { return m_views.source(); }
 
     int asked = 0;
 
@@ -54,7 +55,7 @@ protected:
         desktop = std::make_unique<DesktopServices>();
         Services &real = desktop->services();
         settings::write(real.settings, settings::WelcomeScreen, QStringLiteral("false"));
-        views = std::make_unique<CountedViews>(home.path());
+        views = std::make_unique<CountedViews>(home.path(), real.pageViews.source());
         services.reset(new Services{
             .messageBoxes = real.messageBoxes,
             .commonDialogs = real.commonDialogs,

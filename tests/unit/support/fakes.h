@@ -24,6 +24,7 @@
 #include "storage/localFileSystem.h"
 #include "surface/editSurface.h"
 #include "unit/support/memorySettings.h"
+#include "unit/support/noPages.h"
 #include "widgets/screenPointer.h"
 
 #include <QPoint>
@@ -237,6 +238,10 @@ class NoPageViews final : public PageViews
 public:
     PageEngine *engine() override { return nullptr; }
     QString reasonForNone() const override { return {}; }
+    PageSource &source() override { return m_source; }
+
+private:
+    NoPages m_source;
 };
 
 /// Hands a form that is shown modally to the test.
