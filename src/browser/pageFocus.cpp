@@ -16,15 +16,21 @@ bool isByUser(Qt::FocusReason reason)
 PageFocus::PageFocus(QWidget &view) : QObject(&view)
 {
     view.installEventFilter(this);
-    const auto inner = view.findChildren<QWidget *>();
+    watchAll();
+}
+
+void PageFocus::watchAll()
+{
+    const auto inner = parent()->findChildren<QWidget *>();
     for (QWidget *widget : inner)
         widget->installEventFilter(this);
 }
 
 bool PageFocus::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::ChildAdded && static_cast<QChildEvent *>(event)->child()->isWidgetType())
-        static_cast<QChildEvent *>(event)->child()->installEventFilter(this);
+    // What is added may bring parts of its own, and is no whole widget yet.
+    if (event->type() == QEvent::ChildAdded)
+        QMetaObject::invokeMethod(this, &PageFocus::watchAll, Qt::QueuedConnection);
     if (event->type() == QEvent::FocusIn)
         focusCame(static_cast<QFocusEvent *>(event)->reason());
     return QObject::eventFilter(watched, event);

@@ -13,6 +13,8 @@ public:
     /// Watches the view's widget and those that the engine puts into it.
     explicit PageFocus(QWidget &view);
 
+    /// The user has put the keyboard into the page and not moved it elsewhere in the window since.
+    bool isHeld() const { return m_held; }
     /// The user has left the page for another part of its window.
     void release() { m_held = false; }
 
@@ -23,6 +25,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void watchAll();
     void focusCame(Qt::FocusReason reason);
 
     bool m_held = false; ///< the user has put the keyboard into the page, where it comes back to with the window

@@ -173,6 +173,11 @@ int WebBrowser::ScrollTop() const
     return m_view && !m_gone ? m_view->scrollTop() : 0;
 }
 
+bool WebBrowser::isFocusHeld() const
+{
+    return m_focus && m_focus->isHeld();
+}
+
 void WebBrowser::releaseFocus()
 {
     if (m_focus)

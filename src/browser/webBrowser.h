@@ -52,6 +52,8 @@ public:
     /// asked for once: "no" holds until the user loads it anew.
     void setMaySend(std::function<bool(const QUrl &)> maySend) { m_maySend = std::move(maySend); }
 
+    /// The user has put the keyboard into the page and not moved it elsewhere in its window since.
+    bool isFocusHeld() const;
     /// The user has moved the keyboard to another part of the page's window.
     void releaseFocus();
 

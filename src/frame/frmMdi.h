@@ -9,6 +9,7 @@
 
 class CodeLibraries;
 class CoolBar;
+class DocumentSwitch;
 class InputGate;
 class MainCommands;
 class ProjectFileCtrl;
@@ -156,6 +157,7 @@ private:
     QStatusBar *StatusBar1 = nullptr;
     QLabel *m_message = nullptr;
     QLabel *m_format = nullptr;
+    DocumentSwitch *m_documentSwitch = nullptr;
     Timer *tmrResetBar = nullptr;
     std::optional<QPoint> m_insertBarMouse; ///< where it went down on the first button, in the client area
     bool m_fontTyped = false;               ///< a face was typed into cboFont and not yet taken

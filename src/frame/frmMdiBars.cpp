@@ -3,6 +3,7 @@
 
 #include "document/structureTree.h"
 #include "files/modRecentFiles.h"
+#include "frame/documentSwitch.h"
 #include "frame/frmMdiBands.h"
 #include "frame/frmMdiCommands.h"
 #include "frame/frmMdiPane.h"
@@ -132,7 +133,7 @@ void frmMdi::showRecentFiles(const QStringList &captions)
 {
     bool any = false;
     for (int slot = 1; slot <= RecentFileCount; ++slot) {
-        QAction *entry = m_commands->action(controlName(QStringLiteral("mnuRecentFile"), slot));
+        QAction *entry = m_commands->recentFiles()[slot - 1];
         const QString caption = captions.value(slot - 1);
         entry->setText(QString(caption).replace(u'&', QStringLiteral("&&")));
         entry->setVisible(!caption.isEmpty());
@@ -145,11 +146,13 @@ void frmMdi::addDocumentTab(const QString &key, const QString &caption)
 {
     if (tabDocSel->addKeyedTab(key, caption, programIcon(QStringLiteral("file-code"))))
         tabDocSel->setTabToolTip(tabDocSel->count() - 1, caption);
+    m_documentSwitch->list();
 }
 
 void frmMdi::removeDocumentTab(const QString &key)
 {
     tabDocSel->removeKeyedTab(key);
+    m_documentSwitch->list();
 }
 
 void frmMdi::selectDocumentTab(const QString &key)

@@ -4,8 +4,11 @@
 #include "common/fileCommands.h"
 #include "forms/formRuntime.h"
 #include "forms/inputGate.h"
+#include "frame/documentMarks.h"
+#include "frame/documentSwitch.h"
 #include "frame/frmMdiCommands.h"
 #include "frame/frmMdiPane.h"
+#include "frame/numberedEntries.h"
 #include "insertion/modFontTags.h"
 #include "project/fileReference.h"
 #include "project/localPage.h"
@@ -58,6 +61,10 @@ void frmMdi::buildControls()
     buildDocumentSelector();
     buildStatusBar();
     layOut();
+    m_documentSwitch =
+        new DocumentSwitch(*window(), *m_commands->menu(QStringLiteral("mnuWindow")), context().forms, *this);
+    numberEntries(*m_commands->menu(QStringLiteral("mnuFile")), m_commands->recentFiles());
+    new DocumentMarks(*window(), *tabDocSel, *this);
     window()->resize(DesignSize);
 }
 

@@ -101,7 +101,8 @@ void MainCommands::mnuExit_Click()
 
 void MainCommands::newBlankDocument()
 {
-    NewBlankDocument(m_context);
+    if (!NewBlankDocument(m_context)) // the active document is another one then
+        return;
     FillBlankDocument(m_context);
     if (Document *active = document()) {
         active->DocSelUpdate(QString());

@@ -29,6 +29,7 @@ public:
     QAction *action(const QString &name) const { return m_actions.value(name); }
     QToolBar *toolBar(const QString &name) const { return m_toolBars.value(name); }
     QMenu *menu(const QString &name) const;
+    QList<QAction *> recentFiles() const; ///< the entries of the File menu, the newest file's first
     /// Enables the entries of the edit surface's pop-up menu that act on a selection, as it opens at the mouse.
     void enableSelectionEntries();
 
@@ -117,6 +118,7 @@ private:
     void enable(const QString &name, const CommandAction &action, Needs needs);
     /// All commands, or those alone that need one thing.
     void enableAll(std::optional<Needs> those = {});
+    bool takesCommands() const;
     void run(const CommandAction &action);
     void wrapSelection(const CommandAction &action);
 

@@ -18,6 +18,7 @@
 #include "widgets/controls.h"
 #include "widgets/coolBar.h"
 #include "widgets/nodeTree.h"
+#include "widgets/screenPlace.h"
 #include "widgets/sidePane.h"
 #include "widgets/tabStrip.h"
 
@@ -161,12 +162,10 @@ void frmMdi::restorePlacement()
         return;
     }
     const auto pixels = [&store](const settings::Key &key) { return qRound(settings::read(store, key).toDouble()); };
-    const int top = pixels(settings::WinTop);
-    const int left = pixels(settings::WinLeft);
-    const int height = pixels(settings::WinHeight);
-    const int width = pixels(settings::WinWidth);
-    window()->move(left, top);
-    window()->resize(width, height);
+    const QRect place(pixels(settings::WinLeft), pixels(settings::WinTop), pixels(settings::WinWidth),
+                      pixels(settings::WinHeight));
+    window()->resize(place.size());
+    window()->move(reachablePlace(place, screenRooms()).topLeft());
 }
 
 void frmMdi::picAddress_Resize()
@@ -186,8 +185,8 @@ void frmMdi::decideWelcome()
 {
     Document *opened = m_commandLine.isEmpty() ? nullptr : activeDocument();
     if (!settings::isOn(services().settings, settings::WelcomeScreen)) {
-        NewBlankDocument(context());
-        FillBlankDocument(context());
+        if (NewBlankDocument(context()))
+            FillBlankDocument(context());
         setEnabled(true);
         if (Document *document = activeDocument())
             document->txtEdit().SetFocus();

@@ -1,19 +1,23 @@
 // The making of the main window's menus and toolbars, and their enabling.
+#include "files/modRecentFiles.h"
 #include "forms/form.h"
 #include "forms/formRuntime.h"
 #include "frame/frmMdi.h"
 #include "frame/frmMdiCommands.h"
 #include "services/services.h"
 #include "services/settings.h"
+#include "widgets/controlName.h"
 #include "widgets/programIcon.h"
 
 #include <QAction>
+#include <QGuiApplication>
 #include <QLayout>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QToolBar>
 #include <QToolButton>
+#include <QWindow>
 
 namespace
 {
@@ -59,6 +63,14 @@ QMenu *MainCommands::menu(const QString &name) const
 {
     const QAction *head = action(name);
     return head ? head->menu<QMenu *>() : nullptr;
+}
+
+QList<QAction *> MainCommands::recentFiles() const
+{
+    QList<QAction *> entries;
+    for (int slot = 1; slot <= RecentFileCount; ++slot)
+        entries.append(action(controlName(QStringLiteral("mnuRecentFile"), slot)));
+    return entries;
 }
 
 QAction *MainCommands::makeMenu(QMainWindow &window, const MenuCommand &command)
@@ -252,8 +264,17 @@ void MainCommands::mnuPopup_Open()
     copyState("mnuPopupRedo", "mnuRedo");
 }
 
+/// A global menu of the desktop, or a tool for the disabled, chooses commands past every filter of input.
+bool MainCommands::takesCommands() const
+{
+    const QWindow *modal = QGuiApplication::modalWindow();
+    return m_form.Enabled() && (!modal || modal == m_form.window()->windowHandle());
+}
+
 void MainCommands::run(const CommandAction &action)
 {
+    if (!takesCommands())
+        return;
     switch (action.kind) {
     case Kind::Run:
         (this->*action.run)();

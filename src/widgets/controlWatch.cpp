@@ -32,11 +32,14 @@ QLineEdit *lineEditOf(QWidget *control)
     return combo ? combo->lineEdit() : nullptr;
 }
 
-/// Keys with Ctrl are commands, such as Paste, and no characters.
+/// Keys with Ctrl or Alt are commands, such as Paste, and no characters; some input sources send the letter with them.
+/// Both together make the third sign of a key on many keyboards.
 bool isRefused(const QKeyEvent &key)
 {
-    const QString typed = key.modifiers() & Qt::ControlModifier ? QString() : key.text();
-    return !typed.isEmpty() && typed[0].isPrint() && (typed[0] < u'0' || typed[0] > u'9');
+    const QString typed = key.text();
+    const auto held = key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    const bool isCommand = held && held != (Qt::ControlModifier | Qt::AltModifier);
+    return !isCommand && !typed.isEmpty() && typed[0].isPrint() && (typed[0] < u'0' || typed[0] > u'9');
 }
 /// The list of a combo and the menu of a text box have the focus only for as long as they are open.
 bool isOfPopup(const QEvent &focus)

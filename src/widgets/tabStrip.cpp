@@ -56,6 +56,16 @@ std::optional<int> TabStrip::find(const QString &key) const
     return {};
 }
 
+/// Where there is no room for all, the long names give way first; a short one stays whole.
+QSize TabStrip::minimumTabSizeHint(int tab) const
+{
+    constexpr int KeptCharacters = 12;
+    const QSize whole = tabSizeHint(tab);
+    const int name = fontMetrics().horizontalAdvance(tabText(tab));
+    const int kept = fontMetrics().horizontalAdvance(u'n') * KeptCharacters;
+    return {whole.width() - qMax(0, name - kept), whole.height()};
+}
+
 void TabStrip::mouseReleaseEvent(QMouseEvent *event)
 {
     const int tab = tabAt(event->position().toPoint());

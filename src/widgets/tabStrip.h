@@ -23,6 +23,7 @@ Q_SIGNALS:
     void tabClicked(int tab);
 
 protected:
+    QSize minimumTabSizeHint(int tab) const override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;

@@ -301,3 +301,20 @@ TEST_F(MainWindowTest, theFileFormatStandsBesideTheMessage)
     mdi.SetStatusText(QStringLiteral("<b>plain</b>"));
     EXPECT_EQ(mdi.statusText(), QStringLiteral("<b>plain</b>"));
 }
+
+// A global menu of the desktop triggers actions past every filter of input.
+TEST_F(MainWindowTest, CommandsDoNothingWhileTheWindowIsDisabledWhateverWayTheyCome)
+{
+    frmMdi &form = start();
+    const qsizetype open = form.openDocuments().size();
+    form.setEnabled(false);
+    for (const char *name : {"tbrMain(New)", "mnuExit", "mnuSelectAll"})
+        control<QAction>(name).trigger();
+    settle();
+    EXPECT_EQ(form.openDocuments().size(), open);
+    EXPECT_FALSE(application->hasEnded());
+    form.setEnabled(true);
+    control<QAction>("tbrMain(New)").trigger();
+    settle();
+    EXPECT_EQ(form.openDocuments().size(), open + 1);
+}

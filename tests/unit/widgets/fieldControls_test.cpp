@@ -81,6 +81,18 @@ TEST(NumberField, TakesDigitsFromTheKeyboardOnly)
     EXPECT_EQ(field.text(), str("ab"));
 }
 
+// Some input sources send the letter along with the command that it stands for.
+TEST(NumberField, TakesAKeyWithCtrlAsTheCommandThatItIs)
+{
+    NumberField field(3);
+    field.setText(QStringLiteral("12"));
+    QTest::sendKeyEvent(QTest::Click, &field, Qt::Key_A, QStringLiteral("a"), Qt::ControlModifier);
+    EXPECT_EQ(field.selectedText(), QStringLiteral("12"));
+    EXPECT_EQ(field.text(), QStringLiteral("12"));
+    QTest::sendKeyEvent(QTest::Click, &field, Qt::Key_At, QStringLiteral("@"), Qt::ControlModifier | Qt::AltModifier);
+    EXPECT_EQ(field.text(), QStringLiteral("12"));
+}
+
 TEST(NumberField, IsAsWideAsItsNumbersAndGrowsWithTheFont)
 {
     NumberField three(3);

@@ -2,6 +2,7 @@
 #include "widgets/listView.h"
 #include "widgets/tabStrip.h"
 
+#include <QApplication>
 #include <QSignalSpy>
 #include <QTest>
 #include <gmock/gmock.h>
@@ -163,6 +164,22 @@ protected:
     TabStrip strip;
     QSignalSpy clicks{&strip, &TabStrip::tabClicked};
 };
+
+TEST_F(TabStripTest, LetsLongNamesGiveWayAndKeepsShortOnesWhole)
+{
+    strip.addKeyedTab(QStringLiteral("short"), QStringLiteral("p2.html"));
+    strip.addKeyedTab(QStringLiteral("long"), QString(80, u'n'));
+    strip.resize(strip.sizeHint());
+    strip.show();
+    const int shortTab = *strip.find(QStringLiteral("short"));
+    const int longTab = *strip.find(QStringLiteral("long"));
+    const int whole = strip.tabRect(shortTab).width();
+    const int all = strip.tabRect(longTab).width();
+    strip.resize(strip.width() - all / 2, strip.height());
+    QApplication::processEvents();
+    EXPECT_EQ(strip.tabRect(shortTab).width(), whole);
+    EXPECT_LT(strip.tabRect(longTab).width(), all);
+}
 
 TEST_F(TabStripTest, AddsAtTheEndWithoutSelecting)
 {

@@ -63,6 +63,8 @@ TEST_F(MdiArrangeTest, cascadedTheyKeepTheActiveOne)
         EXPECT_FALSE(window->isMaximized());
     EXPECT_EQ(area.activeSubWindow(), windows[1]);
     EXPECT_NE(windows[0]->pos(), windows[2]->pos());
+    for (int number = 0; number < windows.size(); ++number)
+        EXPECT_EQ(windows[number]->geometry(), usualPlace(area, number));
 }
 
 TEST_F(MdiArrangeTest, onlyMinimisedOnesAreLinedUpAlongTheBottom)
@@ -86,4 +88,14 @@ TEST_F(MdiArrangeTest, anEmptyAreaIsNoMatter)
                                    MdiArrangement::Cascade, MdiArrangement::ArrangeIcons})
         arrangeWindows(empty, arrangement);
     EXPECT_TRUE(empty.subWindowList().isEmpty());
+}
+
+TEST_F(MdiArrangeTest, theUsualPlaceLeavesRoomToWriteInAndStaysInTheArea)
+{
+    for (int number = 0; number < 20; ++number) {
+        const QRect place = usualPlace(area, number);
+        EXPECT_EQ(place.size(), room * 3 / 4);
+        EXPECT_TRUE(QRect(QPoint(), room).contains(place)) << number;
+    }
+    EXPECT_NE(usualPlace(area, 0).topLeft(), usualPlace(area, 1).topLeft());
 }
