@@ -3,7 +3,9 @@
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QEvent>
+#include <QThread>
 #include <QWidget>
 
 namespace drive
@@ -34,6 +36,23 @@ void dealWithEvents()
             return;
 }
 
+bool isOnDisplay()
+{
+    return QGuiApplication::platformName() != QStringLiteral("offscreen");
+}
+
+/// A window manager and a display answer in their own time.
+void awaitDisplay()
+{
+    constexpr int Milliseconds = 40;
+    const QDeadlineTimer end(Milliseconds);
+    while (!end.hasExpired()) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+        QThread::msleep(2);
+    }
+    dealWithEvents();
+}
+
 bool activateLastWindow()
 {
     // A popup that has gone may still pass for the active window.
@@ -58,7 +77,9 @@ void insideEvent(const std::function<void()> &act)
 void settle()
 {
     dealWithEvents();
-    if (activateLastWindow())
+    if (isOnDisplay())
+        awaitDisplay();
+    else if (activateLastWindow())
         dealWithEvents();
 }
 

@@ -5,6 +5,7 @@
 #include "drive/controlAdapter.h"
 #include "drive/controlParts.h"
 #include "drive/events.h"
+#include "drive/realInput.h"
 #include "drive/stage.h"
 #include "drive/targets.h"
 #include "drive/told.h"
@@ -190,6 +191,8 @@ void pressKey(Stage &stage, const Chord &chord)
         stage.referee.fail(QStringLiteral("a window that takes keys"), QStringLiteral("the box %1").arg(quoted(box)));
     if (!window)
         stage.referee.fail(QStringLiteral("a window that takes keys"), QStringLiteral("none"));
+    if (RealInput *input = RealInput::onThisDisplay(); input && input->pressKey(chord))
+        return;
     Qt::KeyboardModifiers held;
     for (const ModifierKey &modifier : modifierKeys) {
         if (!chord.modifiers.testFlag(modifier.modifier))
@@ -221,8 +224,26 @@ void typeText(Stage &stage, const QString &text)
     }
 }
 
+void moveRealMouse(RealInput &input, const QWidget &target, MouseAct act, QPoint at, Qt::KeyboardModifiers modifiers)
+{
+    const auto button = act == MouseAct::RightClick ? Qt::RightButton : Qt::LeftButton;
+    input.move(target, at);
+    input.withKeys(modifiers, [&] {
+        for (int clicks = act == MouseAct::DoubleClick ? 2 : 1; clicks > 0 && act != MouseAct::Move; --clicks) {
+            if (act != MouseAct::Release)
+                input.press(button);
+            if (act != MouseAct::Press)
+                input.release(button);
+        }
+    });
+}
+
 void moveMouse(QWidget &target, MouseAct act, QPoint at, Qt::KeyboardModifiers modifiers)
 {
+    if (RealInput *input = RealInput::onThisDisplay()) {
+        moveRealMouse(*input, target, act, at, modifiers);
+        return;
+    }
     const QPointer<QWidget> widget = &target;
     QCursor::setPos(widget->mapToGlobal(at));
     const auto button = act == MouseAct::RightClick ? Qt::RightButton : Qt::LeftButton;

@@ -1,5 +1,7 @@
 #include "userInput.h"
 
+#include "realInput.h"
+
 #include <QApplication>
 #include <QInputMethodEvent>
 #include <QMouseEvent>
@@ -47,6 +49,14 @@ void activateWindowOf(QWidget &control)
 void clickAt(QWidget &widget, const QPoint &point, Qt::KeyboardModifiers modifiers)
 {
     const QPointer<QWidget> alive(&widget); // a handler may end the form at the press already
+    if (RealInput *input = RealInput::onThisDisplay()) {
+        input->move(widget, point);
+        input->withKeys(modifiers, [input] {
+            input->press(Qt::LeftButton);
+            input->release(Qt::LeftButton);
+        });
+        return;
+    }
     activateWindowOf(widget);
     if (alive)
         QTest::mousePress(&widget, Qt::LeftButton, modifiers, point);
