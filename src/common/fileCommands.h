@@ -43,6 +43,12 @@ public:
     /// Reads the document's file anew, as one step of its history: it is clean then, and the caret stays where it was
     /// as far as there is text. False if the file cannot be read, which is told.
     virtual bool LoadAgain(Document &document) = 0;
+    /// Looks whether another program has changed the document's file, and tells it in the line above the text.
+    virtual void lookAtFile(Document &document) = 0;
+    /// The document was brought back with a word on the state of its file, which is told once.
+    virtual void noteFileTold(const Document &document) = 0;
+    /// The document is closed.
+    virtual void forgetFile(const Document &document) = 0;
 
     /// Asks about unsaved changes as the document, or the exit, demands. False keeps the document open.
     virtual bool mayClose(Document &document) = 0;

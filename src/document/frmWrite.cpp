@@ -147,6 +147,8 @@ void frmWrite::Form_Activate()
         return;
     if (context().unsavedText)
         context().unsavedText->noteActivation();
+    if (context().files)
+        context().files->lookAtFile(*this);
     frmMdi().selectDocumentTab(DocKeyDescription);
     frmMdi().showFileFormat(fileFormatText(*this));
     CheckWordWrapSettings();
@@ -165,6 +167,8 @@ void frmWrite::Form_Unload()
     m_unloading = true;
     if (context().unsavedText)
         context().unsavedText->forget(*this);
+    if (context().files)
+        context().files->forgetFile(*this);
     if (--frmMdi().OpenDocumentCount == 0) {
         frmMdi().SetDocumentControlsEnabled(false);
         frmMdi().showDocumentTabs(false);

@@ -1,6 +1,7 @@
 // What a document window does at the keys and changes of its edit surface.
 #include "browser/webBrowser.h"
 #include "codeknowledge/tagHelp.h"
+#include "common/fileCommands.h"
 #include "common/mainWindow.h"
 #include "common/unsavedText.h"
 #include "document/codeAssistant.h"
@@ -254,6 +255,8 @@ void frmWrite::txtEdit_GotFocus()
     if (!ColouringActive)
         frmMdi().SetStatusReady();
     frmMdi().selectDocumentTab(DocKeyDescription);
+    if (context().files)
+        context().files->lookAtFile(*this);
     txtEdit_KeyUp();
 }
 

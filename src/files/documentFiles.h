@@ -3,6 +3,7 @@
 #include "common/fileCommands.h"
 #include "common/fileErrors.h"
 #include "files/documentText.h"
+#include "files/outsideChanges.h"
 
 #include <QString>
 
@@ -13,7 +14,7 @@ struct ProgramContext;
 class DocumentFiles final : public FileCommands
 {
 public:
-    explicit DocumentFiles(ProgramContext &context) : m_context(context) {}
+    explicit DocumentFiles(ProgramContext &context) : m_context(context), m_outside(context) {}
 
     void ShowOpenDialog() override;
     void OpenDocumentFile(const QString &path, bool unicode) override;
@@ -29,6 +30,9 @@ public:
     void LoadRecentFilesMenu() override;
     void AddToRecentFiles(const QString &path) override;
     bool LoadAgain(Document &document) override;
+    void lookAtFile(Document &document) override { m_outside.look(document); }
+    void noteFileTold(const Document &document) override { m_outside.noteTold(document); }
+    void forgetFile(const Document &document) override { m_outside.forget(document); }
 
     bool mayClose(Document &document) override;
     void autoSaveTick(Document &document) override;
@@ -79,5 +83,6 @@ private:
     void autoSaveNameless(Document &document);
 
     ProgramContext &m_context;
+    OutsideChanges m_outside;
     QString m_remark; ///< what the last save had to tell, as it stands in the status bar
 };

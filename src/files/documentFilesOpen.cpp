@@ -200,6 +200,7 @@ std::optional<DocumentFiles::Opened> DocumentFiles::readInto(Document &document,
         Opened opened{&document, decodePage(file.bytes, unicode), stamp};
         if (canBeShown(lineExtremesOf(opened.contents.text))) {
             document.txtEdit().setText(opened.contents.text);
+            m_outside.noteBytes(document, file.bytes);
             return opened;
         }
     } catch (const std::bad_alloc &) { // told below

@@ -237,6 +237,8 @@ std::optional<FileError> DocumentFiles::write(Document &document, const Target &
         if (std::optional<FileError> error = files.writeWhole(target.path, encoded.bytes))
             return error;
         document.fileStamp = files.stamp(target.path);
+        m_outside.noteBytes(document, encoded.bytes);
+        document.notices.remove(QStringLiteral("outside"));
         showRemark(saveRemark(document, target.form, encoded));
         tellEncoding(document, target, encoded);
         noteSaved(document, encoded.encoding);

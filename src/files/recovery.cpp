@@ -182,6 +182,7 @@ void Recovery::restore(Document *opened)
         if (!document)
             continue; // there is no memory for it: it stays on the disk for the next start
         m_recovered << document;
+        m_context.files->noteFileTold(*document);
         texts.insert(document,
                      QStringLiteral("Recovered after an unexpected end.") + fileRemark(found.page, *document));
         if (found.active && !opened)

@@ -7,6 +7,8 @@
 #include <QDateTime>
 #include <QList>
 #include <QString>
+#include <QStringList>
+#include <functional>
 #include <optional>
 
 /// What a read gave: the bytes, or why there are none.
@@ -68,6 +70,10 @@ public:
     virtual std::optional<qint64> size(const QString &path) = 0;
     virtual std::optional<FileStamp> stamp(const QString &path) = 0;
     virtual std::optional<FileDetails> details(const QString &path) = 0;
+
+    /// From now on tells when something happens to one of these files, or to one that takes the place of one; an empty
+    /// list tells nothing any more. `changed` runs from the event loop. Where nothing can be told, nothing happens.
+    virtual void watch(const QStringList & /*paths*/, std::function<void()> /*changed*/) {}
 
     virtual FolderListing list(const QString &folder) = 0;
     /// Makes the folder and those above it that are missing. One that is there already is no failure.

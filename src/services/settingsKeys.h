@@ -1,7 +1,8 @@
-// The keys of the settings store, a line each: the constant's name, the name in the store ("#" stands for the number of a
-// numbered key), application, section, what a read supplies where nothing is stored, what the first start writes (nullptr:
-// nothing; "<AppPath>" is the program's folder), and how it spells true and false. Whoever includes this says by KEY what
-// becomes of a line; constants, table, first start and tests are all made from these lines. It is included more than once.
+// The keys of the settings store, a line each: the constant's name, the name in the store ("#" stands for the number of
+// a numbered key), application, section, what a read supplies where nothing is stored, what the first start writes
+// (nullptr: nothing; "<AppPath>" is the program's folder), and how it spells true and false. Whoever includes this says
+// by KEY what becomes of a line; constants, table, first start and tests are all made from these lines. It is included
+// more than once.
 
 // clang-format off
 // What the first start writes, in the order in which it does.
@@ -43,6 +44,7 @@ KEY(FirstHelp, "FirstHelp", MainApp, "Settings", "false", nullptr, Spelling::Wor
 KEY(HotTrackingFiles, "HotTrackingFiles", MainApp, "Settings", "False", nullptr, Spelling::Word)
 KEY(InstallAddInsDialogFilter, "InstallAddInsDialogFilter", MainApp, "Settings", "All Tagwrighter Add-Ins|*.exe", nullptr, Spelling::Text)
 KEY(LayoutLocatedColour, "LayoutLocatedColour", MainApp, "Settings", "true", nullptr, Spelling::Word)
+KEY(LoadChangedFiles, "LoadChangedFiles", MainApp, "Settings", "False", nullptr, Spelling::ExactTrue)
 KEY(MaintainIndent, "MaintainIndent", MainApp, "Settings", "true", nullptr, Spelling::Word)
 KEY(NetPathNaming, "NetPathNaming", MainApp, "Settings", "true", nullptr, Spelling::Word)
 KEY(PagePreview, "PagePreview", MainApp, "Settings", "1", nullptr, Spelling::Text)

@@ -1,5 +1,6 @@
 #include "storage/localFileSystem.h"
 
+#include "storage/fileWatch.h"
 #include "storage/wholeFile.h"
 
 #include <QFile>
@@ -224,6 +225,15 @@ std::optional<FileDetails> LocalFileSystem::details(const QString &path)
     details.readOnly = !info.isWritable();
     details.hidden = info.fileName().startsWith(u'.');
     return details;
+}
+
+LocalFileSystem::~LocalFileSystem() = default;
+
+void LocalFileSystem::watch(const QStringList &paths, std::function<void()> changed)
+{
+    if (!m_watch)
+        m_watch = std::make_unique<FileWatch>();
+    m_watch->watch(paths, std::move(changed));
 }
 
 FolderListing LocalFileSystem::list(const QString &folder)

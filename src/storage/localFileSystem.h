@@ -2,12 +2,17 @@
 
 #include "services/fileSystem.h"
 
+#include <memory>
+
+class FileWatch;
+
 /// The machine's own files.
 class LocalFileSystem final : public FileSystem
 {
 public:
     /// From here on a limit on the size of files is told as an error instead of ending the program.
     LocalFileSystem();
+    ~LocalFileSystem() override;
 
     FileContents readAll(const QString &path) override;
     std::optional<FileError> checkReadable(const QString &path) override;
@@ -20,8 +25,12 @@ public:
     std::optional<FileStamp> stamp(const QString &path) override;
     std::optional<FileDetails> details(const QString &path) override;
 
+    void watch(const QStringList &paths, std::function<void()> changed) override;
     FolderListing list(const QString &folder) override;
     std::optional<FileError> makeFolder(const QString &folder) override;
     std::optional<FileError> removeFile(const QString &path) override;
     std::optional<FileError> copyFile(const QString &from, const QString &to) override;
+
+private:
+    std::unique_ptr<FileWatch> m_watch; ///< made with the first file that is watched
 };
