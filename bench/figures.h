@@ -50,6 +50,7 @@ void dialogFigures(Figures &figures);
 void designerFigures(Figures &figures);
 void openingFigures(Figures &figures);
 void idleFigures(Figures &figures);
+void transferFigures(Figures &figures);
 void startFigures(Figures &figures);
 /// Runs the benchmarks of the services whose names hold `filter`, and prints them in a table of their own.
 void runServiceBenchmarks(const QString &filter);

@@ -19,6 +19,7 @@ constexpr Group groups[] = {
     {"document", documentFigures},
     {"codes", codeFigures},
     {"preview", previewFigures},
+    {"transfers", transferFigures},
     {"tables", tableFigures},
     {"texttools", textToolFigures},
     {"project", projectFigures},

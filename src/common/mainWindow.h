@@ -4,6 +4,7 @@
 #include "common/document.h"
 
 #include <QList>
+#include <QMap>
 #include <QPoint>
 #include <QStringList>
 
@@ -46,6 +47,8 @@ public:
     /// The entries `mnuRecentFile` 1 to 4 take these captions; an empty one is hidden, and `mnuDashUpdates` with them
     /// if all are. Captions are plain text: a "&" in them is a "&".
     virtual void showRecentFiles(const QStringList &captions) = 0;
+    /// The menu of add-ins gets one entry for each, by its number, under the caption, which is plain text.
+    virtual void showAddIns(const QMap<int, QString> &) {}
     virtual void SetDocumentControlsEnabled(bool enabled) = 0;
     /// Enables the commands that need an open site project, or disables them.
     virtual void SetProjectCommandsEnabled(bool /*enabled*/) {}

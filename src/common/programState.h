@@ -3,16 +3,19 @@
 #include "common/projectState.h"
 
 #include <QString>
+#include <functional>
 
 /// The variables that the whole program shares for one session, owned by the application object.
 struct ProgramState {
-    bool AlreadyStarted = false;     ///< the main window has been loaded once
-    bool FormUnloadHandled = false;  ///< the exit list has dealt with this exit: documents close without asking
-    bool NoUnsavedDocuments = false; ///< the exit list found nothing to ask about
-    bool DialogCancelled = false;    ///< a dialog's Cancel was pressed; ReturnFromDialog reads and clears it
-    bool PreviewCancelled = false;   ///< the question about an unsaved document was left: there is no preview
-    bool PreviewUseTempCopy = false; ///< an unsaved document is shown by a temporary copy, not saved first
-    bool PreviewBusy = false;        ///< a live preview is being written and gone to
-    QString ColourCode = {};         ///< "#RRGGBB" as the palette dialogs leave it; empty: no colour was picked
+    bool AlreadyStarted = false;           ///< the main window has been loaded once
+    bool FormUnloadHandled = false;        ///< the exit list has dealt with this exit: documents close without asking
+    bool NoUnsavedDocuments = false;       ///< the exit list found nothing to ask about
+    bool DialogCancelled = false;          ///< a dialog's Cancel was pressed; ReturnFromDialog reads and clears it
+    bool PreviewCancelled = false;         ///< the question about an unsaved document was left: there is no preview
+    bool PreviewUseTempCopy = false;       ///< an unsaved document is shown by a temporary copy, not saved first
+    bool PreviewBusy = false;              ///< a live preview is being written and gone to
+    QString ColourCode = {};               ///< "#RRGGBB" as the palette dialogs leave it; empty: no colour was picked
+    std::function<void()> stopWizard = {}; ///< ends the wizard that runs; nothing while there is none
+    bool ProgramEnded = false;             ///< the windows are gone; what events still bring has nowhere to show
     ProjectState project;
 };

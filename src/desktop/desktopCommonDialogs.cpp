@@ -28,7 +28,9 @@ NameFilters nameFiltersOf(const QString &filter)
         while (filters.shown.contains(shown)) // rows that look the same are told apart by what nobody sees
             shown += QChar(0x200B);
         QStringList patterns = row.patterns;
-        patterns.replaceInStrings(QStringLiteral("*.*"), QStringLiteral("*"));
+        // A program has no ending here.
+        for (const QString &any : {QStringLiteral("*.*"), QStringLiteral("*.exe")})
+            patterns.replaceInStrings(any, QStringLiteral("*"));
         filters.shown += shown;
         filters.whole += shown + QStringLiteral(" (") + patterns.join(u' ') + QLatin1Char(')');
     }

@@ -28,14 +28,12 @@ bool DesktopLauncher::openUrl(const QString &target)
     return QProcess::startDetached(opener, {QString::fromLatin1(url.toEncoded())});
 }
 
-bool DesktopLauncher::start(const QString &command)
+bool DesktopLauncher::start(const QString &program)
 {
-    // A path of an existing program may hold blanks without being quoted.
-    if (QFileInfo(command).isFile())
-        return QProcess::startDetached(command, {});
-    QStringList words = QProcess::splitCommand(command);
-    if (words.isEmpty())
+    if (program.isEmpty())
         return false;
-    const QString program = words.takeFirst();
-    return QProcess::startDetached(program, words);
+    QProcess process;
+    process.setProgram(program);
+    process.setStandardInputFile(QProcess::nullDevice());
+    return process.startDetached(); // false as well where the system finds that it cannot be run
 }

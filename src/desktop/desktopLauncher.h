@@ -7,5 +7,5 @@ class DesktopLauncher final : public Launcher
 {
 public:
     bool openUrl(const QString &target) override;
-    bool start(const QString &command) override;
+    bool start(const QString &program) override;
 };

@@ -8,14 +8,17 @@
 #include "desktop/desktopHelpViewer.h"
 #include "desktop/desktopLauncher.h"
 #include "desktop/desktopMessageBoxes.h"
+#include "desktop/moduleTransfers.h"
 #include "desktop/programFolder.h"
 #include "desktop/qtTimerSource.h"
 #include "desktop/stateFolder.h"
 #include "desktop/threadWorker.h"
+#include "desktop/wizardPrograms.h"
 #include "desktop/xdgFileClasses.h"
 #include "forms/eventModalLoop.h"
 #include "services/clock.h"
 #include "services/random.h"
+#include "services/settings.h"
 #include "services/yielder.h"
 #include "storage/localFileSystem.h"
 #include "storage/settingsFiles.h"
@@ -24,6 +27,12 @@
 
 namespace
 {
+QString dataFolder()
+{
+    return joinPath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation),
+                    QStringLiteral("tagwrighter"));
+}
+
 QString settingsFolder()
 {
     return joinPath(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation),
@@ -52,6 +61,9 @@ struct DesktopServices::Parts {
     ModulePageViews pageViews{moduleFolders(), pages};
     ThreadWorker worker;
     XdgFileClasses fileClasses{currentXdgPlaces(), startInBackground};
+    ModuleTransfers transfers{moduleFolders(), {.knownHosts = joinPath(dataFolder(), QStringLiteral("known_hosts"))}};
+    WizardPrograms wizards{{appPath, QStringLiteral(TAGWRIGHTER_LIBEXEC_FOLDER)},
+                           [this] { return settings::read(settings, settings::WorkingDir); }};
     Services services{
         .messageBoxes = messageBoxes,
         .commonDialogs = commonDialogs,
@@ -68,6 +80,8 @@ struct DesktopServices::Parts {
         .yielder = yielder,
         .pageViews = pageViews,
         .worker = worker,
+        .transfers = transfers,
+        .wizards = wizards,
         .appPath = appPath,
         .statePath = stateFolder(),
     };

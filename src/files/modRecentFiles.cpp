@@ -132,7 +132,11 @@ void LoadAddressHistory(ProgramContext &context, QComboBox &combo)
 
 void RecordAddress(ProgramContext &context, QComboBox &combo)
 {
-    const QString address = combo.currentText();
+    RecordAddress(context, combo, combo.currentText());
+}
+
+void RecordAddress(ProgramContext &context, QComboBox &combo, const QString &address)
+{
     if (!recordsAddresses(context) || address.isEmpty() || listHolds(combo, address))
         return;
     if (appendToHistory(context, address))

@@ -30,3 +30,5 @@ void LoadAddressHistory(ProgramContext &context, QComboBox &combo);
 /// Adds the address in the combo's edit field to its list and to the history file, unless the list has it, in any case
 /// of its letters.
 void RecordAddress(ProgramContext &context, QComboBox &combo);
+/// The same with an address that is not quite what the edit field holds.
+void RecordAddress(ProgramContext &context, QComboBox &combo, const QString &address);

@@ -15,6 +15,7 @@ class NodeTreeModel;
 class SiteProject;
 class UnsavedText;
 class ScreenPointer;
+class Uploads;
 
 /// What every form is given: the desktop's services, the forms of the session and the state that they share.
 struct ProgramContext {
@@ -30,5 +31,7 @@ struct ProgramContext {
     std::shared_ptr<NodeTreeModel> codeElements = {};  ///< the elements that the code assistant offers in all documents
     QString version = {};                              ///< the program's: major.minor.revision
     std::function<Document *()> newBlankDocument = {}; ///< shows a new, empty document; nothing if memory ran out
-    std::function<void()> end = {};                    ///< ends the program at once; no further handler of a form runs
+    Uploads *uploads = nullptr;                        ///< the pages on their way to servers
+    std::function<void()> locatePublishingProgram = {}; ///< shows the options and lets the user look for the program
+    std::function<void()> end = {};                     ///< ends the program at once; no further handler of a form runs
 };

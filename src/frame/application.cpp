@@ -4,6 +4,7 @@
 #include "common/mainWindow.h"
 #include "common/unsavedText.h"
 #include "document/modDocument.h"
+#include "extensions/extensionsForms.h"
 #include "files/documentFiles.h"
 #include "files/frmMsgAddSavedFileToProject.h"
 #include "files/frmMsgNoFileForAutoSave.h"
@@ -15,7 +16,8 @@
 #include "frame/frmMdi.h"
 #include "frame/frmSplash.h"
 #include "insertion/insertionForms.h"
-#include "internet/frmMsgPreviewUnsavedDocument.h"
+#include "internet/internetForms.h"
+#include "internet/uploads.h"
 #include "project/projectForms.h"
 #include "shell/frmWelcome.h"
 #include "texttools/texttoolsForms.h"
@@ -32,7 +34,12 @@ Application::Application(Services &services)
     m_splash = &own<frmSplash>(m_context, *m_mdi);
     own<frmWelcome>(m_context);
     addFiles();
-    own<frmMsgPreviewUnsavedDocument>(m_context);
+    m_uploads = std::make_unique<Uploads>(m_context);
+    m_context.uploads = m_uploads.get();
+    for (std::unique_ptr<Form> &form : internetForms(m_context))
+        m_forms.own(std::move(form));
+    for (std::unique_ptr<Form> &form : extensionsForms(m_context))
+        m_forms.own(std::move(form));
     for (std::unique_ptr<Form> &form : insertionForms(m_context))
         m_forms.own(std::move(form));
     for (std::unique_ptr<Form> &form : codeknowledgeForms(m_context))
@@ -97,6 +104,8 @@ void Application::End()
     if (m_ended)
         return;
     m_ended = true;
+    m_state.ProgramEnded = true;
+    m_uploads->breakOff();
     m_forms.discardAll();
     Q_EMIT ended();
 }

@@ -12,6 +12,7 @@ class FileCommands;
 class UnsavedText;
 class frmMdi;
 class frmSplash;
+class Uploads;
 
 /// One run of the program: it owns the forms and the variables that they share, and unwinds them at its end.
 class Application final : public QObject
@@ -55,6 +56,7 @@ private:
     bool m_ended = false;
     std::unique_ptr<FileCommands> m_files;
     std::unique_ptr<UnsavedText> m_unsavedText;
+    std::unique_ptr<Uploads> m_uploads;
     frmMdi *m_mdi = nullptr;
     frmSplash *m_splash = nullptr;
 };

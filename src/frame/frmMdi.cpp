@@ -49,7 +49,9 @@ QMainWindow *frmMdi::frame() const
 QWidget *frmMdi::createWindow()
 {
     auto *frame = new MainWindowFrame([this] {
-        if (Enabled())
+        if (context().state.stopWizard)
+            context().state.stopWizard(); // the one way out of a wizard that hangs
+        else if (Enabled())
             Unload();
     });
     frame->setDropHandler([this](const QStringList &paths) { openDropped(paths); });
@@ -139,6 +141,11 @@ bool frmMdi::ProjectChanged() const
 bool frmMdi::ProjectOpen() const
 {
     return context().state.project.ProjectOpen;
+}
+
+void frmMdi::showAddIns(const QMap<int, QString> &captions)
+{
+    m_commands->showAddIns(*frame(), captions);
 }
 
 void frmMdi::setWordWrapChecked(bool checked)

@@ -47,6 +47,7 @@ public:
     void enableResetBar() override;
     void showFileFormat(const QString &text) override;
     void showRecentFiles(const QStringList &captions) override;
+    void showAddIns(const QMap<int, QString> &captions) override;
     void SetDocumentControlsEnabled(bool enabled) override;
     void SetProjectCommandsEnabled(bool enabled) override;
     void showTaskManagerPane() override;

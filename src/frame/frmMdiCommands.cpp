@@ -6,6 +6,9 @@
 #include "document/modBrowserControl.h"
 #include "document/modClipboard.h"
 #include "document/modDocument.h"
+#include "extensions/frmWizards.h"
+#include "extensions/modExternalPrograms.h"
+#include "extensions/modWizards.h"
 #include "forms/formRuntime.h"
 #include "forms/modLaunchHTMLHelp.h"
 #include "frame/frmMdi.h"
@@ -86,6 +89,16 @@ void MainCommands::mnuSaveAll_Click()
 void MainCommands::mnuViewPage_Click()
 {
     PreviewActiveDocument(m_context);
+}
+
+void MainCommands::mnuWizards_Click()
+{
+    m_context.forms.showModal<frmWizards>();
+}
+
+void MainCommands::mnuUpload_Click()
+{
+    RunPublishingProgram(m_context);
 }
 
 void MainCommands::openRecentFile(int index)
@@ -260,6 +273,11 @@ void MainCommands::mnuWordWrap_Click()
     ApplyWordWrapSetting(m_context, !m_form.WordWrap);
 }
 
+void MainCommands::mnuInsFramesPage_Click()
+{
+    RunFramesWizard(m_context);
+}
+
 void MainCommands::mnuInsExternalCSS_Click()
 {
     const auto cdlInsExternalCSS = m_context.services.commonDialogs.showOpen(
@@ -370,6 +388,11 @@ void MainCommands::mnuWinCascade_Click()
 void MainCommands::mnuWinArrangeIcons_Click()
 {
     arrangeWindows(*m_context.forms.mdiArea(), MdiArrangement::ArrangeIcons);
+}
+
+void MainCommands::mnuUpdate_Click()
+{
+    RunUpdater(m_context);
 }
 
 void MainCommands::mnuHelpContents_Click()

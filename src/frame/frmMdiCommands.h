@@ -25,6 +25,8 @@ public:
     void build(QMainWindow &window);
     void setDocumentControlsEnabled(bool enabled);
     void setProjectCommandsEnabled(bool enabled);
+    /// Makes the entries of the add-ins, each by its number, behind those that the table holds.
+    void showAddIns(QMainWindow &window, const QMap<int, QString> &captions);
     /// A menu entry by its name, a toolbar's button as "bar(key)"; nothing if there is none.
     QAction *action(const QString &name) const { return m_actions.value(name); }
     QToolBar *toolBar(const QString &name) const { return m_toolBars.value(name); }
@@ -40,6 +42,8 @@ public:
     void mnuSaveAs_Click();
     void mnuSaveAll_Click();
     void mnuViewPage_Click();
+    void mnuWizards_Click();
+    void mnuUpload_Click();
     template <int Index>
     void mnuRecentFile_Click()
     {
@@ -74,6 +78,7 @@ public:
     void browserBack();
     void mnuWordWrap_Click();
     // Insert, Format, Tools
+    void mnuInsFramesPage_Click();
     void mnuInsExternalCSS_Click();
     void mnuInsColourCode_Click();
     void mnuOmitBasePath_Click();
@@ -94,6 +99,7 @@ public:
     void mnuWinCascade_Click();
     void mnuWinArrangeIcons_Click();
     // Help
+    void mnuUpdate_Click();
     void mnuHelpContents_Click();
     void mnuHelpIndex_Click();
     void mnuWhatsThisMode_Click();
@@ -137,6 +143,7 @@ private:
     bool m_projectCommands = false;
     QHash<QString, QAction *> m_actions;
     QHash<QString, QToolBar *> m_toolBars;
+    QStringList m_addIns; ///< the names of their entries
 };
 
 /// The name of a toolbar's button as a control: "tbrMain(Save)".

@@ -7,6 +7,7 @@
 #include "forms/mdiForm.h"
 #include "frame/frmMdiBands.h"
 #include "frame/frmMdiPane.h"
+#include "internet/uploads.h"
 #include "project/modProjectFileCtrl.h"
 #include "services/messageBoxes.h"
 #include "services/services.h"
@@ -34,6 +35,8 @@ bool frmMdi::Form_QueryUnload()
     if (settings::isOn(services().settings, settings::SaveSettingsOnExit))
         savePlacement();
     if (!projectMayClose())
+        return false;
+    if (!context().uploads->mayBeCut())
         return false;
     ExitInProgress = true;
     return documentsMayClose();

@@ -5,6 +5,7 @@
 #include "common/programState.h"
 #include "common/unsavedText.h"
 #include "document/modDocument.h"
+#include "extensions/modAddIns.h"
 #include "files/modRecentFiles.h"
 #include "forms/formRuntime.h"
 #include "frame/frmMdiBands.h"
@@ -48,6 +49,7 @@ void frmMdi::Form_Load()
     }
     restoreState();
     loadCodes();
+    FillAddInMenu(context());
     openCommandLineFile();
     picAddress_Resize();
     decideWelcome();

@@ -1,4 +1,5 @@
 // The making of the main window's menus and toolbars, and their enabling.
+#include "extensions/modAddIns.h"
 #include "files/modRecentFiles.h"
 #include "forms/form.h"
 #include "forms/formRuntime.h"
@@ -48,6 +49,7 @@ void MainCommands::build(QMainWindow &window)
 {
     m_actions.clear();
     m_toolBars.clear();
+    m_addIns.clear();
     for (const MenuCommand &command : menuCommands())
         addMenuEntry(window, command);
     for (const ToolCommand &command : toolCommands())
@@ -203,6 +205,28 @@ bool MainCommands::isMet(Needs needs) const
         break;
     }
     return true;
+}
+
+void MainCommands::showAddIns(QMainWindow &window, const QMap<int, QString> &captions)
+{
+    for (const QString &name : std::exchange(m_addIns, {})) {
+        QAction *entry = m_actions.take(name);
+        menu(QStringLiteral("mnuAddIns"))->removeAction(entry);
+        entry->setParent(nullptr); // at once, for it is known by its name
+        entry->deleteLater();
+    }
+    action(controlName(QStringLiteral("mnuAddInList"), 0))->setVisible(!captions.isEmpty());
+    for (auto addIn = captions.begin(); addIn != captions.end(); ++addIn) {
+        const QString name = controlName(QStringLiteral("mnuAddInList"), addIn.key());
+        auto *entry = new QAction(QString(addIn.value()).replace(u'&', QStringLiteral("&&")), &window);
+        entry->setObjectName(name);
+        entry->setMenuRole(QAction::NoRole);
+        QObject::connect(entry, &QAction::triggered, &window,
+                         [this, number = addIn.key()] { StartAddIn(m_context, number); });
+        menu(QStringLiteral("mnuAddIns"))->addAction(entry);
+        m_actions.insert(name, entry);
+        m_addIns.append(name);
+    }
 }
 
 void MainCommands::enable(const QString &name, const CommandAction &action, Needs needs)

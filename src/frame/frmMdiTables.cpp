@@ -61,8 +61,8 @@ constexpr MenuCommand menuTable[] = {
     {"mnuSaveAll", "mnuFile", "Save Al&l", "Ctrl+Alt+S", "save-all", Doc, runs(&C::mnuSaveAll_Click)},
     {"mnuSavetoInternet", "mnuFile", "Save to In&ternet...", "", "cloud-upload", Doc, shows("frmSavetoInternet")},
     line("mnuDashWizards", "mnuFile"),
-    {"mnuWizards", "mnuFile", "&Wizards...", "", "", Any, shows("frmWizards")},
-    {"mnuUpload", "mnuFile", "P&ublish files on Internet...", "", "", Any, later()},
+    {"mnuWizards", "mnuFile", "&Wizards...", "", "", Any, runs(&C::mnuWizards_Click)},
+    {"mnuUpload", "mnuFile", "P&ublish files on Internet...", "", "", Any, runs(&C::mnuUpload_Click)},
     line("mnuDashProperties", "mnuFile"),
     {"mnuProperties", "mnuFile", "Properties...", "Alt+Return", "", Doc, shows("frmProperties")},
     {"mnuViewPage", "mnuFile", "&View Page in Browser...", "Ctrl+Shift+P", "globe", Doc, runs(&C::mnuViewPage_Click)},
@@ -141,7 +141,7 @@ constexpr MenuCommand menuTable[] = {
     line("mnuDashBlocks", "mnuInsert"),
     {"mnuInsBullet", "mnuInsert", "Bullets and Numbering...", "", "list", Any, shows("frmInsList")},
     {"mnuInsTable", "mnuInsert", "&Table", "", "table", Any, shows("frmInsTable")},
-    {"mnuInsFramesPage", "mnuInsert", "Frames Page", "", "", Any, later()},
+    {"mnuInsFramesPage", "mnuInsert", "Frames Page", "", "", Any, runs(&C::mnuInsFramesPage_Click)},
     {"mnuInsDHTMLMenu", "mnuInsert", "DHTML Navigation Menu...", "", "square-menu", Any, shows("frmInsertDHTMLMenu")},
     line("mnuDashCodes", "mnuInsert"),
     {"mnuInsSpecChar", "mnuInsert", "Character &Entity Code", "", "omega", Any, shows("frmInsSpecChar")},
@@ -189,6 +189,7 @@ constexpr MenuCommand menuTable[] = {
 
     {"mnuAddIns", "bar", "&Add-Ins", "", "", Any, head()},
     {"mnuAddInManager", "mnuAddIns", "Add-In Manager...", "", "", Any, shows("frmAddInManager")},
+    line("mnuAddInList(0)", "mnuAddIns"),
 
     {"mnuWindow", "bar", "&Window", "", "", Any, head()},
     {"mnuWinTile", "mnuWindow", "Tile &Horizontally", "", "", Any, runs(&C::mnuWinTile_Click)},
@@ -210,7 +211,7 @@ constexpr MenuCommand menuTable[] = {
     {"mnuTutorial", "mnuHelp", "Creating Webpages &Tutorial...", "", "", Any, runs(&C::mnuTutorial_Click)},
     line("mnuDashAbout", "mnuHelp"),
     {"mnuAbout", "mnuHelp", "&About...", "", "", Any, shows("frmAbout")},
-    {"mnuUpdate", "mnuHelp", "Check for Free Updates...", "", "", Any, later()},
+    {"mnuUpdate", "mnuHelp", "Check for Free Updates...", "", "", Any, runs(&C::mnuUpdate_Click)},
 
     {"mnuPopup", "popup", "&Options", "", "", Any, head()},
     {"mnuPopupUndo", "mnuPopup", "Undo last action", "", "undo-2", Any, runs(&C::mnuUndo_Click)},

@@ -14,7 +14,8 @@ public:
     /// Opens a URL, or the path of a file, in the program that the desktop has for it. False if there is none.
     virtual bool openUrl(const QString &target) = 0;
 
-    /// Starts a program and does not wait for it. The text is a path, or a path and arguments parted by blanks, with
-    /// double quotes around what holds blanks; no shell reads it. False if it cannot be started.
-    virtual bool start(const QString &command) = 0;
+    /// Starts a program and does not wait for it. The whole text is its path, blanks included, or the name of one that
+    /// the system finds; it gets no arguments, and nothing to read. False if it cannot be started: it is missing, no
+    /// program, or not permitted.
+    virtual bool start(const QString &program) = 0;
 };

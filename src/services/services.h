@@ -8,6 +8,7 @@ class CommonDialogs;
 class FileClasses;
 class FileSystem;
 class HelpViewer;
+class InternetTransfers;
 class Launcher;
 class MessageBoxes;
 class ModalLoop;
@@ -15,6 +16,7 @@ class PageViews;
 class Random;
 class SettingsStore;
 class TimerSource;
+class WizardServer;
 class Worker;
 class Yielder;
 
@@ -35,6 +37,8 @@ struct Services {
     Yielder &yielder;
     PageViews &pageViews;
     Worker &worker;
+    InternetTransfers &transfers;
+    WizardServer &wizards;
     QString appPath;   ///< the program's folder (`App.Path`), without a final separator
     QString statePath; ///< where the program keeps what it has to remember by itself, without a final separator
 };

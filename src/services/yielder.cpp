@@ -19,3 +19,8 @@ void EventYielder::yield()
     QCoreApplication::processEvents();
     m_sinceTurn.start();
 }
+
+void EventYielder::waitForEvents()
+{
+    QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+}

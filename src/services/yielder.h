@@ -16,6 +16,8 @@ public:
     virtual void beginPass() = 0;
     /// The pass can be interrupted here. Cheap enough to be called at every step.
     virtual void yield() = 0;
+    /// The same for a pass that waits for something to come: nothing is done until there is an event.
+    virtual void waitForEvents() = 0;
 };
 
 /// Gives the message queue a turn, but no more than one in 4 ms: a pass shorter than that runs in one go.
@@ -24,6 +26,7 @@ class EventYielder final : public Yielder
 public:
     void beginPass() override;
     void yield() override;
+    void waitForEvents() override;
 
 private:
     QElapsedTimer m_sinceTurn;

@@ -27,6 +27,7 @@ std::span<const Command> recordCommands();
 std::span<const Command> compareCommands();
 std::span<const Command> fileCommands();
 std::span<const Command> otherHostCommands();
+std::span<const Command> outsideCommands();
 
 /// Nothing if there is no such command.
 const Command *commandNamed(const QString &name);

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QScopedValueRollback>
 #include <QStandardPaths>
+#include <QTest>
 #include <algorithm>
 
 namespace drive
@@ -136,6 +137,13 @@ QList<int> ScriptedYielder::waiting() const
     return lines;
 }
 
+void ScriptedYielder::waitForEvents()
+{
+    constexpr int Milliseconds = 2; // a script names the waits by their number: each is to be as long as the others
+    yield();
+    QTest::qWait(Milliseconds);
+}
+
 QList<ScriptedYielder::MissedAct> ScriptedYielder::missed() const
 {
     QList<MissedAct> all = m_missed;
@@ -146,7 +154,7 @@ QList<ScriptedYielder::MissedAct> ScriptedYielder::missed() const
     return all;
 }
 
-Desktop::Desktop(Referee &referee, const World &world)
+Desktop::Desktop(Referee &referee, const World &world, InternetTransfers &transfers, WizardServer &wizards)
     : boxes(referee),
       dialogs(referee),
       files(m_realFiles),
@@ -171,6 +179,8 @@ Desktop::Desktop(Referee &referee, const World &world)
           .yielder = yielder,
           .pageViews = m_pageViews,
           .worker = m_worker,
+          .transfers = transfers,
+          .wizards = wizards,
           .appPath = world.app(),
           .statePath = stateFolder(),
       }

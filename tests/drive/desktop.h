@@ -130,6 +130,7 @@ public:
     QList<int> waiting() const;
     void beginPass() override;
     void yield() override;
+    void waitForEvents() override;
     QList<MissedAct> missed() const;
 
 private:
@@ -144,7 +145,7 @@ private:
 class Desktop
 {
 public:
-    Desktop(Referee &referee, const World &world);
+    Desktop(Referee &referee, const World &world, InternetTransfers &transfers, WizardServer &wizards);
 
     Services &services() { return m_services; }
     /// The text with the marks of what runs beside the program replaced, %OTHERHOST%.

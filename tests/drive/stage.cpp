@@ -30,7 +30,12 @@ const Line *lineNumbered(const std::vector<Line> &lines, int number)
 } // namespace
 
 Stage::Stage(Referee &toldTo, const World &ownWorld)
-    : referee(toldTo), world(ownWorld), desktop(toldTo, ownWorld), secondStarts(ownWorld)
+    : referee(toldTo),
+      world(ownWorld),
+      transfers(ownWorld.home() + QStringLiteral("/.local/share/tagwrighter/known_hosts")),
+      wizards(ownWorld.app()),
+      desktop(toldTo, ownWorld, transfers, wizards),
+      secondStarts(ownWorld)
 {
     desktop.modalLoop.shown = [this](Form &form) { playWhen(form); };
     desktop.boxes.playBlock = [this](const Line &line) { playBlock(line); };
@@ -94,7 +99,7 @@ void Stage::playLine(const Line &line)
     referee.enterLine(line.number);
     Line call = line;
     for (QString &word : call.words)
-        word = desktop.expanded(world.expanded(word));
+        word = servers.expanded(desktop.expanded(world.expanded(word)));
     insideEvent([&] { commandNamed(call.command)->run(*this, call); });
 }
 

@@ -3,9 +3,11 @@
 #include "common/mainWindow.h"
 #include "drive/carriedOver.h"
 #include "drive/desktop.h"
+#include "drive/outside.h"
 #include "drive/referee.h"
 #include "drive/script.h"
 #include "drive/secondStarts.h"
+#include "drive/servers.h"
 #include "drive/standingRules.h"
 #include "drive/world.h"
 
@@ -29,6 +31,9 @@ public:
 
     Referee &referee;
     const World &world;
+    Servers servers;
+    ScriptedTransfers transfers;
+    ScriptedWizards wizards;
     Desktop desktop;
     SecondStarts secondStarts;
     StandingRules rules;

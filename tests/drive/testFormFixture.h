@@ -96,6 +96,8 @@ private:
             .yielder = real.yielder,
             .pageViews = real.pageViews,
             .worker = real.worker,
+            .transfers = real.transfers,
+            .wizards = real.wizards,
             .appPath = QString(),
             .statePath = QString(),
         };

@@ -95,6 +95,9 @@ void World::setEnvironment() const
     // A copy of the program that is installed on this machine must not show in the script's world.
     setVariable("XDG_DATA_DIRS", home() + QStringLiteral("/.system/share"));
     setVariable("XDG_CONFIG_DIRS", home() + QStringLiteral("/.system/etc"));
+    for (const char *name : {"http_proxy", "https_proxy", "ftp_proxy", "all_proxy", "no_proxy", "HTTP_PROXY",
+                             "HTTPS_PROXY", "FTP_PROXY", "ALL_PROXY", "NO_PROXY"})
+        qunsetenv(name);
     qputenv("TZ", "UTC");
     qputenv("LC_ALL", "C.UTF-8");
     qputenv("LANG", "C.UTF-8");

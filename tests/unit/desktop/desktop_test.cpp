@@ -295,16 +295,36 @@ TEST_F(Launching, OpensAddressesAndFilesByTheDesktop)
     EXPECT_FALSE(launcher.openUrl(QString()));
 }
 
-TEST_F(Launching, StartsProgramsWithTheirArguments)
+TEST_F(Launching, TakesTheWholeTextForTheProgramsPath)
 {
     const QString tool = path("my tools/tool");
     EXPECT_TRUE(launcher.start(tool));
-    EXPECT_EQ(noted(), "\n");
-    EXPECT_TRUE(launcher.start(QLatin1Char('"') + tool + q("\" one \"two three\" $HOME;ls")));
-    EXPECT_EQ(noted(), "one\ntwo three\n$HOME;ls\n");
-    EXPECT_FALSE(launcher.start(path("none")));
+    EXPECT_EQ(noted(), "\n"); // no arguments
+    EXPECT_FALSE(launcher.start(QLatin1Char('"') + tool + QLatin1Char('"')));
+    EXPECT_FALSE(launcher.start(tool + q(" one")));
     EXPECT_FALSE(launcher.start(QString()));
     EXPECT_FALSE(launcher.start(q("   ")));
+    EXPECT_EQ(get("note"), "(missing)");
+}
+
+TEST_F(Launching, KnowsAtOnceWhatCannotBeStarted)
+{
+    EXPECT_FALSE(launcher.start(path("none")));
+    EXPECT_FALSE(launcher.start(path("my tools"))); // a folder
+    put("text", "no program");
+    EXPECT_FALSE(launcher.start(path("text")));
+    put("script", "#!/no/such/interpreter\n");
+    EXPECT_EQ(::chmod(QFile::encodeName(path("script")).constData(), 0755), 0);
+    EXPECT_FALSE(launcher.start(path("script")));
+}
+
+TEST_F(Launching, GivesProgramsNothingToRead)
+{
+    put("reader", "#!/bin/sh\nwc -c > '" + QFile::encodeName(path("note.new")) + "' && mv '" +
+                      QFile::encodeName(path("note.new")) + "' '" + QFile::encodeName(path("note")) + "'\n");
+    EXPECT_EQ(::chmod(QFile::encodeName(path("reader")).constData(), 0755), 0);
+    EXPECT_TRUE(launcher.start(path("reader")));
+    EXPECT_EQ(noted(), "0\n");
 }
 
 TEST(Random, GivesTheSameNumbersForTheSameSeed)

@@ -122,6 +122,8 @@ private:
             .yielder = real.yielder,
             .pageViews = real.pageViews,
             .worker = real.worker,
+            .transfers = real.transfers,
+            .wizards = real.wizards,
             .appPath = real.appPath,
             .statePath = real.statePath,
         };

@@ -72,6 +72,8 @@ protected:
             .yielder = real.yielder,
             .pageViews = *views,
             .worker = real.worker,
+            .transfers = real.transfers,
+            .wizards = real.wizards,
             .appPath = home.path(),
             .statePath = real.statePath,
         });
@@ -110,6 +112,7 @@ TEST_F(PreviewTest, OfTheFirstEmptyPageAsksForNoEngine)
     EXPECT_TRUE(librariesNamed("libQt6Widgets"));
     EXPECT_FALSE(librariesNamed("libQt6WebEngine")) << "it comes with the module, which nothing is linked to";
     EXPECT_FALSE(librariesNamed("libQt6Quick"));
+    EXPECT_FALSE(librariesNamed("libcurl"));
 }
 
 TEST_F(PreviewTest, WithoutAnEngineSaysWhatIsMissingAndLeavesTheEditorAlone)

@@ -172,6 +172,17 @@ TEST_F(Dev, InstallsForLintWhatOnlyLintNeeds)
     EXPECT_THAT(deeds().constLast().toStdString(), testing::EndsWith(" clang-tidy"));
 }
 
+TEST_F(Dev, InstallsMoreOnMachinesThatOnlyTest)
+{
+    write(tree("packages.txt"), "g++\nci: openssh-server\n");
+    pretend("apt-get", "[[ $1 == update ]]");
+    pretend("cmake", "exit 3");
+    dev({QStringLiteral("test")});
+    EXPECT_THAT(deeds(), ElementsAre(QStringLiteral("cmake --preset debug"))); // nothing to install
+    const Outcome outcome = dev({QStringLiteral("test")}, {{QStringLiteral("CI"), QStringLiteral("true")}});
+    EXPECT_EQ(outcome.errors, QStringLiteral("These packages could not be installed: openssh-server.\n"));
+}
+
 TEST_F(Dev, LintsWhatDiffersFromMainAlone)
 {
     for (const char *name : {"find", "grep", "head", "sort"})

@@ -19,6 +19,8 @@ FilesTest::FilesTest()
           .yielder = m_yielder,
           .pageViews = m_pageViews,
           .worker = m_worker,
+          .transfers = transfers,
+          .wizards = m_wizards,
           .appPath = m_folder.path(),
           .statePath = m_folder.path() + QStringLiteral("/state"),
       },
@@ -26,6 +28,7 @@ FilesTest::FilesTest()
 {
     context.mainWindow = &mainWindow;
     context.files = &files;
+    context.uploads = &uploads;
     context.newBlankDocument = [this]() -> Document * { return &newDocument(); };
     context.end = [this] { ended = true; };
     setting("AppPaths", QStringLiteral("WorkingDir"), m_folder.path());

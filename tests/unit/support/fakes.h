@@ -7,6 +7,7 @@
 #include "forms/form.h"
 #include "forms/formRuntime.h"
 #include "forms/programContext.h"
+#include "internet/uploads.h"
 #include "services/clipboard.h"
 #include "services/clock.h"
 #include "services/commonDialogs.h"
@@ -23,6 +24,7 @@
 #include "services/yielder.h"
 #include "storage/localFileSystem.h"
 #include "surface/editSurface.h"
+#include "unit/support/fakeOutside.h"
 #include "unit/support/memorySettings.h"
 #include "unit/support/noPages.h"
 #include "widgets/screenPointer.h"
@@ -308,6 +310,7 @@ protected:
     MemorySettings settings;
     FailingFiles disk;
     AnsweredForms modal;
+    FakeTransfers transfers;
     FakeProject project;
     FakeMainWindow mainWindow;
     ProgramState state;
@@ -323,6 +326,7 @@ private:
     NoFileClasses m_fileClasses;
     EventYielder m_yielder;
     NoPageViews m_pageViews;
+    NoWizards m_wizards;
     QTemporaryDir m_folder;
     InlineWorker m_worker;
     Services m_services;
@@ -333,4 +337,5 @@ private:
 protected:
     ProgramContext context;
     DocumentFiles files{context};
+    Uploads uploads{context};
 };

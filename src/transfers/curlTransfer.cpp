@@ -1,0 +1,314 @@
+// A transfer's turns, from its setting up to its end.
+#include "transfers/curlTransfer.h"
+
+#include "transfers/curlMulti.h"
+#include "transfers/transferFailures.h"
+
+#include <QUrl>
+
+namespace
+{
+constexpr long MostRedirects = 10;
+constexpr int UsualPatience = 30;     ///< seconds
+constexpr int CleanupPatience = 5;    ///< seconds
+constexpr int PatienceInterval = 250; ///< milliseconds between two looks
+constexpr long BufferBytes = 512 * 1024;
+constexpr int FirstErrorStatus = 400;
+
+/// A web address leads to web addresses alone, and one that is encrypted to encrypted ones.
+QByteArray redirectSchemes(const QString &scheme)
+{
+    return scheme == u"https" ? QByteArray("https") : QByteArray("http,https");
+}
+} // namespace
+
+CurlTransfer::CurlTransfer(CurlMulti &multi, const TransferRequest &request, TransferAddress address,
+                           const TransferGround &ground, TransferWatcher &watcher)
+    : m_multi(multi), m_request(request), m_address(std::move(address)), m_ground(ground), m_watcher(watcher)
+{
+    if (m_request.port > 0 && !m_address.hasPort())
+        m_address.setPort(m_request.port);
+    m_target = m_address.name();
+    m_names = uploadNames(QUrl::fromPercentEncoding(m_target.toUtf8()));
+    connect(&m_patienceTimer, &QTimer::timeout, this, &CurlTransfer::checkPatience);
+    begin();
+}
+
+CurlTransfer::~CurlTransfer()
+{
+    release();
+    m_request.password.fill(u'\0');
+}
+
+void CurlTransfer::begin()
+{
+    advance(TransferState::ResolvingHost);
+    if (m_request.kind == TransferRequest::Kind::Download) {
+        setUp();
+        run([this](CURLcode code) { downloadOver(code); });
+    } else {
+        const bool byName = canRename(m_address.scheme(), m_names.target) && !goesByProxy();
+        beginUpload(byName ? UploadWay::ByTemporaryName : UploadWay::Straight, false);
+    }
+}
+
+void CurlTransfer::beginUpload(UploadWay way, bool retry)
+{
+    const bool byName = way == UploadWay::ByTemporaryName;
+    m_address.setName(byName ? QString::fromLatin1(QUrl::toPercentEncoding(m_names.temporary)) : m_target);
+    m_sent = 0;
+    setUp();
+    setCommands(uploadCommands(way, m_address.scheme(), m_address.folder(), m_names, retry));
+    curl_easy_setopt(m_easy, CURLOPT_UPLOAD, 1L);
+    curl_easy_setopt(m_easy, CURLOPT_INFILESIZE_LARGE, static_cast<curl_off_t>(m_request.body.size()));
+    curl_slist *headers = curl_slist_append(nullptr, "Expect:"); // a page is not worth a question first
+    m_lists.append(headers);
+    curl_easy_setopt(m_easy, CURLOPT_HTTPHEADER, headers);
+    run([this, byName](CURLcode code) { byName ? temporaryUploadOver(code) : uploadOver(code); });
+}
+
+/// Takes away what has come of a file that will not become whole; the failure is told thereafter.
+void CurlTransfer::beginCleanup(CURLcode failure)
+{
+    const int response = m_end.ResponseCode;
+    const QString info = m_end.ResponseInfo;
+    m_address.setName(QString());
+    m_request.patience = CleanupPatience;
+    setUp();
+    curl_easy_setopt(m_easy, CURLOPT_NOBODY, 1L);
+    setCommands(cleanupCommands(m_address.scheme(), m_address.folder(), m_names));
+    run([this, failure, response, info](CURLcode) {
+        m_end.ResponseCode = response;
+        m_end.ResponseInfo = info;
+        fail(failure);
+    });
+}
+
+void CurlTransfer::setUp()
+{
+    release();
+    m_end = {};
+    m_easy = curl_easy_init();
+    curl_easy_setopt(m_easy, CURLOPT_CURLU, m_address.handle());
+    curl_easy_setopt(m_easy, CURLOPT_PROTOCOLS_STR, "http,https,ftp,ftps,sftp");
+    curl_easy_setopt(m_easy, CURLOPT_REDIR_PROTOCOLS_STR, redirectSchemes(m_address.scheme()).constData());
+    curl_easy_setopt(m_easy, CURLOPT_FOLLOWLOCATION, 1L);
+    curl_easy_setopt(m_easy, CURLOPT_MAXREDIRS, MostRedirects);
+    curl_easy_setopt(m_easy, CURLOPT_NOSIGNAL, 1L);
+    curl_easy_setopt(m_easy, CURLOPT_FORBID_REUSE, 1L); // a connection knows its password
+    curl_easy_setopt(m_easy, CURLOPT_BUFFERSIZE, BufferBytes);
+    curl_easy_setopt(m_easy, CURLOPT_UPLOAD_BUFFERSIZE, BufferBytes);
+    curl_easy_setopt(m_easy, CURLOPT_USERAGENT, "Tagwrighter");
+    curl_easy_setopt(m_easy, CURLOPT_ACCEPT_ENCODING, "");
+    curl_easy_setopt(m_easy, CURLOPT_ERRORBUFFER, m_detail);
+    setCredentials();
+    setProxy();
+    setTrust();
+    setCallbacks();
+}
+
+void CurlTransfer::setCommands(const UploadCommands &commands)
+{
+    const auto set = [this](CURLoption option, const QList<QByteArray> &lines) {
+        curl_slist *list = nullptr;
+        for (const QByteArray &line : lines)
+            list = curl_slist_append(list, line.constData());
+        m_lists.append(list);
+        curl_easy_setopt(m_easy, option, list);
+    };
+    const bool sftp = m_address.scheme() == u"sftp"; // has no folder that it stands in
+    set(sftp ? CURLOPT_QUOTE : CURLOPT_PREQUOTE, commands.before);
+    set(CURLOPT_POSTQUOTE, commands.after);
+}
+
+void CurlTransfer::setCredentials()
+{
+    const QString user = m_address.user().isEmpty() ? m_request.userName : m_address.user();
+    const QString password = m_address.password().isEmpty() ? m_request.password : m_address.password();
+    if (user.isEmpty() && password.isEmpty())
+        return;
+    curl_easy_setopt(m_easy, CURLOPT_USERNAME, user.toUtf8().constData());
+    curl_easy_setopt(m_easy, CURLOPT_PASSWORD, password.toUtf8().constData());
+    curl_easy_setopt(m_easy, CURLOPT_HTTPAUTH, static_cast<long>(CURLAUTH_ANY));
+}
+
+bool CurlTransfer::goesByProxy() const
+{
+    return m_request.access == TransferRequest::Access::Named && m_request.proxy.startsWith(m_address.scheme() + u'=');
+}
+
+void CurlTransfer::setProxy()
+{
+    if (m_request.access == TransferRequest::Access::Default)
+        return;
+    const QString proxy = goesByProxy() ? m_request.proxy.sliced(m_address.scheme().size() + 1) : QString();
+    curl_easy_setopt(m_easy, CURLOPT_PROXY, proxy.toUtf8().constData());
+}
+
+void CurlTransfer::setTrust()
+{
+    curl_easy_setopt(m_easy, CURLOPT_SSL_VERIFYPEER, 1L);
+    curl_easy_setopt(m_easy, CURLOPT_SSL_VERIFYHOST, 2L);
+    if (m_address.scheme() == u"ftps")
+        curl_easy_setopt(m_easy, CURLOPT_USE_SSL, static_cast<long>(CURLUSESSL_ALL));
+    // The list of trusted authorities can be another one, as for the system's own tools.
+    const QByteArray authorities = qgetenv("SSL_CERT_FILE");
+    if (!authorities.isEmpty())
+        curl_easy_setopt(m_easy, CURLOPT_CAINFO, authorities.constData());
+    curl_easy_setopt(m_easy, CURLOPT_SSH_KNOWNHOSTS, m_ground.knownHosts.toUtf8().constData());
+    curl_easy_setopt(m_easy, CURLOPT_SSH_KEYFUNCTION, &CurlTransfer::hostKey);
+    curl_easy_setopt(m_easy, CURLOPT_SSH_KEYDATA, this);
+}
+
+void CurlTransfer::setCallbacks()
+{
+    const auto set = [this](CURLoption function, auto callback, CURLoption data) {
+        curl_easy_setopt(m_easy, function, callback);
+        curl_easy_setopt(m_easy, data, this);
+    };
+    set(CURLOPT_RESOLVER_START_FUNCTION, &CurlTransfer::resolving, CURLOPT_RESOLVER_START_DATA);
+    set(CURLOPT_OPENSOCKETFUNCTION, &CurlTransfer::opening, CURLOPT_OPENSOCKETDATA);
+    set(CURLOPT_PREREQFUNCTION, &CurlTransfer::requesting, CURLOPT_PREREQDATA);
+    set(CURLOPT_HEADERFUNCTION, &CurlTransfer::headerCame, CURLOPT_HEADERDATA);
+    set(CURLOPT_WRITEFUNCTION, &CurlTransfer::bodyCame, CURLOPT_WRITEDATA);
+    set(CURLOPT_READFUNCTION, &CurlTransfer::bodyWanted, CURLOPT_READDATA);
+    set(CURLOPT_SEEKFUNCTION, &CurlTransfer::bodySought, CURLOPT_SEEKDATA);
+    set(CURLOPT_XFERINFOFUNCTION, &CurlTransfer::progress, CURLOPT_XFERINFODATA);
+    curl_easy_setopt(m_easy, CURLOPT_NOPROGRESS, 0L);
+}
+
+void CurlTransfer::run(const std::function<void(CURLcode)> &over)
+{
+    m_over = over;
+    noteActivity();
+    m_patienceTimer.start(PatienceInterval);
+    m_multi.add(m_easy, this, [this](CURLcode code) {
+        m_patienceTimer.stop();
+        const auto current = m_over; // which may set another turn up
+        current(code);
+    });
+}
+
+void CurlTransfer::release()
+{
+    m_patienceTimer.stop();
+    if (!m_easy)
+        return;
+    m_multi.remove(m_easy);
+    curl_easy_cleanup(m_easy);
+    m_easy = nullptr;
+    for (curl_slist *list : m_lists)
+        curl_slist_free_all(list);
+    m_lists.clear();
+}
+
+void CurlTransfer::checkPatience()
+{
+    const int seconds = m_request.patience > 0 ? m_request.patience : UsualPatience;
+    if (m_sinceActivity.elapsed() < qint64(seconds) * 1000)
+        return;
+    m_patienceTimer.stop();
+    m_multi.remove(m_easy);
+    const auto over = m_over; // which may set another turn up
+    over(CURLE_OPERATION_TIMEDOUT);
+}
+
+void CurlTransfer::downloadOver(CURLcode code)
+{
+    completeResponse(code);
+    const bool refused = code == CURLE_REMOTE_FILE_NOT_FOUND || code == CURLE_FTP_COULDNT_RETR_FILE ||
+                         code == CURLE_REMOTE_ACCESS_DENIED;
+    if (code == CURLE_OK || (refused && m_end.ResponseCode >= FirstErrorStatus))
+        succeed();
+    else
+        fail(code);
+}
+
+void CurlTransfer::temporaryUploadOver(CURLcode code)
+{
+    completeResponse(code);
+    if (code == CURLE_OK)
+        succeed();
+    else if (refusesTemporaryName(code, m_end.ResponseCode))
+        beginUpload(UploadWay::Straight, true);
+    else if (m_sent > 0)
+        beginCleanup(code);
+    else
+        fail(code);
+}
+
+void CurlTransfer::uploadOver(CURLcode code)
+{
+    completeResponse(code);
+    if (code != CURLE_OK) {
+        fail(code);
+    } else if (m_end.ResponseCode >= FirstErrorStatus) {
+        m_end.failure = m_end.ResponseInfo;
+        tellFailure();
+    } else {
+        succeed();
+    }
+}
+
+void CurlTransfer::succeed()
+{
+    for (const TransferState state : {TransferState::ResponseReceived, TransferState::Disconnecting,
+                                      TransferState::Disconnected, TransferState::ResponseCompleted})
+        advance(state);
+    tellEnd();
+}
+
+/// Makes up for what a server says without a number. What it says with one is kept as it comes.
+void CurlTransfer::completeResponse(CURLcode code)
+{
+    constexpr int NoSuchFile = 550; // SFTP says it without a number; this is the one of FTP
+    if (code == CURLE_REMOTE_FILE_NOT_FOUND && m_end.ResponseCode == 0)
+        m_end.ResponseCode = NoSuchFile;
+}
+
+QString CurlTransfer::reasonOf(CURLcode code) const
+{
+    if (m_tooLarge)
+        return QStringLiteral("It is larger than 64 MiB, which is more than can be opened.");
+    if (m_keyChanged)
+        return QStringLiteral("The server shows another key than the one that is known of it. Somebody may stand in "
+                              "between; ask the owner of the server.");
+    if (m_end.unknownHost)
+        return QStringLiteral("The server is not known, and you do not trust it.");
+    return transferFailure(code, QString::fromLocal8Bit(m_detail));
+}
+
+void CurlTransfer::fail(CURLcode code)
+{
+    m_end.failure = reasonOf(code);
+    if (m_end.ResponseCode < FirstErrorStatus) { // the server found nothing wrong
+        m_end.ResponseCode = code;
+        m_end.ResponseInfo = m_end.failure;
+    }
+    tellFailure();
+}
+
+void CurlTransfer::tellFailure()
+{
+    advance(TransferState::Error);
+    tellEnd();
+}
+
+void CurlTransfer::tellEnd()
+{
+    QMetaObject::invokeMethod(
+        this, [this] { m_watcher.finished(m_end); }, Qt::QueuedConnection);
+}
+
+/// Tells a stage, and those before it that the library has passed over in silence.
+void CurlTransfer::advance(TransferState state)
+{
+    if (state <= m_state)
+        return;
+    const int first = state == TransferState::Error ? int(state) : int(m_state) + 1;
+    for (int each = first; each <= int(state); ++each)
+        if (each != int(TransferState::Error) || state == TransferState::Error)
+            QMetaObject::invokeMethod(
+                this, [this, each] { m_watcher.StateChanged(TransferState(each)); }, Qt::QueuedConnection);
+    m_state = state;
+}
