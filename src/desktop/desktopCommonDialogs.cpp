@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFontDialog>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -45,15 +46,32 @@ int chosenIndex(const NameFilters &filters, const QString &selected, int otherwi
     return place < 0 ? otherwise : static_cast<int>(place) + 1;
 }
 
+bool isFolder(const QString &path)
+{
+    return !path.isEmpty() && QFileInfo(path).isDir();
+}
+
 void setStartingPoint(QFileDialog &dialog, const FileDialogRequest &request)
 {
     const QString folder = folderOf(request.FileName);
-    if (!folder.isEmpty() && QDir(folder).exists())
+    if (isFolder(folder))
         dialog.setDirectory(folder);
-    else if (!request.InitDir.isEmpty())
-        dialog.setDirectory(request.InitDir);
+    else
+        dialog.setDirectory(startingFolder(request));
     if (!request.FileName.isEmpty())
         dialog.selectFile(folder.isEmpty() ? request.FileName : request.FileName.sliced(folder.size()));
+}
+
+/// The folders beside the list: those of the user, of the program's pages and of the page in front.
+void setSidebar(QFileDialog &dialog, const FileDialogRequest &request)
+{
+    QList<QUrl> places;
+    for (const QString &place : {QDir::rootPath(), QDir::homePath(), request.InitDir, request.NearDir}) {
+        const QUrl url = QUrl::fromLocalFile(QDir::cleanPath(place));
+        if (isFolder(place) && !places.contains(url))
+            places.append(url);
+    }
+    dialog.setSidebarUrls(places);
 }
 
 std::optional<FileDialogResult> runFileDialog(QFileDialog &dialog, const FileDialogRequest &request)
@@ -66,6 +84,7 @@ std::optional<FileDialogResult> runFileDialog(QFileDialog &dialog, const FileDia
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setNameFilters(filters.whole);
     dialog.selectNameFilter(filters.whole.at(proposed - 1));
+    setSidebar(dialog, request);
     setStartingPoint(dialog, request);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
@@ -74,6 +93,14 @@ std::optional<FileDialogResult> runFileDialog(QFileDialog &dialog, const FileDia
                             chosen.sliced(1)};
 }
 } // namespace
+
+QString startingFolder(const FileDialogRequest &request)
+{
+    for (const QString &folder : {request.InitDir, request.NearDir})
+        if (isFolder(folder))
+            return folder;
+    return QDir::homePath();
+}
 
 std::optional<FileDialogResult> DesktopCommonDialogs::showOpen(const FileDialogRequest &request)
 {
@@ -90,7 +117,10 @@ std::optional<FileDialogResult> DesktopCommonDialogs::showSave(const FileDialogR
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.asksBeforeReplacing);
     dialog.setDefaultSuffix(request.DefaultExt);
-    return runFileDialog(dialog, request);
+    const std::optional<FileDialogResult> chosen = runFileDialog(dialog, request);
+    if (!chosen || !request.DefaultExt.isEmpty() || request.asksBeforeReplacing)
+        return chosen;
+    return withEnding(*chosen, request.Filter, [](const QString &path) { return QFileInfo::exists(path); });
 }
 
 std::optional<QString> DesktopCommonDialogs::showFolder(const QString &title, const QString &initialFolder)

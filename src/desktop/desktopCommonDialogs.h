@@ -2,6 +2,10 @@
 
 #include "services/commonDialogs.h"
 
+/// The folder that a file dialog starts in where no name is proposed: the one asked for, the one near by, or the home,
+/// whichever is there.
+QString startingFolder(const FileDialogRequest &request);
+
 /// The dialogs of the desktop, or the toolkit's where the desktop has none of its own.
 class DesktopCommonDialogs final : public CommonDialogs
 {

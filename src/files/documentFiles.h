@@ -53,6 +53,7 @@ private:
     void tellComesLater(const QString &what);
 
     void openAsChosen(const FileDialogResult &chosen);
+    QString folderInFront() const;
     bool refuseOpenTwice(const QString &path);
     std::optional<Opened> openIntoNewDocument(const QString &path, bool unicode);
     std::optional<Opened> readInto(Document &document, const QString &path, bool unicode);

@@ -5,16 +5,19 @@
 #include "common/longLines.h"
 #include "common/mainWindow.h"
 #include "common/pageCharset.h"
+#include "common/paths.h"
 #include "common/siteProject.h"
 #include "common/unsavedText.h"
 #include "files/fileDialogRows.h"
 #include "files/modFileErrors.h"
+#include "files/modFileNames.h"
 #include "files/modRecentFiles.h"
 #include "forms/programContext.h"
 #include "services/commonDialogs.h"
 #include "services/fileSystem.h"
 #include "services/services.h"
 #include "services/settings.h"
+#include "services/workingFolder.h"
 #include "widgets/screenPointer.h"
 
 #include <algorithm>
@@ -80,14 +83,22 @@ void DocumentFiles::showFormat(const Document &document)
 
 void DocumentFiles::ShowOpenDialog()
 {
-    const std::optional<FileDialogResult> chosen = m_context.services.commonDialogs.showOpen(
-        {.DialogTitle = {},
-         .Filter = openFilter(),
-         .FilterIndex = PreselectedRow,
-         .InitDir = settings::read(m_context.services.settings, settings::WorkingDir),
-         .FileName = {}});
+    const std::optional<FileDialogResult> chosen =
+        m_context.services.commonDialogs.showOpen({.DialogTitle = {},
+                                                   .Filter = openFilter(),
+                                                   .FilterIndex = PreselectedRow,
+                                                   .InitDir = workingFolder(m_context.services),
+                                                   .FileName = {},
+                                                   .NearDir = folderInFront()});
     if (chosen && !chosen->fileName.isEmpty())
         openAsChosen(*chosen);
+}
+
+/// Where the page in front lies; empty for none.
+QString DocumentFiles::folderInFront() const
+{
+    const Document *document = m_context.mainWindow->activeDocument();
+    return document ? folderOf(document->DocSavePath) : QString();
 }
 
 void DocumentFiles::openAsChosen(const FileDialogResult &chosen)
@@ -161,7 +172,7 @@ void DocumentFiles::OpenTemplateFile(const QString &path, bool asTemplate)
 bool DocumentFiles::refuseOpenTwice(const QString &path)
 {
     for (const Document *document : m_context.mainWindow->openDocuments())
-        if (document->DocSavePath == path) {
+        if (isFileOf(m_context.services.files, *document, path)) {
             finish();
             m_context.services.messageBoxes.show(
                 {.title = QStringLiteral("File Already Open"),

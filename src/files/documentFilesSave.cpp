@@ -20,6 +20,7 @@
 #include "services/messageBoxes.h"
 #include "services/services.h"
 #include "services/settings.h"
+#include "services/workingFolder.h"
 
 #include <new>
 
@@ -97,7 +98,7 @@ bool DocumentFiles::saveDocument(Document &document, bool closing)
 
 bool DocumentFiles::saveDocumentAs(Document &document, bool closing, const QString &title)
 {
-    const QString folder = settings::read(m_context.services.settings, settings::WorkingDir);
+    const QString folder = workingFolder(m_context.services);
     const QString proposed = document.NewDoc
                                  ? DefaultFileNameFromTitle(document.txtEdit().Text(), folder, m_context.services.files)
                                  : document.DocSavePath;
@@ -108,7 +109,8 @@ bool DocumentFiles::saveDocumentAs(Document &document, bool closing, const QStri
                                                             .Filter = saveFilter(),
                                                             .FilterIndex = PreselectedRow,
                                                             .InitDir = folder,
-                                                            .FileName = proposed});
+                                                            .FileName = proposed,
+                                                            .NearDir = folderInFront()});
     }
     if (chosen && !chosen->fileName.isEmpty())
         return saveAsChosen(document, closing, *chosen);
@@ -136,12 +138,12 @@ bool DocumentFiles::saveAsChosen(Document &document, bool closing, const FileDia
 
 bool DocumentFiles::WriteDocumentTo(Document &document, bool closing, const Target &target)
 {
-    if (IsFileOpen(*m_context.mainWindow, target.path, document.DocSavePath)) {
+    if (IsFileOpen(*m_context.mainWindow, m_context.services.files, target.path, document.DocSavePath)) {
         m_context.services.messageBoxes.show(documentOpenBox(target.path));
         document.txtEdit().SetFocus();
         return notSaved(document, closing);
     }
-    if (target.path == document.DocSavePath) {
+    if (isFileOf(m_context.services.files, document, target.path)) {
         if (!mayWriteOver(document))
             return notSaved(document, closing);
     } else if (FileExists(m_context.services.files, target.path)) {
@@ -303,9 +305,8 @@ void DocumentFiles::offerToProject(Document &document)
     if (settings::isOn(m_context.services.settings, settings::ShowAddFileToProjectQuestion) &&
         !frmMdi.AskedForThisSession) {
         frmMdi.AddSavedFileAnswer = false;
-        document.setAutoSaveEnabled(false);
+        const AutoSavePause pause(document);
         m_context.forms.showModal<frmMsgAddSavedFileToProject>();
-        document.setAutoSaveEnabled(true);
         document.txtEdit().SetFocus();
         add = frmMdi.AddSavedFileAnswer;
     }

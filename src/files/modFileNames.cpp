@@ -1,5 +1,6 @@
 #include "files/modFileNames.h"
 
+#include "common/document.h"
 #include "common/mainWindow.h"
 #include "common/paths.h"
 #include "common/text.h"
@@ -28,13 +29,20 @@ bool FileExists(FileSystem &files, const QString &path)
     return files.exists(path);
 }
 
-bool IsFileOpen(const MainWindow &mainWindow, const QString &path, const QString &ownPath)
+bool isFileOf(FileSystem &files, const Document &document, const QString &path)
+{
+    return !document.DocSavePath.isEmpty() &&
+           (document.DocSavePath == path || files.isSameFile(document.DocSavePath, path));
+}
+
+bool IsFileOpen(const MainWindow &mainWindow, FileSystem &files, const QString &path, const QString &ownPath)
 {
     if (path == ownPath)
         return false;
     const QList<Document *> documents = mainWindow.openDocuments();
     return std::any_of(documents.begin(), documents.end(), [&](const Document *document) {
-        return document != mainWindow.activeDocument() && document->DocSavePath.toLower() == path.toLower();
+        return document != mainWindow.activeDocument() &&
+               (document->DocSavePath.toLower() == path.toLower() || isFileOf(files, *document, path));
     });
 }
 

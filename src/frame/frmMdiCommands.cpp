@@ -22,6 +22,7 @@
 #include "services/messageBoxes.h"
 #include "services/services.h"
 #include "services/settings.h"
+#include "services/workingFolder.h"
 #include "texttools/frmFind.h"
 #include "widgets/mdiArrange.h"
 
@@ -42,7 +43,8 @@ MessageBox optimiseBox()
                 " Click Yes to begin the code optimisation.\r\n"
                 " Click No to cancel the code optimisation so that you can save your work."),
             .icon = MessageIcon::None,
-            .buttons = MessageButtons::YesNo};
+            .buttons = MessageButtons::YesNo,
+            .byEnter = MessageAnswer::No};
 }
 } // namespace
 
@@ -284,7 +286,7 @@ void MainCommands::mnuInsExternalCSS_Click()
         {.DialogTitle = {},
          .Filter = QStringLiteral("All Files (*.*)|*.*|Cascading Style Sheets (*.css)|*.css"),
          .FilterIndex = 1,
-         .InitDir = settings::read(m_context.services.settings, settings::WorkingDir),
+         .InitDir = workingFolder(m_context.services),
          .FileName = {}});
     Document *active = document();
     if (!cdlInsExternalCSS || !active)

@@ -5,6 +5,7 @@
 #include "services/services.h"
 #include "services/settings.h"
 #include "services/timer.h"
+#include "services/workingFolder.h"
 #include "widgets/layout.h"
 #include "widgets/screenPointer.h"
 
@@ -68,6 +69,7 @@ void frmSplash::prepareSettings()
     settings::write(store, settings::HotTrackingFiles, QStringLiteral("False"));
     settings::write(store, settings::MainAppDir, services().appPath);
     settings::writeFirstRunDefaults(store, services().appPath);
+    makeOwnWorkingFolder(services());
     settings::write(store, settings::CurrentVersion, context().version);
 }
 

@@ -27,7 +27,7 @@ QStringList sorted(QStringList names)
 LocalPage::LocalPage(FileSystem &files, QWidget *parent) : QWidget(parent), m_files(files)
 {
     constexpr int Gap = 4;
-    drvLocal = ui::driveList(QStringLiteral("drvLocal"), [this] { dirLocal->setPath(drvLocal->Drive()); });
+    drvLocal = ui::driveList(QStringLiteral("drvLocal"), files, [this] { dirLocal->setPath(drvLocal->Drive()); });
     dirLocal = ui::folderList(QStringLiteral("dirLocal"), files, [this] { filTempLocal->setPath(dirLocal->Path()); });
     filTempLocal = ui::fileList(QStringLiteral("filTempLocal"), files, [this] { filTempLocal_PathChange(); });
     const auto choose = [this](int row) { Q_EMIT fileChosen(lstLocal->rowAt(row).key); };

@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <functional>
 #include <optional>
 
 /// What an open or save dialog is to show.
@@ -16,6 +17,7 @@ struct FileDialogRequest {
     QString DefaultExt = {};          ///< of a save: put behind a name that is typed without an extension
     bool severalFiles = false;        ///< of an open: more than one file may be chosen
     bool asksBeforeReplacing = false; ///< of a save: the dialog itself asks before a file that is there is chosen
+    QString NearDir = {};             ///< folder offered beside InitDir, and taken where that is not there
 };
 
 struct FileDialogResult {
@@ -25,6 +27,11 @@ struct FileDialogResult {
 
     QStringList allFileNames() const { return QStringList(fileName) + others; }
 };
+
+/// The name that a save dialog gives: where the user's has no ending, and is no file that is there already, it takes
+/// the first ending of the row in force, as desktop dialogs do. A row for all files has none.
+FileDialogResult withEnding(const FileDialogResult &chosen, const QString &filter,
+                            const std::function<bool(const QString &)> &exists);
 
 struct FontChoice {
     QString family;

@@ -67,6 +67,12 @@ public:
 
     virtual bool exists(const QString &path) = 0; ///< a file of any kind, no folder
     virtual bool isFolder(const QString &path) = 0;
+    /// Whether both lead to one file, by a link, a ".." or a double separator too. Of files that are not there, the
+    /// paths are compared.
+    virtual bool isSameFile(const QString &a, const QString &b) { return a == b; }
+    /// Where volumes that a user has plugged in or mounted are found. Asks none of them: one on a machine that is
+    /// asleep would not answer.
+    virtual QStringList volumes() { return {}; }
     virtual std::optional<qint64> size(const QString &path) = 0;
     virtual std::optional<FileStamp> stamp(const QString &path) = 0;
     virtual std::optional<FileDetails> details(const QString &path) = 0;

@@ -1,8 +1,10 @@
 #include "storage/localFileSystem.h"
 
 #include "storage/fileWatch.h"
+#include "storage/mountTable.h"
 #include "storage/wholeFile.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -12,7 +14,10 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <new>
+#include <string>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -194,6 +199,25 @@ bool LocalFileSystem::isFolder(const QString &path)
 {
     const std::optional<struct stat> status = statusOf(path);
     return status && S_ISDIR(status->st_mode);
+}
+
+bool LocalFileSystem::isSameFile(const QString &a, const QString &b)
+{
+    if (a == b)
+        return true;
+    const std::optional<struct stat> first = statusOf(a);
+    const std::optional<struct stat> second = statusOf(b);
+    if (first && second)
+        return first->st_dev == second->st_dev && first->st_ino == second->st_ino;
+    return !first && !second && !a.isEmpty() && !b.isEmpty() && QDir::cleanPath(a) == QDir::cleanPath(b);
+}
+
+QStringList LocalFileSystem::volumes()
+{
+    // Read as it comes: a file of the kernel's tells no size.
+    std::ifstream table("/proc/self/mounts", std::ios::binary);
+    const std::string text((std::istreambuf_iterator<char>(table)), std::istreambuf_iterator<char>());
+    return mountedVolumes(QByteArray::fromStdString(text));
 }
 
 std::optional<qint64> LocalFileSystem::size(const QString &path)

@@ -21,6 +21,8 @@ public:
 
     bool exists(const QString &path) override;
     bool isFolder(const QString &path) override;
+    bool isSameFile(const QString &a, const QString &b) override;
+    QStringList volumes() override;
     std::optional<qint64> size(const QString &path) override;
     std::optional<FileStamp> stamp(const QString &path) override;
     std::optional<FileDetails> details(const QString &path) override;

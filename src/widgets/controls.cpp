@@ -240,9 +240,9 @@ NodeTree *tree(const QString &name, const TreeHandlers &handlers)
     return control;
 }
 
-DriveList *driveList(const QString &name, const Handler &change)
+DriveList *driveList(const QString &name, FileSystem &files, const Handler &change)
 {
-    auto *control = named(new DriveList, name);
+    auto *control = named(new DriveList(files), name);
     run(control, &QComboBox::currentIndexChanged, change);
     return control;
 }

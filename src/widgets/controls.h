@@ -90,7 +90,7 @@ struct TreeHandlers {
 };
 NodeTree *tree(const QString &name, const TreeHandlers &handlers = {});
 
-DriveList *driveList(const QString &name, const Handler &change = {});
+DriveList *driveList(const QString &name, FileSystem &files, const Handler &change = {});
 FolderList *folderList(const QString &name, FileSystem &files, const Handler &change = {});
 FileList *fileList(const QString &name, FileSystem &files, const Handler &pathChange = {});
 

@@ -6,7 +6,6 @@
 #include <QFileIconProvider>
 #include <QFileInfo>
 #include <QKeyEvent>
-#include <QStorageInfo>
 
 namespace
 {
@@ -17,21 +16,6 @@ bool isUnder(const QString &path, const QString &folder)
     return path == folder || path.startsWith(folder.endsWith(u'/') ? folder : folder + u'/');
 }
 
-/// Volumes that a user plugged in or mounted, not those that the system is made of.
-QStringList mountedVolumes()
-{
-    QStringList volumes;
-    for (const QStorageInfo &volume : QStorageInfo::mountedVolumes()) {
-        const QString root = volume.rootPath();
-        for (const QString &place :
-             {QStringLiteral("/media/"), QStringLiteral("/run/media/"), QStringLiteral("/mnt/")}) {
-            if (volume.isReady() && root.startsWith(place))
-                volumes.append(root);
-        }
-    }
-    return volumes;
-}
-
 QString lastName(const QString &path)
 {
     const QString name = QFileInfo(path).fileName();
@@ -39,9 +23,9 @@ QString lastName(const QString &path)
 }
 } // namespace
 
-DriveList::DriveList(QWidget *parent) : QComboBox(parent)
+DriveList::DriveList(FileSystem &files, QWidget *parent) : QComboBox(parent)
 {
-    for (const QString &place : QStringList{QDir::rootPath(), QDir::homePath()} + mountedVolumes()) {
+    for (const QString &place : QStringList{QDir::rootPath(), QDir::homePath()} + files.volumes()) {
         if (findText(place) < 0)
             addItem(QFileIconProvider().icon(QFileIconProvider::Drive), place);
     }

@@ -11,7 +11,7 @@ class DriveList final : public QComboBox
 {
     Q_OBJECT
 public:
-    explicit DriveList(QWidget *parent = nullptr);
+    explicit DriveList(FileSystem &files, QWidget *parent = nullptr);
 
     QString Drive() const; ///< the folder of the chosen place
     /// Chooses the place that holds the path; false, and nothing changed, if it is no absolute path.

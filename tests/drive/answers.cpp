@@ -3,7 +3,9 @@
 #include "drive/referee.h"
 #include "drive/told.h"
 
+#include <QFileInfo>
 #include <QScopedValueRollback>
+
 #include <algorithm>
 #include <span>
 
@@ -255,7 +257,10 @@ std::optional<FileDialogResult> ScriptedDialogs::showOpen(const FileDialogReques
 
 std::optional<FileDialogResult> ScriptedDialogs::showSave(const FileDialogRequest &request)
 {
-    return showFile(DialogKind::Save, request);
+    const std::optional<FileDialogResult> chosen = showFile(DialogKind::Save, request);
+    if (!chosen || !request.DefaultExt.isEmpty() || request.asksBeforeReplacing)
+        return chosen;
+    return withEnding(*chosen, request.Filter, [](const QString &path) { return QFileInfo::exists(path); });
 }
 
 std::optional<QString> ScriptedDialogs::showFolder(const QString &title, const QString &initialFolder)

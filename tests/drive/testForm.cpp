@@ -193,7 +193,7 @@ ui::Node frmTestControls::treePage()
     auto *dirFolders = ui::folderList(str("dirFolders"), services().files, recorder(str("dirFolders"), str("Change")));
     auto *filNames = ui::fileList(str("filNames"), services().files, recorder(str("filNames"), str("PathChange")));
     connect(dirFolders, &FolderList::pathChanged, filNames, [=] { filNames->setPath(dirFolders->Path()); });
-    auto *drvPlaces = ui::driveList(str("drvPlaces"));
+    auto *drvPlaces = ui::driveList(str("drvPlaces"), services().files);
     connect(drvPlaces, &QComboBox::currentIndexChanged, dirFolders, [=] { dirFolders->setPath(drvPlaces->Drive()); });
     dirFolders->setPath(drvPlaces->Drive());
     return ui::column({keyedTabs(), ui::line({ui::under(str("&Nodes:"), nodeTree()).stretched(),

@@ -83,6 +83,17 @@ TEST(DesktopMessageBoxes, ShowTheTextAsItStands)
         MessageAnswer::No);
 }
 
+TEST(DesktopMessageBoxes, AnswerEnterAsTheBoxSays)
+{
+    DesktopMessageBoxes boxes;
+    whenShown<QMessageBox>([](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Return); });
+    MessageBox question{q("T"), q("x"), MessageIcon::None, MessageButtons::YesNo};
+    EXPECT_EQ(boxes.show(question), MessageAnswer::Yes);
+    question.byEnter = MessageAnswer::No;
+    whenShown<QMessageBox>([](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Return); });
+    EXPECT_EQ(boxes.show(question), MessageAnswer::No);
+}
+
 class Dialogs : public Sandbox
 {
 protected:

@@ -2,6 +2,8 @@
 
 #include "unit/support/fakes.h"
 
+#include <QFile>
+
 namespace
 {
 TEST(IsFileNameClean, RefusesWhatNoFileNameMayHold)
@@ -85,16 +87,27 @@ TEST_F(FileOpen, FindsAnotherDocumentOfThatNameInAnyCase)
     newDocument().DocSavePath = QStringLiteral("/site/Index.html");
     newDocument().DocSavePath = QStringLiteral("/site/mine.html");
     const QString own = QStringLiteral("/site/mine.html");
-    EXPECT_TRUE(IsFileOpen(mainWindow, QStringLiteral("/site/index.HTML"), own));
-    EXPECT_FALSE(IsFileOpen(mainWindow, QStringLiteral("/site/other.html"), own));
-    EXPECT_FALSE(IsFileOpen(mainWindow, own, own));
+    EXPECT_TRUE(IsFileOpen(mainWindow, disk, QStringLiteral("/site/index.HTML"), own));
+    EXPECT_FALSE(IsFileOpen(mainWindow, disk, QStringLiteral("/site/other.html"), own));
+    EXPECT_FALSE(IsFileOpen(mainWindow, disk, own, own));
 }
 
 TEST_F(FileOpen, LeavesADocumentItsOwnNameBesideOneThatDiffersInCase)
 {
     newDocument().DocSavePath = QStringLiteral("/site/Index.html");
     newDocument().DocSavePath = QStringLiteral("/site/index.html");
-    EXPECT_FALSE(IsFileOpen(mainWindow, QStringLiteral("/site/index.html"), QStringLiteral("/site/index.html")));
+    EXPECT_FALSE(IsFileOpen(mainWindow, disk, QStringLiteral("/site/index.html"), QStringLiteral("/site/index.html")));
+}
+
+TEST_F(FileOpen, FindsAnotherDocumentsFileByAnotherWay)
+{
+    writeFile(QStringLiteral("a.html"), "x");
+    ASSERT_TRUE(QFile::link(path(QStringLiteral("a.html")), path(QStringLiteral("link.html"))));
+    newDocument().DocSavePath = path(QStringLiteral("a.html"));
+    newDocument();
+    EXPECT_TRUE(IsFileOpen(mainWindow, disk, path(QStringLiteral("link.html")), {}));
+    EXPECT_TRUE(IsFileOpen(mainWindow, disk, path(QStringLiteral("/a.html")), {}));
+    EXPECT_FALSE(IsFileOpen(mainWindow, disk, path(QStringLiteral("b.html")), {}));
 }
 
 TEST_F(FileOpen, SeesFilesAndNoFolders)

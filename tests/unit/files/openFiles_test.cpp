@@ -1,6 +1,8 @@
 #include "common/mainWindow.h"
 #include "unit/support/fakes.h"
 
+#include <QDir>
+#include <QFile>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
@@ -46,6 +48,34 @@ TEST_F(OpenFiles, ThatDifferInCaseAreTwo)
     openedDocument(QStringLiteral("PAGE.html"), "y");
     EXPECT_TRUE(boxes.shown.isEmpty());
     EXPECT_EQ(mainWindow.documents.size(), 2);
+}
+
+TEST_F(OpenFiles, AreRefusedByAnotherWayToo)
+{
+    openedDocument(page, "x");
+    ASSERT_TRUE(QFile::link(path(page), path(QStringLiteral("link.html"))));
+    ASSERT_TRUE(QDir().mkpath(path(QStringLiteral("sub"))));
+    for (const char *way : {"link.html", "sub/../page.html", "/page.html", "./page.html"}) {
+        files.OpenDocumentFile(path(QLatin1String(way)), false);
+        EXPECT_EQ(takeBox().title, QStringLiteral("File Already Open")) << way;
+    }
+    EXPECT_EQ(mainWindow.documents.size(), 1);
+}
+
+TEST_F(OpenFiles, OfferTheFolderOfThePageInFront)
+{
+    openedDocument(page, "x");
+    files.ShowOpenDialog();
+    ASSERT_EQ(dialogs.requests.size(), 1);
+    EXPECT_EQ(dialogs.requests.first().InitDir, path({}).chopped(1));
+    EXPECT_EQ(dialogs.requests.first().NearDir, path({}));
+}
+
+TEST_F(OpenFiles, MakeTheFolderThatTheDialogStartsIn)
+{
+    setting("AppPaths", QStringLiteral("WorkingDir"), path(QStringLiteral("new/pages")));
+    files.ShowOpenDialog();
+    EXPECT_TRUE(QFileInfo(path(QStringLiteral("new/pages"))).isDir());
 }
 
 TEST_F(OpenFiles, ThatAreMissingLeaveNoWindow)

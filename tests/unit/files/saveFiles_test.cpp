@@ -164,6 +164,7 @@ TEST_F(SaveFiles, AskBeforeAnotherFileIsReplaced)
     EXPECT_EQ(box.text, QStringLiteral("The file \"") + path(other) +
                             QStringLiteral("\" already exists.\r\nDo you want to replace it?"));
     EXPECT_EQ(box.buttons, MessageButtons::YesNoCancel);
+    EXPECT_EQ(answerByEnter(box), MessageAnswer::No);
     EXPECT_EQ(bytesOf(other), QByteArray("old"));
     choose(other);
     boxes.answers = {MessageAnswer::Yes};
@@ -264,6 +265,7 @@ TEST_F(ChangedFile, IsAskedAbout)
     const MessageBox box = takeBox();
     EXPECT_EQ(box.title, QStringLiteral("File Changed"));
     EXPECT_EQ(box.buttons, MessageButtons::YesNo);
+    EXPECT_EQ(answerByEnter(box), MessageAnswer::No);
     EXPECT_EQ(bytesOf(page), QByteArray("theirs, longer"));
     EXPECT_TRUE(document.boolDirty);
     boxes.answers = {MessageAnswer::Yes};
@@ -281,6 +283,31 @@ TEST_F(ChangedFile, IsAskedAboutInSaveAsToo)
     EXPECT_FALSE(files.SaveDocumentAs(true, {}));
     EXPECT_EQ(takeBox().title, QStringLiteral("File Changed"));
     EXPECT_TRUE(document.UnsuccessfulClose);
+}
+
+TEST_F(SaveFiles, AsTheOwnFileByAnotherWayAskNothing)
+{
+    FakeDocument &document = openedDocument(page, "x");
+    ASSERT_TRUE(QFile::link(path(page), path(other)));
+    document.surface.setText(QStringLiteral("y"));
+    choose(other);
+    EXPECT_TRUE(files.SaveDocumentAs(false, {}));
+    EXPECT_TRUE(boxes.shown.isEmpty());
+    EXPECT_EQ(bytesOf(page), QByteArray("y\r\n"));
+    EXPECT_EQ(document.DocSavePath, path(other));
+}
+
+TEST_F(SaveFiles, LeaveAutomaticSavingAsItWas)
+{
+    context.project = &project;
+    addForm<frmMsgAddSavedFileToProject>();
+    for (const bool wasOn : {false, true}) {
+        FakeDocument &document = typed(QStringLiteral("x"));
+        document.autoSave = wasOn;
+        choose(wasOn ? page : other);
+        EXPECT_TRUE(files.SaveDocument(false));
+        EXPECT_EQ(document.autoSave, wasOn);
+    }
 }
 
 TEST_F(ChangedFile, ThatHasGoneIsWrittenAnew)

@@ -173,6 +173,7 @@ public:
     }
     bool exists(const QString &path) override { return m_real.exists(path); }
     bool isFolder(const QString &path) override { return m_real.isFolder(path); }
+    bool isSameFile(const QString &a, const QString &b) override { return m_real.isSameFile(a, b); }
     std::optional<qint64> size(const QString &path) override { return m_real.size(path); }
     std::optional<FileStamp> stamp(const QString &path) override { return m_real.stamp(path); }
     std::optional<FileDetails> details(const QString &path) override { return m_real.details(path); }

@@ -87,7 +87,8 @@ TEST_F(FileControlsTest, ListsTheFilesOfAFolderWithoutItsFolders)
 
 TEST_F(FileControlsTest, ChoosesThePlaceThatHoldsAPath)
 {
-    DriveList drives;
+    LocalFileSystem disk;
+    DriveList drives(disk);
     EXPECT_EQ(drives.itemText(0), str("/"));
     EXPECT_TRUE(drives.setDrive(QDir::homePath() + str("/x")));
     EXPECT_EQ(drives.Drive(), QDir::homePath());
