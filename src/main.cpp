@@ -1,9 +1,11 @@
+#include "browser/pageTrial.h"
 #include "desktop/desktopServices.h"
 #include "desktop/endSignals.h"
 #include "frame/application.h"
 #include "pictures/pictureReader.h"
 #include "shell/commandLine.h"
 #include "widgets/programIcon.h"
+#include "widgets/readableStyle.h"
 
 #include <QApplication>
 
@@ -11,7 +13,10 @@ int main(int argc, char **argv)
 {
     if (const std::optional<int> status = readPictureIfAsked(argc, argv))
         return *status;
+    if (const std::optional<int> status = tryPagesIfAsked(argc, argv))
+        return *status;
     QApplication desktop(argc, argv);
+    useReadableStyle();
     QApplication::setApplicationName(QStringLiteral("tagwrighter"));
     QApplication::setApplicationDisplayName(QString());
     QApplication::setDesktopFileName(QStringLiteral("tagwrighter"));

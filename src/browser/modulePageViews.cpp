@@ -1,5 +1,7 @@
 #include "browser/modulePageViews.h"
 
+#include "browser/namespaces.h"
+#include "browser/pageTrial.h"
 #include "common/paths.h"
 #include "services/pageView.h"
 
@@ -8,10 +10,6 @@
 #include <QLibraryInfo>
 #include <QOpenGLContext>
 #include <QPluginLoader>
-#include <csignal>
-#include <sched.h>
-#include <sys/syscall.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 // The toolkit gives its modules access to this, without a header of its own.
@@ -22,19 +20,6 @@ QT_END_NAMESPACE
 namespace
 {
 const QString ModuleName = QStringLiteral("tagwrighter-webview.so");
-
-/// Whether a process can be given a user namespace of its own, which is what pages are shut in with.
-bool hasNamespaces()
-{
-    // The raw call, as fork() takes no flags: the child does nothing but end.
-    const long child = syscall(SYS_clone, CLONE_NEWUSER | SIGCHLD, nullptr, nullptr, nullptr, nullptr);
-    if (child == 0)
-        _exit(0);
-    if (child < 0)
-        return false;
-    waitpid(static_cast<pid_t>(child), nullptr, 0);
-    return true;
-}
 
 /// Whether whoever started the program has given up the shutting in, as test runs in a container have to.
 bool runsOpen()
@@ -80,6 +65,9 @@ QString reasonAgainstPages()
             "(user namespaces are switched off).");
     if (!hasPageProcess())
         return QStringLiteral("There is no preview: QtWebEngineProcess is not installed.");
+    if (!runsOpen() && hasNamespaceRules() && !showsPages(QCoreApplication::applicationFilePath()))
+        return QStringLiteral("There is no preview: a rule of this machine keeps programs from shutting pages in "
+                              "(it was tried in a process of its own).");
     return {};
 }
 
