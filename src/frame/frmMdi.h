@@ -116,6 +116,8 @@ private:
     void fillCodeLists();
     void picAddress_Resize();
     void openCommandLineFile();
+    /// What the status bar tells for a few seconds, whatever says "Ready" meanwhile.
+    void keepStatus(const QString &text);
     void decideWelcome();
     void restoreUnsavedText(Document *opened);
 
@@ -159,6 +161,7 @@ private:
     QLabel *m_message = nullptr;
     QLabel *m_format = nullptr;
     DocumentSwitch *m_documentSwitch = nullptr;
+    QString m_keptStatus; ///< stands for "Ready" until tmrResetBar takes it away
     Timer *tmrResetBar = nullptr;
     std::optional<QPoint> m_insertBarMouse; ///< where it went down on the first button, in the client area
     bool m_fontTyped = false;               ///< a face was typed into cboFont and not yet taken

@@ -110,7 +110,14 @@ void frmMdi::SetStatusText(const QString &text)
 
 void frmMdi::SetStatusReady()
 {
-    SetStatusText(QStringLiteral("Ready"));
+    SetStatusText(m_keptStatus.isEmpty() ? QStringLiteral("Ready") : m_keptStatus);
+}
+
+void frmMdi::keepStatus(const QString &text)
+{
+    m_keptStatus = text;
+    SetStatusReady();
+    enableResetBar();
 }
 
 QString frmMdi::statusText() const

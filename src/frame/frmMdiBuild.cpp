@@ -232,6 +232,7 @@ void frmMdi::buildStatusBar()
     tmrResetBar = new Timer(
         services().timers, QStringLiteral("tmrResetBar"),
         [this] {
+            m_keptStatus.clear();
             SetStatusReady();
             tmrResetBar->setEnabled(false);
         },

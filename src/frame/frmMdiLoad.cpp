@@ -12,6 +12,7 @@
 #include "frame/frmMdiCommands.h"
 #include "frame/frmMdiPane.h"
 #include "insertion/modFonts.h"
+#include "services/fileSystem.h"
 #include "services/services.h"
 #include "services/settings.h"
 #include "shell/commandLine.h"
@@ -180,7 +181,16 @@ void frmMdi::openCommandLineFile()
     FileCommands *files = context().files;
     if (m_commandLine.isEmpty() || !files)
         return;
+    const QString path = commandLineFile(m_commandLine).path;
+    const bool missing = services().files.checkReadable(path).has_value();
+    if (missing) { // what is told of it belongs over the main window
+        if (Form *splash = context().forms.find(QStringLiteral("frmSplash")))
+            splash->Hide();
+        presentWindow();
+    }
     OpenCommandLineFile(*files, m_commandLine);
+    if (missing)
+        keepStatus(QStringLiteral("The file \"%1\" could not be opened.").arg(path));
 }
 
 void frmMdi::decideWelcome()
