@@ -10,7 +10,6 @@ constexpr int listGapY = 8;
 constexpr int tipGap = 8;
 constexpr int tipStep = 200; ///< how far a tip goes back that would pass the right edge
 constexpr int tipEdge = 4;
-constexpr int tipShare = 3; ///< the part of the area's height that a tip takes at most
 
 /// A row, and half a row of air.
 int oneRow(const TipText &text)
@@ -21,11 +20,11 @@ int oneRow(const TipText &text)
 QSize sizeOfTip(const AssistantGround &ground, const TipText &text)
 {
     const int width = tipGap + text.width;
-    if (width <= ground.area.width())
+    if (width <= std::min(ground.area.width(), tipGap + text.widest))
         return {width, oneRow(text)};
-    const int room = std::max(ground.edit.width() - tipGap, 1);
-    const int height = oneRow(text) + (text.rows(room) - 1) * text.rowHeight;
-    return {room, std::clamp(height, oneRow(text), std::max(ground.area.height() / tipShare, oneRow(text)))};
+    const int room = std::max(std::min(ground.edit.width(), tipGap + text.widest) - tipGap, 1);
+    const int rows = std::clamp(text.rows(room), 1, MostTipRows);
+    return {room, oneRow(text) + (rows - 1) * text.rowHeight};
 }
 
 int leftOfTip(const AssistantGround &ground, int width)

@@ -20,11 +20,14 @@ QRect placeOfList(const AssistantGround &ground, const QSize &wanted);
 /// How the tip measures its text.
 struct TipText {
     int width = 0;                      ///< of the whole text in one row
+    int widest = 0;                     ///< as wide as a row may be, for the eye to find its way back
     int rowHeight = 0;                  ///< of a row
     std::function<int(int width)> rows; ///< how many it takes in a tip so wide
 };
 
-/// The tip: below the caret's line, above it where there is no room; one row, or as many as a text takes that is wider
-/// than the area. Elements have many attributes, so it is cut to a third of the area, for the page to stay in sight,
-/// and never stands over the caret's line.
+/// The rows that a tip shows at most; what is longer scrolls in it.
+constexpr int MostTipRows = 4;
+
+/// The tip: below the caret's line, above it where there is no room; one row, or up to MostTipRows of a text that is
+/// wider than a row may be, or than the area. It never stands over the caret's line.
 QRect placeOfTip(const AssistantGround &ground, const TipText &text);

@@ -21,6 +21,7 @@ namespace
 {
 constexpr int listRows = 10;
 constexpr int listCharacters = 30;
+constexpr int tipCharacters = 80;
 } // namespace
 
 void CodeAssistant::buildList()
@@ -143,6 +144,8 @@ int CodeAssistant::tipRows(int width) const
 void CodeAssistant::placeTip()
 {
     const TipText text{.width = lblCodeAssistantTextSize->sizeHint().width() + txtCodeAssistantSyntax->sideways(),
+                       .widest = tipCharacters * lblCodeAssistantTextSize->fontMetrics().averageCharWidth() +
+                                 txtCodeAssistantSyntax->sideways(),
                        .rowHeight = txtCodeAssistantSyntax->fontMetrics().lineSpacing(),
                        .rows = [this](int width) { return tipRows(width); }};
     const QRect place = placeOfTip(ground(), text);

@@ -121,6 +121,7 @@ private:
     void indentByTab(SurfaceKey &key);
     void breakLine(SurfaceKey &key);
     void recordStep(const SurfaceKey &key);
+    void leaveTagBehind(QStringView typed);
     void leaveForPane(SurfaceKey &key);
     void openPopup(SurfaceKey &key);
     void enterNotice(SurfaceKey &key);

@@ -240,6 +240,19 @@ void frmWrite::txtEdit_KeyPress(SurfaceCharacter &character)
     }
     if (result.format != TextFormat())
         m_edit->setSelectionFormat(result.format);
+    else if (!result.writesClosingBracket)
+        leaveTagBehind(character.text);
+}
+
+/// What is typed takes the looks of what stands before it. Behind a tag that would be the tag's, until the next pass:
+/// text outside of tags is never bold.
+void frmWrite::leaveTagBehind(QStringView typed)
+{
+    if (m_typed.TagOpen() || m_edit->selectionFormat().bold == false)
+        return;
+    const auto part = [this](qsizetype start, qsizetype length) { return m_edit->textPart(start, length); };
+    if (!CaretInsideTag(part, m_edit->SelStart(), typed))
+        m_edit->setSelectionFormat({WindowTextColour, false, {}});
 }
 
 void frmWrite::txtEdit_KeyUp()

@@ -1,8 +1,10 @@
 #include "forms/form.h"
 
+#include "forms/fittingWindow.h"
 #include "forms/formRuntime.h"
 #include "services/modalLoop.h"
 #include "services/services.h"
+#include "widgets/accelerators.h"
 #include "widgets/layout.h"
 
 #include <QAbstractButton>
@@ -158,6 +160,8 @@ QWidget *Form::createWindow()
 
 void Form::presentWindow()
 {
+    if (m_window->isHidden())
+        fitInto(*m_window, roomFor(*m_window));
     m_window->show();
     m_window->raise();
     m_window->activateWindow();
@@ -173,6 +177,7 @@ void Form::setContent(const ui::Node &content)
     auto *layout = new QVBoxLayout;
     content.addTo(*layout);
     m_window->setLayout(layout);
+    settleAccelerators(*m_window);
     if (m_defaultButton)
         m_defaultButton->setDefault(true);
 }

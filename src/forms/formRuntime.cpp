@@ -17,6 +17,14 @@ void FormRuntime::own(std::unique_ptr<Form> form)
     m_owned.push_back(std::move(form));
 }
 
+QStringList FormRuntime::names() const
+{
+    QStringList names;
+    for (const std::unique_ptr<Form> &form : m_owned)
+        names.append(form->Name());
+    return names;
+}
+
 Form *FormRuntime::find(const QString &name) const
 {
     const auto found =

@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 #include <memory>
 #include <typeinfo>
 #include <vector>
@@ -43,6 +44,7 @@ public:
     /// A form of the session, loaded or not, or else the first loaded one of that name; nothing if there is none. For
     /// names that come from tables and scripts: where the class is known, ask by it.
     Form *find(const QString &name) const;
+    QStringList names() const; ///< of all forms of the session, in the order in which it took them over
 
     /// The loaded forms from the first loaded to the last. A copy, so that a scan survives what it does.
     QList<Form *> loaded() const { return m_loaded; }

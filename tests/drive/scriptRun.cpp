@@ -5,6 +5,7 @@
 #include "drive/events.h"
 #include "drive/referee.h"
 #include "drive/stage.h"
+#include "widgets/readableStyle.h"
 
 #include <QApplication>
 #include <QFile>
@@ -47,6 +48,7 @@ QPalette darkPalette()
 void setLooks()
 {
     QApplication::setStyle(QStringLiteral("Fusion"));
+    useReadableStyle();
     if (qEnvironmentVariable("TAGWRIGHTER_DRIVE_DARK") == QStringLiteral("1"))
         QApplication::setPalette(darkPalette());
     for (const auto effect : {Qt::UI_AnimateMenu, Qt::UI_FadeMenu, Qt::UI_AnimateCombo, Qt::UI_AnimateTooltip,

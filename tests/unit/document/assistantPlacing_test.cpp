@@ -12,7 +12,7 @@ AssistantGround groundAt(int x, int y)
 
 TipText tipOf(int width, int rows = 1)
 {
-    return {.width = width, .rowHeight = 14, .rows = [rows](int) { return rows; }};
+    return {.width = width, .widest = 900, .rowHeight = 14, .rows = [rows](int) { return rows; }};
 }
 
 TEST(PlaceOfList, IsRightOfTheCaretAndBelow)
@@ -62,16 +62,26 @@ TEST(PlaceOfTip, HasMoreRowsWhereTheTextIsWiderThanTheWindow)
     EXPECT_EQ(placeOfTip(groundAt(100, 50), tipOf(1500, 3)), QRect(24, 71, 772, 49));
 }
 
-TEST(PlaceOfTip, TakesAThirdOfTheAreaWhateverItsRows)
+TEST(PlaceOfTip, HasFourRowsAtMost)
 {
-    EXPECT_EQ(placeOfTip(groundAt(100, 50), tipOf(60000, 90)), QRect(24, 71, 772, 200));
-    EXPECT_EQ(placeOfTip(groundAt(100, 500), tipOf(60000, 90)), QRect(24, 300, 772, 200)) << "there is room above";
+    EXPECT_EQ(placeOfTip(groundAt(100, 50), tipOf(60000, 4)), QRect(24, 71, 772, 63)) << "21 + 3 * 14";
+    EXPECT_EQ(placeOfTip(groundAt(100, 50), tipOf(60000, 90)), QRect(24, 71, 772, 63));
+    EXPECT_EQ(placeOfTip(groundAt(100, 550), tipOf(60000, 90)), QRect(24, 487, 772, 63)) << "there is room above";
+}
+
+TEST(PlaceOfTip, IsNoWiderThanARowMayBe)
+{
+    TipText text = tipOf(500, 2);
+    text.widest = 500;
+    EXPECT_EQ(placeOfTip(groundAt(100, 50), text), QRect(100, 71, 508, 21)) << "it just fits";
+    text.width = 501;
+    EXPECT_EQ(placeOfTip(groundAt(100, 50), text), QRect(100, 71, 500, 35));
 }
 
 TEST(PlaceOfTip, LeavesTheCaretsLineToBeSeenInASmallWindow)
 {
     AssistantGround ground = groundAt(100, 20);
     ground.area.setHeight(90);
-    EXPECT_EQ(placeOfTip(ground, tipOf(60000, 90)), QRect(24, 41, 772, 30)) << "a third of 90, below";
+    EXPECT_EQ(placeOfTip(ground, tipOf(60000, 90)), QRect(24, 41, 772, 49)) << "below, as high as there is room";
 }
 } // namespace

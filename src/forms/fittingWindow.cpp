@@ -1,0 +1,124 @@
+#include "forms/fittingWindow.h"
+
+#include <QBoxLayout>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyle>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace
+{
+bool holdsOnlyButtons(const QLayoutItem &item)
+{
+    if (const QWidget *widget = const_cast<QLayoutItem &>(item).widget())
+        return qobject_cast<const QPushButton *>(widget);
+    const auto *layout = dynamic_cast<const QLayout *>(&item);
+    if (!layout)
+        return true; // room between others
+    for (int i = 0; i < layout->count(); ++i)
+        if (!holdsOnlyButtons(*layout->itemAt(i)))
+            return false;
+    return true;
+}
+
+bool isButtons(const QLayoutItem &item)
+{
+    return !const_cast<QLayoutItem &>(item).spacerItem() && holdsOnlyButtons(item);
+}
+
+/// The layout that has the dialog's buttons as one of its pieces; nothing where they stand among the others.
+QBoxLayout *layoutWithButtons(QLayout &layout)
+{
+    for (int i = 0; i < layout.count(); ++i)
+        if (isButtons(*layout.itemAt(i)) && layout.count() > 1)
+            return qobject_cast<QBoxLayout *>(&layout);
+    auto *only = layout.count() == 1 ? dynamic_cast<QLayout *>(layout.itemAt(0)) : nullptr;
+    return only ? layoutWithButtons(*only) : nullptr;
+}
+
+/// The controls as they were laid out, in an area of which a part is in sight.
+class ScrolledContent final : public QScrollArea
+{
+public:
+    ScrolledContent()
+    {
+        setFrameShape(QFrame::NoFrame);
+        setFocusPolicy(Qt::NoFocus);
+        setWidgetResizable(true);
+        setWidget(new QWidget);
+    }
+
+    QSize sizeHint() const override
+    {
+        const QSize bars(verticalScrollBar()->sizeHint().width(), horizontalScrollBar()->sizeHint().height());
+        return widget()->sizeHint() + bars;
+    }
+};
+
+void moveInto(QBoxLayout &target, QLayoutItem *item, int stretch)
+{
+    if (auto *layout = dynamic_cast<QLayout *>(item)) {
+        layout->setParent(nullptr);
+        target.addLayout(layout, stretch);
+    } else if (QWidget *widget = item->widget()) {
+        target.addWidget(widget, stretch, item->alignment());
+        delete item;
+    } else {
+        target.addItem(item);
+    }
+}
+
+/// Puts all pieces of the layout but its buttons into an area that scrolls, in the place of the first of them.
+void scrollContent(QBoxLayout &layout)
+{
+    auto *area = new ScrolledContent;
+    auto *inner = new QBoxLayout(layout.direction(), area->widget());
+    inner->setContentsMargins(0, 0, 0, 0);
+    int place = -1;
+    for (int i = 0; i < layout.count();) {
+        if (isButtons(*layout.itemAt(i))) {
+            ++i;
+            continue;
+        }
+        place = place < 0 ? i : place;
+        const int stretch = layout.stretch(i);
+        moveInto(*inner, layout.takeAt(i), stretch);
+    }
+    layout.insertWidget(std::max(place, 0), area, 1);
+}
+
+bool fits(const QSize &size, const QSize &room)
+{
+    return size.width() <= room.width() && size.height() <= room.height();
+}
+} // namespace
+
+void fitInto(QWidget &window, const QSize &room)
+{
+    QLayout *layout = window.layout();
+    if (!layout)
+        return;
+    const QSize wanted = window.sizeHint();
+    if (!fits(layout->totalMinimumSize().expandedTo(window.minimumSize()), room)) {
+        QBoxLayout *outer = layoutWithButtons(*layout);
+        if (!outer)
+            outer = qobject_cast<QBoxLayout *>(layout);
+        if (!outer)
+            return;
+        scrollContent(*outer);
+        window.setMinimumSize(window.minimumSize().boundedTo(room));
+    }
+    if (!fits(wanted, room))
+        window.resize(window.sizeHint().expandedTo(wanted).boundedTo(room));
+}
+
+QSize roomFor(const QWidget &window)
+{
+    const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &window);
+    const int edge = window.style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth, nullptr, &window);
+    return window.screen()->availableSize() - QSize(2 * edge, title + 2 * edge);
+}

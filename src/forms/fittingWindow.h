@@ -1,0 +1,11 @@
+#pragma once
+
+class QSize;
+class QWidget;
+
+/// Makes a dialog that is not yet on show fit a room, in logical pixels. One whose controls need more scrolls; the
+/// buttons at its side or at its foot stay in sight. Where all fits, nothing is changed.
+void fitInto(QWidget &window, const QSize &room);
+
+/// The room that the window's screen has for it, without the frame that the desktop draws around it.
+QSize roomFor(const QWidget &window);

@@ -1,0 +1,95 @@
+#include "forms/fittingWindow.h"
+
+#include <QDialog>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QTest>
+#include <QVBoxLayout>
+#include <gtest/gtest.h>
+
+namespace
+{
+/// A dialog of a column of fields, each 30 high, with two buttons beside them.
+class FittingWindow : public testing::Test
+{
+protected:
+    void build(int fields)
+    {
+        auto *outer = new QVBoxLayout(&window);
+        auto *beside = new QHBoxLayout;
+        auto *column = new QVBoxLayout;
+        for (int i = 0; i < fields; ++i) {
+            auto *field = new QLineEdit;
+            field->setFixedSize(200, 30);
+            column->addWidget(field);
+            m_fields.append(field);
+        }
+        auto *buttons = new QVBoxLayout;
+        buttons->addWidget(ok);
+        buttons->addWidget(cancel);
+        buttons->addStretch();
+        beside->addLayout(column, 1);
+        beside->addLayout(buttons);
+        outer->addLayout(beside);
+    }
+
+    QScrollArea *area() const { return window.findChild<QScrollArea *>(); }
+    static bool isInSight(const QWidget &widget)
+    {
+        const QWidget *top = widget.window();
+        return top->rect().contains(QRect(widget.mapTo(top, QPoint()), widget.size()));
+    }
+
+    QDialog window;
+    QPushButton *ok = new QPushButton(QStringLiteral("OK"));
+    QPushButton *cancel = new QPushButton(QStringLiteral("Cancel"));
+    QList<QLineEdit *> m_fields;
+};
+
+TEST_F(FittingWindow, StaysAsItIsWhereThereIsRoom)
+{
+    build(3);
+    fitInto(window, {700, 450});
+    EXPECT_EQ(area(), nullptr);
+    EXPECT_FALSE(window.testAttribute(Qt::WA_Resized));
+}
+
+TEST_F(FittingWindow, ScrollsWhatIsTooHighAndKeepsTheButtonsInSight)
+{
+    build(20);
+    fitInto(window, {700, 450});
+    window.show();
+    ASSERT_NE(area(), nullptr);
+    EXPECT_LE(window.height(), 450);
+    EXPECT_LE(window.width(), 700);
+    for (const QPushButton *button : {ok, cancel}) {
+        EXPECT_FALSE(area()->isAncestorOf(button));
+        EXPECT_TRUE(isInSight(*button));
+    }
+    EXPECT_TRUE(area()->isAncestorOf(m_fields.last()));
+    EXPECT_FALSE(isInSight(*m_fields.last()));
+}
+
+TEST_F(FittingWindow, ShowsTheFieldThatTheKeyboardComesTo)
+{
+    build(20);
+    fitInto(window, {700, 450});
+    window.show();
+    window.activateWindow();
+    m_fields[18]->setFocus();
+    QTest::keyClick(m_fields[18], Qt::Key_Tab);
+    EXPECT_TRUE(isInSight(*m_fields.last()));
+}
+
+TEST_F(FittingWindow, DoesSoOnce)
+{
+    build(20);
+    fitInto(window, {700, 450});
+    ASSERT_EQ(window.findChildren<QScrollArea *>().size(), 1);
+    fitInto(window, {700, 450});
+    EXPECT_EQ(window.findChildren<QScrollArea *>().size(), 1);
+}
+} // namespace

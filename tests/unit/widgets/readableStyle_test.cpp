@@ -1,0 +1,101 @@
+#include "widgets/readableStyle.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QImage>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QRadioButton>
+#include <QStyleFactory>
+#include <QStyleOptionButton>
+#include <gtest/gtest.h>
+
+namespace
+{
+QPalette theme(bool dark)
+{
+    QPalette palette;
+    palette.setColor(QPalette::Window, dark ? QColor(42, 42, 46) : QColor(239, 240, 241));
+    palette.setColor(QPalette::WindowText, dark ? QColor(230, 230, 230) : QColor(35, 38, 41));
+    palette.setColor(QPalette::Base, dark ? QColor(29, 29, 32) : QColor(252, 252, 252));
+    palette.setColor(QPalette::Text, palette.color(QPalette::WindowText));
+    palette.setColor(QPalette::Button, palette.color(QPalette::Window));
+    palette.setColor(QPalette::ButtonText, palette.color(QPalette::WindowText));
+    return palette;
+}
+
+/// What a control looks like by itself, without the focus.
+QImage pictureOf(QWidget &control, QStyle &style, bool dark)
+{
+    control.setStyle(&style);
+    control.setPalette(theme(dark));
+    control.resize(control.sizeHint());
+    QImage picture(control.size(), QImage::Format_RGB32);
+    picture.fill(theme(dark).color(QPalette::Window));
+    control.render(&picture);
+    return picture;
+}
+
+/// The greatest contrast that any pixel of the row through the control's middle has to the window, in its first part:
+/// where its edge is, and no text yet.
+double edgeContrast(const QImage &picture, bool dark, int width = 6)
+{
+    double greatest = 1;
+    for (int x = 0; x < width; ++x)
+        greatest = std::max(greatest,
+                            contrast(picture.pixelColor(x, picture.height() / 2), theme(dark).color(QPalette::Window)));
+    return greatest;
+}
+
+class ReadableStyleTest : public testing::Test
+{
+protected:
+    ReadableStyle style{QStringLiteral("Fusion")};
+    std::unique_ptr<QStyle> toolkit{QStyleFactory::create(QStringLiteral("Fusion"))};
+};
+} // namespace
+
+TEST(Contrast, IsCountedAsTheGuidelinesDo)
+{
+    EXPECT_DOUBLE_EQ(contrast(Qt::black, Qt::white), 21.0);
+    EXPECT_DOUBLE_EQ(contrast(Qt::white, Qt::white), 1.0);
+    EXPECT_NEAR(contrast(QColor(118, 118, 118), Qt::white), 4.54, 0.01); // the known limit of grey text on white
+}
+
+TEST(OutlineOnDark, CanBeToldFromWhatItParts)
+{
+    for (const int shade : {0, 20, 35, 60, 90}) {
+        QPalette palette = theme(true);
+        palette.setColor(QPalette::Window, QColor(shade, shade, shade));
+        palette.setColor(QPalette::Base, QColor(shade / 2, shade / 2, shade / 2));
+        EXPECT_TRUE(isDark(palette));
+        EXPECT_GE(contrast(outlineOnDark(palette), palette.color(QPalette::Window)), 3.0) << shade;
+        EXPECT_GE(contrast(outlineOnDark(palette), palette.color(QPalette::Base)), 3.0) << shade;
+    }
+    EXPECT_FALSE(isDark(theme(false)));
+}
+
+TEST_F(ReadableStyleTest, ShowsTheEdgesOfControlsInTheDark)
+{
+    QCheckBox check;
+    QRadioButton option;
+    QLineEdit field;
+    QPlainTextEdit area;
+    QComboBox list;
+    for (QWidget *control : QList<QWidget *>{&check, &option, &field, &area, &list}) {
+        const double before = edgeContrast(pictureOf(*control, *toolkit, true), true);
+        const double now = edgeContrast(pictureOf(*control, style, true), true);
+        EXPECT_LT(before, 2.0) << control->metaObject()->className();
+        EXPECT_GE(now, 2.9) << control->metaObject()->className(); // rounding takes a little off 3
+    }
+}
+
+TEST_F(ReadableStyleTest, ChangesNothingInTheLight)
+{
+    QCheckBox check;
+    QComboBox list;
+    for (QWidget *control : QList<QWidget *>{&check, &list})
+        EXPECT_EQ(pictureOf(*control, style, false), pictureOf(*control, *toolkit, false))
+            << control->metaObject()->className();
+}
