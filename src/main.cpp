@@ -13,8 +13,6 @@ int main(int argc, char **argv)
 {
     if (const std::optional<int> status = readPictureIfAsked(argc, argv))
         return *status;
-    if (const std::optional<int> status = tryPagesIfAsked(argc, argv))
-        return *status;
     QApplication desktop(argc, argv);
     useReadableStyle();
     QApplication::setApplicationName(QStringLiteral("tagwrighter"));
@@ -24,6 +22,8 @@ int main(int argc, char **argv)
     QApplication::setQuitOnLastWindowClosed(false); // between the splash and the main window there is none
 
     DesktopServices services;
+    if (triesPages())
+        return tryPages(services.services().pageViews);
     Application program(services.services());
     QObject::connect(&program, &Application::ended, &desktop, &QCoreApplication::quit, Qt::QueuedConnection);
     const EndSignals signals([&program] { program.endKeepingText(); });

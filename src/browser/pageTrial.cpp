@@ -1,6 +1,5 @@
 #include "browser/pageTrial.h"
 
-#include "browser/modulePageViews.h"
 #include "browser/webBrowser.h"
 
 #include <QApplication>
@@ -17,9 +16,15 @@ constexpr int Patience = 15000; ///< milliseconds; a slow disk has hundreds of m
 constexpr int Shown = 0;
 constexpr int NotShown = 1;
 
-int showOnePage()
+} // namespace
+
+bool triesPages()
 {
-    ModulePageViews views(moduleFolders());
+    return !qEnvironmentVariableIsEmpty(Mark);
+}
+
+int tryPages(PageViews &views)
+{
     WebBrowser browser(views);
     browser.show();
     QObject::connect(&browser, &WebBrowser::navigationFinished, qApp,
@@ -32,20 +37,10 @@ int showOnePage()
     });
     return QApplication::exec();
 }
-} // namespace
-
-std::optional<int> tryPagesIfAsked(int argc, char **argv)
-{
-    if (qEnvironmentVariableIsEmpty(Mark))
-        return std::nullopt;
-    const QApplication application(argc, argv);
-    return showOnePage();
-}
-
 bool hasNamespaceRules()
 {
     QFile rules(QString::fromLatin1(Rules));
-    return qEnvironmentVariableIsEmpty(Mark) && rules.open(QIODevice::ReadOnly) && rules.read(1) == "1";
+    return !triesPages() && rules.open(QIODevice::ReadOnly) && rules.read(1) == "1";
 }
 
 bool showsPages(const QString &program)
