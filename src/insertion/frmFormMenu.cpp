@@ -94,7 +94,7 @@ ui::Node frmFormMenu::optionList()
         ui::button(QStringLiteral("cmdRemPar"), QStringLiteral("&Remove"), [this] { cmdRemPar_Click(); });
     cmdRemPar->setToolTip(QStringLiteral("Remove Value"));
     return ui::column({
-        ui::under(QStringLiteral("&Options:"), lstValues).stretched(),
+        ui::under(QStringLiteral("O&ptions:"), lstValues).stretched(),
         ui::line({cmdAddPar, cmdRemPar, ui::space()}),
     });
 }

@@ -219,6 +219,7 @@ ui::Node frmInsImageMap::areaColumn()
     lstAreas = ui::listView(QStringLiteral("lstAreas"),
                             {QStringLiteral("Link"), QStringLiteral("Shape"), QStringLiteral("Coordinates")});
     lstAreas->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    lstAreas->header()->setStretchLastSection(false);                      // many corners are scrolled to, not cut
     lstAreas->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding); // the room is the picture's
     lstAreas->setMinimumWidth(lstAreas->fontMetrics().averageCharWidth() * CharactersOfAreas);
     cmdTakeBack =

@@ -124,6 +124,7 @@ void frmInsertDHTMLMenu::Form_Load()
     chkUseHandPointer_Click();
     txtWidth_Change();
     showRows();
+    txtMenuCaption->setFocus(); // what every menu begins with
 }
 
 ui::Node frmInsertDHTMLMenu::layoutPage()
