@@ -28,7 +28,8 @@
 namespace
 {
 const QString CategoryKey = QStringLiteral("HEAD:");
-constexpr int CharactersOfALine = 52;
+constexpr int CharactersOfALine = 44;
+constexpr int CharactersOfATitle = 24;
 
 bool isCategory(const QString &key)
 {
@@ -71,6 +72,7 @@ ui::Node frmCodeLibrary::library()
     trvCode = ui::tree(QStringLiteral("trvCode"), {.nodeClick = [this](int node) { trvCode_NodeClick(node); },
                                                    .nodeDblClick = [this](int node) { trvCode_NodeDblClick(node); },
                                                    .nodeEnter = [this](int node) { trvCode_NodeDblClick(node); }});
+    trvCode->setMinimumWidth(trvCode->fontMetrics().averageCharWidth() * CharactersOfATitle);
     trvCode->setImages({{QStringLiteral("libnode"), programIcon(QStringLiteral("library"))},
                         {QStringLiteral("libcontent"), programIcon(QStringLiteral("file-code"))}});
     dirCodeLocation = ui::folderList(QStringLiteral("dirCodeLocation"), services().files);
