@@ -22,7 +22,6 @@ namespace
 {
 constexpr int HistoryRows = 15;
 constexpr int CharactersShown = 36;
-const QString AsksForReplace = QStringLiteral("&Replace...");
 
 QStringList rowsOf(const QComboBox &combo)
 {
@@ -133,7 +132,7 @@ ui::Node frmFind::options()
 ui::Node frmFind::commands()
 {
     cmdOK = button("cmdOK", QStringLiteral("&Find Next"), [this] { cmdOK_Click(); });
-    cmdReplace = button("cmdReplace", AsksForReplace, [this] { cmdReplace_Click(); });
+    cmdReplace = button("cmdReplace", QStringLiteral("&Replace..."), [this] { cmdReplace_Click(); });
     cmdReplaceAll = button("cmdReplaceAll", QStringLiteral("Replace &All"), [this] { cmdReplaceAll_Click(); });
     cmdClose = button("cmdClose", QStringLiteral("Close"), [this] { cmdClose_Click(); });
     return ui::buttons({cmdOK, cmdReplace, cmdReplaceAll, cmdClose});
@@ -248,7 +247,7 @@ void frmFind::cmdOK_Click()
 
 bool frmFind::asksForReplace() const
 {
-    return cmdReplace->text() == AsksForReplace;
+    return cboReplace->isHidden();
 }
 
 void frmFind::cmdReplace_Click()
