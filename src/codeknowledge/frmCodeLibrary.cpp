@@ -220,7 +220,7 @@ void frmCodeLibrary::deleteEntry()
                               QStringLiteral("Do you want to delete \"%1\" from the code library? The code can not be "
                                              "brought back.")
                                   .arg(entryTitle(FileNameOnly(path))),
-                              MessageIcon::Question, MessageButtons::YesNo};
+                              MessageIcon::Question, MessageButtons::YesNo, MessageAnswer::No};
     if (services().messageBoxes.show(question) != MessageAnswer::Yes)
         return;
     if (services().files.removeFile(path))

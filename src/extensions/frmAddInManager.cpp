@@ -21,7 +21,8 @@ MessageBox removalQuestion(const QString &name)
             .text = QStringLiteral("Are you sure you want to permanently remove the Add-In link named \"") + name +
                     QStringLiteral("\"?"),
             .icon = MessageIcon::Question,
-            .buttons = MessageButtons::YesNo};
+            .buttons = MessageButtons::YesNo,
+            .byEnter = MessageAnswer::No};
 }
 } // namespace
 

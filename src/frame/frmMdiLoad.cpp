@@ -181,16 +181,17 @@ void frmMdi::openCommandLineFile()
     FileCommands *files = context().files;
     if (m_commandLine.isEmpty() || !files)
         return;
-    const QString path = commandLineFile(m_commandLine).path;
-    const bool missing = services().files.checkReadable(path).has_value();
+    const CommandLineFile file = commandLineFile(m_commandLine);
+    const bool missing = !services().files.exists(file.path);
     if (missing) { // what is told of it belongs over the main window
         if (Form *splash = context().forms.find(QStringLiteral("frmSplash")))
             splash->Hide();
         presentWindow();
     }
     OpenCommandLineFile(*files, m_commandLine);
-    if (missing)
-        keepStatus(QStringLiteral("The file \"%1\" could not be opened.").arg(path));
+    const bool opened = file.action == CommandLineAction::Project || activeDocument();
+    if (missing || !opened)
+        keepStatus(QStringLiteral("The file \"%1\" could not be opened.").arg(file.path));
 }
 
 void frmMdi::decideWelcome()

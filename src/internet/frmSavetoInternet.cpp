@@ -43,7 +43,8 @@ MessageBox uploadQuestion()
                                    "complete.") +
                     Break + Break + QStringLiteral("Do you wish to continue?"),
             .icon = MessageIcon::None,
-            .buttons = MessageButtons::YesNo};
+            .buttons = MessageButtons::YesNo,
+            .byEnter = MessageAnswer::No};
 }
 
 MessageBox noConnectionBox()

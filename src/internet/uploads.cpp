@@ -26,7 +26,8 @@ MessageBox unknownHostQuestion(const UnknownHost &host)
                     QStringLiteral("Compare it with the one that the owner of the server gives. Do you trust this "
                                    "server from now on?"),
             .icon = MessageIcon::Exclamation,
-            .buttons = MessageButtons::YesNo};
+            .buttons = MessageButtons::YesNo,
+            .byEnter = MessageAnswer::No};
 }
 
 MessageBox cutQuestion(const Upload &upload)
@@ -36,7 +37,8 @@ MessageBox cutQuestion(const Upload &upload)
                     quoted(upload.location()) + QStringLiteral(" has not finished yet.") + Break + Break +
                     QStringLiteral("Do you want to exit all the same and break it off?"),
             .icon = MessageIcon::Exclamation,
-            .buttons = MessageButtons::YesNo};
+            .buttons = MessageButtons::YesNo,
+            .byEnter = MessageAnswer::No};
 }
 } // namespace
 

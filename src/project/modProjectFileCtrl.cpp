@@ -56,7 +56,8 @@ MessageBox closeQuestion()
             .text = QStringLiteral("This will close the open Site Project. You will lose any unsaved work.\r\n\r\nDo "
                                    "you wish to continue?"),
             .icon = MessageIcon::Exclamation,
-            .buttons = MessageButtons::YesNo};
+            .buttons = MessageButtons::YesNo,
+            .byEnter = MessageAnswer::No};
 }
 
 QList<ProjectItem> itemsOf(const ListView &list)
