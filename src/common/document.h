@@ -5,6 +5,7 @@
 #include "common/notices.h"
 #include "common/textSurface.h"
 
+#include <QFont>
 #include <optional>
 
 class Browser;
@@ -60,6 +61,11 @@ public:
     virtual void setAutoSaveEnabled(bool enabled) = 0;
 
     virtual void CheckWordWrapSettings() = 0;
+
+    /// The font of the source.
+    virtual QFont editorFont() const { return {}; }
+    /// Takes over the font and the tab width that the settings have.
+    virtual void applyEditorSettings() {}
 
     /// The browser of its window; nothing where the window has none.
     virtual Browser *brwWebBrowser() { return nullptr; }

@@ -67,6 +67,10 @@ public:
     virtual void showDocumentSelector(bool shown) = 0;
 
     virtual void setWordWrapChecked(bool checked) = 0;
+    /// Shows or hides a bar, by the name of its entry in the View menu, whose check mark and setting follow.
+    virtual void showBar(const QString &, bool) {}
+    virtual void placePane() {}                  ///< puts the Task Manager pane on the side that the settings say
+    virtual void clearAddresses() {}             ///< empties the list of the address bar
     virtual void setSplitEditingChecked(bool) {} ///< the check mark of `mnuSplitEditingWindows`
 
     /// Where a form that drops down from the bar of insertions belongs on the screen, in logical pixels: under the

@@ -3,6 +3,7 @@
 #include "common/dialogFilter.h"
 #include "common/paths.h"
 #include "desktop/boxOwner.h"
+#include "desktop/desktopPrinting.h"
 #include "widgets/themeColour.h"
 
 #include <QApplication>
@@ -151,9 +152,11 @@ std::optional<FontChoice> DesktopCommonDialogs::showFont(const FontChoice &initi
 
 std::optional<int> DesktopCommonDialogs::showPrint()
 {
-    QPrinter printer;
+    QPrinter &printer = m_printing.printer();
     QPrintDialog dialog(&printer, boxOwner());
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
-    return qMax(printer.copyCount(), 1);
+    const int copies = qMax(printer.copyCount(), 1);
+    printer.setCopyCount(1); // the program prints one run for each copy itself
+    return copies;
 }

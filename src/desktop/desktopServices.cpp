@@ -8,6 +8,8 @@
 #include "desktop/desktopHelpViewer.h"
 #include "desktop/desktopLauncher.h"
 #include "desktop/desktopMessageBoxes.h"
+#include "desktop/desktopPrinting.h"
+#include "desktop/desktopSystemFacts.h"
 #include "desktop/moduleTransfers.h"
 #include "desktop/programFolder.h"
 #include "desktop/qtTimerSource.h"
@@ -45,7 +47,8 @@ struct DesktopServices::Parts {
 
     QString appPath = programFolder(runningProgramPlaces());
     DesktopMessageBoxes messageBoxes;
-    DesktopCommonDialogs desktopDialogs;
+    DesktopPrinting printing;
+    DesktopCommonDialogs desktopDialogs{printing};
     CommonDialogs &commonDialogs;
     SettingsFiles settings{settingsFolder()};
     LocalFileSystem files;
@@ -60,6 +63,7 @@ struct DesktopServices::Parts {
     ServedPages pages{settings, {appPath}};
     ModulePageViews pageViews{moduleFolders(), pages};
     ThreadWorker worker;
+    DesktopSystemFacts systemFacts{appPath};
     XdgFileClasses fileClasses{currentXdgPlaces(), startInBackground};
     ModuleTransfers transfers{moduleFolders(), {.knownHosts = joinPath(dataFolder(), QStringLiteral("known_hosts"))}};
     WizardPrograms wizards{{appPath, QStringLiteral(TAGWRIGHTER_LIBEXEC_FOLDER)},
@@ -82,6 +86,8 @@ struct DesktopServices::Parts {
         .worker = worker,
         .transfers = transfers,
         .wizards = wizards,
+        .printing = printing,
+        .systemFacts = systemFacts,
         .appPath = appPath,
         .statePath = stateFolder(),
     };

@@ -6,6 +6,7 @@
 #include "common/paths.h"
 #include "common/unsavedText.h"
 #include "document/viewingPanes.h"
+#include "services/editorSettings.h"
 #include "services/services.h"
 #include "services/settings.h"
 #include "services/timer.h"
@@ -58,6 +59,7 @@ void frmWrite::buildSurface()
     connect(m_edit, &EditSurface::gotFocus, this, &frmWrite::txtEdit_GotFocus);
     connect(m_edit, &EditSurface::lostFocus, this, &frmWrite::txtEdit_LostFocus);
     m_edit->setHooks(surfaceHooks());
+    applyEditorSettings();
 }
 
 void frmWrite::buildTimers()
@@ -113,6 +115,17 @@ void frmWrite::addTab(const QString &caption)
     frmMdi().addDocumentTab(DocKeyDescription, caption);
     if (frmMdi().activeDocument() == this)
         frmMdi().selectDocumentTab(DocKeyDescription);
+}
+
+QFont frmWrite::editorFont() const
+{
+    return m_edit->font();
+}
+
+void frmWrite::applyEditorSettings()
+{
+    m_edit->setFont(::editorFont(services().settings));
+    m_edit->setTabWidth(tabWidth(services().settings));
 }
 
 void frmWrite::CheckWordWrapSettings()

@@ -40,6 +40,8 @@ public:
     bool autoSaveEnabled() const override;
     void setAutoSaveEnabled(bool enabled) override;
     void CheckWordWrapSettings() override;
+    QFont editorFont() const override;
+    void applyEditorSettings() override;
     Browser *brwWebBrowser() override;
     void SplitEditingPreviewWindows() override;
     void RepositionEditingandPreviewWindows() override;

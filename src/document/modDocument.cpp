@@ -6,6 +6,7 @@
 #include "common/text.h"
 #include "document/frmWrite.h"
 #include "forms/formRuntime.h"
+#include "services/editorSettings.h"
 #include "services/fileSystem.h"
 #include "services/messageBoxes.h"
 #include "services/services.h"
@@ -64,6 +65,8 @@ Document *NewBlankDocument(ProgramContext &context)
         context.forms.adopt(std::move(form));
         document.Show();
         document.NewDoc = true;
+        document.fileFormat = newDocumentFormat(context.services.settings);
+        document.plainEncoding = document.fileFormat.encoding;
         made = &document;
     } catch (const std::bad_alloc &) {
         if (context.files)

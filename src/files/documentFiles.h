@@ -6,6 +6,7 @@
 #include "files/outsideChanges.h"
 
 #include <QString>
+#include <optional>
 
 struct FileDialogResult;
 struct ProgramContext;
@@ -43,7 +44,10 @@ private:
     struct Target {
         QString path;
         SaveForm form = SaveForm::AsOpened;
+        std::optional<QString> text = {}; ///< what is written in place of the document's text
     };
+    /// Whether a save may write to a name.
+    enum class Agreement { Given, Refused, OtherName };
 
     struct Opened;
 
@@ -62,8 +66,10 @@ private:
     bool saveDocument(Document &document, bool closing);
     bool saveDocumentAs(Document &document, bool closing, const QString &title);
     bool saveAsChosen(Document &document, bool closing, const FileDialogResult &chosen);
+    Agreement agreeOnName(Document &document, const QString &path);
     bool WriteDocumentTo(Document &document, bool closing, const Target &target);
     bool writeToNewName(Document &document, bool closing, const Target &target);
+    bool SaveStrippedText(Document &document, bool closing, const QString &path);
     bool isChangedOnDisk(const Document &document) const;
     bool mayWriteOver(Document &document);
     bool leavesEncoding(const Document &document, SaveForm form) const;

@@ -1,6 +1,7 @@
 // Opening files, and what all commands on files share.
 #include "files/documentFiles.h"
 
+#include "common/document.h"
 #include "common/fileFormatText.h"
 #include "common/longLines.h"
 #include "common/mainWindow.h"
@@ -12,6 +13,7 @@
 #include "files/modFileErrors.h"
 #include "files/modFileNames.h"
 #include "files/modRecentFiles.h"
+#include "files/modTemplates.h"
 #include "forms/programContext.h"
 #include "services/commonDialogs.h"
 #include "services/fileSystem.h"
@@ -111,7 +113,7 @@ void DocumentFiles::openAsChosen(const FileDialogResult &chosen)
         OpenDocumentFile(chosen.fileName, true);
         break;
     case OpenAs::Template:
-        tellComesLater(QStringLiteral("Templates can not be opened from this dialog yet."));
+        OpenTemplateFile(chosen.fileName, true);
         break;
     case OpenAs::CombinedTemplate:
         OpenCombinedTemplate(chosen.fileName);
@@ -122,9 +124,9 @@ void DocumentFiles::openAsChosen(const FileDialogResult &chosen)
     }
 }
 
-void DocumentFiles::OpenCombinedTemplate(const QString & /*path*/)
+void DocumentFiles::OpenCombinedTemplate(const QString &path)
 {
-    tellComesLater(QStringLiteral("Combined templates can not be opened yet."));
+    ::OpenCombinedTemplate(m_context, path);
 }
 
 void DocumentFiles::OpenProject(const QString &path)

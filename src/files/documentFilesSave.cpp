@@ -1,6 +1,7 @@
 // Saving documents.
 #include "files/documentFiles.h"
 
+#include "common/document.h"
 #include "common/mainWindow.h"
 #include "common/pageCharset.h"
 #include "common/programState.h"
@@ -12,9 +13,11 @@
 #include "files/fileDialogRows.h"
 #include "files/frmMsgAddSavedFileToProject.h"
 #include "files/modFileNames.h"
+#include "files/modTemplates.h"
 #include "files/unsavedDocuments.h"
 #include "forms/form.h"
 #include "forms/formRuntime.h"
+#include "forms/programContext.h"
 #include "services/commonDialogs.h"
 #include "services/fileSystem.h"
 #include "services/messageBoxes.h"
@@ -127,35 +130,47 @@ bool DocumentFiles::saveAsChosen(Document &document, bool closing, const FileDia
     case SaveAs::UnicodeText:
         return WriteDocumentTo(document, closing, {chosen.fileName, SaveForm::UnicodeRow});
     case SaveAs::CombinedTemplate:
-        tellComesLater(QStringLiteral("Documents can not be saved as combined templates yet."));
+        // What the template holds is not lost by a close, though the document itself is as it was.
+        if (SaveCombinedTemplate(m_context, document, chosen.fileName)) {
+            document.txtEdit().SetFocus();
+            return true;
+        }
+        document.txtEdit().SetFocus();
         break;
     case SaveAs::TextWithoutTags:
-        tellComesLater(QStringLiteral("Documents can not be saved without their tags yet."));
-        break;
+        return SaveStrippedText(document, closing, chosen.fileName);
     }
     return notSaved(document, closing);
 }
 
+DocumentFiles::Agreement DocumentFiles::agreeOnName(Document &document, const QString &path)
+{
+    if (IsFileOpen(*m_context.mainWindow, m_context.services.files, path, document.DocSavePath)) {
+        m_context.services.messageBoxes.show(documentOpenBox(path));
+        return Agreement::Refused;
+    }
+    if (isFileOf(m_context.services.files, document, path))
+        return mayWriteOver(document) ? Agreement::Given : Agreement::Refused;
+    if (!FileExists(m_context.services.files, path))
+        return Agreement::Given;
+    const AutoSavePause pause(document);
+    const MessageAnswer answer = m_context.services.messageBoxes.show(replaceQuestion(path));
+    if (answer == MessageAnswer::No)
+        return Agreement::OtherName;
+    return answer == MessageAnswer::Yes ? Agreement::Given : Agreement::Refused;
+}
+
 bool DocumentFiles::WriteDocumentTo(Document &document, bool closing, const Target &target)
 {
-    if (IsFileOpen(*m_context.mainWindow, m_context.services.files, target.path, document.DocSavePath)) {
-        m_context.services.messageBoxes.show(documentOpenBox(target.path));
+    switch (agreeOnName(document, target.path)) {
+    case Agreement::OtherName:
+        return saveDocumentAs(document, closing, {});
+    case Agreement::Refused:
+        notSaved(document, closing);
         document.txtEdit().SetFocus();
-        return notSaved(document, closing);
-    }
-    if (isFileOf(m_context.services.files, document, target.path)) {
-        if (!mayWriteOver(document))
-            return notSaved(document, closing);
-    } else if (FileExists(m_context.services.files, target.path)) {
-        const AutoSavePause pause(document);
-        const MessageAnswer answer = m_context.services.messageBoxes.show(replaceQuestion(target.path));
-        if (answer == MessageAnswer::No)
-            return saveDocumentAs(document, closing, {});
-        if (answer != MessageAnswer::Yes) {
-            notSaved(document, closing);
-            document.txtEdit().SetFocus();
-            return false;
-        }
+        return false;
+    case Agreement::Given:
+        break;
     }
     return writeToNewName(document, closing, target);
 }
@@ -235,7 +250,8 @@ std::optional<FileError> DocumentFiles::write(Document &document, const Target &
 {
     FileSystem &files = m_context.services.files;
     try {
-        const EncodedText encoded = encodedForSave(document, target.form);
+        const QString text = target.text.value_or(document.txtEdit().Text());
+        const EncodedText encoded = encodedForSave(text, document, target.form);
         if (std::optional<FileError> error = files.writeWhole(target.path, encoded.bytes))
             return error;
         document.fileStamp = files.stamp(target.path);

@@ -1,5 +1,6 @@
 #include "files/documentText.h"
 
+#include "common/document.h"
 #include "common/documentEncoding.h"
 #include "common/pageCharset.h"
 
@@ -54,9 +55,9 @@ FileFormat formatOfSave(const Document &document, SaveForm form)
     return formatOfDocument(document, encodingOfSave(document, form));
 }
 
-EncodedText encodedForSave(const Document &document, SaveForm form)
+EncodedText encodedForSave(const QString &text, const Document &document, SaveForm form)
 {
-    return encode(document.txtEdit().Text() + QStringLiteral("\r\n"), formatOfSave(document, form));
+    return encode(text + QStringLiteral("\r\n"), formatOfSave(document, form));
 }
 
 void noteOpened(Document &document, const DecodedText &opened, bool unicode)

@@ -14,8 +14,8 @@ enum class SaveForm {
 /// The format in which a save writes the document; characters may still make it another, as encode() tells.
 FileFormat formatOfSave(const Document &document, SaveForm form);
 
-/// The document's bytes: its text and one line break more, which each save adds.
-EncodedText encodedForSave(const Document &document, SaveForm form);
+/// The bytes of a text that is saved as the document's: the text and one line break more, which each save adds.
+EncodedText encodedForSave(const QString &text, const Document &document, SaveForm form);
 
 /// Takes over how a file was read: the text's format, and whether a Unicode row read it.
 void noteOpened(Document &document, const DecodedText &opened, bool unicode);

@@ -3,6 +3,7 @@
 #include "common/fileCommands.h"
 #include "common/paths.h"
 #include "files/templateMessages.h"
+#include "forms/programContext.h"
 #include "services/commonDialogs.h"
 #include "services/fileSystem.h"
 #include "services/services.h"
@@ -21,15 +22,15 @@ frmMsgOpenTemplate::frmMsgOpenTemplate(ProgramContext &context) : Form(context, 
 void frmMsgOpenTemplate::Form_Load()
 {
     m_answer = {};
-    QLabel *lblTitle = ui::label(QStringLiteral("lblTitle"),
-                                 QStringLiteral("Do you want to save the template's accompanying files?"));
+    QLabel *lblTitle =
+        ui::label(QStringLiteral("lblTitle"), QStringLiteral("Do you want to save the template's accompanying files?"));
     QLabel *lblMessage = ui::label(QStringLiteral("lblMessage"), accompanyingFilesText(m_count));
     lblMessage->setWordWrap(true);
     const auto option = [this](const char *name, const char *caption) {
         return ui::option(QLatin1String(name), QLatin1String(caption), [this] { choice_Click(); });
     };
-    optNormalSave = option("optNormalSave",
-                           "Save accompanying files in the same directory as the new document (recommended)");
+    optNormalSave =
+        option("optNormalSave", "Save accompanying files in the same directory as the new document (recommended)");
     optDifferentLocation = option("optDifferentLocation", "Save accompanying files to a different location:");
     optNoSave = option("optNoSave", "Do not save any accompanying files");
     txtNewLocation = ui::text(QStringLiteral("txtNewLocation"));

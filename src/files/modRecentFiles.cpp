@@ -1,12 +1,14 @@
 #include "files/modRecentFiles.h"
 
 #include "common/encodings.h"
+#include "common/fileCommands.h"
 #include "common/mainWindow.h"
 #include "common/paths.h"
 #include "forms/programContext.h"
 #include "services/fileSystem.h"
 #include "services/services.h"
 #include "services/settings.h"
+#include "widgets/listView.h"
 
 #include <QComboBox>
 
@@ -38,12 +40,11 @@ QString addressFile(const ProgramContext &context)
     return joinPath(context.services.appPath, QStringLiteral("AddrBar.dat"));
 }
 
-/// The history's lines; the text behind the last break is a line only if there is some.
+/// The history's lines. An empty one, which is what a cleared history holds, is no address.
 QStringList linesOf(const QString &text)
 {
     QStringList lines = text.split(QStringLiteral("\r\n"));
-    if (lines.last().isEmpty())
-        lines.removeLast();
+    lines.removeAll(QString());
     return lines;
 }
 
@@ -119,6 +120,29 @@ void AddToWelcomeList(SettingsStore &store, const QString &path)
     paths.removeLast();
     paths.prepend(path);
     writeSlots(store, settings::RecentWelcome, paths);
+}
+
+void LoadWelcomeRecentList(SettingsStore &store, ListView &lstRecent)
+{
+    constexpr int FileIcon = 1;
+    constexpr int ProjectIcon = 2;
+    const auto add = [&lstRecent](const QString &path, int icon) {
+        ListRow row{.key = path, .text = FileNameOnly(path), .smallIcon = icon, .subItems = {path}};
+        if (path.isEmpty() || lstRecent.addRow(row))
+            return;
+        row.key.clear(); // it is in the list already
+        lstRecent.addRow(row);
+    };
+    add(settings::read(store, settings::LastProject), ProjectIcon);
+    for (const QString &path : readSlots(store, settings::RecentWelcome, WelcomeFileCount))
+        add(path, FileIcon);
+}
+
+void ClearAddressHistory(ProgramContext &context)
+{
+    if (const std::optional<FileError> error =
+            context.services.files.writeWhole(addressFile(context), QByteArrayLiteral("\r\n")))
+        context.files->FileErrors(error->code, error->description);
 }
 
 void LoadAddressHistory(ProgramContext &context, QComboBox &combo)

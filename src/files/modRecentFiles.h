@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringList>
 
+class ListView;
 class QComboBox;
 class SettingsStore;
 struct ProgramContext;
@@ -25,6 +26,12 @@ void AddToRecentFiles(ProgramContext &context, const QString &path);
 /// Puts the path in front of the Welcome screen's list, which may hold a path many times.
 void AddToWelcomeList(SettingsStore &store, const QString &path);
 
+/// Fills the Welcome screen's list: the project opened last, then the files. A path that is there many times has so
+/// many rows, of which the first has it as its key.
+void LoadWelcomeRecentList(SettingsStore &store, ListView &lstRecent);
+
+/// Empties the history file: it holds an empty line then.
+void ClearAddressHistory(ProgramContext &context);
 /// Fills the address bar from the history file; nothing if the user wants none kept, or there is no file.
 void LoadAddressHistory(ProgramContext &context, QComboBox &combo);
 /// Adds the address in the combo's edit field to its list and to the history file, unless the list has it, in any case

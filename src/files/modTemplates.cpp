@@ -2,6 +2,7 @@
 #include "files/modTemplates.h"
 
 #include "common/fileCommands.h"
+#include "common/mainWindow.h"
 #include "common/paths.h"
 #include "files/templateFiles.h"
 #include "files/templateMessages.h"

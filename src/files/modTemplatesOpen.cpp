@@ -1,14 +1,16 @@
 // Beginning a page from a combined template.
 #include "files/modTemplates.h"
 
-#include "common/documentEncoding.h"
+#include "common/document.h"
 #include "common/fileCommands.h"
+#include "common/mainWindow.h"
 #include "common/paths.h"
 #include "files/documentText.h"
 #include "files/frmMsgOpenTemplate.h"
 #include "files/localPaths.h"
 #include "files/templateFiles.h"
 #include "files/templateMessages.h"
+#include "forms/formRuntime.h"
 #include "forms/programContext.h"
 #include "services/commonDialogs.h"
 #include "services/fileSystem.h"
@@ -47,7 +49,7 @@ TemplateAnswer askAboutFiles(ProgramContext &context, qsizetype names)
 {
     if (names < 2)
         return {names == 1 ? TemplateAction::DoNotSave : TemplateAction::Cancel, {}};
-    auto &form = static_cast<frmMsgOpenTemplate &>(context.form(QStringLiteral("frmMsgOpenTemplate")));
+    auto &form = context.forms.get<frmMsgOpenTemplate>();
     form.setFileCount(names - 1);
     form.ShowModal();
     return form.answer();
@@ -109,8 +111,7 @@ bool fillMarks(TextSurface &edit, const QString &folder)
 bool writeFilled(ProgramContext &context, Document &document)
 {
     const EncodedText encoded = encode(document.txtEdit().Text(), formatOfSave(document, SaveForm::AsOpened));
-    if (const std::optional<FileError> error =
-            context.services.files.writeWhole(document.DocSavePath, encoded.bytes)) {
+    if (const std::optional<FileError> error = context.services.files.writeWhole(document.DocSavePath, encoded.bytes)) {
         context.files->FileErrors(error->code, error->description);
         return false;
     }

@@ -1,14 +1,17 @@
 // Packing a page and the local files that it names.
 #include "files/modTemplates.h"
 
+#include "common/document.h"
 #include "common/encodings.h"
 #include "common/fileCommands.h"
+#include "common/mainWindow.h"
 #include "common/paths.h"
 #include "files/frmMsgCombinedTemplateFilesToSave.h"
 #include "files/frmMsgSaveTemplate.h"
 #include "files/localPaths.h"
 #include "files/templateFiles.h"
 #include "files/templateMessages.h"
+#include "forms/formRuntime.h"
 #include "forms/programContext.h"
 #include "services/fileSystem.h"
 #include "services/services.h"
@@ -19,8 +22,7 @@ namespace
 /// The files to pack, as the user leaves the list of those that were found; nothing if the saving was called off.
 std::optional<QStringList> askAboutFiles(ProgramContext &context, const QStringList &found)
 {
-    auto &form = static_cast<frmMsgCombinedTemplateFilesToSave &>(
-        context.form(QStringLiteral("frmMsgCombinedTemplateFilesToSave")));
+    auto &form = context.forms.get<frmMsgCombinedTemplateFilesToSave>();
     form.setFiles(found);
     form.ShowModal();
     return form.chosen();
@@ -44,23 +46,20 @@ Packed pack(ProgramContext &context, const QString &path, const QString &page, c
         files.append({.name = FileNameOnly(source), .source = source});
     Yielder &yielder = context.services.yielder;
     yielder.beginPass();
-    return writeContainer(context.services.files, path, files,
-                          {.begun =
-                               [&](const QString &name) {
-                                   if (name != container::pageName())
-                                       context.mainWindow->SetStatusText(
-                                           QStringLiteral("Adding File to Template... ") + name);
-                                   yielder.yield();
-                               },
-                           .failed =
-                               [&](const QString &name) {
-                                   context.services.messageBoxes.show(notAddedMessage(name));
-                               }});
+    return writeContainer(
+        context.services.files, path, files,
+        {.begun =
+             [&](const QString &name) {
+                 if (name != container::pageName())
+                     context.mainWindow->SetStatusText(QStringLiteral("Adding File to Template... ") + name);
+                 yielder.yield();
+             },
+         .failed = [&](const QString &name) { context.services.messageBoxes.show(notAddedMessage(name)); }});
 }
 
 void tellResult(ProgramContext &context, const QString &path, const QStringList &accompanying)
 {
-    auto &form = static_cast<frmMsgSaveTemplate &>(context.form(QStringLiteral("frmMsgSaveTemplate")));
+    auto &form = context.forms.get<frmMsgSaveTemplate>();
     form.setResult(FileNameOnly(path), accompanying);
     form.ShowModal();
 }
@@ -87,8 +86,8 @@ bool SaveCombinedTemplate(ProgramContext &context, const Document &document, con
 {
     context.mainWindow->SetStatusText(QStringLiteral("Creating Template File..."));
     FileSystem &files = context.services.files;
-    const ReducedPage reduced = reduceLocalPaths(document.txtEdit().Text(),
-                                                 [&files](const QString &name) { return files.exists(name); });
+    const ReducedPage reduced =
+        reduceLocalPaths(document.txtEdit().Text(), [&files](const QString &name) { return files.exists(name); });
     const std::optional<QStringList> accompanying = askAboutFiles(context, reduced.files);
     const bool agreed = accompanying && mayWrite(context, path);
     context.mainWindow->SetStatusReady();

@@ -1,4 +1,5 @@
 #include "files/templateMessages.h"
+#include "common/document.h"
 
 namespace
 {
@@ -52,8 +53,7 @@ MessageBox refusedNamesMessage(const QStringList &names)
 
 QString accompanyingFilesText(qsizetype count)
 {
-    const QString start =
-        QStringLiteral("The template file you have chosen to create a new document from contains ");
+    const QString start = QStringLiteral("The template file you have chosen to create a new document from contains ");
     if (count == 1)
         return start + QStringLiteral("one accompanying file.  It is recommended that you save this file so that the "
                                       "new document can access it.");

@@ -1,5 +1,6 @@
 #include "files/unsavedDocuments.h"
 
+#include "common/document.h"
 #include "common/mainWindow.h"
 
 QStringList unsavedCaptions(const MainWindow &mainWindow)

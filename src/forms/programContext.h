@@ -30,6 +30,7 @@ struct ProgramContext {
     const CodeKnowledge *codes = nullptr;              ///< what the program knows of HTML and CSS
     std::shared_ptr<NodeTreeModel> codeElements = {};  ///< the elements that the code assistant offers in all documents
     QString version = {};                              ///< the program's: major.minor.revision
+    QString makerSite = {};                            ///< the address of the maker's web site
     std::function<Document *()> newBlankDocument = {}; ///< shows a new, empty document; nothing if memory ran out
     Uploads *uploads = nullptr;                        ///< the pages on their way to servers
     std::function<void()> locatePublishingProgram = {}; ///< shows the options and lets the user look for the program

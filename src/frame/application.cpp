@@ -6,12 +6,7 @@
 #include "document/modDocument.h"
 #include "extensions/extensionsForms.h"
 #include "files/documentFiles.h"
-#include "files/frmMsgAddSavedFileToProject.h"
-#include "files/frmMsgNoFileForAutoSave.h"
-#include "files/frmMsgSaveChanges.h"
-#include "files/frmProperties.h"
-#include "files/frmUnsavedFiles.h"
-#include "files/frmWhatChanged.h"
+#include "files/filesForms.h"
 #include "files/recovery.h"
 #include "frame/frmMdi.h"
 #include "frame/frmSplash.h"
@@ -19,8 +14,11 @@
 #include "internet/internetForms.h"
 #include "internet/uploads.h"
 #include "project/projectForms.h"
-#include "shell/frmWelcome.h"
+#include "services/services.h"
+#include "services/settings.h"
+#include "shell/shellForms.h"
 #include "texttools/texttoolsForms.h"
+#include "widgets/theme.h"
 
 #include <utility>
 
@@ -28,11 +26,13 @@ Application::Application(Services &services)
     : m_context{.services = services, .forms = m_forms, .state = m_state, .screenPointer = m_screenPointer}
 {
     m_context.version = QStringLiteral(TAGWRIGHTER_VERSION);
+    m_context.makerSite = QStringLiteral(TAGWRIGHTER_MAKER_SITE);
     m_context.newBlankDocument = [this] { return NewBlankDocument(m_context); };
     m_context.end = [this] { End(); };
     m_mdi = &own<frmMdi>(m_context, m_commandLine);
     m_splash = &own<frmSplash>(m_context, *m_mdi);
-    own<frmWelcome>(m_context);
+    for (std::unique_ptr<Form> &form : shellForms(m_context))
+        m_forms.own(std::move(form));
     addFiles();
     m_uploads = std::make_unique<Uploads>(m_context);
     m_context.uploads = m_uploads.get();
@@ -57,12 +57,8 @@ void Application::addFiles()
     m_context.files = m_files.get();
     m_unsavedText = std::make_unique<Recovery>(m_context);
     m_context.unsavedText = m_unsavedText.get();
-    own<frmWhatChanged>(m_context);
-    own<frmMsgSaveChanges>(m_context);
-    own<frmUnsavedFiles>(m_context);
-    own<frmMsgNoFileForAutoSave>(m_context);
-    own<frmMsgAddSavedFileToProject>(m_context);
-    own<frmProperties>(m_context);
+    for (std::unique_ptr<Form> &form : filesForms(m_context))
+        m_forms.own(std::move(form));
 }
 
 Application::~Application()
@@ -83,6 +79,9 @@ T &Application::own(Arguments &&...arguments)
 void Application::Main(const QString &commandLine)
 {
     m_commandLine = commandLine;
+    const QString colours = settings::read(m_context.services.settings, settings::Theme);
+    if (colours != theme::Desktop)
+        theme::apply(colours);
     m_splash->Load();
     m_splash->Show();
 }

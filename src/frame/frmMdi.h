@@ -69,8 +69,9 @@ public:
     void PopupMenu(const QString &name, const QPoint &position) override;
     bool MoveToNextPane(int keyCode, const QString &from) override;
 
-    /// Shows or hides a bar, by the name of its entry in the View menu, whose check mark and setting follow.
-    void showBar(const QString &entry, bool shown);
+    void showBar(const QString &entry, bool shown) override;
+    void placePane() override;
+    void clearAddresses() override;
     void toggleBar(const QString &entry);
 
     /// The open site project; it lives as long as this form.
@@ -106,7 +107,6 @@ private:
     void readWordWrap();
     void sizeDocumentSelector();
     void loadRecentLists();
-    void placePane();
     void restoreBars();
     void restoreSplit();
     void restoreBands();

@@ -100,6 +100,11 @@ void frmMdi::showProjectPage(bool shown)
     m_pane->showPage(shown ? TaskManagerPane::ProjectTab : TaskManagerPane::CodesTab);
 }
 
+void frmMdi::clearAddresses()
+{
+    cboAddress->clear();
+}
+
 void frmMdi::SetStatusText(const QString &text)
 {
     if (!m_message)

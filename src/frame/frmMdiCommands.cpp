@@ -9,6 +9,7 @@
 #include "extensions/frmWizards.h"
 #include "extensions/modExternalPrograms.h"
 #include "extensions/modWizards.h"
+#include "files/modPrinting.h"
 #include "forms/formRuntime.h"
 #include "forms/modLaunchHTMLHelp.h"
 #include "frame/frmMdi.h"
@@ -101,6 +102,12 @@ void MainCommands::mnuWizards_Click()
 void MainCommands::mnuUpload_Click()
 {
     RunPublishingProgram(m_context);
+}
+
+void MainCommands::mnuPrint_Click()
+{
+    PrintDocument(m_context);
+    focusEditor();
 }
 
 void MainCommands::openRecentFile(int index)

@@ -44,6 +44,7 @@ public:
     void mnuViewPage_Click();
     void mnuWizards_Click();
     void mnuUpload_Click();
+    void mnuPrint_Click();
     template <int Index>
     void mnuRecentFile_Click()
     {

@@ -17,6 +17,9 @@ struct FileContents {
     std::optional<FileError> error;
 };
 
+/// Gives the next piece of what is to be written, an empty one at its end; an error calls the writing off.
+using PieceSource = std::function<FileContents()>;
+
 /// What a properties window shows of a file.
 struct FileDetails {
     qint64 size = 0; ///< bytes
@@ -65,7 +68,27 @@ public:
         return writeWhole(path, bytes);
     }
 
-    virtual bool exists(const QString &path) = 0; ///< a file of any kind, no folder
+    /// `length` bytes of a file from an offset, fewer where it ends before: for files that need not fit into the
+    /// memory.
+    virtual FileContents readPart(const QString &path, qint64 offset, qint64 length)
+    {
+        const FileContents file = readAll(path);
+        return {file.bytes.mid(offset, length), file.error};
+    }
+    /// writeWhole, piece by piece. An error of the source is the result, and the file has its old contents.
+    virtual std::optional<FileError> writeInPieces(const QString &path, const PieceSource &next)
+    {
+        QByteArray bytes;
+        for (FileContents piece = next(); piece.error || !piece.bytes.isEmpty(); piece = next()) {
+            if (piece.error)
+                return piece.error;
+            bytes += piece.bytes;
+        }
+        return writeWhole(path, bytes);
+    }
+
+    virtual bool isLink(const QString &) { return false; } ///< a symbolic link, wherever it leads
+    virtual bool exists(const QString &path) = 0;          ///< a file of any kind, no folder
     virtual bool isFolder(const QString &path) = 0;
     /// Whether both lead to one file, by a link, a ".." or a double separator too. Of files that are not there, the
     /// paths are compared.

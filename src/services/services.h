@@ -13,8 +13,10 @@ class Launcher;
 class MessageBoxes;
 class ModalLoop;
 class PageViews;
+class Printing;
 class Random;
 class SettingsStore;
+class SystemFacts;
 class TimerSource;
 class WizardServer;
 class Worker;
@@ -39,6 +41,8 @@ struct Services {
     Worker &worker;
     InternetTransfers &transfers;
     WizardServer &wizards;
+    Printing &printing;
+    SystemFacts &systemFacts;
     QString appPath;   ///< the program's folder (`App.Path`), without a final separator
     QString statePath; ///< where the program keeps what it has to remember by itself, without a final separator
 };

@@ -16,6 +16,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <limits>
 #include <new>
 #include <string>
 #include <sys/stat.h>
@@ -73,28 +74,28 @@ FileError badName(FileAction action)
 }
 
 // 0 or why what the status tells of is not to be read as a file.
-int refusalOf(const struct stat &status)
+int refusalOf(const struct stat &status, qint64 largest)
 {
     if (S_ISDIR(status.st_mode))
         return EISDIR;
     if (!S_ISREG(status.st_mode))
         return ENXIO;
-    return status.st_size > largestFile ? ENOMEM : 0;
+    return status.st_size > largest ? ENOMEM : 0;
 }
 
-int openToRead(const QByteArray &path, OpenFile &file, qint64 &size)
+int openToRead(const QByteArray &path, OpenFile &file, qint64 &size, qint64 largest = largestFile)
 {
     struct stat status = {};
     // Asked before the opening too, since merely opening a device can set something off.
     if (::stat(path.constData(), &status) != 0)
         return errno;
-    if (const int refusal = refusalOf(status))
+    if (const int refusal = refusalOf(status, largest))
         return refusal;
     file.descriptor = ::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
     if (file.descriptor < 0 || ::fstat(file.descriptor, &status) != 0)
         return errno;
     size = status.st_size;
-    return refusalOf(status);
+    return refusalOf(status, largest);
 }
 
 // Reads to the end, which may lie elsewhere than the size said: the file may grow meanwhile, and those of /proc tell 0.
@@ -129,6 +130,27 @@ int readFile(const QByteArray &path, QByteArray &bytes)
     } catch (const std::bad_alloc &) {
         return ENOMEM;
     }
+}
+
+int readFilePart(const QByteArray &path, qint64 offset, qint64 length, QByteArray &bytes)
+{
+    OpenFile file;
+    qint64 size = 0;
+    if (const int error = openToRead(path, file, size, std::numeric_limits<qint64>::max()))
+        return error;
+    bytes.resize(std::clamp<qint64>(size - offset, 0, length));
+    qsizetype used = 0;
+    while (used < bytes.size()) {
+        const ssize_t got =
+            ::pread(file.descriptor, bytes.data() + used, static_cast<size_t>(bytes.size() - used), offset + used);
+        if (got < 0 && errno != EINTR)
+            return errno;
+        if (got == 0)
+            break;
+        used += qMax<ssize_t>(got, 0);
+    }
+    bytes.resize(used);
+    return 0;
 }
 
 std::optional<FileError> write(const QString &path, const QByteArray &bytes, Durability durability)
@@ -187,6 +209,41 @@ std::optional<FileError> LocalFileSystem::writeWhole(const QString &path, const 
 std::optional<FileError> LocalFileSystem::writeScratch(const QString &path, const QByteArray &bytes)
 {
     return write(path, bytes, Durability::Lazy);
+}
+
+FileContents LocalFileSystem::readPart(const QString &path, qint64 offset, qint64 length)
+{
+    const std::optional<QByteArray> name = systemPath(path);
+    if (!name)
+        return {{}, badName(FileAction::Read)};
+    FileContents contents;
+    if (const int error = readFilePart(*name, offset, length, contents.bytes))
+        return {{}, failure(error, FileAction::Read, *name)};
+    return contents;
+}
+
+std::optional<FileError> LocalFileSystem::writeInPieces(const QString &path, const PieceSource &next)
+{
+    const std::optional<QByteArray> name = systemPath(path);
+    if (!name)
+        return badName(FileAction::Write);
+    std::optional<FileError> ofSource;
+    const auto piece = [&]() -> std::optional<QByteArray> {
+        const FileContents contents = next();
+        ofSource = contents.error;
+        return ofSource ? std::nullopt : std::optional(contents.bytes);
+    };
+    const int error = writeWholeFile(*name, piece, Durability::Flushed);
+    if (ofSource)
+        return ofSource;
+    return error == 0 ? std::nullopt : std::optional(failure(error, FileAction::Write, *name));
+}
+
+bool LocalFileSystem::isLink(const QString &path)
+{
+    const std::optional<QByteArray> name = systemPath(path);
+    struct stat status = {};
+    return name && ::lstat(name->constData(), &status) == 0 && S_ISLNK(status.st_mode);
 }
 
 bool LocalFileSystem::exists(const QString &path)

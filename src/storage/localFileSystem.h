@@ -18,6 +18,9 @@ public:
     std::optional<FileError> checkReadable(const QString &path) override;
     std::optional<FileError> writeWhole(const QString &path, const QByteArray &bytes) override;
     std::optional<FileError> writeScratch(const QString &path, const QByteArray &bytes) override;
+    FileContents readPart(const QString &path, qint64 offset, qint64 length) override;
+    std::optional<FileError> writeInPieces(const QString &path, const PieceSource &next) override;
+    bool isLink(const QString &path) override;
 
     bool exists(const QString &path) override;
     bool isFolder(const QString &path) override;

@@ -133,6 +133,19 @@ int writeBytes(int descriptor, QByteArrayView bytes)
     return 0;
 }
 
+int writePieces(int descriptor, const NextPiece &next)
+{
+    while (true) {
+        const std::optional<QByteArray> piece = next();
+        if (!piece)
+            return ECANCELED;
+        if (piece->isEmpty())
+            return 0;
+        if (const int error = writeBytes(descriptor, *piece))
+            return error;
+    }
+}
+
 // Attributes beside the permissions: access lists, labels, what file managers note. A file system that has none of them
 // is no failure.
 void copyAttributes(const QByteArray &from, int to)
@@ -209,7 +222,10 @@ LinkTarget followLinks(const QByteArray &path)
     return {current, ELOOP};
 }
 
-int writeWholeFile(const QByteArray &path, QByteArrayView bytes, Durability durability, mode_t newMode)
+namespace
+{
+/// Writes what `fill` puts into the descriptor it is given; 0 or an errno.
+int writeFilled(const QByteArray &path, const std::function<int(int)> &fill, Durability durability, mode_t newMode)
 {
     if (path.isEmpty() || path.contains('\0'))
         return EINVAL;
@@ -224,7 +240,7 @@ int writeWholeFile(const QByteArray &path, QByteArrayView bytes, Durability dura
     FreshFile fresh(folder, old ? 0600 : newMode);
     int error = fresh.error();
     if (error == 0)
-        error = writeBytes(fresh.number(), bytes);
+        error = fill(fresh.number());
     if (error == 0 && old)
         error = takeOver(target.path, *old, fresh.number());
     if (error == 0 && durability == Durability::Flushed)
@@ -234,4 +250,17 @@ int writeWholeFile(const QByteArray &path, QByteArrayView bytes, Durability dura
     if (error == 0 && durability == Durability::Flushed)
         error = flushFolder(folder);
     return error;
+}
+} // namespace
+
+int writeWholeFile(const QByteArray &path, QByteArrayView bytes, Durability durability, mode_t newMode)
+{
+    return writeFilled(
+        path, [bytes](int descriptor) { return writeBytes(descriptor, bytes); }, durability, newMode);
+}
+
+int writeWholeFile(const QByteArray &path, const NextPiece &next, Durability durability, mode_t newMode)
+{
+    return writeFilled(
+        path, [&next](int descriptor) { return writePieces(descriptor, next); }, durability, newMode);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <functional>
 #include <optional>
 #include <sys/types.h>
 
@@ -20,6 +21,11 @@ LinkTarget followLinks(const QByteArray &path);
 /// `newMode`, less the process's mask. Gives 0 or the errno of the failure, after which nothing is left behind but the
 /// old file.
 int writeWholeFile(const QByteArray &path, QByteArrayView bytes, Durability durability, mode_t newMode = 0666);
+
+/// The same for a file that need not fit into the memory. `next` gives its next piece, an empty one at its end, or
+/// nothing to call the writing off, which is told as ECANCELED.
+using NextPiece = std::function<std::optional<QByteArray>()>;
+int writeWholeFile(const QByteArray &path, const NextPiece &next, Durability durability, mode_t newMode = 0666);
 
 /// The folder part of a path for the system: "." for a bare name.
 QByteArray systemFolderOf(const QByteArray &path);

@@ -73,6 +73,7 @@ public:
     };
     QList<VisibleLine> visibleLines() const;
 
+    void setTabWidth(int characters);
     void setLineNumbers(bool shown);
     bool lineNumbers() const;
     LineMargin *margin() const { return m_margin; }
@@ -148,6 +149,7 @@ private:
     bool m_formatsOnly = false; ///< what the document reports now changes no text
     bool m_textChanged = false; ///< reported by the document and not yet told by Change
     bool m_darkGround = false;  ///< the formats are drawn for a dark ground
+    int m_tabWidth = 4;         ///< in characters
     bool m_locked = false;
     bool m_hideSelection = false;
 };

@@ -275,10 +275,15 @@ QMimeData *EditSurface::createMimeDataFromSelection() const
 
 void EditSurface::followFont()
 {
-    constexpr int tabWidth = 4; // in characters
-    setTabStopDistance(tabWidth * QFontMetricsF(font()).horizontalAdvance(u' '));
+    setTabStopDistance(m_tabWidth * QFontMetricsF(font()).horizontalAdvance(u' '));
     m_margin->setFont(font());
     placeMargin();
+}
+
+void EditSurface::setTabWidth(int characters)
+{
+    m_tabWidth = characters;
+    followFont();
 }
 
 void EditSurface::setLineNumbers(bool shown)

@@ -53,6 +53,35 @@ void ListView::setFileDropHandler(std::function<void(const QStringList &)> dropp
     viewport()->setAcceptDrops(true);
 }
 
+void ListView::setHotTracking(bool on)
+{
+    setMouseTracking(on);
+    disconnect(this, &QTreeWidget::itemEntered, this, nullptr);
+    if (on)
+        connect(this, &QTreeWidget::itemEntered, this, &ListView::lightUp);
+}
+
+void ListView::lightUp(QTreeWidgetItem *item)
+{
+    const QScopedValueRollback<bool> quiet(m_showing, true);
+    const auto underline = [this](QTreeWidgetItem *row, bool on) {
+        if (!row || indexOfTopLevelItem(row) < 0) // it may have been removed meanwhile
+            return;
+        QFont font = row->font(0);
+        font.setUnderline(on);
+        row->setFont(0, font);
+    };
+    underline(m_lit, false);
+    m_lit = item;
+    underline(m_lit, true);
+}
+
+void ListView::leaveEvent(QEvent *event)
+{
+    lightUp(nullptr);
+    QTreeWidget::leaveEvent(event);
+}
+
 bool ListView::isTaken(const QString &key, const QTreeWidgetItem *except) const
 {
     const auto found = m_byKey.constFind(key);
@@ -76,12 +105,15 @@ void ListView::removeRow(int row)
     if (row < 0 || row >= rowCount())
         return;
     m_byKey.remove(rowAt(row).key);
+    if (m_lit == topLevelItem(row))
+        m_lit = nullptr;
     delete takeTopLevelItem(row);
 }
 
 void ListView::clearRows()
 {
     m_byKey.clear();
+    m_lit = nullptr;
     clear();
 }
 

@@ -11,8 +11,8 @@ struct ListRow {
     QString key; ///< unique in its list; empty for a row without one
     QString text;
     int smallIcon = 0; ///< one of the list's icons, counted from 1; 0 for none
-    QStringList subItems;
-    QString tag; ///< the form's own note on the row, never shown
+    QStringList subItems = {};
+    QString tag = {}; ///< the form's own note on the row, never shown
     bool checked = false;
 };
 
@@ -29,6 +29,8 @@ public:
     /// Takes files that are dropped on the list.
     void setFileDropHandler(std::function<void(const QStringList &)> dropped);
     bool hasCheckBoxes() const { return m_checkBoxes; }
+    /// Lights the row under the pointer up.
+    void setHotTracking(bool on);
 
     /// Adds the row in front of the row `before`, at the end without one. False, and no row, if its key is in the list.
     bool addRow(const ListRow &row, std::optional<int> before = {});
@@ -57,14 +59,17 @@ protected:
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
+    void leaveEvent(QEvent *event) override;
 
 private:
+    void lightUp(QTreeWidgetItem *item);
     bool isTaken(const QString &key, const QTreeWidgetItem *except) const;
     void fillItem(QTreeWidgetItem &item, const ListRow &row);
 
     QHash<QString, QTreeWidgetItem *> m_byKey;
     QList<QIcon> m_icons;
     std::function<void(const QStringList &)> m_dropped;
+    QTreeWidgetItem *m_lit = nullptr; ///< the row under the pointer, where that is followed
     bool m_checkBoxes = false;
     bool m_showing = false;
 };

@@ -8,8 +8,8 @@ namespace
 {
 std::vector<std::span<const Command>> allTables()
 {
-    return {lifeCommands(), menuCommands(),   inputCommands(), controlCommands(),   answerCommands(), compareCommands(),
-            lookCommands(), recordCommands(), fileCommands(),  otherHostCommands(), outsideCommands()};
+    return {lifeCommands(), menuCommands(),   inputCommands(), controlCommands(), answerCommands(),    compareCommands(),
+            lookCommands(), recordCommands(), printCommands(), fileCommands(),    otherHostCommands(), outsideCommands()};
 }
 
 QString countOf(const Command &command)

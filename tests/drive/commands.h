@@ -25,6 +25,7 @@ std::span<const Command> answerCommands();
 std::span<const Command> lookCommands();
 std::span<const Command> recordCommands();
 std::span<const Command> compareCommands();
+std::span<const Command> printCommands();
 std::span<const Command> fileCommands();
 std::span<const Command> otherHostCommands();
 std::span<const Command> outsideCommands();

@@ -7,6 +7,7 @@
 #include "services/timer.h"
 #include "widgets/characterGrid.h"
 #include "widgets/colourSelection.h"
+#include "widgets/colourSwatch.h"
 #include "widgets/fileControls.h"
 #include "widgets/listView.h"
 #include "widgets/nodeTree.h"
@@ -181,6 +182,8 @@ Value readValue(const QWidget &widget, const QString &name)
         return calendar->selectedDate().toString(Qt::ISODate);
     if (const auto *colour = qobject_cast<const ColourSelection *>(&widget); colour && name == u"HexadecimalColour")
         return colour->HexadecimalColour();
+    if (const auto *swatch = qobject_cast<const ColourSwatch *>(&widget); swatch && name == u"FillColor")
+        return colourName(swatch->BackColor());
     return {};
 }
 

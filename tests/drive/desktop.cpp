@@ -163,6 +163,7 @@ Desktop::Desktop(Referee &referee, const World &world, InternetTransfers &transf
       m_fileClasses(currentXdgPlaces(), [](const QString &, const QStringList &) {}),
       m_pages(m_settings, {world.app()}),
       m_pageViews(moduleFolders(), m_pages),
+      m_systemFacts(world.app()),
       m_services{
           .messageBoxes = boxes,
           .commonDialogs = dialogs,
@@ -181,6 +182,8 @@ Desktop::Desktop(Referee &referee, const World &world, InternetTransfers &transf
           .worker = m_worker,
           .transfers = transfers,
           .wizards = wizards,
+          .printing = printing,
+          .systemFacts = m_systemFacts,
           .appPath = world.app(),
           .statePath = stateFolder(),
       }

@@ -3,9 +3,11 @@
 #include "browser/modulePageViews.h"
 #include "browser/servedPages.h"
 #include "desktop/desktopClipboard.h"
+#include "desktop/desktopSystemFacts.h"
 #include "desktop/xdgFileClasses.h"
 #include "drive/answers.h"
 #include "drive/otherHost.h"
+#include "drive/printing.h"
 #include "drive/scriptedTimers.h"
 #include "services/clock.h"
 #include "services/helpViewer.h"
@@ -169,6 +171,7 @@ public:
     ScriptedFiles files;
     ScriptedModalLoop modalLoop;
     ScriptedYielder yielder;
+    ScriptedPrinting printing;
     Random random{FirstSeed};
     ScriptedTimers timers;
     std::unique_ptr<OtherHost> otherHost; ///< once the script has started it
@@ -182,6 +185,7 @@ private:
     ServedPages m_pages;
     ModulePageViews m_pageViews;
     InlineWorker m_worker; // nothing happens by itself in a script
+    DesktopSystemFacts m_systemFacts;
     Services m_services;
 };
 } // namespace drive

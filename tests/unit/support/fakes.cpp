@@ -21,6 +21,8 @@ FilesTest::FilesTest()
           .worker = m_worker,
           .transfers = transfers,
           .wizards = m_wizards,
+          .printing = printing,
+          .systemFacts = systemFacts,
           .appPath = m_folder.path(),
           .statePath = m_folder.path() + QStringLiteral("/state"),
       },

@@ -17,8 +17,10 @@
 #include "services/messageBoxes.h"
 #include "services/modalLoop.h"
 #include "services/pageViews.h"
+#include "services/printing.h"
 #include "services/random.h"
 #include "services/services.h"
+#include "services/systemFacts.h"
 #include "services/timer.h"
 #include "services/worker.h"
 #include "services/yielder.h"
@@ -247,6 +249,36 @@ private:
     NoPages m_source;
 };
 
+/// Paper on which every character is as wide, and which a test can make as small as it likes.
+class CountedPaper final : public Printing
+{
+public:
+    Paper paper(const QFont &) override
+    {
+        return {.size = size, .lineHeight = 1, .textWidth = [](const QString &text) { return qreal(text.size()); }};
+    }
+    std::optional<PrintError> print(const PrintJob &job, const std::function<bool(int)> &goOn) override
+    {
+        for (int page = 0; page < job.pages.size() * job.copies; ++page)
+            if (!goOn(page))
+                return std::nullopt;
+        jobs.append(job);
+        return failure;
+    }
+
+    QSizeF size{40, 10}; ///< in characters and lines
+    QList<PrintJob> jobs;
+    std::optional<PrintError> failure;
+};
+
+class FewFacts final : public SystemFacts
+{
+public:
+    QList<SystemFact> all() override { return facts; }
+
+    QList<SystemFact> facts{{QStringLiteral("Qt"), QStringLiteral("6")}};
+};
+
 /// Hands a form that is shown modally to the test.
 class AnsweredForms final : public ModalLoop
 {
@@ -312,6 +344,8 @@ protected:
     FailingFiles disk;
     AnsweredForms modal;
     FakeTransfers transfers;
+    CountedPaper printing;
+    FewFacts systemFacts;
     FakeProject project;
     FakeMainWindow mainWindow;
     ProgramState state;

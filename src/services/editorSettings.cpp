@@ -1,0 +1,39 @@
+#include "services/editorSettings.h"
+
+#include "services/settings.h"
+
+#include <QFontDatabase>
+
+#include <algorithm>
+
+QFont editorFont(SettingsStore &store)
+{
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    const QString family = settings::read(store, settings::EditorFont);
+    if (!family.isEmpty()) {
+        font.setFamily(family);
+        font.setStyleHint(QFont::Monospace); // what stands in for a font that has gone
+    }
+    const int points = settings::read(store, settings::EditorFontSize).toInt();
+    if (points > 0)
+        font.setPointSize(std::clamp(points, SmallestFontSize, LargestFontSize));
+    return font;
+}
+
+int tabWidth(SettingsStore &store)
+{
+    const int stored = settings::read(store, settings::TabWidth).toInt();
+    return std::clamp(stored, SmallestTabWidth, LargestTabWidth);
+}
+
+FileFormat newDocumentFormat(SettingsStore &store)
+{
+    FileFormat format;
+    const QString encoding = settings::read(store, settings::NewEncoding);
+    for (const Encoding offered : {Encoding::Utf8, Encoding::Utf8Bom, Encoding::Windows1252})
+        if (encoding == encodingName(offered))
+            format.encoding = offered;
+    if (settings::read(store, settings::NewLineEnd) == lineEndName(LineEnd::Lf))
+        format.lineEnd = LineEnd::Lf;
+    return format;
+}

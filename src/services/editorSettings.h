@@ -1,0 +1,21 @@
+#pragma once
+
+#include "common/encodings.h"
+
+#include <QFont>
+
+class SettingsStore;
+
+/// What the user has set up of the editor itself, read from the settings.
+
+/// The font of the source: the desktop's fixed one, but for what was set.
+QFont editorFont(SettingsStore &store);
+/// The characters from one tab stop to the next, 1 to 16.
+int tabWidth(SettingsStore &store);
+/// How a new document is written.
+FileFormat newDocumentFormat(SettingsStore &store);
+
+constexpr int SmallestTabWidth = 1;
+constexpr int LargestTabWidth = 16;
+constexpr int SmallestFontSize = 6; ///< points
+constexpr int LargestFontSize = 72;

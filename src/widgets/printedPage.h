@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QSizeF>
+
+class QPainter;
+struct PrintJob;
+
+/// How a page is laid out on paper, in points: the lines from the top, the line numbers before them where the job has
+/// them, and a foot with the title and the page's number.
+namespace printed
+{
+/// The lines that fit over the foot, at least one.
+int linesOfPage(qreal height, qreal lineHeight);
+/// The room that the line numbers take up before the text, where `lines` is the last number and `digit` a digit's
+/// width.
+qreal numberColumn(qsizetype lines, qreal digit);
+
+/// Draws a page, counted from 0, from the painter's origin. `pixels` is the painter's length of one point; the
+/// painter's device tells the size of fonts.
+void drawPage(QPainter &painter, const PrintJob &job, int page, const QSizeF &paper, qreal pixels);
+} // namespace printed

@@ -1,0 +1,41 @@
+#include "drive/printing.h"
+
+#include "drive/told.h"
+
+#include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QScreen>
+
+namespace drive
+{
+QString PrintedJob::told() const
+{
+    return QStringLiteral("%1 of %2: %3").arg(copies).arg(quoted(title), quotedList(lines));
+}
+
+Paper ScriptedPrinting::paper(const QFont &font)
+{
+    const QFontMetricsF metrics(font);
+    const qreal pixels = QGuiApplication::primaryScreen()->logicalDotsPerInchY() / 72;
+    return {.size = {595 - 72, 842 - 72},
+            .lineHeight = metrics.lineSpacing() / pixels,
+            .textWidth = [metrics, pixels](const QString &text) { return metrics.horizontalAdvance(text) / pixels; }};
+}
+
+std::optional<PrintError> ScriptedPrinting::print(const PrintJob &job, const std::function<bool(int)> &goOn)
+{
+    if (!m_failures.isEmpty()) {
+        const int number = m_failures.takeFirst();
+        return PrintError{.number = number, .description = QStringLiteral("Error %1").arg(number)};
+    }
+    for (int page = 0; page < job.pages.size() * job.copies; ++page)
+        if (!goOn(page))
+            return std::nullopt;
+    PrintedJob done{job.copies, job.title, {}};
+    for (const PrintedPage &page : job.pages)
+        for (const PrintedLine &line : page.lines)
+            done.lines.append(line.text);
+    printed.add(done);
+    return std::nullopt;
+}
+} // namespace drive
