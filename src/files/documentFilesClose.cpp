@@ -1,7 +1,6 @@
 // What is asked before documents close, and automatic saving.
 #include "files/documentFiles.h"
 
-#include "common/document.h"
 #include "common/mainWindow.h"
 #include "common/programState.h"
 #include "files/autoSavePause.h"
@@ -9,7 +8,6 @@
 #include "files/frmMsgSaveChanges.h"
 #include "forms/form.h"
 #include "forms/formRuntime.h"
-#include "forms/programContext.h"
 #include "services/messageBoxes.h"
 #include "services/services.h"
 #include "services/settings.h"

@@ -3,7 +3,6 @@
 #include "common/document.h"
 #include "common/fileCommands.h"
 #include "files/unsavedDocuments.h"
-#include "forms/programContext.h"
 #include "services/services.h"
 #include "services/settings.h"
 #include "widgets/controlName.h"

@@ -1,11 +1,9 @@
 #include "files/frmMsgSaveChanges.h"
 
-#include "common/document.h"
 #include "common/fileCommands.h"
 #include "common/mainWindow.h"
 #include "common/programState.h"
 #include "files/unsavedDocuments.h"
-#include "forms/programContext.h"
 #include "widgets/layout.h"
 
 #include <QLabel>

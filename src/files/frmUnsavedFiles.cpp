@@ -1,10 +1,8 @@
 #include "files/frmUnsavedFiles.h"
 
-#include "common/document.h"
 #include "common/fileCommands.h"
 #include "common/mainWindow.h"
 #include "files/unsavedDocuments.h"
-#include "forms/programContext.h"
 #include "widgets/layout.h"
 
 #include <QLabel>

@@ -1,6 +1,5 @@
 #include "files/modFileNames.h"
 
-#include "common/document.h"
 #include "common/mainWindow.h"
 #include "common/paths.h"
 #include "common/text.h"

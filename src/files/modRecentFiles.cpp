@@ -138,11 +138,14 @@ void LoadWelcomeRecentList(SettingsStore &store, ListView &lstRecent)
         add(path, FileIcon);
 }
 
-void ClearAddressHistory(ProgramContext &context)
+bool ClearAddressHistory(ProgramContext &context)
 {
     if (const std::optional<FileError> error =
-            context.services.files.writeWhole(addressFile(context), QByteArrayLiteral("\r\n")))
+            context.services.files.writeWhole(addressFile(context), QByteArrayLiteral("\r\n"))) {
         context.files->FileErrors(error->code, error->description);
+        return false;
+    }
+    return true;
 }
 
 void LoadAddressHistory(ProgramContext &context, QComboBox &combo)

@@ -30,8 +30,8 @@ void AddToWelcomeList(SettingsStore &store, const QString &path);
 /// many rows, of which the first has it as its key.
 void LoadWelcomeRecentList(SettingsStore &store, ListView &lstRecent);
 
-/// Empties the history file: it holds an empty line then.
-void ClearAddressHistory(ProgramContext &context);
+/// Empties the history file: it holds an empty line then. False if it could not be written, which the user is told.
+bool ClearAddressHistory(ProgramContext &context);
 /// Fills the address bar from the history file; nothing if the user wants none kept, or there is no file.
 void LoadAddressHistory(ProgramContext &context, QComboBox &combo);
 /// Adds the address in the combo's edit field to its list and to the history file, unless the list has it, in any case

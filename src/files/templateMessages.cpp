@@ -1,5 +1,4 @@
 #include "files/templateMessages.h"
-#include "common/document.h"
 
 namespace
 {

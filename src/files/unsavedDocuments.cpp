@@ -1,6 +1,5 @@
 #include "files/unsavedDocuments.h"
 
-#include "common/document.h"
 #include "common/mainWindow.h"
 
 QStringList unsavedCaptions(const MainWindow &mainWindow)

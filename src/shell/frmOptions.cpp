@@ -130,8 +130,8 @@ void frmOptions::cmdClearHistory_Click()
                               .buttons = MessageButtons::YesNo};
     if (services().messageBoxes.show(question) != MessageAnswer::Yes)
         return;
-    ClearAddressHistory(context());
-    frmMdi().clearAddresses();
+    if (ClearAddressHistory(context()))
+        frmMdi().clearAddresses();
 }
 
 void frmOptions::browseFolder(QLineEdit &field, const QString &title)

@@ -1,5 +1,4 @@
 #include "shell/tips.h"
-#include "common/document.h"
 
 #include <array>
 

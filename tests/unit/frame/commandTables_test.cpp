@@ -35,6 +35,7 @@ constexpr Entry listed[] = {
     {"mnuFile", "mnuProperties", "Properties..."},
     {"mnuFile", "mnuViewPage", "&View Page in Browser..."},
     {"mnuFile", "mnuPrint", "&Print..."},
+    {"mnuFile", "mnuPrintPreview", "Print Previe&w..."},
     {"mnuFile", "mnuRecentFile(1)", "RecentFile1"},
     {"mnuFile", "mnuRecentFile(2)", "RecentFile2"},
     {"mnuFile", "mnuRecentFile(3)", "RecentFile3"},
