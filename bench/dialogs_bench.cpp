@@ -1,5 +1,6 @@
 #include "figures.h"
 #include "insertion/insertionForms.h"
+#include "opening.h"
 #include "pictures/pictureLoader.h"
 #include "runningProgram.h"
 
@@ -38,19 +39,6 @@ void openUntilPainted(Form &form)
         QApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 50);
 }
 
-double openingTime(Form &form)
-{
-    const double time = medianTime(
-        Runs, [&] { openUntilPainted(form); },
-        [&] {
-            form.Unload();
-            RunningProgram::settle();
-        });
-    form.Unload();
-    RunningProgram::settle();
-    return time;
-}
-
 /// Real time, since another process does the work.
 double loadingTime(const char *format)
 {
@@ -73,17 +61,30 @@ double loadingTime(const char *format)
 }
 } // namespace
 
+double formOpeningTime(Form &form)
+{
+    const double time = medianTime(
+        Runs, [&] { openUntilPainted(form); },
+        [&] {
+            form.Unload();
+            RunningProgram::settle();
+        });
+    form.Unload();
+    RunningProgram::settle();
+    return time;
+}
+
 void dialogFigures(Figures &figures)
 {
     RunningProgram running;
     ProgramContext &context = running.program().context();
     for (const std::unique_ptr<Form> &form : insertionForms(context))
         figures.add(form->Name() + QStringLiteral(" from command to painted"),
-                    openingTime(*context.forms.find(form->Name())) * Milli, QStringLiteral("ms"), 60);
+                    formOpeningTime(*context.forms.find(form->Name())) * Milli, QStringLiteral("ms"), 60);
     for (const char *name : {"frmFind", "frmGoToLine", "frmGoToCharacter", "frmWordCount", "frmChangeCase",
                              "frmChangeRootDirectory", "frmAddToCodeLib"})
         figures.add(QLatin1String(name) + QStringLiteral(" from command to painted"),
-                    openingTime(*context.forms.find(QLatin1String(name))) * Milli, QStringLiteral("ms"), 60);
+                    formOpeningTime(*context.forms.find(QLatin1String(name))) * Milli, QStringLiteral("ms"), 60);
     figures.add(QStringLiteral("preview of a photograph of 12 megapixels"), loadingTime("jpg") * Milli,
                 QStringLiteral("ms"), 1000);
     figures.add(QStringLiteral("preview of a PNG of 12 megapixels"), loadingTime("png") * Milli, QStringLiteral("ms"),

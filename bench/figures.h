@@ -48,6 +48,8 @@ void textToolFigures(Figures &figures);
 void projectFigures(Figures &figures);
 void dialogFigures(Figures &figures);
 void designerFigures(Figures &figures);
+void templateFigures(Figures &figures);
+void printFigures(Figures &figures);
 void openingFigures(Figures &figures);
 void idleFigures(Figures &figures);
 void transferFigures(Figures &figures);
@@ -56,6 +58,8 @@ void startFigures(Figures &figures);
 void runServiceBenchmarks(const QString &filter);
 /// Runs in a process of its own: prints the memory that a text of so many characters costs the surface, in bytes.
 int printSurfaceMemory(qsizetype characters);
+/// The same for a container of 1 GB that is packed and unpacked; the most that it took meanwhile.
+int printContainerMemory();
 /// The same for a page of 10 MB that is opened in the program.
 int printOpeningMemory();
 /// What a process of this program prints when it is started with `arguments`.

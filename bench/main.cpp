@@ -25,6 +25,8 @@ constexpr Group groups[] = {
     {"project", projectFigures},
     {"dialogs", dialogFigures},
     {"designers", designerFigures},
+    {"templates", templateFigures},
+    {"printing", printFigures},
     {"opening", openingFigures},
     {"idle", idleFigures},
     {"start", startFigures},
@@ -45,6 +47,8 @@ int main(int argc, char **argv)
         return printSurfaceMemory(arguments[2].toLongLong());
     if (arguments.size() == 2 && arguments[1] == QStringLiteral("--opening-memory"))
         return printOpeningMemory();
+    if (arguments.size() == 2 && arguments[1] == QStringLiteral("--container-memory"))
+        return printContainerMemory();
     Figures figures;
     for (const Group &group : groups) {
         const auto name = QString::fromLatin1(group.name);

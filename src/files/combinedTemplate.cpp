@@ -58,7 +58,7 @@ QByteArray header(qint64 directory)
     return QByteArray(Magic, MagicSize) + numberBytes(directory);
 }
 
-std::optional<qint64> directoryPosition(QByteArrayView header, qint64 fileSize)
+std::optional<qint64> DirectoryPos(QByteArrayView header, qint64 fileSize)
 {
     if (header.size() < HeaderSize)
         return std::nullopt;
@@ -81,15 +81,16 @@ QList<Entry> entries(QByteArrayView directory)
 
 bool liesIn(const Entry &entry, qint64 fileSize)
 {
-    return entry.position > 0 && entry.size > 0 && entry.size <= fileSize && entry.position - 1 <= fileSize - entry.size;
+    return entry.position > 0 && entry.size > 0 && entry.size <= fileSize &&
+           entry.position - 1 <= fileSize - entry.size;
 }
 
 std::optional<QByteArray> entryBytes(const Entry &entry)
 {
     const QByteArray name = encodeOwnFile(entry.name);
     const bool named = !name.isEmpty() && name.size() <= LongestName && !name.contains('\0');
-    const bool placed = entry.position > 0 && entry.position <= LargestPosition && entry.size >= 0 &&
-                        entry.size <= LargestPosition;
+    const bool placed =
+        entry.position > 0 && entry.position <= LargestPosition && entry.size >= 0 && entry.size <= LargestPosition;
     if (!named || !placed)
         return std::nullopt;
     return numberBytes(entry.position) + numberBytes(entry.size) + name + '\0';

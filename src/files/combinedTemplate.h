@@ -37,13 +37,14 @@ QByteArray header(qint64 directory);
 
 /// The directory's position as the header's bytes tell it, whatever the magic; nothing if there are too few of them, if
 /// the container is empty, or if the position does not lie in a file of `fileSize` bytes.
-std::optional<qint64> directoryPosition(QByteArrayView header, qint64 fileSize);
+std::optional<qint64> DirectoryPos(QByteArrayView header, qint64 fileSize);
 
 /// How many bytes of a directory can be of use to a reader, so that no more need be read.
 constexpr qint64 LargestDirectory = qint64(MostNames) * (8 + LongestName + 1);
 
 /// The entries of a directory, up to `MostNames` of them. It ends at its last byte, and at an entry that is cut off or
-/// has no name, a position of 0 or a size of 0, behind which nothing can be reached. Their places are as they were read.
+/// has no name, a position of 0 or a size of 0, behind which nothing can be reached. Their places are as they were
+/// read.
 QList<Entry> entries(QByteArrayView directory);
 
 /// Whether the entry's contents lie in a file of `fileSize` bytes.

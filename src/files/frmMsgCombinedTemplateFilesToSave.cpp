@@ -21,15 +21,13 @@ frmMsgCombinedTemplateFilesToSave::frmMsgCombinedTemplateFilesToSave(ProgramCont
 void frmMsgCombinedTemplateFilesToSave::Form_Load()
 {
     m_chosen.reset();
-    lstAccompanyingFiles =
-        ui::listView(QStringLiteral("lstAccompanyingFiles"),
-                     {QStringLiteral("Accompanying File"), QStringLiteral("Path")});
+    lstAccompanyingFiles = ui::listView(QStringLiteral("lstAccompanyingFiles"),
+                                        {QStringLiteral("Accompanying File"), QStringLiteral("Path")});
     lstAccompanyingFiles->setSmallIcons({programIcon(QStringLiteral("file"))});
     lstAccompanyingFiles->setAccessibleName(QStringLiteral("Accompanying files"));
     for (const QString &path : m_files)
         addFile(path);
-    QLabel *lblTitle =
-        ui::label(QStringLiteral("lblTitle"), QStringLiteral("Combined Template Accompanying Files"));
+    QLabel *lblTitle = ui::label(QStringLiteral("lblTitle"), QStringLiteral("Combined Template Accompanying Files"));
     QLabel *lblMessage = ui::label(QStringLiteral("lblMessage"),
                                    QStringLiteral("These files will be saved in the template together with the page. "
                                                   "Add others that the page needs, and remove those that it can do "

@@ -9,6 +9,7 @@
 #include "services/services.h"
 #include "widgets/layout.h"
 
+#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -81,7 +82,8 @@ TemplateAction frmMsgOpenTemplate::chosen() const
 void frmMsgOpenTemplate::cmdYesOK_Click()
 {
     const QString folder = txtNewLocation->text();
-    if (chosen() == TemplateAction::SaveInFolder && !services().files.isFolder(folder)) {
+    const bool usable = QDir::isAbsolutePath(folder) && services().files.isFolder(folder);
+    if (chosen() == TemplateAction::SaveInFolder && !usable) {
         // Told here, where it can be put right, and not once for every file.
         context().files->FileErrors(PathNotFoundError);
         txtNewLocation->setFocus();

@@ -17,7 +17,7 @@ enum class TemplateAction {
 
 struct TemplateAnswer {
     TemplateAction action = TemplateAction::Cancel;
-    QString folder; ///< of SaveInFolder, with its final separator
+    QString TemplateFilesFolder; ///< of SaveInFolder, with its final separator
 };
 
 /// Asks what is to become of the accompanying files of a template that is being opened.

@@ -15,8 +15,8 @@ struct Range {
     qsizetype end = 0;
 };
 
-/// Finds the marks of full local paths from the start of a page on. Each kind of mark is sought once only, so that a page
-/// without one of them is not read to its end for every mark of another.
+/// Finds the marks of full local paths from the start of a page on. Each kind of mark is sought once only, so that a
+/// page without one of them is not read to its end for every mark of another.
 class MarkSearch
 {
 public:
@@ -53,8 +53,8 @@ private:
 
     const QString &m_page;
     // A path of this system has no mark inside: it starts with its separator, just behind a quotation mark.
-    std::array<Kind, 3> m_kinds{
-        Kind{QStringLiteral(":\\")}, Kind{QStringLiteral("\\\\")}, Kind{QStringLiteral("\"/"), 1}};
+    std::array<Kind, 3> m_kinds{Kind{QStringLiteral(":\\")}, Kind{QStringLiteral("\\\\")},
+                                Kind{QStringLiteral("\"/"), 1}};
 };
 
 /// What stands around a place between the nearest `open` before it and the nearest `close` behind it, without the two;

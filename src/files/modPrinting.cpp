@@ -80,13 +80,13 @@ PrintJob printJob(ProgramContext &context, const Document &document, const Print
 void PrintDocument(ProgramContext &context)
 {
     const Document *document = context.mainWindow->activeDocument();
-    const std::optional<int> copies = document ? context.services.commonDialogs.showPrint() : std::nullopt;
-    if (!copies)
+    const std::optional<int> cdlPrint = document ? context.services.commonDialogs.showPrint() : std::nullopt;
+    if (!cdlPrint)
         return;
     context.mainWindow->setEnabled(false); // what is being printed is not to change or to go
     context.mainWindow->SetStatusText(QStringLiteral("Printing in progress... Please wait."));
     PrintJob job = printJob(context, *document, printChoices(context));
-    job.copies = *copies;
+    job.copies = *cdlPrint;
     const std::optional<PrintError> error = printWatched(context, job);
     context.mainWindow->setEnabled(true);
     if (error)

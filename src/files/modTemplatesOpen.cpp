@@ -83,7 +83,7 @@ bool extractAll(ProgramContext &context, const NewPage &page)
     if (page.answer.action == TemplateAction::SaveBeside)
         extractAccompanying(context, page, folderOf(page.path));
     else if (page.answer.action == TemplateAction::SaveInFolder)
-        extractAccompanying(context, page, page.answer.folder);
+        extractAccompanying(context, page, page.answer.TemplateFilesFolder);
     return true;
 }
 
@@ -139,7 +139,7 @@ void openPage(ProgramContext &context, const NewPage &page)
     if (!document || wasOpen) // it could not be opened, or is open already: the user has been told
         return;
     const bool inFolder = page.answer.action == TemplateAction::SaveInFolder;
-    finishPage(context, *document, inFolder ? page.answer.folder : QString());
+    finishPage(context, *document, inFolder ? page.answer.TemplateFilesFolder : QString());
 }
 } // namespace
 

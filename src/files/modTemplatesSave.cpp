@@ -5,6 +5,7 @@
 #include "common/encodings.h"
 #include "common/fileCommands.h"
 #include "common/mainWindow.h"
+#include "common/pageCharset.h"
 #include "common/paths.h"
 #include "files/frmMsgCombinedTemplateFilesToSave.h"
 #include "files/frmMsgSaveTemplate.h"
@@ -39,9 +40,16 @@ bool mayWrite(ProgramContext &context, const QString &path)
     return answer == MessageAnswer::Yes;
 }
 
+/// The page as bytes: single ones where they hold it, and read back as the same page; else UTF-8.
+QByteArray pageBytes(const QString &page)
+{
+    const QByteArray bytes = encodeOwnFile(page);
+    return decodePage(bytes).text == page ? bytes : encode(page, {Encoding::Utf8}).bytes;
+}
+
 Packed pack(ProgramContext &context, const QString &path, const QString &page, const QStringList &accompanying)
 {
-    QList<FileToPack> files{{.name = container::pageName(), .bytes = encodeOwnFile(page)}};
+    QList<FileToPack> files{{.name = container::pageName(), .bytes = pageBytes(page)}};
     for (const QString &source : accompanying)
         files.append({.name = FileNameOnly(source), .source = source});
     Yielder &yielder = context.services.yielder;

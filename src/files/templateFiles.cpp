@@ -19,8 +19,8 @@ struct PlacedFile {
     Entry entry;
 };
 
-/// Gives the files their places, one behind the other. Those that are missing are left out, those that have no place are
-/// reported and left out.
+/// Gives the files their places, one behind the other. Those that are missing are left out, those that have no place
+/// are reported and left out.
 QList<PlacedFile> placed(FileSystem &files, const QList<FileToPack> &toPack, const PackingReports &reports)
 {
     QList<PlacedFile> all;
@@ -172,7 +172,7 @@ ContainerListing readContainer(FileSystem &files, const QString &path)
     if (start.error)
         return {{}, start.error};
     const qint64 size = files.size(path).value_or(0);
-    const std::optional<qint64> position = container::directoryPosition(start.bytes, size);
+    const std::optional<qint64> position = container::DirectoryPos(start.bytes, size);
     if (!position)
         return {};
     const FileContents directory = files.readPart(path, *position - 1, container::LargestDirectory);

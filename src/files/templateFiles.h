@@ -21,8 +21,8 @@ std::optional<FileError> writeEmptyContainer(FileSystem &files, const QString &p
 
 /// One file on its way into a container.
 struct FileToPack {
-    QString name;         ///< in the container
-    QString source = {};  ///< its path; empty: `bytes` are its contents
+    QString name;        ///< in the container
+    QString source = {}; ///< its path; empty: `bytes` are its contents
     QByteArray bytes = {};
 };
 

@@ -52,11 +52,12 @@ MessageBox refusedNamesMessage(const QStringList &names)
 
 QString accompanyingFilesText(qsizetype count)
 {
-    const QString start = QStringLiteral("The template file you have chosen to create a new document from contains ");
     if (count == 1)
-        return start + QStringLiteral("one accompanying file.  It is recommended that you save this file so that the "
-                                      "new document can access it.");
-    return start + QString::number(count) +
+        return QStringLiteral(
+            "The template file you have chosen to create a new document from contains one accompanying "
+            "file.  It is recommended that you save this file so that the new document can access it.");
+    return QStringLiteral("The template file you have chosen to create a new document from contains ") +
+           QString::number(count) +
            QStringLiteral(" accompanying files.  It is recommended that you save these files so that the new document "
                           "can access them.");
 }
@@ -67,14 +68,13 @@ SavedTemplateTexts savedTemplateTexts(const QString &templateName, qsizetype cou
         return {QStringLiteral("The combined template file has been successfully created. No accompanying files were "
                                "located within the source document that needed to be included with the template."),
                 {}};
-    const QString created = QStringLiteral("The combined template file, ") + quoted(templateName) +
-                            QStringLiteral(", has been successfully created. ");
+    const QString start = QStringLiteral("The combined template file, ") + quoted(templateName);
     if (count == 1)
-        return {created + QStringLiteral("One accompanying file was located within the source document.  This file was "
-                                         "added to the template."),
+        return {start + QStringLiteral(", has been successfully created. One accompanying file was located within the "
+                                       "source document.  This file was added to the template."),
                 QStringLiteral("The file listed below was added to the saved template. A copy of this file will be "
                                "made available when the template is next opened.")};
-    return {created + QString::number(count) +
+    return {start + QStringLiteral(", has been successfully created. ") + QString::number(count) +
                 QStringLiteral(" accompanying files were located within the source document.  These files were added "
                                "to the template."),
             QStringLiteral("The files listed below were added to the saved template. Copies of these files will be "

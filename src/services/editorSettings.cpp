@@ -31,7 +31,7 @@ FileFormat newDocumentFormat(SettingsStore &store)
     FileFormat format;
     const QString encoding = settings::read(store, settings::NewEncoding);
     for (const Encoding offered : {Encoding::Utf8, Encoding::Utf8Bom, Encoding::Windows1252})
-        if (encoding == encodingName(offered))
+        if (encoding == encodingName({offered}))
             format.encoding = offered;
     if (settings::read(store, settings::NewLineEnd) == lineEndName(LineEnd::Lf))
         format.lineEnd = LineEnd::Lf;

@@ -35,7 +35,7 @@ QStringList fontRows()
 
 QStringList encodingRows()
 {
-    return {encodingName(Encoding::Utf8), encodingName(Encoding::Utf8Bom), encodingName(Encoding::Windows1252)};
+    return {encodingName({Encoding::Utf8}), encodingName({Encoding::Utf8Bom}), encodingName({Encoding::Windows1252})};
 }
 
 QStringList lineEndRows()
@@ -121,7 +121,7 @@ void frmMoreOptions::showSettings()
     txtEditorFontSize->setText(QString::number(QFontInfo(editorFont(store)).pointSize()));
     txtTabWidth->setText(QString::number(tabWidth(store)));
     cboLineEnd->setCurrentIndex(cboLineEnd->findText(lineEndName(format.lineEnd)));
-    cboEncoding->setCurrentIndex(cboEncoding->findText(encodingName(format.encoding)));
+    cboEncoding->setCurrentIndex(cboEncoding->findText(encodingName(format)));
     const qsizetype row = themes().indexOf(settings::read(store, settings::Theme));
     cboTheme->setCurrentIndex(static_cast<int>(std::max<qsizetype>(row, 0)));
 }

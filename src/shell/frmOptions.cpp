@@ -17,6 +17,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabBar>
+#include <utility>
 
 namespace
 {
@@ -42,6 +43,7 @@ void frmOptions::Form_Load()
 {
     m_startupFile.clear();
     m_refusalTold = false;
+    m_leaving = false;
     tabOptions = ui::tabStrip(QStringLiteral("tabOptions"),
                               {QStringLiteral("General"), QStringLiteral("Files"), QStringLiteral("Syntax"),
                                QStringLiteral("Site Project Mapping"), QStringLiteral("Advanced")});
@@ -61,19 +63,21 @@ void frmOptions::chkNoCode_Click()
         control->setEnabled(chkNoCode->isChecked());
 }
 
+void frmOptions::enableColour(const ColourOption &option, bool enabled)
+{
+    for (const char *name : {option.label, option.button})
+        qobject_cast<QWidget *>(control(QLatin1String(name)))->setEnabled(enabled);
+}
+
 void frmOptions::chkUseColourCode_Click()
 {
     for (const ColourOption &option : syntaxColours())
-        for (const char *part : {"lbl", "cmd"})
-            qobject_cast<QWidget *>(control(QLatin1String(part) + QLatin1String(option.name)))
-                ->setEnabled(chkUseColourCode->isChecked());
+        enableColour(option, chkUseColourCode->isChecked());
 }
 
 void frmOptions::chkUseAddressColouring_Click()
 {
-    for (const char *part : {"lbl", "cmd"})
-        qobject_cast<QWidget *>(control(QLatin1String(part) + QLatin1String(addressColour().name)))
-            ->setEnabled(chkUseAddressColouring->isChecked());
+    enableColour(addressColour(), chkUseAddressColouring->isChecked());
 }
 
 void frmOptions::chkAutoSave_Click()
@@ -106,7 +110,7 @@ void frmOptions::tellAutoSaveTime()
 
 void frmOptions::txtAutoSave_LostFocus()
 {
-    if (!isLoaded() || !refusesAutoSaveTime())
+    if (m_leaving || !refusesAutoSaveTime())
         return;
     m_refusalTold = true; // a press of OK on the way out of the field is to be refused, but not told once more
     tellAutoSaveTime();
@@ -186,7 +190,13 @@ void frmOptions::cmdOK_Click()
     Unload();
 }
 
+void frmOptions::Form_Unload()
+{
+    m_leaving = true;
+    DialogForm::Form_Unload();
+}
+
 ColourSwatch &frmOptions::shape(const ColourOption &option) const
 {
-    return *qobject_cast<ColourSwatch *>(control(QStringLiteral("shp") + QLatin1String(option.name)));
+    return *qobject_cast<ColourSwatch *>(control(QLatin1String(option.shape)));
 }

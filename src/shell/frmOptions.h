@@ -21,7 +21,8 @@ struct Key;
 namespace ui
 {
 class Node;
-}
+struct Row;
+} // namespace ui
 
 /// The dialog in which the user edits the settings.
 class frmOptions final : public DialogForm
@@ -35,6 +36,7 @@ public:
 
 protected:
     void Form_Load() override;
+    void Form_Unload() override;
 
 private:
     // The pages, in frmOptionsPages.cpp.
@@ -47,12 +49,13 @@ private:
     ui::Node syntaxPage();
     ui::Node siteMapPage();
     ui::Node advancedPage();
-    ui::Node colourRow(const ColourOption &option);
+    ui::Row colourRow(const ColourOption &option);
     ui::Node folderRow(QLineEdit *&field, const char *name, const char *browse, const QString &title);
     ui::Node dialogButtons();
 
     // What the controls do, in frmOptions.cpp.
     void chkNoCode_Click();
+    void enableColour(const ColourOption &option, bool enabled);
     void chkUseColourCode_Click();
     void chkUseAddressColouring_Click();
     void chkAutoSave_Click();
@@ -108,6 +111,7 @@ private:
     NumberField *txtClrUpdateTime = nullptr;
     QCheckBox *chkCodeSelPopups = nullptr;
     QCheckBox *chkLinkRandomColours = nullptr;
+    bool m_leaving = false;     ///< the form goes: what loses the focus by that is looked at no more
     QString m_startupFile;      ///< the file dialog's name of this load
     bool m_refusalTold = false; ///< the user was told just now, on the way to the button that is being pressed
 };

@@ -46,7 +46,7 @@ QPushButton *browseButton(const char *name, const ui::Handler &click)
 /// A check box, a number field behind it and what is counted, in a line that reads as one sentence.
 ui::Node sentence(QCheckBox *check, NumberField *field, SpinButton *arrows, const QString &unit)
 {
-    field->setAccessibleName(unit);
+    field->setAccessibleName(check->text() + u' ' + unit);
     QLabel *behind = ui::label({}, unit);
     return ui::line({check, ui::counted(field, arrows), behind, ui::space()});
 }
@@ -163,15 +163,16 @@ ui::Node frmOptions::previewGroup()
                      }));
 }
 
-ui::Node frmOptions::colourRow(const ColourOption &option)
+ui::Row frmOptions::colourRow(const ColourOption &option)
 {
-    const QString name = QLatin1String(option.name);
-    ColourSwatch *swatch = ui::swatch(QStringLiteral("shp") + name);
-    QPushButton *button = ui::button(QStringLiteral("cmd") + name, QStringLiteral("Change..."), [this, swatch] {
-        if (const std::optional<ColourValue> colour = services().commonDialogs.showColour(swatch->BackColor()))
-            swatch->setBackColor(*colour);
+    ColourSwatch *shape = ui::swatch(QLatin1String(option.shape));
+    QPushButton *button = ui::button(QLatin1String(option.button), QStringLiteral("Change..."), [this, shape] {
+        const std::optional<ColourValue> cdlChangeColour = services().commonDialogs.showColour(shape->BackColor());
+        if (cdlChangeColour)
+            shape->setBackColor(*cdlChangeColour);
     });
-    return ui::line({swatch, button, ui::space()});
+    return ui::row(QLatin1String(option.caption), ui::line({shape, button, ui::space()}), {},
+                   QLatin1String(option.label));
 }
 
 ui::Node frmOptions::syntaxPage()
@@ -179,13 +180,9 @@ ui::Node frmOptions::syntaxPage()
     chkUseColourCode = check("chkUseColourCode", "Use &Syntax Colouring:", [this] { chkUseColourCode_Click(); });
     chkUseAddressColouring =
         check("chkUseAddressColouring", "Use &Internet Address Colouring:", [this] { chkUseAddressColouring_Click(); });
-    const auto row = [this](const ColourOption &option) {
-        return ui::row(QLatin1String(option.label), colourRow(option), {},
-                       QStringLiteral("lbl") + QLatin1String(option.name));
-    };
     QList<ui::Row> colours;
     for (const ColourOption &option : syntaxColours())
-        colours.append(row(option));
+        colours.append(colourRow(option));
     txtClrUpdateTime = ui::number(QStringLiteral("txtClrUpdateTime"), LongestNumber);
     ui::onLostFocus(txtClrUpdateTime, [this] { limitUpdateTime(); });
     SpinButton *updClrUpdateTime = ui::spin(QStringLiteral("updClrUpdateTime"), txtClrUpdateTime, 1, LongestUpdateTime);
@@ -197,7 +194,7 @@ ui::Node frmOptions::syntaxPage()
                 chkUseColourCode,
                 ui::rows(colours),
                 chkUseAddressColouring,
-                ui::rows({row(addressColour())}),
+                ui::rows({colourRow(addressColour())}),
                 ui::rows({ui::row(QStringLiteral("Update syntax colour coding every"),
                                   ui::counted(txtClrUpdateTime, updClrUpdateTime),
                                   {ui::label({}, QStringLiteral("seconds (maximum of 60 seconds).")), ui::space()})}),
@@ -212,8 +209,7 @@ ui::Node frmOptions::siteMapPage()
     chkLinkRandomColours = check("chkLinkRandomColours", "Draw linking lines using random colours");
     QList<ui::Row> colours;
     for (const ColourOption &option : siteMapColours())
-        colours.append(ui::row(QLatin1String(option.label), colourRow(option), {},
-                               QStringLiteral("lbl") + QLatin1String(option.name)));
+        colours.append(colourRow(option));
     return ui::column({
         ui::group(QStringLiteral("Site Project Map"), ui::column({chkLinkRandomColours, ui::rows(colours)})),
         ui::space(),

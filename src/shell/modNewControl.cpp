@@ -1,9 +1,9 @@
 #include "shell/modNewControl.h"
 
 #include "common/document.h"
-#include "common/encodings.h"
 #include "common/fileCommands.h"
 #include "common/mainWindow.h"
+#include "common/pageCharset.h"
 #include "common/paths.h"
 #include "document/modDocument.h"
 #include "files/localPaths.h"
@@ -43,6 +43,14 @@ MessageBox templateErrorBox(const QString &description)
             .buttons = MessageButtons::OK};
 }
 
+/// The text of a part of a file. A long one is cut behind a line, for a cut inside a character would spoil them all.
+QString startText(QByteArray bytes)
+{
+    if (bytes.size() == PreviewSize)
+        bytes.truncate(bytes.lastIndexOf('\n') + 1);
+    return decodePage(bytes).text;
+}
+
 /// The template is read before there is a window for it.
 void openStandard(ProgramContext &context, const QString &path)
 {
@@ -54,7 +62,7 @@ void openStandard(ProgramContext &context, const QString &path)
     Document *document = context.newBlankDocument();
     if (!document)
         return;
-    document->txtEdit().setText(decode(file.bytes).text);
+    document->txtEdit().setText(decodePage(file.bytes).text);
     document->boolDirty = false;
     document->DocSelUpdate(QString());
     document->txtEdit().SetFocus();
@@ -106,11 +114,11 @@ bool OpenSelectedTemplate(ProgramContext &context, const ListView &lstNew)
 QString templatePreview(FileSystem &files, const QString &path)
 {
     if (!isCombined(path))
-        return decode(files.readPart(path, 0, PreviewSize).bytes).text;
+        return startText(files.readPart(path, 0, PreviewSize).bytes);
     const ContainerListing listing = readContainer(files, path);
     const std::optional<container::Entry> page = container::find(listing.entries, container::pageName());
     if (!page || page->position < 1 || page->size < 1)
         return {};
     const FileContents start = files.readPart(path, page->position - 1, qMin(page->size, PreviewSize));
-    return decode(start.bytes).text.remove(FolderMark);
+    return startText(start.bytes).remove(FolderMark);
 }

@@ -19,18 +19,23 @@ constexpr OptionRow rows[] = {
 };
 
 constexpr ColourOption syntax[] = {
-    {"TagColour", "HTML element colour:", &settings::ColourCodeTag},
-    {"AttributeColour", "HTML attribute colour:", &settings::ColourCodeAttribute},
-    {"ValueColour", "HTML attribute value colour:", &settings::ColourCodeValue},
-    {"CommentColour", "HTML code comment colour:", &settings::ColourCodeComment},
-    {"ASPColour", "ASP code colour:", &settings::ColourASPCode},
+    {"shpTagColour", "cmdTagColour", "lblTagColour", "HTML element colour:", &settings::ColourCodeTag},
+    {"shpAttributeColour", "cmdAttributeColour", "lblAttributeColour",
+     "HTML attribute colour:", &settings::ColourCodeAttribute},
+    {"shpValueColour", "cmdValueColour", "lblValueColour", "HTML attribute value colour:", &settings::ColourCodeValue},
+    {"shpCommentColour", "cmdCommentColour", "lblCommentColour",
+     "HTML code comment colour:", &settings::ColourCodeComment},
+    {"shpASPColour", "cmdASPColour", "lblASPColour", "ASP code colour:", &settings::ColourASPCode},
 };
 
 constexpr ColourOption siteMap[] = {
-    {"LayoutLocated", "Document located in Site Project", &settings::ColourLayoutLocated},
-    {"LayoutNotLocated", "Document not located in Site Project", &settings::ColourLayoutNotLocated},
-    {"LayoutURL", "Link to URL (http:// and shttp://)", &settings::ColourLayoutURL},
-    {"LayoutEmailAddress", "Link to email address", &settings::ColourLayoutEmail},
+    {"shpLayoutLocated", "cmdLayoutLocated", "lblLayoutLocated", "Document located in Site Project",
+     &settings::ColourLayoutLocated},
+    {"shpLayoutNotLocated", "cmdLayoutNotLocated", "lblLayoutNotLocated", "Document not located in Site Project",
+     &settings::ColourLayoutNotLocated},
+    {"shpLayoutURL", "cmdLayoutURL", "lblLayoutURL", "Link to URL (http:// and shttp://)", &settings::ColourLayoutURL},
+    {"shpLayoutEmailAddress", "cmdLayoutEmailAddress", "lblLayoutEmailAddress", "Link to email address",
+     &settings::ColourLayoutEmail},
 };
 } // namespace
 
@@ -46,7 +51,7 @@ std::span<const ColourOption> syntaxColours()
 
 ColourOption addressColour()
 {
-    return {"URLColour", "Internet address colour:", &settings::ColourCodeURL};
+    return {"shpURLColour", "cmdURLColour", "lblURLColour", "Internet address colour:", &settings::ColourCodeURL};
 }
 
 std::span<const ColourOption> siteMapColours()

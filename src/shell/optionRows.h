@@ -13,10 +13,12 @@ struct OptionRow {
 /// The switches that need no control of their own, in their order.
 std::span<const OptionRow> optionRows();
 
-/// One colour that the Options let choose. Its controls are "shp", "cmd" and "lbl" with this name behind them.
+/// One colour that the Options let choose, with the names of its controls.
 struct ColourOption {
-    const char *name;
+    const char *shape;
+    const char *button;
     const char *label;
+    const char *caption; ///< of the label
     const settings::Key *key;
 };
 

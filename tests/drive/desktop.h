@@ -83,6 +83,7 @@ public:
     std::optional<FileError> checkReadable(const QString &path) override;
     std::optional<FileError> writeWhole(const QString &path, const QByteArray &bytes) override;
     std::optional<FileError> writeScratch(const QString &path, const QByteArray &bytes) override;
+    bool isLink(const QString &path) override { return m_real.isLink(path); }
     bool exists(const QString &path) override { return m_real.exists(path); }
     bool isFolder(const QString &path) override { return m_real.isFolder(path); }
     bool isSameFile(const QString &a, const QString &b) override { return m_real.isSameFile(a, b); }

@@ -30,7 +30,7 @@ TEST(CombinedTemplate, IsKnownByItsMagicInAnyCase)
 TEST(CombinedTemplate, TakesADirectoryPositionOnlyInsideTheFile)
 {
     const auto position = [](const char *digits, qint64 size) {
-        return container::directoryPosition(QByteArray(31, 'x') + hex(digits), size);
+        return container::DirectoryPos(QByteArray(31, 'x') + hex(digits), size);
     };
     EXPECT_EQ(position("24000000", 100), 36);
     EXPECT_EQ(position("64000000", 100), 100);
@@ -38,7 +38,7 @@ TEST(CombinedTemplate, TakesADirectoryPositionOnlyInsideTheFile)
     EXPECT_EQ(position("00000000", 100), std::nullopt); // an empty container
     EXPECT_EQ(position("ffffffff", 100), std::nullopt); // -1
     EXPECT_EQ(position("240000", 100), std::nullopt);   // cut off
-    EXPECT_EQ(container::directoryPosition("", 0), std::nullopt);
+    EXPECT_EQ(container::DirectoryPos("", 0), std::nullopt);
 }
 
 TEST(CombinedTemplate, WritesAnEntryAsPlaceSizeAndName)

@@ -184,15 +184,14 @@ TEST_F(OpenFiles, ComeFromTheDialog)
     EXPECT_TRUE(boxes.shown.isEmpty());
 }
 
-TEST_F(OpenFiles, OfRowsThatComeLaterSaySo)
+TEST_F(OpenFiles, ByTheTemplateRowBeginsANewPageWhateverTheExtension)
 {
     writeFile(page, "x");
-    for (const int row : {5, 6}) {
-        dialogs.choices.append({path(page), row});
-        files.ShowOpenDialog();
-        EXPECT_EQ(takeBox().title, QStringLiteral("Not Available Yet"));
-    }
-    EXPECT_TRUE(mainWindow.documents.isEmpty());
+    dialogs.choices.append({path(page), 5});
+    files.ShowOpenDialog();
+    ASSERT_EQ(mainWindow.documents.size(), 1);
+    EXPECT_TRUE(mainWindow.active->NewDoc);
+    EXPECT_EQ(mainWindow.active->DocSavePath, QString());
 }
 
 TEST_F(OpenFiles, OfTheRowForProjectsAreHandedOver)

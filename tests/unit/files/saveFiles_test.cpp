@@ -211,17 +211,29 @@ TEST_F(SaveFiles, ByAPlainRowMakeUtf8OfADocumentOpenedAsUnicode)
     EXPECT_EQ(bytesOf(other), QByteArray("\xFF\xFE\xE9\0\r\0\n\0", 8));
 }
 
-TEST_F(SaveFiles, ByRowsThatComeLaterSaySo)
+TEST_F(SaveFiles, WithoutTagsIsNoneUnlessItIsAgreedTo)
 {
-    FakeDocument &document = typed(QStringLiteral("x"));
-    for (const int row : {5, 9}) {
-        choose(page, row);
-        EXPECT_FALSE(files.SaveDocumentAs(true, {}));
-        EXPECT_EQ(takeBox().title, QStringLiteral("Not Available Yet"));
-        EXPECT_TRUE(document.UnsuccessfulClose);
-    }
+    FakeDocument &document = typed(QStringLiteral("<p>x</p>"));
+    choose(page, 9);
+    boxes.answers = {MessageAnswer::No};
+    EXPECT_FALSE(files.SaveDocumentAs(true, {}));
+    EXPECT_EQ(takeBox().title, QStringLiteral("Strip HTML Tags"));
+    EXPECT_TRUE(document.UnsuccessfulClose);
     EXPECT_EQ(bytesOf(page), QByteArray("(no file)"));
     EXPECT_TRUE(document.boolDirty);
+    EXPECT_EQ(document.surface.Text(), QStringLiteral("<p>x</p>"));
+}
+
+TEST_F(SaveFiles, WithoutTagsLeavesTheDocumentWhereTheWriteFails)
+{
+    FakeDocument &document = typed(QStringLiteral("<p>x</p>"));
+    choose(page, 9);
+    boxes.answers = {MessageAnswer::Yes, MessageAnswer::OK};
+    disk.writeFailure = FileError{.code = DiskFullError, .systemError = 0, .description = {}};
+    EXPECT_FALSE(files.SaveDocumentAs(false, {}));
+    EXPECT_EQ(document.surface.Text(), QStringLiteral("<p>x</p>"));
+    EXPECT_TRUE(document.NewDoc);
+    EXPECT_EQ(document.DocSavePath, QString());
 }
 
 TEST_F(SaveFiles, ThatFailLeaveTheFileAndTheDocument)

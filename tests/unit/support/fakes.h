@@ -173,6 +173,7 @@ public:
         ++writes;
         return writeFailure ? writeFailure : m_real.writeWhole(path, bytes);
     }
+    bool isLink(const QString &path) override { return m_real.isLink(path); }
     bool exists(const QString &path) override { return m_real.exists(path); }
     bool isFolder(const QString &path) override { return m_real.isFolder(path); }
     bool isSameFile(const QString &a, const QString &b) override { return m_real.isSameFile(a, b); }
