@@ -54,7 +54,6 @@ private:
     void begin();
     void finish();
     void failWith(const FileError &error);
-    void tellComesLater(const QString &what);
 
     void openAsChosen(const FileDialogResult &chosen);
     QString folderInFront() const;

@@ -67,16 +67,6 @@ void DocumentFiles::MemoryErrors(int errorNumber)
         m_context.services.messageBoxes.show(*box);
 }
 
-void DocumentFiles::tellComesLater(const QString &what)
-{
-    finish();
-    m_context.services.messageBoxes.show(
-        {.title = QStringLiteral("Not Available Yet"),
-         .text = what + QStringLiteral(" This will come with a later version of Tagwrighter."),
-         .icon = MessageIcon::Information,
-         .buttons = MessageButtons::OK});
-}
-
 void DocumentFiles::showFormat(const Document &document)
 {
     if (m_context.mainWindow->activeDocument() == &document)

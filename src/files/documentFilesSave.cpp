@@ -207,7 +207,8 @@ bool DocumentFiles::mayWriteOver(Document &document)
 /// Whether the save would have to leave the encoding that the page names.
 bool DocumentFiles::leavesEncoding(const Document &document, SaveForm form) const
 {
-    return formatOfSave(document, form).encoding == Encoding::Other && encodedForSave(document.txtEdit().Text(), document, form).switchedToUtf8;
+    return formatOfSave(document, form).encoding == Encoding::Other &&
+           encodedForSave(document.txtEdit().Text(), document, form).switchedToUtf8;
 }
 
 bool DocumentFiles::mayLeaveEncoding(Document &document, SaveForm form)

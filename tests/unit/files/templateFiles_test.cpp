@@ -199,10 +199,10 @@ private:
             bytes.truncate(place);
             break;
         case 2:
-            bytes.insert(place, hostile[m_random.bounded(std::size(hostile))]);
+            bytes.insert(place, hostile[m_random.bounded(static_cast<int>(std::size(hostile)))]);
             break;
         default:
-            const QByteArray &put = hostile[m_random.bounded(std::size(hostile))];
+            const QByteArray &put = hostile[m_random.bounded(static_cast<int>(std::size(hostile)))];
             bytes.replace(place, put.size(), put);
             break;
         }
