@@ -2,6 +2,7 @@
 #include "desktop/desktopCommonDialogs.h"
 #include "desktop/desktopLauncher.h"
 #include "desktop/desktopMessageBoxes.h"
+#include "desktop/desktopPrinting.h"
 #include "services/random.h"
 #include "storage/localFileSystem.h"
 #include "unit/support/sandbox.h"
@@ -111,7 +112,8 @@ protected:
         return *dialog.findChild<QComboBox *>(q("fileTypeCombo"));
     }
 
-    DesktopCommonDialogs dialogs;
+    DesktopPrinting printing;
+    DesktopCommonDialogs dialogs{printing};
 };
 
 TEST_F(Dialogs, ShowTheDescriptionsAsTheyAreWritten)
