@@ -110,6 +110,7 @@ void fitInto(QWidget &window, const QSize &room)
         if (!outer)
             return;
         scrollContent(*outer);
+        layout->activate(); // what it asked for before is out of date
         window.setMinimumSize(window.minimumSize().boundedTo(room));
     }
     if (!fits(wanted, room))

@@ -10,7 +10,7 @@
 
 namespace
 {
-constexpr double LeastContrast = 3.0; ///< what the guidelines ask of the edges of controls
+constexpr double LeastContrast = 3.5; ///< the guidelines ask 3 of the edges of controls; smoothing takes a little off
 
 double luminance(const QColor &colour)
 {
