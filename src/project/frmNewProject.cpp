@@ -61,15 +61,15 @@ void frmNewProject::buildControls()
 void frmNewProject::chooseFile()
 {
     // The dialog itself asks before a file that is there already is chosen.
-    const auto chosen =
+    const auto cdlProjectFilePath =
         services().commonDialogs.showSave({.DialogTitle = QStringLiteral("Create New Project File"),
                                            .Filter = projectFilter(),
                                            .InitDir = settings::read(services().settings, settings::WorkingDir),
                                            .FileName = txtProjectPath->text(),
                                            .DefaultExt = QStringLiteral("tsp"),
                                            .asksBeforeReplacing = true});
-    if (chosen)
-        txtProjectPath->setText(chosen->fileName);
+    if (cdlProjectFilePath)
+        txtProjectPath->setText(cdlProjectFilePath->fileName);
 }
 
 void frmNewProject::txtProjectPath_Change()

@@ -77,7 +77,8 @@ TEST(ReadProjectFile, AcceptsAFileOfItsHeadAlone)
 
 TEST(ReadProjectFile, KnowsTheFirstLineInAnyCase)
 {
-    EXPECT_EQ(readProjectFile(q("tagwrighter SITE project file\r\n[VERSION]\r\n1.0.0\r\n")).verdict, Verdict::Accepted);
+    for (const char *first : {"tagwrighter site project file", "TAGWRIGHTER SITE PROJECT FILE"})
+        EXPECT_EQ(readProjectFile(q(first) + q("\r\n[VERSION]\r\n1.0.0\r\n")).verdict, Verdict::Accepted) << first;
 }
 
 TEST(ReadProjectFile, RefusesAnyOtherFirstLine)
