@@ -22,7 +22,7 @@ constexpr qreal ArrowWidth = 3.2;
 constexpr qreal RingSize = 22;
 constexpr qreal LongestText = 1200; ///< beyond which even a box that takes its text's size cuts it
 constexpr qreal TextSeen = 0.4;     ///< scale below which the folder is not drawn, and below whose half the name is not
-constexpr qreal FaintBox = 0.3;
+constexpr qreal FaintBox = 0.38;
 constexpr qreal FaintLine = 0.1;
 constexpr qreal UsualLine = 0.75;
 
@@ -96,7 +96,13 @@ BoxItem::BoxItem(const MapBox &box, const MapLook &look)
 {
     m_shortName = cut(m_name, NamePixels, m_usualPlace.width() - 2 * Padding);
     m_shortFolder = cut(m_folder, FolderPixels, m_usualPlace.width() - 2 * Padding);
-    setZValue(1);
+    raise();
+}
+
+/// Boxes lie over all lines, and over each other by how much they stand out.
+void BoxItem::raise()
+{
+    setZValue(m_autoSize ? 3 : m_weight == MapWeight::Strong ? 2 : 1);
 }
 
 void BoxItem::setAutoSize(bool on)
@@ -113,13 +119,14 @@ void BoxItem::setAutoSize(bool on)
         m_place.setWidth(width);
         m_place.moveCenter(m_usualPlace.center());
     }
-    setZValue(on ? 2 : 1);
+    raise();
 }
 
 void BoxItem::setWeight(MapWeight weight)
 {
     m_weight = weight;
     setOpacity(weight == MapWeight::Faint ? FaintBox : 1);
+    raise();
 }
 
 void BoxItem::setChosen(bool chosen)

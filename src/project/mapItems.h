@@ -38,6 +38,7 @@ public:
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
 
 private:
+    void raise();
     QPainterPath outline() const;
     void drawText(QPainter &painter) const;
 
