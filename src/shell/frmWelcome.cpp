@@ -121,6 +121,7 @@ ui::Node frmWelcome::quickStartPage()
     optOpen = ui::option(QStringLiteral("optOpen"), QStringLiteral("&Open an existing file..."));
     optRecent = ui::option(QStringLiteral("optRecent"), QStringLiteral("Work with a &recently opened file..."));
     optNew->setChecked(true);
+    optTemplate->setShortcut({}); // its letter's key shows the next tip
     const auto beside = [](const char *image, const char *icon, QRadioButton *option) {
         return ui::line({iconLabel(QLatin1String(image), QLatin1String(icon)), ui::Node(option).stretched()});
     };

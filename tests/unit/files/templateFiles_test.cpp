@@ -189,7 +189,7 @@ private:
                                              QByteArray("\0\0\0\0", 4),
                                              "C:",
                                              "../../x",
-                                             "/tmp/x"};
+                                             "/etc/x"};
         const qsizetype place = m_random.bounded(static_cast<int>(bytes.size()));
         switch (m_random.bounded(4)) {
         case 0:
