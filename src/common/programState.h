@@ -3,6 +3,7 @@
 #include "common/projectState.h"
 
 #include <QString>
+#include <QStringList>
 #include <functional>
 
 /// The variables that the whole program shares for one session, owned by the application object.
@@ -17,5 +18,6 @@ struct ProgramState {
     QString ColourCode = {};               ///< "#RRGGBB" as the palette dialogs leave it; empty: no colour was picked
     std::function<void()> stopWizard = {}; ///< ends the wizard that runs; nothing while there is none
     bool ProgramEnded = false;             ///< the windows are gone; what events still bring has nowhere to show
+    QStringList setAside = {};             ///< files that could not be the program's own, by their new paths; untold
     ProjectState project;
 };

@@ -79,6 +79,7 @@ private:
     void buildPanes();
     void buildBrowser();
     void buildNotices();
+    void tellSetAside();
     void showNotice();
     void buildSurface();
     void buildTimers();

@@ -1,5 +1,8 @@
 // The line above a document's text.
+#include "common/programState.h"
 #include "document/frmWrite.h"
+#include "services/services.h"
+#include "services/settingsStore.h"
 #include "surface/editSurface.h"
 #include "widgets/noticeBar.h"
 
@@ -14,6 +17,22 @@ void frmWrite::buildNotices()
     connect(m_noticeBar, &NoticeBar::left, this, [this] { m_edit->SetFocus(); });
     notices.watch([this] { showNotice(); });
     showNotice();
+    tellSetAside();
+}
+
+/// The first document that there is tells what happened before.
+void frmWrite::tellSetAside()
+{
+    QStringList &untold = context().state.setAside;
+    untold += services().settings.takeSetAside();
+    for (const QString &path : std::as_const(untold))
+        notices.put(
+            {path,
+             NoticeKind::Other,
+             QStringLiteral("A file of the program's was far too large to be its own. It was set aside as \"%1\".")
+                 .arg(path),
+             {{QStringLiteral("OK")}}});
+    untold.clear();
 }
 
 void frmWrite::showNotice()

@@ -4,6 +4,7 @@
 #include "common/fileCommands.h"
 #include "common/mainWindow.h"
 #include "common/paths.h"
+#include "common/programState.h"
 #include "forms/programContext.h"
 #include "services/fileSystem.h"
 #include "services/services.h"
@@ -63,6 +64,21 @@ void addRows(QComboBox &combo, const QStringList &rows)
     combo.addItems(rows);
     combo.setCurrentIndex(-1);
     combo.setEditText(shown);
+}
+
+/// A history of a thousand addresses has a few dozen kilobytes. What is larger than this can't be one.
+constexpr qint64 LargestHistory = qint64(1) << 20;
+
+/// False if there is no history left to read.
+bool historyIsOurs(ProgramContext &context)
+{
+    FileSystem &files = context.services.files;
+    const QString path = addressFile(context);
+    if (files.size(path).value_or(0) <= LargestHistory)
+        return true;
+    if (const std::optional<QString> aside = files.setAside(path))
+        context.state.setAside += *aside;
+    return false;
 }
 
 bool appendToHistory(ProgramContext &context, const QString &address)
@@ -150,7 +166,7 @@ bool ClearAddressHistory(ProgramContext &context)
 
 void LoadAddressHistory(ProgramContext &context, QComboBox &combo)
 {
-    if (!recordsAddresses(context))
+    if (!recordsAddresses(context) || !historyIsOurs(context))
         return;
     const FileContents history = context.services.files.readAll(addressFile(context));
     if (!history.error)

@@ -109,5 +109,7 @@ public:
     virtual std::optional<FileError> makeFolder(const QString &folder) = 0;
     virtual std::optional<FileError> removeFile(const QString &path) = 0;
     /// Copies contents and permissions, whole as writeWhole does; an existing target is replaced.
+    /// Gives a file another name beside it, which is free; the new path, or nothing if it could not be had.
+    virtual std::optional<QString> setAside(const QString &path) = 0;
     virtual std::optional<FileError> copyFile(const QString &from, const QString &to) = 0;
 };

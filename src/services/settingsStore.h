@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 /// The user's preferences: application name, section and key lead to a text. Every value is text, any text.
 ///
@@ -18,4 +19,7 @@ public:
                                const QString &fallback = QString()) = 0;
     virtual void SaveSetting(const QString &app, const QString &section, const QString &key, const QString &value) = 0;
     virtual void DeleteSetting(const QString &app, const QString &section, const QString &key) = 0;
+
+    /// Files that were set aside since the last call, under their new paths: they could not be the program's own.
+    virtual QStringList takeSetAside() { return {}; }
 };

@@ -2,6 +2,7 @@
 
 #include "storage/fileWatch.h"
 #include "storage/mountTable.h"
+#include "storage/setAside.h"
 #include "storage/wholeFile.h"
 
 #include <QDir>
@@ -359,6 +360,11 @@ std::optional<FileError> LocalFileSystem::removeFile(const QString &path)
     // Here a file that is not there is missing itself, unlike in a write, which would have made it.
     const int error = errno;
     return failure(error, error == ENOENT ? FileAction::Read : FileAction::Write, *name);
+}
+
+std::optional<QString> LocalFileSystem::setAside(const QString &path)
+{
+    return ::setAside(path);
 }
 
 std::optional<FileError> LocalFileSystem::copyFile(const QString &from, const QString &to)

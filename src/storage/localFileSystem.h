@@ -34,6 +34,7 @@ public:
     FolderListing list(const QString &folder) override;
     std::optional<FileError> makeFolder(const QString &folder) override;
     std::optional<FileError> removeFile(const QString &path) override;
+    std::optional<QString> setAside(const QString &path) override;
     std::optional<FileError> copyFile(const QString &from, const QString &to) override;
 
 private:

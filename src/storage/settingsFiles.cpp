@@ -1,5 +1,6 @@
 #include "storage/settingsFiles.h"
 
+#include "storage/setAside.h"
 #include "storage/settingsText.h"
 #include "storage/wholeFile.h"
 
@@ -49,6 +50,9 @@ private:
     int descriptor;
 };
 
+// A thousand times what the program ever writes. Reading more would cost seconds, and whatever it is, it is not ours.
+constexpr qint64 largestSettings = qint64(4) << 20;
+
 bool isSameState(const struct stat &a, const struct stat &b)
 {
     return a.st_dev == b.st_dev && a.st_ino == b.st_ino && a.st_size == b.st_size &&
@@ -88,8 +92,9 @@ QByteArray contentsOf(int descriptor)
 class SettingsFiles::File
 {
 public:
-    explicit File(const QString &pathOfFile)
-        : path(QFile::encodeName(pathOfFile + QStringLiteral(".settings"))),
+    File(const QString &pathOfFile, QStringList &asideFiles)
+        : setAsideFiles(asideFiles),
+          path(QFile::encodeName(pathOfFile + QStringLiteral(".settings"))),
           lockPath(QFile::encodeName(pathOfFile + QStringLiteral(".lock")))
     {
     }
@@ -180,6 +185,12 @@ private:
         known = ::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
         if (known < 0 || ::fstat(known, &knownStatus) != 0 || !S_ISREG(knownStatus.st_mode))
             return forget();
+        if (knownStatus.st_size > largestSettings) {
+            forget();
+            if (const std::optional<QString> aside = setAside(QFile::decodeName(path)))
+                setAsideFiles += *aside;
+            return;
+        }
         const QByteArray bytes = contentsOf(known);
         stored = parseSettings(bytes);
         lineCount = bytes.count('\n');
@@ -193,6 +204,7 @@ private:
         stored.clear();
     }
 
+    QStringList &setAsideFiles;
     QByteArray path;
     QByteArray lockPath;
     int known = -1; // the file that `stored` was read from
@@ -211,7 +223,7 @@ SettingsFiles::File &SettingsFiles::fileOf(const QString &app)
 {
     std::unique_ptr<File> &file = files[app];
     if (!file)
-        file = std::make_unique<File>(folder + QLatin1Char('/') + fileNameOf(app));
+        file = std::make_unique<File>(folder + QLatin1Char('/') + fileNameOf(app), m_setAside);
     return *file;
 }
 

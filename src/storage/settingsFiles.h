@@ -4,6 +4,7 @@
 
 #include <map>
 #include <memory>
+#include <utility>
 
 /// The settings as files of one folder, one for each application name, shared with the other programs that run.
 ///
@@ -20,11 +21,13 @@ public:
                        const QString &fallback) override;
     void SaveSetting(const QString &app, const QString &section, const QString &key, const QString &value) override;
     void DeleteSetting(const QString &app, const QString &section, const QString &key) override;
+    QStringList takeSetAside() override { return std::exchange(m_setAside, {}); }
 
 private:
     class File;
     File &fileOf(const QString &app);
 
     QString folder;
+    QStringList m_setAside;
     std::map<QString, std::unique_ptr<File>> files;
 };

@@ -93,6 +93,7 @@ public:
     FolderListing list(const QString &folder) override;
     std::optional<FileError> makeFolder(const QString &folder) override;
     std::optional<FileError> removeFile(const QString &path) override { return m_real.removeFile(path); }
+    std::optional<QString> setAside(const QString &path) override { return m_real.setAside(path); }
     std::optional<FileError> copyFile(const QString &from, const QString &to) override;
 
 private:

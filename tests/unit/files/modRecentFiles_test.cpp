@@ -153,6 +153,18 @@ TEST_F(AddressHistory, IsLeftAloneIfTheUserWantsNone)
     EXPECT_EQ(bytesOf(file), QByteArray("www.a.org\r\n"));
 }
 
+TEST_F(AddressHistory, IsSetAsideWhereItIsFarTooLarge)
+{
+    const QByteArray large("www.a.org\r\n" + QByteArray((1 << 20) + 1 - 11, 'x'));
+    writeFile(file, large);
+    LoadAddressHistory(context, combo);
+    EXPECT_EQ(combo.count(), 0);
+    EXPECT_EQ(bytesOf(file + QStringLiteral(".aside")), large);
+    EXPECT_EQ(state.setAside, QStringList(path(file) + QStringLiteral(".aside")));
+    visit(QStringLiteral("www.b.org"));
+    EXPECT_EQ(bytesOf(file), QByteArray("www.b.org\r\n"));
+}
+
 TEST_F(AddressHistory, LeavesTheListAsItIsIfTheFileCannotBeWritten)
 {
     disk.writeFailure = FileError{70, 0, {}};

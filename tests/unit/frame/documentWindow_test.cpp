@@ -1,5 +1,6 @@
 // What a document window does that no script of the user can look at.
 #include "common/mainWindow.h"
+#include "common/programState.h"
 #include "desktop/desktopServices.h"
 #include "document/frmWrite.h"
 #include "frame/application.h"
@@ -193,5 +194,19 @@ TEST_F(DocumentWindowTest, KeepsTheCaretsLineFreeOfListAndTip)
     const QRect tip = inEdit(control<QWidget>("txtCodeAssistantSyntax"));
     EXPECT_TRUE(edit().rect().contains(tip));
     EXPECT_LE(tip.bottom(), caret.top());
+}
+TEST_F(DocumentWindowTest, TellsWhatWasSetAside)
+{
+    application->context().state.setAside = {QStringLiteral("/a/AddrBar.dat.aside")};
+    application->context().newBlankDocument();
+    settle();
+    ASSERT_TRUE(document().notices.current());
+    EXPECT_EQ(document().notices.current()->text,
+              QStringLiteral("A file of the program's was far too large to be its own. It was set aside as "
+                             "\"/a/AddrBar.dat.aside\"."));
+    document().notices.press(0);
+    EXPECT_TRUE(document().notices.isEmpty());
+    application->context().newBlankDocument();
+    EXPECT_TRUE(document().notices.isEmpty());
 }
 } // namespace

@@ -3,6 +3,7 @@
 #include "storage/settingsText.h"
 #include "unit/support/sandbox.h"
 
+#include <QElapsedTimer>
 #include <QFileInfo>
 
 #include <csignal>
@@ -315,6 +316,35 @@ TEST(SettingsText, IsReadBackWhateverItHolds)
         for (int i = 0; i < 4; ++i)
             settings.insert({text(), text()}, text());
         ASSERT_EQ(parseSettings(settingsText(settings)), settings) << round;
+    }
+}
+TEST_F(Settings, SetAsideAFileThatCannotBeTheirs)
+{
+    write(q("WordWrap"), q("False"));
+    const QByteArray name = path(file).toUtf8();
+    ASSERT_EQ(::truncate(name.constData(), 50 << 20), 0); // NULs, 50 MB of them
+    SettingsFiles files(folder());
+    QElapsedTimer taken;
+    taken.start();
+    EXPECT_EQ(files.GetSetting(app, section, q("WordWrap"), q("(default)")), q("(default)"));
+    EXPECT_LT(taken.elapsed(), 100) << "milliseconds";
+    const QString aside = path(file) + QStringLiteral(".aside");
+    EXPECT_EQ(QFileInfo(aside).size(), 50 << 20);
+    EXPECT_EQ(files.takeSetAside(), QStringList(aside));
+    EXPECT_EQ(files.takeSetAside(), QStringList());
+    files.SaveSetting(app, section, q("WordWrap"), q("True"));
+    EXPECT_EQ(read(q("WordWrap")), q("True"));
+}
+
+TEST_F(Settings, SetAsideUnderANameThatIsFree)
+{
+    write(q("WordWrap"), q("False"));
+    const QByteArray name = path(file).toUtf8();
+    for (const char *aside : {".aside", ".aside2", ".aside3"}) {
+        ASSERT_EQ(::truncate(name.constData(), (4 << 20) + 1), 0);
+        EXPECT_EQ(read(q("WordWrap")), q("(default)"));
+        EXPECT_TRUE(QFileInfo::exists(path(file) + QLatin1String(aside))) << aside;
+        write(q("WordWrap"), q("False"));
     }
 }
 } // namespace

@@ -183,6 +183,7 @@ public:
     FolderListing list(const QString &folder) override { return m_real.list(folder); }
     std::optional<FileError> makeFolder(const QString &folder) override { return m_real.makeFolder(folder); }
     std::optional<FileError> removeFile(const QString &path) override { return m_real.removeFile(path); }
+    std::optional<QString> setAside(const QString &path) override { return m_real.setAside(path); }
     std::optional<FileError> copyFile(const QString &from, const QString &to) override
     {
         return m_real.copyFile(from, to);

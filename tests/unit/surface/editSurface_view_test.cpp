@@ -3,6 +3,7 @@
 
 #include "surface/lineMargin.h"
 
+#include <QElapsedTimer>
 #include <QScrollBar>
 #include <QTextBlock>
 
@@ -299,5 +300,22 @@ TEST_F(EditSurfaceView, DefaultColoursFollowTheGroundAndAnUsersOwnStay)
     surface.setPalette(light);
     EXPECT_EQ(drawn(0), QColor(0, 0, 128));
     EXPECT_EQ(changes, 0);
+}
+TEST_F(EditSurfaceView, BreaksLinesWithoutBlanksAnywhere)
+{
+    QElapsedTimer taken;
+    taken.start();
+    surface.setWrapToWindow(true);
+    surface.setText(QStringLiteral("<div>").repeated(100'000));
+    surface.show();
+    settle();
+    surface.setSelText(QStringLiteral("x"));
+    settle();
+    EXPECT_LT(taken.elapsed(), 6000) << "milliseconds; looking for blanks takes three times as long on a quick machine";
+    EXPECT_EQ(surface.wordWrapMode(), QTextOption::WrapAnywhere);
+    surface.setText(QStringLiteral("a few words"));
+    EXPECT_EQ(surface.wordWrapMode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
+    surface.setSelText(QString(10'001, u'x'));
+    EXPECT_EQ(surface.wordWrapMode(), QTextOption::WrapAnywhere);
 }
 } // namespace

@@ -58,6 +58,7 @@ public:
     }
     std::optional<FileError> makeFolder(const QString &folder) override { return m_files.makeFolder(folder); }
     std::optional<FileError> removeFile(const QString &path) override { return m_files.removeFile(path); }
+    std::optional<QString> setAside(const QString &path) override { return m_files.setAside(path); }
     std::optional<FileError> copyFile(const QString &from, const QString &to) override
     {
         return m_files.copyFile(from, to);
