@@ -39,6 +39,19 @@ void goTo(ProgramContext &context, BrowserCommand command, const QString &target
         (browser->*command)(target);
 }
 
+/// Where the browser is to go in order to show the copy: there, or to the document's own file, whose place the text
+/// takes.
+QString placeOfCopy(ProgramContext &context, const Document &document, const DocumentCopy &copy)
+{
+    PageSource &source = context.services.pageViews.source();
+    if (document.DocSavePath.isEmpty() || !settings::previewsInPlace(context.services.settings)) {
+        source.setFolderOf(copy.path, otherHosts::folderOf(document.DocSavePath));
+        return copy.path;
+    }
+    source.setText(document.DocSavePath, copy.bytes);
+    return document.DocSavePath;
+}
+
 void showCopy(ProgramContext &context, BrowserCommand command)
 {
     DoEvents();
@@ -49,9 +62,15 @@ void showCopy(ProgramContext &context, BrowserCommand command)
     DoEvents();
     if (context.mainWindow->activeDocument() != document) // the copy is not the text of the one that is active now
         return;
-    context.services.pageViews.source().setFolderOf(copy.path, otherHosts::folderOf(document->DocSavePath));
-    goTo(context, command, copy.path);
+    goTo(context, command, placeOfCopy(context, *document, copy));
     DoEvents();
+}
+
+/// From its file, in place of which an unsaved text may have been shown.
+void showFile(ProgramContext &context, BrowserCommand command, const QString &path)
+{
+    context.services.pageViews.source().dropText(path);
+    goTo(context, command, path);
 }
 
 void preview(ProgramContext &context, BrowserCommand command)
@@ -62,7 +81,7 @@ void preview(ProgramContext &context, BrowserCommand command)
     if (!document)
         return;
     if (!document->boolDirty && !document->DocSavePath.isEmpty())
-        goTo(context, command, document->DocSavePath);
+        showFile(context, command, document->DocSavePath);
     else
         showCopy(context, command);
 }

@@ -77,6 +77,11 @@ bool previewsByCopy(SettingsStore &store)
     return std::floor(read(store, PagePreview).toDouble()) == 1;
 }
 
+bool previewsInPlace(SettingsStore &store)
+{
+    return read(store, EditingHabits) == u"today";
+}
+
 namespace
 {
 QString firstRunValue(const Key &key, const QString &appPath)

@@ -39,6 +39,7 @@ KEY(ColourLayoutURL, "ColourLayoutURL", MainApp, "Settings", "16776960", nullptr
 KEY(CurrentVersion, "CurrentVersion", MainApp, "Settings", "", nullptr, Spelling::Text)
 KEY(CustomColour, "#CustomColour", MainApp, "Settings", "16777215", nullptr, Spelling::Text)
 KEY(DocSelBarVis, "DocSelBarVis", MainApp, "Settings", "True", nullptr, Spelling::ExactFalse)
+KEY(EditingHabits, "EditingHabits", MainApp, "Settings", "classic", nullptr, Spelling::Text)
 KEY(ExcludeBasePath, "ExcludeBasePath", MainApp, "Settings", "true", nullptr, Spelling::Word)
 KEY(FirstHelp, "FirstHelp", MainApp, "Settings", "false", nullptr, Spelling::Word)
 KEY(HotTrackingFiles, "HotTrackingFiles", MainApp, "Settings", "False", nullptr, Spelling::Word)

@@ -10,5 +10,6 @@ DocumentCopy writeDocumentCopy(Services &services, const Document &document, con
     const QString path = joinPath(services.appPath, name);
     FileFormat format = formatOfDocument(document, encodingOfDocument(document));
     format.lineEnd = LineEnd::CrLf;
-    return {path, services.files.writeScratch(path, encode(document.txtEdit().Text(), format).bytes)};
+    const QByteArray bytes = encode(document.txtEdit().Text(), format).bytes;
+    return {path, services.files.writeScratch(path, bytes), bytes};
 }

@@ -2,6 +2,7 @@
 
 #include "common/fileErrors.h"
 
+#include <QByteArray>
 #include <optional>
 
 class Document;
@@ -11,6 +12,7 @@ struct Services;
 struct DocumentCopy {
     QString path;
     std::optional<FileError> error; ///< why it could not be written; the file is the one of before, or none
+    QByteArray bytes;               ///< what was to be written
 };
 
 /// Writes the document's text as it stands to a file of that name in the program's folder, over the one of before. It
