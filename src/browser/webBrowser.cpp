@@ -297,6 +297,14 @@ void WebBrowser::pageEnded()
     Q_EMIT navigationFinished();
 }
 
+void WebBrowser::engineEnded()
+{
+    m_waiting.reset();
+    m_whyStopped =
+        QStringLiteral("The preview has come to an end, and shows pages again when Tagwrighter is started anew.");
+    pageEnded();
+}
+
 void WebBrowser::closeAsked()
 {
     Navigate(QStringLiteral("about:blank"));

@@ -73,6 +73,7 @@ private:
     void loadFinished() override;
     void addressChanged(const QUrl &address) override;
     void pageEnded() override;
+    void engineEnded() override;
     void closeAsked() override;
     void messageGiven(const QString &message) override;
     void downloadRefused(const QUrl &address) override;

@@ -67,6 +67,8 @@ public:
     virtual void addressChanged(const QUrl &address) = 0;
     /// The process that runs the page has gone, by itself or by endPage(). The view shows nothing until it loads again.
     virtual void pageEnded() = 0;
+    /// No process can be had for any page any more, until the program is started anew.
+    virtual void engineEnded() = 0;
     virtual void closeAsked() = 0;                     ///< the page's script wants its window closed
     virtual void messageGiven(const QString &) = 0;    ///< the page's script wants the user to read this
     virtual void downloadRefused(const QUrl &) = 0;    ///< not a page: it would have been saved as a file

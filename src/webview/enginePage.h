@@ -20,7 +20,6 @@ public:
     void letOwn(const QUrl &address);
     /// Sends the form that was held back last; see PageView.
     void sendForm(std::function<void(bool)> sent);
-    bool isServed() const { return url().scheme() == QLatin1String(PageScheme); }
 
 protected:
     bool acceptNavigationRequest(const QUrl &url, NavigationType type, bool isMainFrame) override;

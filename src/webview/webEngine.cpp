@@ -82,14 +82,21 @@ void WebEngine::makeProfile()
     auto *server = new PageServer(*m_source, m_profile.get());
     m_profile->setUrlRequestInterceptor(m_guard);
     m_profile->installUrlSchemeHandler(PageScheme, server);
-    connect(m_guard, &RequestGuard::otherHostNamed, this, [this](const QUrl &page, const QUrl &address, bool shown) {
-        for (WebEngineView *view : std::as_const(m_views))
-            view->tellOtherHost(page, address, shown);
-    });
-    connect(server, &PageServer::heldBack, this, [this](const QUrl &page, const QUrl &address) {
-        for (WebEngineView *view : std::as_const(m_views))
-            view->tellHeldBack(page, address);
-    });
+    // Told from the event loop, as the engine waits for what is decided.
+    connect(
+        m_guard, &RequestGuard::otherHostNamed, this,
+        [this](const QUrl &page, const QUrl &address, bool shown) {
+            for (WebEngineView *view : std::as_const(m_views))
+                view->tellOtherHost(page, address, shown);
+        },
+        Qt::QueuedConnection);
+    connect(
+        server, &PageServer::heldBack, this,
+        [this](const QUrl &page, const QUrl &address) {
+            for (WebEngineView *view : std::as_const(m_views))
+                view->tellHeldBack(page, address);
+        },
+        Qt::QueuedConnection);
     connect(m_profile.get(), &QWebEngineProfile::downloadRequested, this, [this](QWebEngineDownloadRequest *download) {
         download->cancel();
         for (WebEngineView *view : std::as_const(m_views))

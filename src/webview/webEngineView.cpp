@@ -75,7 +75,7 @@ void WebEngineView::followPage()
     connect(m_page, &QWebEnginePage::loadFinished, this, &WebEngineView::loadFinished);
     connect(m_page, &QWebEnginePage::urlChanged, this,
             [this](const QUrl &url) { m_listener.addressChanged(m_source.ownAddress(url)); });
-    connect(m_page, &QWebEnginePage::renderProcessTerminated, this, &WebEngineView::ended);
+    connect(m_page, &QWebEnginePage::renderProcessTerminated, this, &WebEngineView::terminated);
     connect(m_page, &QWebEnginePage::windowCloseRequested, this, [this] { m_listener.closeAsked(); });
 }
 
@@ -208,6 +208,19 @@ void WebEngineView::restorePlace()
                           QWebEngineScript::ApplicationWorld);
 }
 
+/// Processes of pages are made by one that the engine started with. Where that is gone, none can be made.
+void WebEngineView::terminated(QWebEnginePage::RenderProcessTerminationStatus status)
+{
+    constexpr int CouldNotBeMade = -1; // has no name among the engine's own
+    if (static_cast<int>(status) != CouldNotBeMade) {
+        ended();
+        return;
+    }
+    m_ended = true;
+    QMetaObject::invokeMethod(
+        this, [this] { m_listener.engineEnded(); }, Qt::QueuedConnection);
+}
+
 /// Tells it from the event loop, as a page cannot be loaded again while its end is being dealt with.
 void WebEngineView::ended()
 {
@@ -225,9 +238,15 @@ void WebEngineView::tellDownload(const QWebEngineDownloadRequest &download)
         m_listener.downloadRefused(m_source.ownAddress(download.url()));
 }
 
+/// Whether it is a page of the folder whose page is on show, or about to be.
+bool WebEngineView::shows(const QUrl &page) const
+{
+    return m_page && !page.host().isEmpty() && (page.host() == m_page->url().host() || page.host() == m_loaded.host());
+}
+
 void WebEngineView::tellOtherHost(const QUrl &page, const QUrl &address, bool shown)
 {
-    if (!m_page || m_page->url() != page)
+    if (!shows(page))
         return;
     if (shown)
         m_listener.otherHostShown(address);
@@ -237,6 +256,6 @@ void WebEngineView::tellOtherHost(const QUrl &page, const QUrl &address, bool sh
 
 void WebEngineView::tellHeldBack(const QUrl &page, const QUrl &address)
 {
-    if (m_page && m_page->isServed() && m_page->url().host() == page.host())
+    if (shows(page))
         m_listener.fileRefused(m_source.ownAddress(address));
 }

@@ -45,11 +45,13 @@ public:
     void endPage() override;
 
 private:
+    bool shows(const QUrl &page) const;
     void followPage();
     void goByHistory(QWebEnginePage::WebAction action);
     void loadStarted();
     void loadFinished();
     void ended();
+    void terminated(QWebEnginePage::RenderProcessTerminationStatus status);
     void restorePlace();
 
     PageSource &m_source;

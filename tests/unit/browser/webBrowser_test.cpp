@@ -509,4 +509,15 @@ TEST_F(WebBrowserTest, SaysWhatAPageWasRefused)
     page.listener->linkRefused(QUrl(QStringLiteral("http://example.org/x")));
     EXPECT_EQ(strip(), QStringLiteral("The page has ended: the process that showed it is gone."));
 }
+TEST_F(WebBrowserTest, SaysThatNoPageCanBeShownAnyMore)
+{
+    browser.Navigate(file("a.htm"));
+    browser.Navigate(file("b.htm"));
+    page.taken();
+    page.listener->engineEnded();
+    EXPECT_EQ(strip(), QStringLiteral(
+                           "The preview has come to an end, and shows pages again when Tagwrighter is started anew."));
+    EXPECT_FALSE(browser.isLoading());
+    EXPECT_THAT(page.taken(), IsEmpty()) << "what waits would end in the same way";
+}
 } // namespace
