@@ -2,13 +2,14 @@
 
 #include "common/paths.h"
 #include "extensions/modAddIns.h"
-#include "forms/form.h"
+#include "forms/formRuntime.h"
 #include "forms/programContext.h"
 #include "services/fileSystem.h"
 #include "services/launcher.h"
 #include "services/messageBoxes.h"
 #include "services/services.h"
 #include "services/settings.h"
+#include "shell/frmOptions.h"
 
 namespace
 {
@@ -50,13 +51,19 @@ MessageBox noUpdaterBox()
             .buttons = MessageButtons::OK};
 }
 
+void showOptionsAndBrowse(ProgramContext &context)
+{
+    context.forms.show<frmOptions>();
+    context.forms.get<frmOptions>().ExternalSearchForFTP();
+}
+
 void locatePublishingProgram(ProgramContext &context)
 {
     MessageBoxes &boxes = context.services.messageBoxes;
     if (boxes.show(locateQuestion()) != MessageAnswer::Yes)
         boxes.show(noProgramBox());
-    else if (context.locatePublishingProgram)
-        context.locatePublishingProgram();
+    else
+        showOptionsAndBrowse(context);
 }
 } // namespace
 

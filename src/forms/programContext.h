@@ -33,6 +33,5 @@ struct ProgramContext {
     QString makerSite = {};                            ///< the address of the maker's web site
     std::function<Document *()> newBlankDocument = {}; ///< shows a new, empty document; nothing if memory ran out
     Uploads *uploads = nullptr;                        ///< the pages on their way to servers
-    std::function<void()> locatePublishingProgram = {}; ///< shows the options and lets the user look for the program
     std::function<void()> end = {};                     ///< ends the program at once; no further handler of a form runs
 };

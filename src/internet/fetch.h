@@ -20,6 +20,8 @@ public:
     const TransferEnd &end() const { return m_end; }
 
     void Cancel();
+    /// Gives another reason for what has ended already.
+    void failWith(const QString &reason) { m_end.failure = reason; }
 
 Q_SIGNALS:
     void received(qint64 done, qint64 total); ///< bytes; a total of 0 is not known

@@ -14,6 +14,7 @@
 #include "internet/inet.h"
 #include "internet/modNetConnectStatus.h"
 #include "internet/progressText.h"
+#include "internet/unknownHosts.h"
 #include "services/messageBoxes.h"
 #include "services/services.h"
 #include "services/yielder.h"
@@ -126,16 +127,36 @@ void frmOpenFromInternet::cmdOpen_Click()
     context().screenPointer.setMousePointer(HourglassPointer);
     const QString opening = QStringLiteral("Opening \"") + withoutPassword(address) + QStringLiteral("\"...");
     frmMdi().SetStatusText(opening);
-    const std::shared_ptr<Fetch> fetch = netOpen->OpenURL(address);
-    connect(fetch.get(), &Fetch::received, this,
-            [this, opening](qint64 done, qint64 total) { showProgress(opening, done, total); });
-    await(*fetch);
+    std::shared_ptr<Fetch> fetch = fetched(address, opening);
+    while (mayTryAgain(*fetch))
+        fetch = fetched(address, opening);
     if (context().state.ProgramEnded)
         return;
     if (fetch->isCancelled())
         resetBarAndPointer();
     else
         showResult(address, *fetch);
+}
+
+/// Gets the page once, however that ends.
+std::shared_ptr<Fetch> frmOpenFromInternet::fetched(const QString &address, const QString &opening)
+{
+    std::shared_ptr<Fetch> fetch = netOpen->OpenURL(address);
+    connect(fetch.get(), &Fetch::received, this,
+            [this, opening](qint64 done, qint64 total) { showProgress(opening, done, total); });
+    await(*fetch);
+    return fetch;
+}
+
+/// Whether a server that is not known becomes one that is.
+bool frmOpenFromInternet::mayTryAgain(Fetch &fetch)
+{
+    if (context().state.ProgramEnded || fetch.isCancelled() || !fetch.end().unknownHost)
+        return false;
+    const TrustAnswer answer = askToTrust(context(), *fetch.end().unknownHost);
+    if (!answer.failure.isEmpty())
+        fetch.failWith(answer.failure);
+    return answer.trusted && netOpen;
 }
 
 void frmOpenFromInternet::await(const Fetch &fetch)

@@ -25,6 +25,8 @@ private:
     void cmdCancel_Click();
     bool isConnectedOrLeft(const QString &address);
     void showProgress(const QString &opening, qint64 done, qint64 total);
+    std::shared_ptr<Fetch> fetched(const QString &address, const QString &opening);
+    bool mayTryAgain(Fetch &fetch);
     void await(const Fetch &fetch);
     void showResult(const QString &address, const Fetch &fetch);
     void tellFailure(const QString &address, const Fetch &fetch);

@@ -275,7 +275,7 @@ void frmSavetoInternet::setTarget()
 std::optional<QString> frmSavetoInternet::upload(Document &document)
 {
     const QString path = joinPath(services().appPath, QStringLiteral("tmp_upload.htm"));
-    const EncodedText encoded = encodedForSave(document, SaveForm::AsOpened);
+    const EncodedText encoded = encodedForSave(document.txtEdit().Text(), document, SaveForm::AsOpened);
     if (const auto error = services().files.writeScratch(path, encoded.bytes))
         return error->description;
     return netSave->Execute(putOperation({path, txtFileName->text()}));

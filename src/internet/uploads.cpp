@@ -4,6 +4,7 @@
 #include "common/programState.h"
 #include "forms/programContext.h"
 #include "internet/progressText.h"
+#include "internet/unknownHosts.h"
 #include "services/messageBoxes.h"
 #include "services/services.h"
 
@@ -15,19 +16,6 @@ constexpr int MillisecondsShown = 200; ///< after which a text is shown again
 QString quoted(const QString &text)
 {
     return QStringLiteral("\"") + text + QStringLiteral("\"");
-}
-
-MessageBox unknownHostQuestion(const UnknownHost &host)
-{
-    return {.title = QStringLiteral("Unknown Server"),
-            .text = QStringLiteral("The server ") + quoted(host.name) +
-                    QStringLiteral(" has not been used before. It shows a key with this fingerprint:") + Break + Break +
-                    host.fingerprint + Break + Break +
-                    QStringLiteral("Compare it with the one that the owner of the server gives. Do you trust this "
-                                   "server from now on?"),
-            .icon = MessageIcon::Exclamation,
-            .buttons = MessageButtons::YesNo,
-            .byEnter = MessageAnswer::No};
 }
 
 MessageBox cutQuestion(const Upload &upload)
@@ -129,34 +117,36 @@ void Upload::progressed(qint64 done, qint64 total)
 
 void Upload::finished(const TransferEnd &end)
 {
+    m_end = end;
     m_transfer.reset();
-    if (end.unknownHost && mayTrust(*end.unknownHost)) {
-        startAgain(*end.unknownHost);
+    if (m_end.unknownHost) {
+        startAgain(*m_end.unknownHost);
         return;
     }
-    m_request.password.fill(u'\0');
-    if (!end.failure.isEmpty())
-        tellFailure(end);
-    else
+    if (m_end.failure.isEmpty())
         conclude();
+    else
+        tellFailure(m_end);
 }
 
-bool Upload::mayTrust(const UnknownHost &host) const
-{
-    return m_context.services.messageBoxes.show(unknownHostQuestion(host)) == MessageAnswer::Yes;
-}
-
+/// The second try of an upload, to a server that is known by now.
 void Upload::startAgain(const UnknownHost &host)
 {
-    std::optional<QString> failure = m_context.services.transfers.trust(host);
-    if (!failure) {
-        const QString refusal = start();
-        if (refusal.isEmpty())
-            return;
-        failure = refusal;
-    }
+    TrustAnswer answer = askToTrust(m_context, host);
+    if (answer.trusted)
+        answer.failure = start();
+    if (isRunning())
+        return;
+    if (!answer.failure.isEmpty())
+        tellError(answer.failure);
+    else
+        tellFailure(m_end);
+}
+
+void Upload::tellError(const QString &description)
+{
     m_context.services.messageBoxes.show({.title = QStringLiteral("Save to Internet Error"),
-                                          .text = QStringLiteral("The following error occurred: ") + *failure,
+                                          .text = QStringLiteral("The following error occurred: ") + description,
                                           .icon = MessageIcon::None,
                                           .buttons = MessageButtons::OK});
     tellReady();
@@ -165,6 +155,7 @@ void Upload::startAgain(const UnknownHost &host)
 
 void Upload::tellFailure(const TransferEnd &end)
 {
+    m_request.password.fill(u'\0');
     m_context.services.messageBoxes.show({.title = QStringLiteral("Error"),
                                           .text = QStringLiteral("Error: ") + QString::number(end.ResponseCode) +
                                                   Break + Break + end.ResponseInfo + Break + Break +
@@ -183,6 +174,7 @@ void Upload::breakOff()
 
 void Upload::conclude()
 {
+    m_request.password.fill(u'\0');
     m_again.stop();
     deleteLater();
 }

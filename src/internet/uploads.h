@@ -31,13 +31,14 @@ private:
     void tell(const QString &text);
     void tellShown() const;
     void tellReady();
-    bool mayTrust(const UnknownHost &host) const;
     void startAgain(const UnknownHost &host);
+    void tellError(const QString &description);
     void tellFailure(const TransferEnd &end);
     void conclude();
 
     ProgramContext &m_context;
     TransferRequest m_request;
+    TransferEnd m_end;
     QString m_location;
     QString m_fileName;
     QString m_stage; ///< what the status bar says of the stage
