@@ -98,6 +98,8 @@ private:
             .worker = real.worker,
             .transfers = real.transfers,
             .wizards = real.wizards,
+            .printing = real.printing,
+            .systemFacts = real.systemFacts,
             .appPath = QString(),
             .statePath = QString(),
         };

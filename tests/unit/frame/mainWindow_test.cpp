@@ -124,6 +124,8 @@ private:
             .worker = real.worker,
             .transfers = real.transfers,
             .wizards = real.wizards,
+            .printing = real.printing,
+            .systemFacts = real.systemFacts,
             .appPath = real.appPath,
             .statePath = real.statePath,
         };

@@ -74,6 +74,8 @@ protected:
             .worker = real.worker,
             .transfers = real.transfers,
             .wizards = real.wizards,
+            .printing = real.printing,
+            .systemFacts = real.systemFacts,
             .appPath = home.path(),
             .statePath = real.statePath,
         });

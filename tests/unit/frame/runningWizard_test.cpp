@@ -52,6 +52,8 @@ protected:
                                     .worker = real.worker,
                                     .transfers = real.transfers,
                                     .wizards = wizards,
+                                    .printing = real.printing,
+                                    .systemFacts = real.systemFacts,
                                     .appPath = home.path(),
                                     .statePath = home.path()});
         application = std::make_unique<Application>(*services);
