@@ -4,6 +4,8 @@
 #include "common/mainWindow.h"
 #include "forms/dialogForm.h"
 #include "forms/programContext.h"
+#include "services/services.h"
+#include "services/yielder.h"
 #include "texttools/cornerPlace.h"
 #include "widgets/layout.h"
 
@@ -239,8 +241,18 @@ void frmFind::cboSearchType_Click()
     chkWholeWords->setEnabled(!inTags);
 }
 
+/// A search is a pass of its own, before which events run. False if the window is gone by then.
+bool frmFind::letEventsRun()
+{
+    services().yielder.beginPass();
+    services().yielder.yield();
+    return isLoaded() && cmdOK->isEnabled();
+}
+
 void frmFind::cmdOK_Click()
 {
+    if (!letEventsRun())
+        return;
     AddFindHistory();
     find(order());
 }
@@ -257,6 +269,8 @@ void frmFind::cmdReplace_Click()
         cboReplace->setFocus();
         return;
     }
+    if (!letEventsRun())
+        return;
     AddFindHistory();
     AddReplaceHistory();
     SearchOrder next = order();

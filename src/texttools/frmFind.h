@@ -45,6 +45,7 @@ private:
     void AddReplaceHistory();
     SearchOrder order() const;
     void find(SearchOrder order);
+    bool letEventsRun();
     bool asksForReplace() const;
     void enableButtons();
 
