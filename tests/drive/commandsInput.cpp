@@ -210,7 +210,8 @@ void reveal(Stage &stage, const Line &line)
     const Target target = findTarget(stage, line.words[0]);
     if (auto *drawn = qobject_cast<DrawnControl *>(target.control))
         drawn->reveal();
-    bringIntoView(widgetOf(stage, target));
+    else
+        bringIntoView(widgetOf(stage, target));
 }
 
 void drop(Stage &stage, const Line &line)

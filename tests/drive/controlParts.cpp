@@ -8,6 +8,7 @@
 #include "drive/targets.h"
 #include "drive/userInput.h"
 #include "forms/form.h"
+#include "widgets/drawnControl.h"
 #include "widgets/nodeTree.h"
 
 #include <QAction>
@@ -17,6 +18,7 @@
 #include <QScrollArea>
 #include <QStackedWidget>
 #include <QTabBar>
+#include <QVariant>
 #include <QWidget>
 
 namespace drive
@@ -27,6 +29,10 @@ bool isShown(const QObject &control)
 {
     if (const auto *widget = qobject_cast<const QWidget *>(&control))
         return widget->isVisible();
+    if (const auto *drawn = qobject_cast<const DrawnControl *>(&control)) {
+        const QVariant visible = drawn->property("Visible");
+        return drawn->surface() && drawn->surface()->isVisible() && (!visible.isValid() || visible.toBool());
+    }
     const auto *entry = qobject_cast<const QAction *>(&control);
     return !entry || isEntryShown(*entry);
 }

@@ -85,12 +85,27 @@ TEST(Script, NestsBlocks)
     EXPECT_EQ(outer[1].block[0].words, QStringList{"F2"});
 }
 
+TEST(Script, TakesDuringAsABlockWhereItNamesNoActOfItsOwn)
+{
+    const Script script = parseScript(QStringLiteral(
+        "during 3 key F1\nduring 2\n  kill\nend\nwhen-box \"A title\" Yes\n  type a\n  type b\nend\nexit"));
+    ASSERT_FALSE(script.error);
+    ASSERT_EQ(script.lines.size(), 4U);
+    EXPECT_TRUE(script.lines[0].block.empty());
+    ASSERT_EQ(script.lines[1].block.size(), 1U);
+    EXPECT_EQ(script.lines[1].block[0].command, QStringLiteral("kill"));
+    EXPECT_EQ(script.lines[2].words, (QStringList{"A title", "Yes"}));
+    EXPECT_EQ(script.lines[2].block.size(), 2U);
+}
+
 TEST(Script, TellsTheLineOfWhatIsWrong)
 {
     EXPECT_EQ(errorLine("start\ntype \"a"), 2);
     EXPECT_EQ(errorLine("type \"a\"b"), 1);
     EXPECT_EQ(errorLine("start\n\ntype <<END\na\n"), 3);
     EXPECT_EQ(errorLine("when a\nkey F1"), 1);
+    EXPECT_EQ(errorLine("start\nduring 3\nkey F1"), 2);
+    EXPECT_EQ(errorLine("when-box a OK\nwhen b\nend"), 1);
     EXPECT_EQ(errorLine("start\nend"), 2);
     EXPECT_EQ(errorLine("type \"\\u{110000}\""), 1);
     EXPECT_EQ(errorLine("type \"\\u41\""), 1);

@@ -89,9 +89,6 @@ void World::setEnvironment() const
     QFile::setPermissions(running, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     setVariable("XDG_RUNTIME_DIR", running);
     setVariable("XDG_CACHE_HOME", home() + QStringLiteral("/.cache"));
-    for (const char *proxy : {"http_proxy", "https_proxy", "ftp_proxy", "all_proxy", "no_proxy", "HTTP_PROXY",
-                              "HTTPS_PROXY", "FTP_PROXY", "ALL_PROXY", "NO_PROXY"})
-        qunsetenv(proxy);
     // A copy of the program that is installed on this machine must not show in the script's world.
     setVariable("XDG_DATA_DIRS", home() + QStringLiteral("/.system/share"));
     setVariable("XDG_CONFIG_DIRS", home() + QStringLiteral("/.system/etc"));
