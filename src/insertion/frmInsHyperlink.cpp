@@ -2,7 +2,7 @@
 
 #include "insertion/attributeText.h"
 #include "insertion/imageFilter.h"
-#include "insertion/modProjectFileCtrl.h"
+#include "project/modProjectFileCtrl.h"
 #include "services/settings.h"
 
 #include <QComboBox>

@@ -1,4 +1,5 @@
-#include "insertion/modProjectFileCtrl.h"
+// What the dialogs are offered of the open project.
+#include "project/modProjectFileCtrl.h"
 
 #include "common/paths.h"
 #include "common/siteProject.h"

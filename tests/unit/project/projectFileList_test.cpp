@@ -1,4 +1,4 @@
-#include "insertion/modProjectFileCtrl.h"
+#include "project/modProjectFileCtrl.h"
 
 #include "common/siteProject.h"
 #include "unit/support/testDesktop.h"
