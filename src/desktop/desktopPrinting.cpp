@@ -71,3 +71,27 @@ std::optional<PrintError> DesktopPrinting::print(const PrintJob &job, const std:
 {
     return printOn(printer(), job, goOn);
 }
+
+std::optional<PrintError> printPictureOn(QPrinter &printer, const PictureJob &job)
+{
+    if (!printer.isValid())
+        return PrintError{.number = PrintError::NoDriver};
+    const QPageLayout::Orientation before = printer.pageLayout().orientation();
+    printer.setDocName(job.title);
+    printer.setPageOrientation(job.landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+    QPainter painter;
+    bool done = painter.begin(&printer);
+    for (int copy = 0; done && copy < job.copies; ++copy) {
+        if (copy > 0)
+            done = printer.newPage();
+        job.draw(painter, QRectF(QPointF(), printer.pageLayout().paintRectPixels(printer.resolution()).size()));
+    }
+    done = done && painter.end() && printer.printerState() != QPrinter::Error;
+    printer.setPageOrientation(before);
+    return done ? std::nullopt : std::optional(PrintError{.number = PrintError::Failed});
+}
+
+std::optional<PrintError> DesktopPrinting::printPicture(const PictureJob &job)
+{
+    return printPictureOn(printer(), job);
+}

@@ -18,6 +18,7 @@ public:
 
     Paper paper(const QFont &font) override;
     std::optional<PrintError> print(const PrintJob &job, const std::function<bool(int)> &goOn) override;
+    std::optional<PrintError> printPicture(const PictureJob &job) override;
 
 private:
     std::unique_ptr<QPrinter> m_printer;
@@ -25,3 +26,4 @@ private:
 
 /// Prints a job on that printer. For whoever has a printer of his own, as tests do.
 std::optional<PrintError> printOn(QPrinter &printer, const PrintJob &job, const std::function<bool(int)> &goOn);
+std::optional<PrintError> printPictureOn(QPrinter &printer, const PictureJob &job);

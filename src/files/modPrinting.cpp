@@ -18,24 +18,6 @@ namespace
 {
 constexpr int PagesWorthWatching = 20; ///< fewer are printed before a window would have come up
 
-MessageBox printErrorBox(const PrintError &error)
-{
-    MessageBox box{.title = {}, .text = {}, .icon = MessageIcon::Exclamation, .buttons = MessageButtons::OK};
-    if (error.number == PrintError::Failed) {
-        box.title = QStringLiteral("Printer Error");
-        box.text = QStringLiteral("An error occurred while trying to print. The operation could not be completed.");
-    } else if (error.number == PrintError::NoDriver) {
-        box.title = QStringLiteral("Printer Driver Unavailable");
-        box.text = QStringLiteral("There is a problem with the printer driver. Information in the WIN.INI file may be "
-                                  "missing\r\nPlease re-install your printer driver and try again.");
-    } else {
-        box.title = QStringLiteral("Unexpected Printer Error!");
-        box.text = QStringLiteral("The following error occurred while trying to print:") + QStringLiteral("\r\n") +
-                   error.description;
-    }
-    return box;
-}
-
 QString printTitle(const Document &document)
 {
     return document.DocSavePath.isEmpty() ? document.documentCaption() : FileNameOnly(document.DocSavePath);
@@ -60,6 +42,24 @@ std::optional<PrintError> printWatched(ProgramContext &context, const PrintJob &
     return error;
 }
 } // namespace
+
+MessageBox printErrorBox(const PrintError &error)
+{
+    MessageBox box{.title = {}, .text = {}, .icon = MessageIcon::Exclamation, .buttons = MessageButtons::OK};
+    if (error.number == PrintError::Failed) {
+        box.title = QStringLiteral("Printer Error");
+        box.text = QStringLiteral("An error occurred while trying to print. The operation could not be completed.");
+    } else if (error.number == PrintError::NoDriver) {
+        box.title = QStringLiteral("Printer Driver Unavailable");
+        box.text = QStringLiteral("There is a problem with the printer driver. Information in the WIN.INI file may be "
+                                  "missing\r\nPlease re-install your printer driver and try again.");
+    } else {
+        box.title = QStringLiteral("Unexpected Printer Error!");
+        box.text = QStringLiteral("The following error occurred while trying to print:") + QStringLiteral("\r\n") +
+                   error.description;
+    }
+    return box;
+}
 
 PrintChoices printChoices(const ProgramContext &context)
 {

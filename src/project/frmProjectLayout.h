@@ -61,6 +61,7 @@ private:
     void openBox(int box);
     QString fileOf(int box) const;
     void savePicture();
+    void printMap();
 
     std::shared_ptr<SiteMap> m_map; ///< the window draws it until it is gone
     QList<ProjectItem> m_pages;     ///< the project's editor files as they were when the map was begun

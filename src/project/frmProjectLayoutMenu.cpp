@@ -4,6 +4,7 @@
 #include "common/mainWindow.h"
 #include "common/paths.h"
 #include "common/siteProject.h"
+#include "files/modPrinting.h"
 #include "forms/formRuntime.h"
 #include "internet/modViewInBrowser.h"
 #include "project/frmProjectLayout.h"
@@ -13,12 +14,15 @@
 #include "project/mapView.h"
 #include "services/commonDialogs.h"
 #include "services/fileSystem.h"
+#include "services/messageBoxes.h"
+#include "services/printing.h"
 #include "services/services.h"
 #include "services/settings.h"
 
 #include <QDir>
 #include <QMenu>
 #include <QUrl>
+#include <QWidget>
 
 namespace
 {
@@ -65,6 +69,7 @@ QMenu *frmProjectLayout::buildMenu()
     add("mnuMapActualSize", "&Actual Size", QKeySequence(QStringLiteral("Ctrl+0")), [&view] { view.setZoom(1); });
     add("mnuMapFit", "&Fit the Whole Map", QKeySequence(QStringLiteral("Ctrl+9")), [&view] { view.fit(); });
     menu->addSeparator();
+    add("mnuMapPrint", "&Print...", QKeySequence(QStringLiteral("Ctrl+P")), [this] { printMap(); });
     add("mnuMapSavePicture", "&Save as Picture...", QKeySequence(QStringLiteral("Ctrl+S")), [this] { savePicture(); });
     connect(menu, &QMenu::aboutToShow, this, [this, open] {
         open->setEnabled(m_scene->chosen() &&
@@ -110,6 +115,21 @@ void frmProjectLayout::openBox(int box)
         }
     context().files->OpenDocumentFile(path, false);
     context().forms.mainForm()->window()->activateWindow();
+}
+
+void frmProjectLayout::printMap()
+{
+    const std::optional<int> copies = services().commonDialogs.showPrint();
+    if (!copies || !isLoaded())
+        return;
+    const QRectF map = m_scene->itemsBoundingRect();
+    const auto error = services().printing.printPicture(
+        {.title = Caption(),
+         .copies = *copies,
+         .landscape = map.width() > map.height(),
+         .draw = [this](QPainter &painter, const QRectF &place) { drawMap(*m_scene, painter, place); }});
+    if (error)
+        services().messageBoxes.show(printErrorBox(*error));
 }
 
 void frmProjectLayout::savePicture()

@@ -4,10 +4,13 @@
 
 #include <QFont>
 #include <QList>
+#include <QRectF>
 #include <QSizeF>
 #include <QString>
 #include <functional>
 #include <optional>
+
+class QPainter;
 
 /// One line as it stands on paper.
 struct PrintedLine {
@@ -27,6 +30,15 @@ struct PrintJob {
     int copies = 1; ///< the pages are printed so many times, one run after the other
     bool lineNumbers = false;
     QList<PrintedPage> pages = {};
+};
+
+/// A drawing that is to be printed on one page.
+struct PictureJob {
+    QString title;
+    int copies = 1;
+    bool landscape = false;
+    /// Draws it within a place of the paper, in the painter's own units.
+    std::function<void(QPainter &, const QRectF &)> draw;
 };
 
 /// What text is measured by on a printer's paper. All lengths are points, 1/72 inch.
@@ -57,4 +69,6 @@ public:
     /// Prints the job, page after page. `goOn` is asked before each one, given its number counted from 0 over all
     /// copies; False calls the rest off, which is no error. Nothing: all went well.
     virtual std::optional<PrintError> print(const PrintJob &job, const std::function<bool(int)> &goOn) = 0;
+    /// Prints a picture on a page of its own.
+    virtual std::optional<PrintError> printPicture(const PictureJob &job) = 0;
 };

@@ -4,6 +4,8 @@
 
 #include <QFontMetricsF>
 #include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
 #include <QScreen>
 
 namespace drive
@@ -22,12 +24,30 @@ Paper ScriptedPrinting::paper(const QFont &font)
             .textWidth = [metrics, pixels](const QString &text) { return metrics.horizontalAdvance(text) / pixels; }};
 }
 
+std::optional<PrintError> ScriptedPrinting::failure()
+{
+    if (m_failures.isEmpty())
+        return std::nullopt;
+    const int number = m_failures.takeFirst();
+    return PrintError{.number = number, .description = QStringLiteral("Error %1").arg(number)};
+}
+
+std::optional<PrintError> ScriptedPrinting::printPicture(const PictureJob &job)
+{
+    if (const auto error = failure())
+        return error;
+    QImage paper(595, 842, QImage::Format_RGB32);
+    QPainter painter(&paper);
+    job.draw(painter, paper.rect());
+    painter.end();
+    printed.add({job.copies, job.title, {}});
+    return std::nullopt;
+}
+
 std::optional<PrintError> ScriptedPrinting::print(const PrintJob &job, const std::function<bool(int)> &goOn)
 {
-    if (!m_failures.isEmpty()) {
-        const int number = m_failures.takeFirst();
-        return PrintError{.number = number, .description = QStringLiteral("Error %1").arg(number)};
-    }
+    if (const auto error = failure())
+        return error;
     for (int page = 0; page < job.pages.size() * job.copies; ++page)
         if (!goOn(page))
             return std::nullopt;

@@ -19,12 +19,15 @@ class ScriptedPrinting final : public Printing
 public:
     Paper paper(const QFont &font) override;
     std::optional<PrintError> print(const PrintJob &job, const std::function<bool(int)> &goOn) override;
+    /// Recorded as a job without lines.
+    std::optional<PrintError> printPicture(const PictureJob &job) override;
 
     void failNext(int number) { m_failures.append(number); }
 
     Recorded<PrintedJob> printed;
 
 private:
+    std::optional<PrintError> failure();
     QList<int> m_failures;
 };
 } // namespace drive

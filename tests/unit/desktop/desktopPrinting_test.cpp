@@ -5,9 +5,11 @@
 
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QMap>
+#include <QPainter>
 #include <QPrinter>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -191,5 +193,23 @@ TEST_F(DesktopPrintingTest, KeepsTheLinesWithinThePaper)
     for (const PrintedPage &page : jobOf(source).pages)
         for (const PrintedLine &line : page.lines)
             EXPECT_LE(paper.textWidth(line.text), paper.size.width()) << line.text.toStdString();
+}
+
+TEST_F(DesktopPrintingTest, PrintsAPictureOnAPageOfItsOwnForEachCopy)
+{
+    QList<QRectF> places;
+    const PictureJob job{.title = QStringLiteral("Map"),
+                         .copies = 2,
+                         .landscape = true,
+                         .draw = [&places](QPainter &painter, const QRectF &place) {
+                             places.append(place);
+                             painter.fillRect(place, Qt::black);
+                         }};
+    EXPECT_FALSE(printing.printPicture(job));
+    ASSERT_EQ(places.size(), 2);
+    EXPECT_GT(places[0].width(), places[0].height());
+    EXPECT_EQ(places[0], places[1]);
+    EXPECT_EQ(printing.printer().pageLayout().orientation(), QPageLayout::Portrait);
+    EXPECT_GT(QFileInfo(pdf()).size(), 0);
 }
 } // namespace

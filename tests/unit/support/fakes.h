@@ -267,6 +267,7 @@ public:
         jobs.append(job);
         return failure;
     }
+    std::optional<PrintError> printPicture(const PictureJob &) override { return failure; }
 
     QSizeF size{40, 10}; ///< in characters and lines
     QList<PrintJob> jobs;
