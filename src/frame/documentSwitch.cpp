@@ -4,11 +4,11 @@
 #include "common/document.h"
 #include "common/mainWindow.h"
 #include "forms/form.h"
-#include "forms/formRuntime.h"
 #include "forms/mdiForm.h"
 #include "widgets/controlName.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <QMenu>
 #include <QShortcut>
 
@@ -24,8 +24,8 @@ QString entryText(const QString &caption, int number)
 }
 } // namespace
 
-DocumentSwitch::DocumentSwitch(QWidget &window, QMenu &menu, FormRuntime &forms, MainWindow &mainWindow)
-    : QObject(&window), m_menu(menu), m_forms(forms), m_mainWindow(mainWindow)
+DocumentSwitch::DocumentSwitch(QWidget &window, QMenu &menu, MainWindow &mainWindow)
+    : QObject(&window), m_menu(menu), m_mainWindow(mainWindow), m_choices(new QActionGroup(this))
 {
     addKeys(window, {QStringLiteral("Ctrl+Tab"), QStringLiteral("Ctrl+F6")}, 1);
     addKeys(window, {QStringLiteral("Ctrl+Shift+Tab"), QStringLiteral("Ctrl+Shift+F6")}, -1);
@@ -72,6 +72,7 @@ void DocumentSwitch::list()
         Document *document = open[number - 1];
         QAction *entry = m_menu.addAction(entryText(document->documentCaption(), number));
         entry->setObjectName(controlName(QStringLiteral("mnuWindowDocument"), number));
+        entry->setActionGroup(m_choices);
         entry->setCheckable(true);
         entry->setChecked(document == m_mainWindow.activeDocument());
         connect(entry, &QAction::triggered, this, [this, document] {

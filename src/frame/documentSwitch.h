@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QList>
 #include <QObject>
 
 class Document;
-class FormRuntime;
 class MainWindow;
+class QAction;
+class QActionGroup;
 class QMenu;
 class QWidget;
 
@@ -15,7 +17,7 @@ class DocumentSwitch final : public QObject
 public:
     /// Ctrl+Tab and Ctrl+F6 in the window bring the next open document to the front, with Shift the one before. The
     /// menu lists them below what it has, as `mnuWindowDocument(1)` and so on.
-    DocumentSwitch(QWidget &window, QMenu &menu, FormRuntime &forms, MainWindow &mainWindow);
+    DocumentSwitch(QWidget &window, QMenu &menu, MainWindow &mainWindow);
 
     /// Fills the menu anew.
     void list();
@@ -26,7 +28,7 @@ private:
     void show(Document &document);
 
     QMenu &m_menu;
-    FormRuntime &m_forms;
     MainWindow &m_mainWindow;
+    QActionGroup *m_choices;    ///< one of the documents is the active one
     QList<QAction *> m_entries; ///< of the menu, with the line above them
 };

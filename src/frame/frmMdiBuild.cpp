@@ -61,8 +61,7 @@ void frmMdi::buildControls()
     buildDocumentSelector();
     buildStatusBar();
     layOut();
-    m_documentSwitch =
-        new DocumentSwitch(*window(), *m_commands->menu(QStringLiteral("mnuWindow")), context().forms, *this);
+    m_documentSwitch = new DocumentSwitch(*window(), *m_commands->menu(QStringLiteral("mnuWindow")), *this);
     numberEntries(*m_commands->menu(QStringLiteral("mnuFile")), m_commands->recentFiles());
     new DocumentMarks(*window(), *tabDocSel, *this);
     window()->resize(DesignSize);
