@@ -116,7 +116,7 @@ private:
     void fillCodeLists();
     void picAddress_Resize();
     void openCommandLineFile();
-    /// What the status bar tells for a few seconds, whatever says "Ready" meanwhile.
+    /// What the status bar tells, whatever says "Ready" meanwhile, until a few seconds after the window takes input.
     void keepStatus(const QString &text);
     void decideWelcome();
     void restoreUnsavedText(Document *opened);

@@ -122,7 +122,6 @@ void frmMdi::keepStatus(const QString &text)
 {
     m_keptStatus = text;
     SetStatusReady();
-    enableResetBar();
 }
 
 QString frmMdi::statusText() const
