@@ -43,7 +43,9 @@ void DocumentMarks::update()
             continue;
         if (const QString title = titleOf(document->documentCaption()); window->windowTitle() != title)
             window->setWindowTitle(title);
-        window->setWindowModified(document->boolDirty);
+        // Set again, it would tell the desktop anew, whose answer wakes the program, which comes to rest, and so on.
+        if (window->isWindowModified() != document->boolDirty)
+            window->setWindowModified(document->boolDirty);
     }
 }
 
