@@ -54,9 +54,13 @@ void DocumentSwitch::step(int by)
 void DocumentSwitch::show(Document &document)
 {
     auto *form = dynamic_cast<MdiForm *>(&document);
+    auto *preview = form->window()->findChild<WebBrowser *>();
+    // Asked first, as the window moves the keyboard through its parts while it comes up.
+    const bool held = preview && preview->isFocusHeld();
     form->bringToFront();
-    const auto *preview = form->window()->findChild<WebBrowser *>();
-    if (!preview || !preview->isFocusHeld() || !preview->isVisible())
+    if (held && preview->isVisible())
+        preview->setFocus(Qt::TabFocusReason);
+    else
         document.txtEdit().SetFocus();
 }
 

@@ -13,12 +13,14 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QScreen>
+#include <algorithm>
 
 namespace drive
 {
 namespace
 {
 constexpr int SmallestSurface = 30;   ///< logical pixels in height: less is no place to write in
+constexpr int Frame = 40;             ///< what a window manager may add around a window
 constexpr int SmallestOfWindow = 100; ///< of the main window on the screen: less can't be dragged back
 
 QString told(const QRect &place)
@@ -186,9 +188,12 @@ void StandingRules::checkForms(Stage &stage)
         const QRect room = roomOf(*form->window());
         const QRect seen = place & room;
         const bool isMain = form->Name() == QStringLiteral("frmMdi");
-        const bool fits = place.width() <= room.width() && place.height() <= room.height();
         const bool reachable = seen.width() >= SmallestOfWindow && seen.height() >= SmallestOfWindow;
-        if (isMain ? !reachable || place.top() < room.top() : fits && seen != place)
+        // A few pixels of an edge may be lost to a frame; more than a quarter is a form that is not there.
+        const auto isOff = [](int shown, int whole, int there) { return shown * 4 < std::min(whole, there) * 3; };
+        const bool isLost = isOff(seen.width(), place.width(), room.width()) ||
+                            isOff(seen.height(), place.height(), room.height()) || place.top() < room.top() - Frame;
+        if (isMain ? !reachable || place.top() < room.top() - Frame : isLost)
             stage.referee.fail(QStringLiteral("%1 on the screen, %2").arg(form->Name(), told(room)), told(place));
     }
 }
