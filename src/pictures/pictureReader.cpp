@@ -56,13 +56,15 @@ void openNothingMore()
 }
 
 /// What a drawing needs beside its own bytes is brought in beforehand: what reads the pictures that it holds itself,
-/// and fonts for its text.
+/// fonts for its text, and the threads that scale.
 void bringInWhatDrawingsNeed()
 {
     QByteArray nothing("?");
     QBuffer buffer(&nothing);
     (void)QImageReader(&buffer).canRead(); // asks each kind of picture in turn, which brings them in
-    QImage paper(8, 8, QImage::Format_ARGB32_Premultiplied);
+    QImage paper(1024, 1024, QImage::Format_ARGB32_Premultiplied);
+    paper.fill(Qt::white);
+    paper = paper.scaled(512, 512, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     QPainter painter(&paper);
     for (const char *family : {"sans-serif", "serif", "monospace"}) {
         painter.setFont(QFont(QLatin1String(family)));
@@ -126,9 +128,10 @@ int readPicture(const QString &path, const QSize &largest)
     reader.setAutoTransform(true);
     if (!reader.canRead())
         return NoPicture;
-    if (isDrawing(reader))
+    if (isDrawing(reader)) {
         bringInWhatDrawingsNeed();
-    openNothingMore();
+        openNothingMore();
+    }
     if (reader.size().isEmpty())
         return NoPicture;
     send(sizeBytes(shownSize(reader)));
