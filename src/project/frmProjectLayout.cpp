@@ -114,7 +114,12 @@ void frmProjectLayout::buildControls()
     m_menu = buildMenu();
     connect(m_panel, &MapPanel::menuWanted, m_menu, [this](const QPoint &position) { m_menu->popup(position); });
     connect(&m_panel->view(), &MapView::openWanted, this, &frmProjectLayout::openBox);
-    connect(&m_panel->view(), &MapView::escapePressed, this, [this] { Unload(); });
+    connect(&m_panel->view(), &MapView::escapePressed, this, [this] {
+        if (m_mapping)
+            cmdCancel_Click();
+        else
+            Unload();
+    });
     tmrAnimate = new Timer(
         services().timers, QStringLiteral("tmrAnimate"), [this] { tmrAnimate_Timer(); }, window());
     tmrAnimate->setInterval(AnimationMilliseconds);
