@@ -75,10 +75,25 @@ bool startsAsPath(const QString &candidate)
     return (first >= u'a' && first <= u'z') || first == u'\\' || ownPath;
 }
 
+/// Whether a place stands inside a tag: no ">" outside double quotes ends it before.
+bool isInsideTag(const QString &page, qsizetype place)
+{
+    if (!between(page, place, u'<', u'>'))
+        return false;
+    bool quoted = false;
+    for (qsizetype at = page.lastIndexOf(u'<', place - 1); at < place; ++at) {
+        if (page[at] == u'"')
+            quoted = !quoted;
+        else if (page[at] == u'>' && !quoted)
+            return false;
+    }
+    return true;
+}
+
 /// The quoted text around a mark, if it stands in a tag.
 std::optional<Range> quotedInTag(const QString &page, qsizetype mark)
 {
-    if (!between(page, mark, u'<', u'>'))
+    if (!isInsideTag(page, mark))
         return std::nullopt;
     return between(page, mark, u'"', u'"');
 }

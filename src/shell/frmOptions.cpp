@@ -17,6 +17,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabBar>
+#include <QTimer>
 #include <utility>
 
 namespace
@@ -105,7 +106,8 @@ void frmOptions::tellAutoSaveTime()
                                   .buttons = MessageButtons::OK});
     tabOptions->setCurrentIndex(0);
     txtAutoSave->setFocus();
-    txtAutoSave->selectAll();
+    // The field may be in the middle of losing the focus, which takes its selection away at the end.
+    QTimer::singleShot(0, txtAutoSave, [this] { txtAutoSave->selectAll(); });
 }
 
 void frmOptions::txtAutoSave_LostFocus()

@@ -108,7 +108,7 @@ void frmWelcome::buildControls()
         }),
         buttonColumn(),
     }));
-    window()->setMinimumSize(600, 430);
+    window()->setMinimumSize(560, 420);
     setDefaultButton(cmdOK);
     bindKeys();
     buildTimers();

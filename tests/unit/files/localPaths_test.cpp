@@ -47,6 +47,7 @@ TEST(LocalPaths, LeaveAloneWhatIsNoLocalFile)
              "<img src=\"/gone.gif\">",     // not there
              "<img src='/a.gif'>",          // no double quotes
              "\"/a.gif\"",                  // no tag at all
+             "<p>\"/a.gif\"</p>",           // between two tags
              "<p \"/a.gif\"",               // never closed
              "\"/a.gif\">",                 // never opened
              "<img src=\"//host/a.gif\">",  // an address without its scheme
