@@ -1,6 +1,7 @@
 #include "insertion/areaDrawing.h"
 
 #include <cmath>
+#include <utility>
 
 namespace
 {

@@ -3,9 +3,6 @@
 #include "widgets/themeColour.h"
 
 #include <QPainter>
-#include <QRegion>
-#include <algorithm>
-#include <cmath>
 
 namespace
 {

@@ -2,8 +2,11 @@
 
 #include "common/colour.h"
 
+#include <QLineF>
 #include <QObject>
-#include <QPolygonF>
+#include <QRegion>
+#include <algorithm>
+#include <cmath>
 
 class QPainter;
 

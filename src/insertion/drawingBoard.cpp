@@ -1,10 +1,9 @@
 #include "insertion/drawingBoard.h"
 
-#include <QBitmap>
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
-#include <cmath>
+#include <utility>
 
 namespace
 {
@@ -135,15 +134,22 @@ void DrawingBoard::mouseReleaseEvent(QMouseEvent *event)
 /// The second press of a double click draws nothing: a corner that is set twice would be two corners.
 void DrawingBoard::mouseDoubleClickEvent(QMouseEvent *) {}
 
+/// A fine wheel turns by less than a step at a time: what is too little for one counts for the next.
 void DrawingBoard::wheelEvent(QWheelEvent *event)
 {
-    constexpr int step = 120;
-    const QPoint turned = event->angleDelta();
-    if (event->modifiers() & Qt::ControlModifier)
-        Q_EMIT zoomAsked(std::clamp(m_zoom + (turned.y() > 0 ? 1 : -1), 1, LargestZoom));
-    else
-        Q_EMIT scrolled(QPoint(-turned.x(), -turned.y()) / (step / 3));
+    constexpr int notch = 120;
+    const bool zooms = event->modifiers() & Qt::ControlModifier;
+    const int unit = zooms ? notch : notch / 3;
+    m_turned += event->angleDelta();
+    const QPoint steps(m_turned.x() / unit, m_turned.y() / unit);
+    m_turned -= steps * unit;
     event->accept();
+    if (!zooms) {
+        Q_EMIT scrolled(-steps);
+    } else if (steps.y() != 0) {
+        m_cross = pictureAt(event->position()).toPoint(); // what is pointed at is to stay in view
+        Q_EMIT zoomAsked(std::clamp(m_zoom + steps.y(), 1, LargestZoom));
+    }
 }
 
 /// Enter and the arrows draw here; before the dialog's default button and the way to the next control have them.

@@ -76,5 +76,6 @@ private:
     QList<BoardFigure *> m_figures;
     QPoint m_cross;
     bool m_crossShown = false;
+    QPoint m_turned;     ///< of the wheel, what no step has used up yet
     bool m_held = false; ///< a button was pressed here and is not yet released
 };

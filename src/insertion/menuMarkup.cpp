@@ -4,6 +4,8 @@
 #include "common/text.h"
 #include "insertion/readableColour.h"
 
+#include <utility>
+
 namespace
 {
 const QString Break = QStringLiteral("\r\n");

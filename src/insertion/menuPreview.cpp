@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTextLayout>
 #include <QtMath>
 #include <algorithm>
 

@@ -4,8 +4,9 @@
 #include <QList>
 #include <QRect>
 #include <QString>
-#include <QTextLayout>
 #include <QWidget>
+
+class QTextLayout;
 
 /// What a preview of a menu shows: words and colours, as a browser would draw them.
 struct MenuPicture {

@@ -4,6 +4,7 @@
 #include "widgets/layout.h"
 
 #include <QList>
+#include <QPointer>
 #include <functional>
 
 class ListView;

@@ -162,3 +162,16 @@ TEST(BoardFigure, coversWhatItDraws)
                         << x << ' ' << y;
         }
 }
+
+TEST_F(DrawingBoardTest, addsUpTheTurnsOfAFineWheel)
+{
+    QSignalSpy scrolled(&board, &DrawingBoard::scrolled);
+    for (int turn = 0; turn < 5; ++turn) {
+        QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, -8}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&board, &wheel);
+    }
+    QPoint steps;
+    for (const QVariantList &told : scrolled)
+        steps += told[0].toPoint();
+    EXPECT_EQ(steps, QPoint(0, 1)); // 40 of 120 are a third of a notch, a step down
+}
