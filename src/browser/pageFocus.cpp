@@ -1,39 +1,60 @@
 #include "browser/pageFocus.h"
 
-#include <QChildEvent>
+#include <QApplication>
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QWidget>
 
 namespace
 {
-bool isByUser(Qt::FocusReason reason)
+bool isTab(const QKeyEvent &key)
 {
-    return reason == Qt::MouseFocusReason || reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
-           reason == Qt::ShortcutFocusReason;
+    return (key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab) && !(key.modifiers() & Qt::ControlModifier);
 }
 } // namespace
 
 PageFocus::PageFocus(QWidget &view) : QObject(&view)
 {
-    view.installEventFilter(this);
-    watchAll();
+    qApp->installEventFilter(this); // which sees what the engine puts into the view later, too
 }
 
-void PageFocus::watchAll()
+bool PageFocus::isHandedOn(Qt::FocusReason reason) const
 {
-    const auto inner = parent()->findChildren<QWidget *>();
-    for (QWidget *widget : inner)
-        widget->installEventFilter(this);
+    return (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason) && !m_tabPressed;
+}
+
+/// A window that goes to the back hands its keyboard on from part to part, as if the user had pressed Tab: only where
+/// he has, it is his.
+bool PageFocus::isByUser(Qt::FocusReason reason) const
+{
+    return !isHandedOn(reason) && (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+                                   reason == Qt::MouseFocusReason || reason == Qt::ShortcutFocusReason);
+}
+
+bool PageFocus::isInView(const QObject *watched) const
+{
+    while (watched && watched != parent())
+        watched = watched->parent();
+    return watched;
 }
 
 bool PageFocus::eventFilter(QObject *watched, QEvent *event)
 {
-    // What is added may bring parts of its own, and is no whole widget yet.
-    if (event->type() == QEvent::ChildAdded)
-        QMetaObject::invokeMethod(this, &PageFocus::watchAll, Qt::QueuedConnection);
-    if (event->type() == QEvent::FocusIn)
-        focusCame(static_cast<QFocusEvent *>(event)->reason());
+    if (event->type() == QEvent::KeyPress)
+        m_tabPressed = isTab(*static_cast<QKeyEvent *>(event));
+    if (event->type() == QEvent::FocusIn) {
+        const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
+        if (isInView(watched))
+            focusCame(reason);
+        else
+            m_handedOn = isHandedOn(reason);
+    }
     return QObject::eventFilter(watched, event);
+}
+
+void PageFocus::release()
+{
+    m_held = m_held && m_handedOn;
 }
 
 void PageFocus::focusCame(Qt::FocusReason reason)

@@ -15,8 +15,9 @@ public:
 
     /// The user has put the keyboard into the page and not moved it elsewhere in the window since.
     bool isHeld() const { return m_held; }
-    /// The user has left the page for another part of its window.
-    void release() { m_held = false; }
+    /// Another part of the window has the keyboard now: the user has left the page, unless a window that goes to the
+    /// back has only handed it on.
+    void release();
 
 Q_SIGNALS:
     void taken(); ///< the page has the keyboard and nobody has put it there
@@ -25,8 +26,12 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void watchAll();
+    bool isByUser(Qt::FocusReason reason) const;
+    bool isHandedOn(Qt::FocusReason reason) const;
+    bool isInView(const QObject *watched) const;
     void focusCame(Qt::FocusReason reason);
 
-    bool m_held = false; ///< the user has put the keyboard into the page, where it comes back to with the window
+    bool m_handedOn = false;   ///< the part that has the keyboard outside the view got it from a window on its way back
+    bool m_tabPressed = false; ///< the last key was a Tab
+    bool m_held = false;       ///< the user has put the keyboard into the page, where it comes back to with the window
 };

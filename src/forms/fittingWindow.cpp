@@ -1,6 +1,7 @@
 #include "forms/fittingWindow.h"
 
 #include <QBoxLayout>
+#include <QFocusEvent>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
@@ -57,6 +58,48 @@ public:
         const QSize bars(verticalScrollBar()->sizeHint().width(), horizontalScrollBar()->sizeHint().height());
         return widget()->sizeHint() + bars;
     }
+
+    /// From now on the control that the keyboard comes to is brought into sight; under the mouse nothing moves.
+    void followKeyboard()
+    {
+        for (QWidget *control : widget()->findChildren<QWidget *>())
+            control->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        auto *control = qobject_cast<QWidget *>(watched);
+        if (control && control != widget() && event->type() == QEvent::FocusIn &&
+            movesTheFocus(static_cast<QFocusEvent *>(event)->reason()))
+            bringIntoSight(*control);
+        return QScrollArea::eventFilter(watched, event);
+    }
+
+protected:
+    /// As of any widget: the area's own would bring the middle of a wide control into sight.
+    bool focusNextPrevChild(bool next) override
+    {
+        const bool moved = QWidget::focusNextPrevChild(next);
+        QWidget *control = window()->focusWidget();
+        if (moved && control && widget()->isAncestorOf(control))
+            bringIntoSight(*control);
+        return moved;
+    }
+
+private:
+    static bool movesTheFocus(Qt::FocusReason reason)
+    {
+        return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason ||
+               reason == Qt::OtherFocusReason;
+    }
+
+    /// Of a control wider than the area, such as a check box across it, the start is shown; of a field, the caret.
+    void bringIntoSight(QWidget &control)
+    {
+        ensureWidgetVisible(&control);
+        if (control.width() > viewport()->width() && !control.testAttribute(Qt::WA_InputMethodEnabled))
+            horizontalScrollBar()->setValue(control.mapTo(widget(), QPoint()).x());
+    }
 };
 
 void moveInto(QBoxLayout &target, QLayoutItem *item, int stretch)
@@ -89,6 +132,7 @@ void scrollContent(QBoxLayout &layout)
         moveInto(*inner, layout.takeAt(i), stretch);
     }
     layout.insertWidget(std::max(place, 0), area, 1);
+    area->followKeyboard();
 }
 
 bool fits(const QSize &size, const QSize &room)

@@ -9,6 +9,7 @@
 #include "files/filesForms.h"
 #include "files/recovery.h"
 #include "frame/frmMdi.h"
+#include "frame/frmMdiTables.h"
 #include "frame/frmSplash.h"
 #include "insertion/insertionForms.h"
 #include "internet/internetForms.h"
@@ -48,7 +49,24 @@ Application::Application(Services &services)
         m_forms.own(std::move(form));
     for (std::unique_ptr<Form> &form : projectForms(m_context, m_mdi->project()))
         m_forms.own(std::move(form));
+    requireForms();
     connect(m_mdi, &Form::unloaded, this, &Application::End);
+}
+
+/// A command whose form is missing is a fault of the program that no user is to find.
+void Application::requireForms() const
+{
+    const auto require = [this](const CommandAction &action) {
+        if ((action.kind == CommandAction::Kind::Form || action.kind == CommandAction::Kind::ModalForm) &&
+            !m_forms.find(QLatin1String(action.form)))
+            qFatal("A command shows %s, and there is no such form", action.form);
+    };
+    for (const MenuCommand &command : menuCommands())
+        require(command.action);
+    for (const ToolCommand &command : toolCommands())
+        require(command.action);
+    for (const ToolCommand &command : dropCommands())
+        require(command.action);
 }
 
 void Application::addFiles()

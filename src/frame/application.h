@@ -47,6 +47,7 @@ private:
     template <class T, class... Arguments>
     T &own(Arguments &&...arguments);
     void addFiles();
+    void requireForms() const;
 
     ProgramState m_state;
     FormRuntime m_forms;

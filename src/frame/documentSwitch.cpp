@@ -59,7 +59,7 @@ void DocumentSwitch::show(Document &document)
     const bool held = preview && preview->isFocusHeld();
     form->bringToFront();
     if (held && preview->isVisible())
-        preview->setFocus(Qt::TabFocusReason);
+        preview->setFocus(Qt::ShortcutFocusReason);
     else
         document.txtEdit().SetFocus();
 }

@@ -120,9 +120,8 @@ private:
     QString shortcutOf(const ToolCommand &command) const;
     void makeCheckable();
     void followMenus();
-    bool isAvailable(const CommandAction &action) const;
     bool isMet(Needs needs) const;
-    void enable(const QString &name, const CommandAction &action, Needs needs);
+    void enable(const QString &name, Needs needs);
     /// All commands, or those alone that need one thing.
     void enableAll(std::optional<Needs> those = {});
     bool takesCommands() const;

@@ -187,13 +187,6 @@ void MainCommands::enableSelectionEntries()
         action(QLatin1String(name))->setEnabled(selected);
 }
 
-bool MainCommands::isAvailable(const CommandAction &action) const
-{
-    if (action.kind == Kind::Form || action.kind == Kind::ModalForm)
-        return m_context.forms.find(QLatin1String(action.form)) != nullptr;
-    return action.kind != Kind::Later;
-}
-
 bool MainCommands::isMet(Needs needs) const
 {
     switch (needs) {
@@ -229,9 +222,9 @@ void MainCommands::showAddIns(QMainWindow &window, const QMap<int, QString> &cap
     }
 }
 
-void MainCommands::enable(const QString &name, const CommandAction &action, Needs needs)
+void MainCommands::enable(const QString &name, Needs needs)
 {
-    m_actions.value(name)->setEnabled(isAvailable(action) && isMet(needs));
+    m_actions.value(name)->setEnabled(isMet(needs));
 }
 
 void MainCommands::setDocumentControlsEnabled(bool enabled)
@@ -251,10 +244,10 @@ void MainCommands::enableAll(std::optional<Needs> those)
     const auto isMeant = [those](Needs needs) { return !those || *those == needs; };
     for (const MenuCommand &command : menuCommands())
         if (isMeant(command.needs))
-            enable(QLatin1String(command.name), command.action, command.needs);
+            enable(QLatin1String(command.name), command.needs);
     for (const ToolCommand &command : toolCommands())
         if (command.action.kind != Kind::Separator && isMeant(command.needs))
-            enable(toolName(command), command.action, command.needs);
+            enable(toolName(command), command.needs);
 }
 
 void MainCommands::mnuEdit_Open()
@@ -315,7 +308,6 @@ void MainCommands::run(const CommandAction &action)
     case Kind::Head:
     case Kind::Separator:
     case Kind::Nothing:
-    case Kind::Later:
         break;
     }
 }

@@ -32,10 +32,6 @@ constexpr CommandAction nothing()
 {
     return {.kind = K::Nothing};
 }
-constexpr CommandAction later()
-{
-    return {};
-}
 constexpr MenuCommand line(const char *name, const char *menu)
 {
     return {name, menu, "", "", "", Needs::Nothing, {.kind = K::Separator}};

@@ -14,9 +14,8 @@ struct CommandAction {
         ModalForm, ///< the same as a modal box
         Wrap,      ///< puts a pair of tags around the selection
         Nothing,   ///< is there without a command behind it
-        Later,     ///< waits for its command: disabled
     };
-    Kind kind = Kind::Later;
+    Kind kind = Kind::Nothing;
     void (MainCommands::*run)() = nullptr;
     const char *form = "";
     const char *open = ""; ///< the opening text of a pair

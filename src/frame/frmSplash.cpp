@@ -78,7 +78,8 @@ void frmSplash::Timer1_Timer()
     Timer1->setEnabled(false); // the one tick: what follows may pump events
     m_mainForm.Load();
     Unload();
-    if (m_mainForm.isLoaded()) // a second main window takes itself away in its load
+    // A second main window takes itself away in its load; one that is on show has put a window in front of itself.
+    if (m_mainForm.isLoaded() && !m_mainForm.Visible())
         m_mainForm.Show();
 }
 

@@ -94,8 +94,8 @@ frmInsImageMap::frmInsImageMap(ProgramContext &context)
 void frmInsImageMap::Form_Load()
 {
     setContent(ui::beside({
-        ui::column({sourceRows(), toolLine(), drawingPlace().stretched()}),
-        ui::column({dialogButtons(), areaColumn().stretched()}),
+        ui::beside({ui::column({sourceRows(), toolLine(), drawingPlace().stretched()}), areaColumn()}),
+        dialogButtons(),
     }));
     window()->resize(UsualWindow.boundedTo(window()->screen()->availableSize()));
     m_drawing.begin();

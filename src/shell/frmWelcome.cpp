@@ -265,8 +265,10 @@ void frmWelcome::ShowNextTip()
 
 void frmWelcome::Form_Activate()
 {
+    // From the event loop, so that the window that is left hears of it before one of its controls does.
     if (cmdOK)
-        cmdOK->setFocus();
+        QMetaObject::invokeMethod(
+            cmdOK, [button = cmdOK] { button->setFocus(); }, Qt::QueuedConnection);
 }
 
 void frmWelcome::cmdOK_Click()

@@ -16,7 +16,7 @@ namespace
 {
 /// One caption of a window, wherever it stands.
 struct Bearer {
-    const QWidget *widget = nullptr;
+    QWidget *widget = nullptr;
     int rank = 0; ///< those of a lower one keep their letter
     QString caption;
     std::function<void(const QString &)> setCaption;
@@ -121,6 +121,8 @@ void settleAccelerators(QWidget &window)
         Bearer &bearer = bearers[i];
         if (!lettersOf(bearers, i, bearer).contains(acceleratorOf(bearer.caption)))
             continue;
+        // The caption of the form's design stays known under its name.
+        bearer.widget->setProperty(DesignedCaption, bearer.caption);
         bearer.caption = withAnotherAccelerator(bearer.caption, lettersOf(bearers, bearers.size(), bearer));
         bearer.setCaption(bearer.caption);
     }

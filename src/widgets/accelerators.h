@@ -15,3 +15,6 @@ QString withAnotherAccelerator(const QString &caption, const QStringList &taken)
 /// Sees to it that no two controls that can be on show together have the same accelerator: of two, the second takes
 /// another letter of its caption, or none. Labels give way to what can be pressed.
 void settleAccelerators(QWidget &window);
+
+/// The property of a control whose caption settleAccelerators() changed: the caption as it was designed.
+inline constexpr const char *DesignedCaption = "designedCaption";

@@ -5,6 +5,7 @@
 #include "controlRows.h"
 #include "controlText.h"
 #include "services/timer.h"
+#include "widgets/accelerators.h"
 #include "widgets/characterGrid.h"
 #include "widgets/colourSelection.h"
 #include "widgets/colourSwatch.h"
@@ -141,16 +142,24 @@ Value readCommon(const QWidget &widget, const QString &name)
     return reader == readers.constEnd() ? Value() : (*reader)(widget);
 }
 
+/// The caption as the form has it, whatever letter stands for an accelerator that clashed with another one.
+QString asDesigned(const QWidget &widget, const QString &shown)
+{
+    const QString designed = widget.property(DesignedCaption).toString();
+    const bool same = QString(designed).remove(u'&') == QString(shown).remove(u'&');
+    return same && !designed.isEmpty() ? designed : shown;
+}
+
 Value readCaption(const QWidget &widget, const QString &name)
 {
     if (name != u"Caption")
         return {};
     if (const auto *label = qobject_cast<const QLabel *>(&widget))
-        return label->text();
+        return asDesigned(widget, label->text());
     if (const auto *button = qobject_cast<const QAbstractButton *>(&widget))
-        return button->text();
+        return asDesigned(widget, button->text());
     const auto *group = qobject_cast<const QGroupBox *>(&widget);
-    return group ? group->title() : Value();
+    return group ? asDesigned(widget, group->title()) : Value();
 }
 
 Value readTicked(bool on, const QString &name)

@@ -20,10 +20,18 @@ protected:
         QApplication::setActiveWindow(&window);
         field.setFocus();
     }
+    void press(Qt::Key key)
+    {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+        QObject nobody; // who would move the keyboard by it
+        QApplication::sendEvent(&nobody, &event);
+    }
     qsizetype takenBy(Qt::FocusReason reason)
     {
         field.setFocus();
         taken.clear();
+        if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason)
+            press(Qt::Key_Tab);
         inner->setFocus(reason);
         QApplication::processEvents();
         return taken.count();
@@ -52,4 +60,16 @@ TEST_F(PageFocusTest, LeavesThePageWhatTheUserHasPutThereUntilHeGoesElsewhere)
         focus.release();
         EXPECT_EQ(takenBy(Qt::OtherFocusReason), 1);
     }
+}
+
+TEST_F(PageFocusTest, TakesAWindowThatHandsItsKeyboardOnForNobodysWish)
+{
+    field.setFocus();
+    taken.clear();
+    press(Qt::Key_Tab);
+    press(Qt::Key_N); // the last key was no Tab, and yet that is the reason the window gives
+    inner->setFocus(Qt::TabFocusReason);
+    QApplication::processEvents();
+    EXPECT_EQ(taken.count(), 1);
+    EXPECT_FALSE(focus.isHeld());
 }
