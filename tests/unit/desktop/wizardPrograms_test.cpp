@@ -183,7 +183,7 @@ TEST_F(WizardProgramsTest, HaveFiveSecondsForTheirNames)
     QElapsedTimer time;
     time.start();
     EXPECT_FALSE(wizard()->AvailableWizards());
-    EXPECT_GE(time.elapsed(), 4900);
+    EXPECT_GE(time.elapsed(), 4700); // a timer may come a twentieth early
     EXPECT_LT(time.elapsed(), 8000);
 }
 
