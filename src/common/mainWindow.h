@@ -66,6 +66,12 @@ public:
     virtual void showDocumentTabs(bool shown) = 0;
     virtual void showDocumentSelector(bool shown) = 0;
 
+    /// Reads the rules that the user edits by anew, after they or the editor's settings were stored; all of them hold
+    /// at once, in every open document.
+    virtual void takeOverHabits() {}
+    /// Told by a document that comes to the front.
+    virtual void documentInFront() {}
+
     virtual void setWordWrapChecked(bool checked) = 0;
     /// Shows or hides a bar, by the name of its entry in the View menu, whose check mark and setting follow.
     virtual void showBar(const QString &, bool) {}

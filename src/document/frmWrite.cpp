@@ -164,6 +164,7 @@ void frmWrite::Form_Activate()
         context().files->lookAtFile(*this);
     frmMdi().selectDocumentTab(DocKeyDescription);
     frmMdi().showFileFormat(fileFormatText(*this));
+    frmMdi().documentInFront();
     CheckWordWrapSettings();
     UpdateLineInformation();
     SplitEditingPreviewWindows();

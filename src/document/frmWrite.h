@@ -15,6 +15,7 @@ class QUrl;
 class Timer;
 class ViewingPanes;
 class WebBrowser;
+struct LineChange;
 struct SurfaceCharacter;
 struct SurfaceHooks;
 struct SurfaceKey;
@@ -131,6 +132,12 @@ private:
     void openHelp(SurfaceKey &key);
     void runEditingKey(SurfaceKey &key);
     bool startIndentedLine();
+    bool replaceByLine();
+    void fillWithThreeBlanks();
+    void fillToNextStop();
+    void indentBySteps(bool indent);
+    void indentLines(bool indent);
+    void apply(const LineChange &change);
 
     NoticeBar *m_noticeBar = nullptr;
     ViewingPanes *m_panes = nullptr;

@@ -3,9 +3,11 @@
 #include "codeknowledge/tagHelp.h"
 #include "common/fileCommands.h"
 #include "common/mainWindow.h"
+#include "common/programState.h"
 #include "common/unsavedText.h"
 #include "document/codeAssistant.h"
 #include "document/frmWrite.h"
+#include "document/lineIndent.h"
 #include "document/modClipboard.h"
 #include "document/typing.h"
 #include "services/services.h"
@@ -134,18 +136,28 @@ void frmWrite::indentByTab(SurfaceKey &key)
     if (m_edit->SelLength() > 0 || outdent) {
         IndentText(!outdent);
     } else {
-        m_edit->setSelText(QStringLiteral("   "));
+        context().state.habits.HabitKeys ? fillToNextStop() : fillWithThreeBlanks();
         key.key = Qt::Key_Space; // which is what it stands for from here on
     }
     key.discard = true;
     m_edit->SetFocus();
 }
 
+void frmWrite::fillWithThreeBlanks()
+{
+    m_edit->setSelText(QStringLiteral("   "));
+}
+
+void frmWrite::fillToNextStop()
+{
+    apply(filledToNextStop(m_edit->Text(), m_edit->SelStart(), indentStyle(services().settings)));
+}
+
 void frmWrite::breakLine(SurfaceKey &key)
 {
     if (!isEnter(key.key) || frmMdi().MainWindowBusy)
         return;
-    if (startIndentedLine())
+    if (context().state.habits.HabitKeys ? replaceByLine() : startIndentedLine())
         useUp(key);
     UndoRedoChange();
 }
@@ -157,6 +169,19 @@ bool frmWrite::startIndentedLine()
     const qsizetype blanks = leadingBlanksBefore(m_edit->Text(), m_edit->SelStart());
     m_edit->setSelText(m_edit->SelText() + QStringLiteral("\r\n"));
     m_edit->setSelText(QString(blanks, u' '));
+    return true;
+}
+
+/// What is selected gives way to the break.
+bool frmWrite::replaceByLine()
+{
+    if (!settings::isOn(services().settings, settings::MaintainIndent))
+        return false;
+    const QString text = m_edit->Text();
+    const QString indentation = indentStyle(services().settings).tabs
+                                    ? indentationBefore(text, m_edit->SelStart())
+                                    : QString(leadingBlanksBefore(text, m_edit->SelStart()), u' ');
+    m_edit->setSelText(QStringLiteral("\r\n") + indentation);
     return true;
 }
 

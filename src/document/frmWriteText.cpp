@@ -1,8 +1,10 @@
 // What a document window does to its whole text: colouring, history, indentation and the optimiser.
+#include "common/programState.h"
 #include "document/codeAssistant.h"
 #include "document/colouringPass.h"
 #include "document/frmWrite.h"
 #include "document/indentation.h"
+#include "document/lineIndent.h"
 #include "document/syntaxOptimiser.h"
 #include "services/services.h"
 #include "services/timer.h"
@@ -90,6 +92,38 @@ Document::UndoRedo frmWrite::IsUndoRedoPossible() const
 }
 
 void frmWrite::IndentText(bool indent)
+{
+    context().state.habits.HabitKeys ? indentLines(indent) : indentBySteps(indent);
+}
+
+void frmWrite::apply(const LineChange &change)
+{
+    if (change.replacement) {
+        m_edit->setSelStart(change.replacement->start);
+        m_edit->setSelLength(change.replacement->length);
+        m_edit->setSelText(change.replacement->text);
+    }
+    m_edit->setSelStart(change.selection.start);
+    m_edit->setSelLength(change.selection.length);
+}
+
+/// By whole lines; without a selection, one step goes in at the caret.
+void frmWrite::indentLines(bool indent)
+{
+    const IndentStyle style = indentStyle(services().settings);
+    const TextSelection selection{m_edit->SelStart(), m_edit->SelLength()};
+    if (!indent) {
+        apply(outdentedLines(m_edit->Text(), selection, style));
+    } else if (selection.length > 0) {
+        apply(indentedLines(m_edit->Text(), selection, style));
+    } else {
+        m_edit->setSelText(indentStep(style));
+    }
+    UndoRedoChange();
+    m_edit->SetFocus();
+}
+
+void frmWrite::indentBySteps(bool indent)
 {
     const IndentResult result = ::IndentText(m_edit->Text(), {m_edit->SelStart(), m_edit->SelLength()}, indent);
     if (result.replacement) {

@@ -69,6 +69,8 @@ public:
     void PopupMenu(const QString &name, const QPoint &position) override;
     bool MoveToNextPane(int keyCode, const QString &from) override;
 
+    void takeOverHabits() override;
+    void documentInFront() override;
     void showBar(const QString &entry, bool shown) override;
     void placePane() override;
     void clearAddresses() override;
@@ -119,6 +121,8 @@ private:
     /// What the status bar tells, whatever says "Ready" meanwhile, until a few seconds after the window takes input.
     void keepStatus(const QString &text);
     void decideWelcome();
+    void offerHabits();
+    void chooseHabits(bool today);
     void restoreUnsavedText(Document *opened);
 
     void savePlacement();

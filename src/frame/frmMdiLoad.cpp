@@ -48,6 +48,7 @@ void frmMdi::Form_Load()
         context().end();
         return;
     }
+    takeOverHabits();
     restoreState();
     loadCodes();
     FillAddInMenu(context());
@@ -56,6 +57,7 @@ void frmMdi::Form_Load()
     decideWelcome();
     context().state.AlreadyStarted = true;
     m_pane->refreshLocalFiles();
+    offerHabits();
 }
 
 void frmMdi::restoreState()

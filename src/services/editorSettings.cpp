@@ -20,10 +20,22 @@ QFont editorFont(SettingsStore &store)
     return font;
 }
 
+namespace
+{
+int width(SettingsStore &store, const settings::Key &key)
+{
+    return std::clamp(settings::read(store, key).toInt(), SmallestTabWidth, LargestTabWidth);
+}
+} // namespace
+
 int tabWidth(SettingsStore &store)
 {
-    const int stored = settings::read(store, settings::TabWidth).toInt();
-    return std::clamp(stored, SmallestTabWidth, LargestTabWidth);
+    return width(store, settings::TabWidth);
+}
+
+IndentStyle indentStyle(SettingsStore &store)
+{
+    return {width(store, settings::IndentWidth), settings::isOn(store, settings::IndentWithTabs), tabWidth(store)};
 }
 
 FileFormat newDocumentFormat(SettingsStore &store)

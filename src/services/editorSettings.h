@@ -12,6 +12,13 @@ class SettingsStore;
 QFont editorFont(SettingsStore &store);
 /// The characters from one tab stop to the next, 1 to 16.
 int tabWidth(SettingsStore &store);
+/// What one step of indentation is, where the rules of today hold.
+struct IndentStyle {
+    int width = 4;     ///< columns, 1 to 16
+    bool tabs = false; ///< a step is written as a tab
+    int tabWidth = 4;  ///< columns from one tab stop to the next, as they are shown
+};
+IndentStyle indentStyle(SettingsStore &store);
 /// How a new document is written.
 FileFormat newDocumentFormat(SettingsStore &store);
 

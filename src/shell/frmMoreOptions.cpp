@@ -1,16 +1,17 @@
 #include "shell/frmMoreOptions.h"
 
-#include "common/document.h"
 #include "common/mainWindow.h"
 #include "forms/modLaunchHTMLHelp.h"
 #include "services/editorSettings.h"
 #include "services/services.h"
 #include "services/settings.h"
+#include "shell/habitChoice.h"
 #include "widgets/layout.h"
 #include "widgets/numberField.h"
 #include "widgets/spinButton.h"
 #include "widgets/theme.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFontDatabase>
 #include <QFontInfo>
@@ -80,6 +81,9 @@ void frmMoreOptions::buildControls()
     cboEditorFont = ui::dropList(QStringLiteral("cboEditorFont"), fontRows());
     txtEditorFontSize = ui::number(QStringLiteral("txtEditorFontSize"), TwoDigits);
     txtTabWidth = ui::number(QStringLiteral("txtTabWidth"), TwoDigits);
+    txtIndentWidth = ui::number(QStringLiteral("txtIndentWidth"), TwoDigits);
+    chkIndentWithTabs = ui::check(QStringLiteral("chkIndentWithTabs"), QStringLiteral("Indent with ta&bs"));
+    m_habits = new HabitChoice(services().settings, window());
     cboLineEnd = ui::dropList(QStringLiteral("cboLineEnd"), lineEndRows());
     cboEncoding = ui::dropList(QStringLiteral("cboEncoding"), encodingRows());
     cboTheme = ui::dropList(QStringLiteral("cboTheme"),
@@ -87,6 +91,8 @@ void frmMoreOptions::buildControls()
     SpinButton *updSize =
         ui::spin(QStringLiteral("updEditorFontSize"), txtEditorFontSize, SmallestFontSize, LargestFontSize);
     SpinButton *updTabs = ui::spin(QStringLiteral("updTabWidth"), txtTabWidth, SmallestTabWidth, LargestTabWidth);
+    SpinButton *updIndent =
+        ui::spin(QStringLiteral("updIndentWidth"), txtIndentWidth, SmallestTabWidth, LargestTabWidth);
     QPushButton *cmdOK = ui::button(QStringLiteral("cmdOK"), QStringLiteral("OK"), [this] { cmdOK_Click(); });
     QPushButton *cmdCancel = ui::button(QStringLiteral("cmdCancel"), QStringLiteral("Cancel"), [this] { Unload(); });
     QPushButton *cmdHelp = ui::button(QStringLiteral("cmdHelp"), QStringLiteral("Help"), [this] {
@@ -99,6 +105,8 @@ void frmMoreOptions::buildControls()
                           ui::row(QStringLiteral("&Font:"), cboEditorFont),
                           ui::row(QStringLiteral("Font &size:"), ui::counted(txtEditorFontSize, updSize)),
                           ui::row(QStringLiteral("&Tab width as shown:"), ui::counted(txtTabWidth, updTabs)),
+                          ui::row(QStringLiteral("&Indentation of today:"), ui::counted(txtIndentWidth, updIndent)),
+                          ui::row(QString(), chkIndentWithTabs),
                       })),
             ui::group(QStringLiteral("New documents"), ui::rows({
                                                            ui::row(QStringLiteral("&Line end:"), cboLineEnd),
@@ -107,6 +115,7 @@ void frmMoreOptions::buildControls()
             ui::group(QStringLiteral("Windows"), ui::rows({ui::row(QStringLiteral("T&heme:"), cboTheme)})),
             ui::space(),
         }),
+        ui::column({m_habits->controls(), ui::space()}),
         ui::buttons({cmdOK, cmdCancel, cmdHelp}),
     }));
     setDefaultButton(cmdOK);
@@ -120,6 +129,9 @@ void frmMoreOptions::showSettings()
     selectFont(*cboEditorFont, settings::read(store, settings::EditorFont));
     txtEditorFontSize->setText(QString::number(QFontInfo(editorFont(store)).pointSize()));
     txtTabWidth->setText(QString::number(tabWidth(store)));
+    txtIndentWidth->setText(QString::number(indentStyle(store).width));
+    chkIndentWithTabs->setChecked(indentStyle(store).tabs);
+    m_habits->show();
     cboLineEnd->setCurrentIndex(cboLineEnd->findText(lineEndName(format.lineEnd)));
     cboEncoding->setCurrentIndex(cboEncoding->findText(encodingName(format)));
     const qsizetype row = themes().indexOf(settings::read(store, settings::Theme));
@@ -135,6 +147,10 @@ void frmMoreOptions::cmdOK_Click()
                     QString::number(limited(*txtEditorFontSize, SmallestFontSize, LargestFontSize)));
     settings::write(store, settings::TabWidth,
                     QString::number(limited(*txtTabWidth, SmallestTabWidth, LargestTabWidth)));
+    settings::write(store, settings::IndentWidth,
+                    QString::number(limited(*txtIndentWidth, SmallestTabWidth, LargestTabWidth)));
+    settings::writeBoolean(store, settings::IndentWithTabs, chkIndentWithTabs->isChecked());
+    m_habits->store();
     settings::write(store, settings::NewLineEnd, cboLineEnd->currentText());
     settings::write(store, settings::NewEncoding, cboEncoding->currentText());
     settings::write(store, settings::Theme, themes()[cboTheme->currentIndex()]);
@@ -145,6 +161,5 @@ void frmMoreOptions::cmdOK_Click()
 void frmMoreOptions::applyToAll()
 {
     theme::apply(settings::read(services().settings, settings::Theme));
-    for (Document *document : frmMdi().openDocuments())
-        document->applyEditorSettings();
+    frmMdi().takeOverHabits(); // and the editor's settings with them
 }

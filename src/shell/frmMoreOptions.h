@@ -2,10 +2,13 @@
 
 #include "forms/form.h"
 
+class HabitChoice;
 class NumberField;
+class QCheckBox;
 class QComboBox;
 
-/// The options of the editor itself: its font, tabs, how new documents are written, and the theme.
+/// The options of the editor itself: its font, tabs, how new documents are written, the
+/// theme, and the rules that the user edits by.
 class frmMoreOptions final : public Form
 {
     Q_OBJECT
@@ -24,6 +27,9 @@ private:
     QComboBox *cboEditorFont = nullptr;
     NumberField *txtEditorFontSize = nullptr;
     NumberField *txtTabWidth = nullptr;
+    NumberField *txtIndentWidth = nullptr;
+    QCheckBox *chkIndentWithTabs = nullptr;
+    HabitChoice *m_habits = nullptr; ///< lives as long as the window
     QComboBox *cboLineEnd = nullptr;
     QComboBox *cboEncoding = nullptr;
     QComboBox *cboTheme = nullptr;

@@ -1,0 +1,46 @@
+// The rules that the user edits by, as the main window keeps them, and the line that offers the choice.
+#include "common/programState.h"
+#include "forms/modLaunchHTMLHelp.h"
+#include "frame/frmMdi.h"
+#include "frame/habitsNotice.h"
+#include "services/habits.h"
+#include "services/services.h"
+
+#include <algorithm>
+
+void frmMdi::takeOverHabits()
+{
+    context().state.habits = readHabits(services().settings);
+    const bool chosen = habitsAreChosen(services().settings);
+    for (Document *document : openDocuments()) {
+        document->applyEditorSettings();
+        if (chosen)
+            document->notices.remove(habitsNoticeKey());
+    }
+}
+
+void frmMdi::documentInFront()
+{
+    if (context().state.AlreadyStarted) // a start opens documents that do not stay in front
+        offerHabits();
+}
+
+/// One document tells it at a time, until the user has chosen.
+void frmMdi::offerHabits()
+{
+    Document *document = activeDocument();
+    if (!document || habitsAreChosen(services().settings))
+        return;
+    const QList<Document *> open = openDocuments();
+    if (std::any_of(open.begin(), open.end(), [](Document *one) { return one->notices.holds(habitsNoticeKey()); }))
+        return;
+    document->notices.put(
+        habitsNotice([this](bool today) { chooseHabits(today); },
+                     [this] { OpenHelpTopic(context(), QStringLiteral("::/topics/using/Habits.htm")); }));
+}
+
+void frmMdi::chooseHabits(bool today)
+{
+    ::chooseHabits(services().settings, today);
+    takeOverHabits();
+}
