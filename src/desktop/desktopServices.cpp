@@ -51,7 +51,7 @@ struct DesktopServices::Parts {
     DesktopCommonDialogs desktopDialogs{printing};
     CommonDialogs &commonDialogs;
     SettingsFiles settings{settingsFolder()};
-    LocalFileSystem files;
+    LocalFileSystem files{stateFolder()};
     DesktopLauncher launcher;
     DesktopClipboard clipboard;
     SystemClock clock;

@@ -41,6 +41,8 @@ struct Recovery::Job {
 Recovery::Recovery(ProgramContext &context)
     : m_context(context),
       m_folder(context.services.files, context.services.statePath),
+      // Before anything is opened: what is torn is whole again then.
+      m_settled(SaveNotes(context.services.statePath).settle()),
       m_timer(context.services.timers, QStringLiteral("tmrRecovery"), [this] { tick(); })
 {
     m_timer.setInterval(TickMilliseconds);
@@ -192,10 +194,25 @@ void Recovery::restore(Document *opened)
         tell(*document, texts.value(document), document == m_recovered.constFirst());
     if (active && !m_recovered.isEmpty())
         active->activate();
-    if (!finds.unreadable.isEmpty())
-        m_context.mainWindow->SetStatusText(
-            QStringLiteral("Unsaved text was found that could not be read. It is kept in ") + finds.unreadable +
-            QStringLiteral("."));
+    tellFinds(finds.unreadable);
+}
+
+/// Tells of what no document's line can tell.
+void Recovery::tellFinds(const QString &unreadable) const
+{
+    QStringList sentences;
+    for (const QString &file : m_settled.putBack)
+        sentences << QStringLiteral("A save of ") + quoted(file) +
+                         QStringLiteral(" was broken off: the file has its old contents again.");
+    for (const QString &file : m_settled.aside)
+        sentences << QStringLiteral(
+                         "A save was broken off whose file has gone or changed since. The old contents are kept in ") +
+                         file + QStringLiteral(".");
+    if (!unreadable.isEmpty())
+        sentences << QStringLiteral("Unsaved text was found that could not be read. It is kept in ") + unreadable +
+                         QStringLiteral(".");
+    if (!sentences.isEmpty())
+        m_context.mainWindow->SetStatusText(sentences.join(u' '));
 }
 
 /// The document with the kept text in it, dirty; nothing if there is no memory for one.

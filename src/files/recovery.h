@@ -3,6 +3,7 @@
 #include "common/unsavedText.h"
 #include "services/timer.h"
 #include "storage/recoveryFolder.h"
+#include "storage/saveNotes.h"
 
 #include <map>
 #include <memory>
@@ -48,9 +49,11 @@ private:
     bool giveUp(Document &document);
     void forAll(bool discarded);
     void answered(Document &document);
+    void tellFinds(const QString &unreadable) const;
 
     ProgramContext &m_context;
-    RecoveryFolder m_folder; ///< used by the worker alone, once the start is over
+    RecoveryFolder m_folder;      ///< used by the worker alone, once the start is over
+    SaveNotes::Settled m_settled; ///< what had become of saves that an end had broken off
     Timer m_timer;
     std::map<const Document *, Kept> m_kept;
     QList<Document *> m_recovered;                          ///< those whose line waits for an answer, in their order

@@ -29,6 +29,8 @@ namespace
 // for.
 constexpr qint64 largestFile = qint64(1) << 30;
 
+constexpr mode_t NewFile = 0666; ///< permissions of a file that was not there, less the process's mask
+
 struct OpenFile {
     OpenFile() = default;
     OpenFile(const OpenFile &) = delete;
@@ -154,16 +156,6 @@ int readFilePart(const QByteArray &path, qint64 offset, qint64 length, QByteArra
     return 0;
 }
 
-std::optional<FileError> write(const QString &path, const QByteArray &bytes, Durability durability)
-{
-    const std::optional<QByteArray> name = systemPath(path);
-    if (!name)
-        return badName(FileAction::Write);
-    if (const int error = writeWholeFile(*name, bytes, durability))
-        return failure(error, FileAction::Write, *name);
-    return std::nullopt;
-}
-
 bool isFolderEntry(const QByteArray &folder, const dirent &entry)
 {
     if (entry.d_type != DT_UNKNOWN && entry.d_type != DT_LNK)
@@ -174,8 +166,10 @@ bool isFolderEntry(const QByteArray &folder, const dirent &entry)
 }
 } // namespace
 
-LocalFileSystem::LocalFileSystem()
+LocalFileSystem::LocalFileSystem(const QString &statePath)
 {
+    if (!statePath.isEmpty())
+        m_notes.emplace(statePath);
     std::signal(SIGXFSZ, SIG_IGN);
 }
 
@@ -199,6 +193,17 @@ std::optional<FileError> LocalFileSystem::checkReadable(const QString &path)
     qint64 size = 0;
     if (const int error = openToRead(*name, file, size))
         return failure(error, FileAction::Read, *name);
+    return std::nullopt;
+}
+
+std::optional<FileError> LocalFileSystem::write(const QString &path, const QByteArray &bytes,
+                                                Durability durability) const
+{
+    const std::optional<QByteArray> name = systemPath(path);
+    if (!name)
+        return badName(FileAction::Write);
+    if (const int error = writeWholeFile(*name, bytes, durability, NewFile, notes()))
+        return failure(error, FileAction::Write, *name);
     return std::nullopt;
 }
 
@@ -234,7 +239,7 @@ std::optional<FileError> LocalFileSystem::writeInPieces(const QString &path, con
         ofSource = contents.error;
         return ofSource ? std::nullopt : std::optional(contents.bytes);
     };
-    const int error = writeWholeFile(*name, piece, Durability::Flushed);
+    const int error = writeWholeFile(*name, piece, Durability::Flushed, NewFile, notes());
     if (ofSource)
         return ofSource;
     return error == 0 ? std::nullopt : std::optional(failure(error, FileAction::Write, *name));

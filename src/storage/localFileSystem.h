@@ -1,17 +1,21 @@
 #pragma once
 
 #include "services/fileSystem.h"
+#include "storage/saveNotes.h"
 
 #include <memory>
 
 class FileWatch;
+enum class Durability;
 
 /// The machine's own files.
 class LocalFileSystem final : public FileSystem
 {
 public:
     /// From here on a limit on the size of files is told as an error instead of ending the program.
-    LocalFileSystem();
+    /// `statePath` is the program's folder for state, where saves that are under way are noted; without one, no file is
+    /// written in place.
+    explicit LocalFileSystem(const QString &statePath = {});
     ~LocalFileSystem() override;
 
     FileContents readAll(const QString &path) override;
@@ -38,5 +42,9 @@ public:
     std::optional<FileError> copyFile(const QString &from, const QString &to) override;
 
 private:
+    std::optional<FileError> write(const QString &path, const QByteArray &bytes, Durability durability) const;
+    const SaveNotes *notes() const { return m_notes ? &*m_notes : nullptr; }
+
+    std::optional<SaveNotes> m_notes;
     std::unique_ptr<FileWatch> m_watch; ///< made with the first file that is watched
 };

@@ -20,6 +20,7 @@ const QString PageEnding = QStringLiteral(".page");
 const QString LockName = QStringLiteral("lock");
 const QString ActiveName = QStringLiteral("active");
 const QString AsideName = QStringLiteral("unreadable");
+const QString SavesName = QStringLiteral("saves"); ///< the notes of saves that are under way (storage/saveNotes)
 constexpr mode_t UserAlone = 0700;
 
 QString uniqueName()
@@ -127,7 +128,7 @@ RecoveryFolder::Finds RecoveryFolder::takeOver()
     Finds finds;
     QStringList sessions;
     for (const FolderEntry &entry : m_files.list(m_root).entries)
-        if (entry.isFolder && entry.name != AsideName)
+        if (entry.isFolder && entry.name != AsideName && entry.name != SavesName)
             sessions << joinPath(m_root, entry.name);
     sessions.sort();
     for (const QString &session : std::as_const(sessions))
