@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QProcess>
 #include <QRegularExpression>
 #include <QTest>
 #include <cerrno>
@@ -156,6 +157,17 @@ void touch(Stage &stage, const Line &line)
     makeNewer(path, before);
 }
 
+/// What another program does, as a line for the shell.
+void playOutside(Stage &stage, const Line &line)
+{
+    QProcess shell;
+    shell.setProcessChannelMode(QProcess::MergedChannels);
+    shell.start(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), line.words[0]});
+    const bool ended = shell.waitForFinished() && shell.exitStatus() == QProcess::NormalExit;
+    if (!ended || shell.exitCode() != 0)
+        stage.referee.wrong(QStringLiteral("%1 failed: %2").arg(line.words[0], QString::fromUtf8(shell.readAll())));
+}
+
 /// The bytes of a file; nothing if there is no such file.
 std::optional<QByteArray> contentsOf(const QString &path)
 {
@@ -289,6 +301,7 @@ constexpr Command commands[] = {
     {"disk-full", 1, 2, limitDiskBelow},
     {"rename", 2, 2, renameFile},
     {"touch", 1, 1, touch},
+    {"outside", 1, 1, playOutside},
     {"setting", 4, 4, saveSetting},
     {"no-setting", 3, 3, deleteSetting},
     {"expect-file", 2, 2, expectFile},

@@ -155,7 +155,8 @@ QList<ScriptedYielder::MissedAct> ScriptedYielder::missed() const
 }
 
 Desktop::Desktop(Referee &referee, const World &world, InternetTransfers &transfers, WizardServer &wizards)
-    : boxes(referee),
+    : m_realFiles(stateFolder()),
+      boxes(referee),
       dialogs(referee),
       files(m_realFiles),
       m_settings(settingsFolder()),
