@@ -1,36 +1,28 @@
 #include "widgets/readableStyle.h"
 
+#include "widgets/contrast.h"
+
 #include <QApplication>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
 
-#include <algorithm>
-#include <cmath>
-
 namespace
 {
+constexpr int RoomBesideCaption = 9;  ///< pixels between a button's caption and its edge, at least
 constexpr double LeastContrast = 3.5; ///< the guidelines ask 3 of the edges of controls; smoothing takes a little off
 
-double luminance(const QColor &colour)
+/// The toolkit's own style highlights the frame of the control that has the focus, and the button that Enter presses.
+bool isLitUp(const QStyleOption &option)
 {
-    const auto linear = [](double part) {
-        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+    const auto *button = qstyleoption_cast<const QStyleOptionButton *>(&option);
+    return option.state.testFlag(QStyle::State_HasFocus) ||
+           (button && button->features.testFlag(QStyleOptionButton::DefaultButton));
 }
 
-QColor mixed(const QColor &a, const QColor &b, double share)
-{
-    const auto part = [share](int from, int to) { return static_cast<int>(std::lround(from + (to - from) * share)); };
-    return {part(a.red(), b.red()), part(a.green(), b.green()), part(a.blue(), b.blue())};
-}
-
-/// A frame in the toolkit's own style is highlighted while its control has the focus.
 bool needsOutline(const QStyleOption &option)
 {
-    return isDark(option.palette) && option.state.testFlag(QStyle::State_Enabled) &&
-           !option.state.testFlag(QStyle::State_HasFocus);
+    return isDark(option.palette) && option.state.testFlag(QStyle::State_Enabled);
 }
 
 void outline(QPainter &painter, const QStyleOption &option, const QRectF &frame, bool round)
@@ -38,7 +30,7 @@ void outline(QPainter &painter, const QStyleOption &option, const QRectF &frame,
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(outlineOnDark(option.palette));
+    painter.setPen(isLitUp(option) ? focusOnDark(option.palette) : outlineOnDark(option.palette));
     if (round)
         painter.drawEllipse(frame);
     else
@@ -67,6 +59,7 @@ bool isFieldFrame(QStyle::PrimitiveElement element)
     case QStyle::PE_Frame:
     case QStyle::PE_IndicatorCheckBox:
     case QStyle::PE_IndicatorItemViewItemCheck:
+    case QStyle::PE_PanelButtonCommand:
         return true;
     default:
         return false;
@@ -74,30 +67,25 @@ bool isFieldFrame(QStyle::PrimitiveElement element)
 }
 } // namespace
 
-double contrast(const QColor &a, const QColor &b)
-{
-    const double lighter = std::max(luminance(a), luminance(b));
-    const double darker = std::min(luminance(a), luminance(b));
-    return (lighter + 0.05) / (darker + 0.05);
-}
-
 bool isDark(const QPalette &palette)
 {
-    return luminance(palette.color(QPalette::Window)) < luminance(palette.color(QPalette::WindowText));
+    const QColor window = palette.color(QPalette::Window);
+    return contrast(window, Qt::black) < contrast(palette.color(QPalette::WindowText), Qt::black);
 }
 
 QColor outlineOnDark(const QPalette &palette)
 {
-    const QColor ground = palette.color(QPalette::Base);
     const QColor around = palette.color(QPalette::Window);
-    const QColor text = palette.color(QPalette::WindowText);
-    constexpr int Steps = 20;
-    for (int step = 1; step < Steps; ++step) {
-        QColor colour = mixed(around, text, static_cast<double>(step) / Steps);
-        if (contrast(colour, ground) >= LeastContrast && contrast(colour, around) >= LeastContrast)
-            return colour;
-    }
-    return text;
+    return toldApart(around, palette.color(QPalette::WindowText), {palette.color(QPalette::Base), around},
+                     LeastContrast);
+}
+
+QColor focusOnDark(const QPalette &palette)
+{
+    // As bright as an outline is, and then some: a colour alone does not tell everybody which of them it is.
+    constexpr double LeastOfFocus = 5;
+    return toldApart(palette.color(QPalette::Highlight), palette.color(QPalette::WindowText),
+                     {palette.color(QPalette::Base), palette.color(QPalette::Window)}, LeastOfFocus);
 }
 
 void ReadableStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
@@ -118,6 +106,16 @@ void ReadableStyle::drawComplexControl(ComplexControl control, const QStyleOptio
     QProxyStyle::drawComplexControl(control, option, painter, widget);
     if (option && (control == CC_ComboBox || control == CC_SpinBox) && needsOutline(*option))
         outline(*painter, *option, edgeOf(option->rect), false);
+}
+
+QSize ReadableStyle::sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
+                                      const QWidget *widget) const
+{
+    const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
+    if (type != CT_PushButton || !button || button->text.isEmpty())
+        return size;
+    return size.expandedTo(QSize(contents.width() + 2 * RoomBesideCaption, 0));
 }
 
 void useReadableStyle()

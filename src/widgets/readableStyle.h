@@ -4,17 +4,18 @@
 
 class QPalette;
 
-/// How much two colours differ in brightness, as the accessibility guidelines count it: from 1 (not at all) to 21.
-double contrast(const QColor &a, const QColor &b);
-
 /// Whether a theme's windows are darker than their text.
 bool isDark(const QPalette &palette);
 
 /// The colour of an outline that is to be told from a control's ground and from the window around it, on a dark theme.
 QColor outlineOnDark(const QPalette &palette);
 
+/// The colour of the outline of what has the focus, likewise.
+QColor focusOnDark(const QPalette &palette);
+
 /// The toolkit's own style draws the edges of boxes and fields darker than the window, which nobody sees where that is
-/// dark. This one outlines them there; on a light theme it changes nothing.
+/// dark. This one outlines them there; on a light theme it draws as the toolkit does. A caption never touches the edges
+/// of its button.
 class ReadableStyle final : public QProxyStyle
 {
     Q_OBJECT
@@ -25,6 +26,8 @@ public:
                        const QWidget *widget = nullptr) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
                             const QWidget *widget = nullptr) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
+                           const QWidget *widget = nullptr) const override;
 };
 
 /// Takes that style for the program where the desktop has none of its own.

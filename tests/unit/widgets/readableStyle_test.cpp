@@ -1,11 +1,15 @@
 #include "widgets/readableStyle.h"
 
+#include "widgets/contrast.h"
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QImage>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QStyleFactory>
 #include <QStyleOptionButton>
@@ -56,13 +60,6 @@ protected:
 };
 } // namespace
 
-TEST(Contrast, IsCountedAsTheGuidelinesDo)
-{
-    EXPECT_DOUBLE_EQ(contrast(Qt::black, Qt::white), 21.0);
-    EXPECT_DOUBLE_EQ(contrast(Qt::white, Qt::white), 1.0);
-    EXPECT_NEAR(contrast(QColor(118, 118, 118), Qt::white), 4.54, 0.01); // the known limit of grey text on white
-}
-
 TEST(OutlineOnDark, CanBeToldFromWhatItParts)
 {
     for (const int shade : {0, 20, 35, 60, 90}) {
@@ -72,6 +69,8 @@ TEST(OutlineOnDark, CanBeToldFromWhatItParts)
         EXPECT_TRUE(isDark(palette));
         EXPECT_GE(contrast(outlineOnDark(palette), palette.color(QPalette::Window)), 3.0) << shade;
         EXPECT_GE(contrast(outlineOnDark(palette), palette.color(QPalette::Base)), 3.0) << shade;
+        EXPECT_GE(contrast(focusOnDark(palette), palette.color(QPalette::Window)), 3.0) << shade;
+        EXPECT_GE(contrast(focusOnDark(palette), palette.color(QPalette::Base)), 3.0) << shade;
     }
     EXPECT_FALSE(isDark(theme(false)));
 }
@@ -88,6 +87,42 @@ TEST_F(ReadableStyleTest, ShowsTheEdgesOfControlsInTheDark)
         const double now = edgeContrast(pictureOf(*control, style, true), true);
         EXPECT_LT(before, 2.0) << control->metaObject()->className();
         EXPECT_GE(now, 3.0) << control->metaObject()->className();
+    }
+}
+
+// The toolkit's highlight is no brighter than a dark window; without an outline of its own, the one control that keys
+// go to would be the one without an edge.
+TEST_F(ReadableStyleTest, ShowsTheEdgeOfWhatHasTheFocusInTheDark)
+{
+    QStyleOptionFrame frame;
+    frame.rect = QRect(0, 0, 60, 22);
+    frame.palette = theme(true);
+    frame.palette.setColor(QPalette::Highlight, QColor(36, 80, 122));
+    frame.state = QStyle::State_Enabled | QStyle::State_HasFocus;
+    QImage picture(60, 22, QImage::Format_RGB32);
+    picture.fill(frame.palette.color(QPalette::Window));
+    QPainter painter(&picture);
+    style.drawPrimitive(QStyle::PE_FrameLineEdit, &frame, &painter);
+    painter.end();
+    EXPECT_GE(edgeContrast(picture, true), 3.0);
+    EXPECT_NE(focusOnDark(frame.palette), outlineOnDark(frame.palette));
+}
+
+TEST_F(ReadableStyleTest, TellsTheButtonThatEnterPressesInTheDark)
+{
+    QPushButton plain(QStringLiteral("Cancel"));
+    QPushButton byEnter(QStringLiteral("Cancel"));
+    byEnter.setDefault(true);
+    EXPECT_NE(pictureOf(plain, style, true), pictureOf(byEnter, style, true));
+    EXPECT_GE(edgeContrast(pictureOf(byEnter, style, true), true), 3.0);
+}
+
+TEST_F(ReadableStyleTest, KeepsCaptionsOffTheEdgesOfTheirButtons)
+{
+    for (const char *caption : {"OK", "Change the page's charset", "Clear History"}) {
+        QPushButton button{QLatin1String(caption)};
+        button.setStyle(&style);
+        EXPECT_GE(button.sizeHint().width(), button.fontMetrics().horizontalAdvance(button.text()) + 18) << caption;
     }
 }
 
