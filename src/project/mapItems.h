@@ -5,7 +5,6 @@
 
 #include <QFont>
 #include <QGraphicsItem>
-#include <QLineF>
 
 /// How much a part of the map stands out.
 enum class MapWeight { Usual, Strong, Faint };
@@ -30,6 +29,7 @@ public:
     QRectF place() const { return m_place; }
 
     void setWeight(MapWeight weight);
+    MapWeight weight() const { return m_weight; }
     void setChosen(bool chosen);
     /// Its file is one of the project's and is not on the disk: drawn with cut corners and a broken outline.
     void setMissing(bool missing);
@@ -39,6 +39,8 @@ public:
 
 private:
     void raise();
+    QColor fill() const;
+    QColor ink(double strength) const;
     QPainterPath outline() const;
     void drawText(QPainter &painter) const;
 
@@ -54,31 +56,4 @@ private:
     bool m_autoSize = false;
     bool m_chosen = false;
     bool m_missing = false;
-};
-
-/// A link: a line from the centre of the page's box to that of its target's, with an arrow where it reaches it. That of
-/// a page to itself is a ring at the box's corner.
-class LineItem final : public QGraphicsItem
-{
-public:
-    LineItem(const MapLine &line, const QRectF &target, const MapLook &look);
-
-    void setWeight(MapWeight weight);
-    /// Arrows are left out where they are too many to be told apart.
-    void setArrow(bool shown);
-
-    QRectF boundingRect() const override;
-    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
-
-private:
-    bool isRing() const { return m_line.isNull(); }
-    QRectF ring() const;
-    void drawArrow(QPainter &painter) const;
-
-    const MapLook &m_look;
-    QLineF m_line; ///< from the page to the target
-    QRectF m_target;
-    std::optional<ColourValue> m_colour;
-    MapWeight m_weight = MapWeight::Usual;
-    bool m_arrow = true;
 };

@@ -15,6 +15,8 @@ struct MapLook {
 
     /// The colour, moved towards the text's as far as it takes to be seen on the ground.
     QColor seen(const QColor &colour) const;
+    /// The colour of what steps back behind what is chosen. It is opaque, so that nothing shines through.
+    QColor faint(const QColor &colour) const;
 };
 
 /// Black or white, whichever reads better on the colour.

@@ -4,16 +4,21 @@
 
 namespace
 {
-constexpr qsizetype ManyLines = 400; ///< beyond which only strong lines have arrows
+constexpr qreal StrongLines = 1.5; ///< their height on the sheet, between that of boxes and of strong boxes
 }
 
 MapScene::MapScene(std::shared_ptr<const SiteMap> map, const MapLook &look,
                    std::function<bool(const MapBox &)> isMissing, QObject *parent)
     : QGraphicsScene(parent), m_map(std::move(map)), m_look(look), m_isMissing(std::move(isMissing))
 {
-    // Long lines would stand in most leaves of an index; what is out of sight is passed over fast without one.
+    // The lines are passed over fast by themselves, and boxes are few.
     setItemIndexMethod(NoIndex);
     setBackgroundBrush(m_look.ground);
+    m_lines = new LinesItem(m_look, LinesItem::Draws::Others);
+    m_strongLines = new LinesItem(m_look, LinesItem::Draws::StrongOnes);
+    m_strongLines->setZValue(StrongLines);
+    addItem(m_lines);
+    addItem(m_strongLines);
     takeNew();
 }
 
@@ -28,23 +33,16 @@ void MapScene::takeNew()
         m_boxes.append(item);
         addItem(item);
     }
-    const bool arrows = m_map->lines().size() <= ManyLines;
-    if (!arrows && m_lines.size() <= ManyLines)
-        for (LineItem *line : std::as_const(m_lines))
-            line->setArrow(false);
-    for (qsizetype i = m_lines.size(); i < m_map->lines().size(); ++i) {
-        const MapLine &line = m_map->lines()[i];
-        auto *item = new LineItem(line, m_boxes[line.to]->place(), m_look);
-        item->setArrow(arrows);
-        m_lines.append(item);
-        addItem(item);
-    }
+    for (qsizetype i = m_lines->count(); i < m_map->lines().size(); ++i)
+        m_lines->add(m_map->lines()[i], m_boxes[m_map->lines()[i].to]->place());
 }
 
 void MapScene::setLook(const MapLook &look)
 {
     m_look = look;
     setBackgroundBrush(m_look.ground);
+    m_lines->lookChanged();
+    m_strongLines->lookChanged();
     update();
 }
 
@@ -89,16 +87,18 @@ void MapScene::weigh()
     const MapWeight rest = m_chosen ? MapWeight::Faint : MapWeight::Usual;
     for (BoxItem *box : std::as_const(m_boxes))
         box->setWeight(rest);
-    for (LineItem *line : std::as_const(m_lines))
-        line->setWeight(rest);
+    m_lines->setWeights(rest);
+    m_strongLines->clear();
     if (!m_chosen)
         return;
     m_boxes[*m_chosen]->setWeight(MapWeight::Strong);
     for (const int line : m_map->boxes()[*m_chosen].lines) {
-        m_lines[line]->setWeight(MapWeight::Strong);
+        m_lines->setWeight(line, MapWeight::Strong);
+        m_strongLines->add(m_map->lines()[line], m_boxes[m_map->lines()[line].to]->place());
         m_boxes[m_map->lines()[line].to]->setWeight(MapWeight::Strong);
         m_boxes[m_map->lines()[line].from]->setWeight(MapWeight::Strong);
     }
+    m_strongLines->setWeights(MapWeight::Strong);
 }
 
 QList<int> MapScene::linksTo(int box) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "project/mapItems.h"
+#include "project/mapLines.h"
 
 #include <QGraphicsScene>
 #include <QList>
@@ -24,6 +25,8 @@ public:
     const SiteMap &map() const { return *m_map; }
     QRectF place(int box) const { return m_boxes[box]->place(); }
     std::optional<int> boxAt(const QPointF &point) const; ///< the one on top
+    MapWeight boxWeight(int box) const { return m_boxes[box]->weight(); }
+    MapWeight lineWeight(int line) const { return m_lines->weight(line); }
     bool isMissing(int box) const { return m_missing[box]; }
 
     /// Lets a box take the size of its text, and gives all boxes their usual size again.
@@ -51,7 +54,8 @@ private:
     MapLook m_look;
     std::function<bool(const MapBox &)> m_isMissing;
     QList<BoxItem *> m_boxes;
-    QList<LineItem *> m_lines;
+    LinesItem *m_lines = nullptr;       ///< all of them, drawn under the boxes
+    LinesItem *m_strongLines = nullptr; ///< those of the chosen box, drawn over the boxes that step back
     QList<bool> m_missing;
     std::optional<int> m_chosen;
     bool m_enlarged = false;

@@ -2,6 +2,7 @@
 
 #include "project/mapScene.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -57,6 +58,7 @@ void MapView::setMap(MapScene *scene)
     m_map = scene;
     setScene(scene);
     connect(scene, &QGraphicsScene::sceneRectChanged, this, &MapView::scrolledOrResized);
+    connect(scene, &MapScene::chosenChanged, this, &MapView::describeChosen);
 }
 
 void MapView::setZoomAbout(qreal zoom, ViewportAnchor anchor)
@@ -100,7 +102,13 @@ QPoint MapView::scrolled() const
 
 void MapView::scrollTo(const QPoint &offset)
 {
+    const int before = scrolled().x();
     horizontalScrollBar()->setValue(offset.x());
+    const int moved = scrolled().x() - before;
+    // The strip at the side is drawn by itself: together with the one above or below, all that lies between them, which
+    // is the whole window, would be looked through.
+    if (moved != 0 && offset.y() != scrolled().y())
+        viewport()->repaint(moved > 0 ? viewport()->width() - moved : 0, 0, std::abs(moved), viewport()->height());
     verticalScrollBar()->setValue(offset.y());
 }
 
@@ -129,11 +137,33 @@ void MapView::choose(std::optional<int> box)
     if (!m_map)
         return;
     m_map->choose(box);
-    if (!box)
+    if (box)
+        showBox(*box);
+}
+
+/// The boxes are drawn, and so the map's own description tells which of them the keyboard is on; a screen reader is
+/// told that it has changed.
+void MapView::describeChosen()
+{
+    const std::optional<int> box = m_map->chosen();
+    if (!box) {
+        setAccessibleDescription({});
         return;
-    showBox(*box);
+    }
     const MapBox &chosen = m_map->map().boxes()[*box];
-    setAccessibleDescription(boxCaption(chosen.name, chosen.folder));
+    QStringList parts{boxCaption(chosen.name, chosen.folder).replace(QStringLiteral("\r\n"), QStringLiteral(" "))};
+    if (m_map->isMissing(*box))
+        parts.append(QStringLiteral("not on the disk"));
+    parts.append(QStringLiteral("links to %1, linked from %2")
+                     .arg(m_map->linksFrom(*box).size())
+                     .arg(m_map->linksTo(*box).size()));
+    setAccessibleDescription(parts.join(QStringLiteral(", ")));
+    QAccessibleEvent described(this, QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&described);
+    if (hasFocus()) { // the one event of which all screen readers say what it is about
+        QAccessibleEvent focused(this, QAccessible::Focus);
+        QAccessible::updateAccessibility(&focused);
+    }
 }
 
 void MapView::mousePressEvent(QMouseEvent *event)

@@ -59,6 +59,7 @@ private:
     bool step(int key);
     void find(const QString &typed);
     void choose(std::optional<int> box);
+    void describeChosen();
     QString listed(const QString &title, const QList<int> &boxes) const;
 
     MapScene *m_map = nullptr;

@@ -18,6 +18,7 @@ QLabel *labelOf(const QString &name, const QString &caption, QWidget *control)
 {
     QLabel *label = ui::label(name, caption);
     label->setBuddy(control);
+    label->setContentsMargins(Gap, Gap / 2, 0, 0); // off the edge of the pane, where the lists stand
     return label;
 }
 } // namespace

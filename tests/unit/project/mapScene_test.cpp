@@ -2,8 +2,10 @@
 
 #include "project/mapPicture.h"
 #include "services/random.h"
+#include "widgets/contrast.h"
 
 #include <QImage>
+#include <QPalette>
 #include <QXmlStreamReader>
 #include <algorithm>
 #include <gmock/gmock.h>
@@ -53,11 +55,11 @@ TEST_F(MapSceneTest, DrawsWhatIsNewInTheMap)
 {
     addPages(1);
     MapScene &drawn = scene();
-    EXPECT_EQ(drawn.items().size(), 1);
+    const qsizetype before = drawn.items().size();
     addPages(3);
     link(0, 1);
     drawn.takeNew();
-    EXPECT_EQ(drawn.items().size(), 5);
+    EXPECT_EQ(drawn.items().size(), before + 3); // lines are all one item
     EXPECT_EQ(drawn.sceneRect(), QRectF(0, 0, 2000, 2000));
 }
 
@@ -113,16 +115,18 @@ TEST_F(MapSceneTest, MakesAllButTheLinesOfTheChosenBoxFaint)
     link(0, 1);
     link(2, 1);
     MapScene &drawn = scene();
-    const auto faint = [&drawn] {
-        const QList<QGraphicsItem *> items = drawn.items();
-        return std::count_if(items.begin(), items.end(), [](const QGraphicsItem *item) { return item->opacity() < 1; });
+    const auto weights = [&drawn] {
+        return QList<MapWeight>{drawn.boxWeight(0), drawn.boxWeight(1), drawn.boxWeight(2), drawn.lineWeight(0),
+                                drawn.lineWeight(1)};
     };
-    EXPECT_EQ(faint(), 0);
+    const QList<MapWeight> usual(5, MapWeight::Usual);
+    EXPECT_EQ(weights(), usual);
     drawn.choose(0);
     EXPECT_EQ(drawn.chosen(), 0);
-    EXPECT_EQ(faint(), 1); // the box that is not joined to it; lines draw their own weight
+    EXPECT_EQ(weights(), (QList<MapWeight>{MapWeight::Strong, MapWeight::Strong, MapWeight::Faint, MapWeight::Strong,
+                                           MapWeight::Faint}));
     drawn.choose(std::nullopt);
-    EXPECT_EQ(faint(), 0);
+    EXPECT_EQ(weights(), usual);
 }
 
 TEST_F(MapSceneTest, LetsABoxGrowAboutItsMiddleAndShrinkAgain)
@@ -199,6 +203,26 @@ TEST(MapLook, MovesALineThatIsNotSeenTowardsTheText)
     EXPECT_GT(dark.seen(QColor(0x20, 0x20, 0x20)).lightness(), 0x40);
     EXPECT_EQ(dark.seen(QColor(0xF0, 0x40, 0x40)), QColor(0xF0, 0x40, 0x40));
     EXPECT_LT(MapLook::onPaper().seen(QColor(0xF9, 0xF9, 0xF9)).lightness(), 0xD0);
+}
+
+TEST(MapLook, TellsTheChosenBoxFromTheGroundOfAnyTheme)
+{
+    QPalette dark;
+    dark.setColor(QPalette::Base, QColor(30, 30, 30));
+    dark.setColor(QPalette::Text, QColor(225, 225, 225));
+    dark.setColor(QPalette::Highlight, QColor(36, 80, 122));
+    EXPECT_GE(contrast(MapLook::ofTheme(dark).highlight, QColor(30, 30, 30)), 3);
+}
+
+// A name on a box that steps back is faint, and still read.
+TEST(MapLook, KeepsFaintBoxesReadable)
+{
+    for (const QColor &ground : {QColor(Qt::white), QColor(30, 30, 30)})
+        for (const QColor &colour : {QColor(Qt::yellow), QColor(Qt::green), QColor(Qt::cyan), QColor(255, 128, 0)}) {
+            const MapLook look{ground, inkOn(ground), Qt::blue};
+            EXPECT_GE(contrast(look.faint(colour), inkOn(look.faint(colour))), 4.5);
+            EXPECT_EQ(look.faint(colour).alpha(), 255);
+        }
 }
 
 TEST(InkOn, IsWhatReadsBetter)
