@@ -110,6 +110,22 @@ TEST_F(ShippedDictionary, KeepsTheCheckQuietOnTheCodeLibrary)
     }
 }
 
+/// The page of the combined one stands beside the picture and the style sheet that it is packed with.
+TEST_F(ShippedDictionary, KeepsTheCheckQuietOnTheTemplates)
+{
+    const CheckDictionary dictionary = dictionaryOf(rows);
+    QStringList pages;
+    QDirIterator templates(source + QStringLiteral("/data/Template"), {QStringLiteral("*.tpl")}, QDir::Files);
+    while (templates.hasNext())
+        pages += templates.next();
+    QDirIterator packed(source + QStringLiteral("/tools/templates/card"), {QStringLiteral("*.html")}, QDir::Files);
+    while (packed.hasNext())
+        pages += packed.next();
+    ASSERT_EQ(pages.size(), 6);
+    for (const QString &path : pages)
+        EXPECT_EQ(firstStop(decode(bytesOf(path)).text, dictionary), QString()) << path.toStdString();
+}
+
 TEST_F(ShippedDictionary, HoldsNoRowThatNoPageNeeds)
 {
     const QList<Page> pages = pagesUnder(QStringLiteral("/tests/unit/texttools/pages"));
