@@ -36,8 +36,7 @@ constexpr int DesignMaximum = 100;
 constexpr QSize LargestPixels(5000, 5000);
 constexpr QSize LeastPlace(360, 240);
 constexpr QSize UsualWindow(900, 640);
-constexpr int CharactersOfAreas = 36;
-constexpr int CharactersOfAPlace = 24;
+constexpr int CharactersOfAreas = 30; // the largest place there is, "9999, 9999" twice, fits in
 constexpr ColourValue DarkBlue = colourOf(0, 0, 0x80);
 constexpr ColourValue Blue = colourOf(0, 0, 0xFF);
 constexpr ColourValue White = colourOf(0xFF, 0xFF, 0xFF);
@@ -134,11 +133,7 @@ ui::Node frmInsImageMap::toolLine()
     cboZoom->setAccessibleName(QStringLiteral("Zoom"));
     QLabel *lblZoom = ui::label(QStringLiteral("lblZoom"), QStringLiteral("&Zoom:"));
     lblZoom->setBuddy(cboZoom);
-    lblPlace = ui::label(QStringLiteral("lblPlace"), {});
-    lblPlace->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // a longer text moves nothing
-    lblPlace->setMinimumWidth(lblPlace->fontMetrics().averageCharWidth() * CharactersOfAPlace);
-    lblPlace->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    return ui::line({toolBar(), lblZoom, cboZoom, ui::Node(lblPlace, 1)});
+    return ui::line({toolBar(), lblZoom, cboZoom, ui::space()});
 }
 
 QToolBar *frmInsImageMap::toolBar()
@@ -225,7 +220,9 @@ ui::Node frmInsImageMap::areaColumn()
     cmdTakeBack =
         ui::button(QStringLiteral("cmdTakeBack"), QStringLiteral("&Take Last Back"), [this] { cmdTakeBack_Click(); });
     cmdTakeBack->setToolTip(QStringLiteral("Takes the area back that was drawn last"));
-    return ui::column({ui::under(QStringLiteral("&Areas:"), lstAreas).stretched(), cmdTakeBack});
+    lblPlace = ui::label(QStringLiteral("lblPlace"), {});
+    lblPlace->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // a longer text moves nothing
+    return ui::column({ui::under(QStringLiteral("&Areas:"), lstAreas).stretched(), lblPlace, cmdTakeBack});
 }
 
 void frmInsImageMap::makeFigures()

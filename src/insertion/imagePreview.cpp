@@ -14,7 +14,7 @@ namespace
 {
 constexpr int LongestSide = 32767; // no desktop shows a larger one
 constexpr QSize LargestPixels(1280, 1024);
-constexpr QSize LeastFrame(260, 220);
+constexpr QSize LeastFrame(220, 220);
 
 enum Page { StandBy, Image };
 

@@ -17,6 +17,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTabBar>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -143,5 +144,19 @@ TEST_F(DialogsTest, FitASmallScreenWithTheirButtonsInSight)
                 const QRect place(button->mapTo(&window, QPoint()), button->size());
                 EXPECT_TRUE(window.rect().contains(place)) << qPrintable(form.Name()) << " " << name;
             }
+    });
+}
+
+// What most small screens have at least, less a title bar and a panel of the desktop.
+TEST_F(DialogsTest, NeedNoScrollingFromSideToSideAt800By600)
+{
+    const QSize room(792, 540);
+    forEach([&](Form &form) {
+        QWidget &window = *form.window();
+        fitInto(window, room);
+        window.show();
+        settle();
+        for (const QScrollArea *area : window.findChildren<QScrollArea *>())
+            EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0) << qPrintable(form.Name());
     });
 }
