@@ -77,6 +77,7 @@ void FillNewDocumentList(SettingsStore &store, FileList &dirTemplates, ListView 
     for (const QString &file : dirTemplates.names())
         lstNew.addRow(templateRow(file));
     lstNew.selectRow(BlankRow);
+    lstNew.fitFirstColumn();
 }
 
 QString selectedTemplate(SettingsStore &store, const ListView &lstNew)
@@ -88,7 +89,8 @@ QString selectedTemplate(SettingsStore &store, const ListView &lstNew)
 
 void openBlankDocument(ProgramContext &context)
 {
-    context.newBlankDocument();
+    if (!context.newBlankDocument()) // the active document is another one then
+        return;
     FillBlankDocument(context);
     if (Document *document = context.mainWindow->activeDocument()) {
         document->DocSelUpdate(QString());
