@@ -27,6 +27,7 @@ void frmMsgCombinedTemplateFilesToSave::Form_Load()
     lstAccompanyingFiles->setAccessibleName(QStringLiteral("Accompanying files"));
     for (const QString &path : m_files)
         addFile(path);
+    lstAccompanyingFiles->fitFirstColumn();
     QLabel *lblTitle = ui::label(QStringLiteral("lblTitle"), QStringLiteral("Combined Template Accompanying Files"));
     QLabel *lblMessage = ui::label(QStringLiteral("lblMessage"),
                                    QStringLiteral("These files will be saved in the template together with the page. "

@@ -152,6 +152,7 @@ void LoadWelcomeRecentList(SettingsStore &store, ListView &lstRecent)
     add(settings::read(store, settings::LastProject), ProjectIcon);
     for (const QString &path : readSlots(store, settings::RecentWelcome, WelcomeFileCount))
         add(path, FileIcon);
+    lstRecent.fitFirstColumn();
 }
 
 bool ClearAddressHistory(ProgramContext &context)

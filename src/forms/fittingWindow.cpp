@@ -161,6 +161,15 @@ void fitInto(QWidget &window, const QSize &room)
         window.resize(window.sizeHint().expandedTo(wanted).boundedTo(room));
 }
 
+void takeNaturalHeight(QWidget &window)
+{
+    const QLayout *layout = window.layout();
+    if (!layout || !layout->hasHeightForWidth() || window.testAttribute(Qt::WA_Resized))
+        return;
+    const int width = std::max(window.sizeHint().width(), window.minimumWidth());
+    window.resize(width, std::max(layout->totalHeightForWidth(width), window.minimumHeight()));
+}
+
 QSize roomFor(const QWidget &window)
 {
     const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &window);

@@ -160,8 +160,10 @@ QWidget *Form::createWindow()
 
 void Form::presentWindow()
 {
-    if (m_window->isHidden())
+    if (m_window->isHidden()) {
+        takeNaturalHeight(*m_window);
         fitInto(*m_window, roomFor(*m_window));
+    }
     m_window->show();
     m_window->raise();
     m_window->activateWindow();

@@ -63,6 +63,8 @@ QList<MenuPicture::Caption> captionsOf(const QList<MenuRow> &rows)
     return captions;
 }
 
+const QString WidestColour = QStringLiteral("#DDDDDD");
+
 /// The caption that a row belongs to, counted from 0.
 int captionOf(const QList<MenuRow> &rows, int row)
 {
@@ -235,6 +237,7 @@ ui::Node frmInsertDHTMLMenu::colourLine(Colour &colour, const ColourNames &names
     colour.swatch = ui::swatch(QLatin1String(names.swatch));
     colour.swatch->setAccessibleName(label);
     colour.text = ui::label(QLatin1String(names.text), {});
+    colour.text->setMinimumWidth(colour.text->fontMetrics().horizontalAdvance(WidestColour)); // nothing moves with it
     QPushButton *change = ui::button(QLatin1String(names.button), QStringLiteral("Change Colour..."),
                                      [this, &colour] { changeColour(colour); });
     change->setAutoDefault(false);

@@ -98,21 +98,24 @@ void frmMoreOptions::buildControls()
     QPushButton *cmdHelp = ui::button(QStringLiteral("cmdHelp"), QStringLiteral("Help"), [this] {
         OpenHelpTopic(context(), QStringLiteral("::/topics/using/Options.htm"));
     });
+    const ui::Node editor = ui::rows({
+        ui::row(QStringLiteral("&Font:"), cboEditorFont),
+        ui::row(QStringLiteral("Font &size:"), ui::counted(txtEditorFontSize, updSize)),
+        ui::row(QStringLiteral("&Tab width as shown:"), ui::counted(txtTabWidth, updTabs)),
+        ui::row(QStringLiteral("&Indentation of today:"), ui::counted(txtIndentWidth, updIndent)),
+        ui::row(QString(), chkIndentWithTabs),
+    });
+    const ui::Node documents = ui::rows({
+        ui::row(QStringLiteral("&Line end:"), cboLineEnd),
+        ui::row(QStringLiteral("&Encoding:"), cboEncoding),
+    });
+    const ui::Node windows = ui::rows({ui::row(QStringLiteral("T&heme:"), cboTheme)});
+    ui::alignRows({editor, documents, windows});
     setContent(ui::beside({
         ui::column({
-            ui::group(QStringLiteral("Editor"),
-                      ui::rows({
-                          ui::row(QStringLiteral("&Font:"), cboEditorFont),
-                          ui::row(QStringLiteral("Font &size:"), ui::counted(txtEditorFontSize, updSize)),
-                          ui::row(QStringLiteral("&Tab width as shown:"), ui::counted(txtTabWidth, updTabs)),
-                          ui::row(QStringLiteral("&Indentation of today:"), ui::counted(txtIndentWidth, updIndent)),
-                          ui::row(QString(), chkIndentWithTabs),
-                      })),
-            ui::group(QStringLiteral("New documents"), ui::rows({
-                                                           ui::row(QStringLiteral("&Line end:"), cboLineEnd),
-                                                           ui::row(QStringLiteral("&Encoding:"), cboEncoding),
-                                                       })),
-            ui::group(QStringLiteral("Windows"), ui::rows({ui::row(QStringLiteral("T&heme:"), cboTheme)})),
+            ui::group(QStringLiteral("Editor"), editor),
+            ui::group(QStringLiteral("New documents"), documents),
+            ui::group(QStringLiteral("Windows"), windows),
             ui::space(),
         }),
         ui::column({m_habits->controls(), ui::space()}),

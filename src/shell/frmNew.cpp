@@ -14,6 +14,7 @@
 #include "widgets/layout.h"
 #include "widgets/listView.h"
 
+#include <QFontDatabase>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
@@ -41,6 +42,7 @@ void frmNew::buildControls()
     dirTemplates = ui::fileList(QStringLiteral("dirTemplates"), services().files);
     txtPreview = ui::textArea(QStringLiteral("txtPreview"));
     txtPreview->setReadOnly(true);
+    txtPreview->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     txtPreview->setLineWrapMode(QPlainTextEdit::NoWrap);
     QPushButton *cmdOK = ui::button(QStringLiteral("cmdOK"), QStringLiteral("&OK"), [this] { cmdOK_Click(); });
     QPushButton *cmdCancel = ui::button(QStringLiteral("cmdCancel"), QStringLiteral("Cancel"), [this] { Unload(); });

@@ -187,14 +187,17 @@ ui::Node frmOptions::syntaxPage()
     ui::onLostFocus(txtClrUpdateTime, [this] { limitUpdateTime(); });
     SpinButton *updClrUpdateTime = ui::spin(QStringLiteral("updClrUpdateTime"), txtClrUpdateTime, 1, LongestUpdateTime);
     chkCodeSelPopups = check("chkCodeSelPopups", "Show Syntax Assistants when writing code manually");
+    const ui::Node ofCode = ui::rows(colours);
+    const ui::Node ofAddresses = ui::rows({colourRow(addressColour())});
+    ui::alignRows({ofCode, ofAddresses});
     return ui::column({
         ui::group(
             QStringLiteral("Colouring"),
             ui::column({
                 chkUseColourCode,
-                ui::rows(colours),
+                ofCode,
                 chkUseAddressColouring,
-                ui::rows({colourRow(addressColour())}),
+                ofAddresses,
                 ui::rows({ui::row(QStringLiteral("Update syntax colour coding every"),
                                   ui::counted(txtClrUpdateTime, updClrUpdateTime),
                                   {ui::label({}, QStringLiteral("seconds (maximum of 60 seconds).")), ui::space()})}),

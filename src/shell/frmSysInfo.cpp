@@ -26,7 +26,7 @@ void frmSysInfo::Form_Load()
     lstFacts->setAccessibleName(QStringLiteral("System information"));
     for (const SystemFact &fact : m_facts)
         lstFacts->addRow({.key = fact.name, .text = fact.name, .subItems = {fact.value}});
-    lstFacts->resizeColumnToContents(0);
+    lstFacts->fitFirstColumn();
     QPushButton *cmdClose = ui::button(QStringLiteral("cmdClose"), QStringLiteral("Close"), [this] { Unload(); });
     QPushButton *cmdCopy = ui::button(QStringLiteral("cmdCopy"), QStringLiteral("&Copy"), [this] { cmdCopy_Click(); });
     setContent(ui::beside({ui::Node(lstFacts), ui::buttons({cmdClose, cmdCopy})}));

@@ -98,14 +98,6 @@ ui::Node frmFind::fields()
     cboReplace = ui::combo(QStringLiteral("cboReplace"));
     for (QComboBox *combo : {cboFindString, cboReplace})
         combo->setMinimumWidth(combo->fontMetrics().averageCharWidth() * CharactersShown);
-    return ui::rows({
-        ui::row(QStringLiteral("Find What:"), cboFindString),
-        ui::row(QStringLiteral("Replace With:"), cboReplace, {}, QStringLiteral("lblReplace")),
-    });
-}
-
-ui::Node frmFind::options()
-{
     cboSearchDirection = ui::dropList(QStringLiteral("cboSearchDirection"),
                                       {QStringLiteral("Down"), QStringLiteral("Up"), QStringLiteral("All")});
     cboSearchDirection->setCurrentIndex(int(SearchDirection::All));
@@ -113,21 +105,25 @@ ui::Node frmFind::options()
         ui::dropList(QStringLiteral("cboSearchType"),
                      {QStringLiteral("Entire Document"), QStringLiteral("Text only"), QStringLiteral("Tags only")},
                      [this] { cboSearchType_Click(); });
+    return ui::rows({
+        ui::row(QStringLiteral("Find What:"), cboFindString),
+        ui::row(QStringLiteral("Replace With:"), cboReplace, {}, QStringLiteral("lblReplace")),
+        ui::row(QStringLiteral("Search Direction:"), cboSearchDirection),
+        ui::row(QStringLiteral("Search Type:"), cboSearchType),
+    });
+}
+
+ui::Node frmFind::options()
+{
     chkCase = ui::check(QStringLiteral("chkCase"), QStringLiteral("Match &Case"));
     chkWholeWords = ui::check(QStringLiteral("chkWholeWords"), QStringLiteral("Find &Whole Words Only"));
     optSearchCurrentDoc = ui::option(QStringLiteral("optSearchCurrentDoc"), QStringLiteral("Current &Document"));
     optSearchOpenDocs = ui::option(QStringLiteral("optSearchOpenDocs"), QStringLiteral("All &Open Documents"));
     optSearchCurrentDoc->setChecked(true);
-    return ui::column({
-        ui::rows({
-            ui::row(QStringLiteral("Search Direction:"), cboSearchDirection),
-            ui::row(QStringLiteral("Search Type:"), cboSearchType),
-        }),
-        ui::line({
-            ui::column({chkCase, chkWholeWords}),
-            ui::options({optSearchCurrentDoc, optSearchOpenDocs}),
-            ui::space(),
-        }),
+    return ui::line({
+        ui::column({chkCase, chkWholeWords}),
+        ui::options({optSearchCurrentDoc, optSearchOpenDocs}),
+        ui::space(),
     });
 }
 

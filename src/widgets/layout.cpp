@@ -168,6 +168,21 @@ Node rows(const QList<Row> &rows)
     return Node(grid);
 }
 
+void alignRows(const QList<Node> &rows)
+{
+    QList<QGridLayout *> grids;
+    int widest = 0;
+    for (const Node &node : rows)
+        if (auto *grid = qobject_cast<QGridLayout *>(node.layout())) {
+            grids.append(grid);
+            for (int row = 0; row < grid->rowCount(); ++row)
+                if (const QLayoutItem *label = grid->itemAtPosition(row, 0); label && label->widget())
+                    widest = std::max(widest, label->widget()->sizeHint().width());
+        }
+    for (QGridLayout *grid : grids)
+        grid->setColumnMinimumWidth(0, widest);
+}
+
 Node under(const QString &label, QWidget *control, const QString &labelName)
 {
     return column({captionFor(label, labelName, {control}), Node(control, 1)});

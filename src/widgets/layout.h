@@ -62,6 +62,8 @@ struct Row {
 Row row(const QString &label, const Node &control, const QList<Node> &trailing = {}, const QString &labelName = {});
 
 Node rows(const QList<Row> &rows);
+/// Lets the controls of several groups of rows begin in one column, wherever on the form those stand.
+void alignRows(const QList<Node> &rows);
 /// A control under its label, as lists and text areas stand.
 Node under(const QString &label, QWidget *control, const QString &labelName = {});
 Node column(const QList<Node> &pieces);

@@ -190,6 +190,13 @@ void ListView::selectRow(int row, bool selected)
     item->setSelected(selected);
 }
 
+void ListView::fitFirstColumn()
+{
+    constexpr int MostCharacters = 40;
+    resizeColumnToContents(0);
+    setColumnWidth(0, std::min(columnWidth(0), fontMetrics().averageCharWidth() * MostCharacters));
+}
+
 QSize ListView::sizeHint() const
 {
     return QSize(fontMetrics().averageCharWidth() * 24 * std::max(1, columnCount()), fontMetrics().lineSpacing() * 10);

@@ -26,6 +26,8 @@ public:
     void setSmallIcons(const QList<QIcon> &icons);
     void setMultiSelect(bool on);
     void setCheckBoxes(bool on); ///< before the first row is added
+    /// Makes the first column as wide as its title and the rows that are there ask for, within reason.
+    void fitFirstColumn();
     /// Takes files that are dropped on the list.
     void setFileDropHandler(std::function<void(const QStringList &)> dropped);
     bool hasCheckBoxes() const { return m_checkBoxes; }

@@ -92,4 +92,25 @@ TEST_F(FittingWindow, DoesSoOnce)
     fitInto(window, {700, 450});
     EXPECT_EQ(window.findChildren<QScrollArea *>().size(), 1);
 }
+
+TEST_F(FittingWindow, IsAsHighAsItsTextNeedsAtItsWidth)
+{
+    auto *column = new QVBoxLayout(&window);
+    auto *text = new QLabel(QStringLiteral("A question that is long enough to be wrapped into more lines than one."));
+    text->setWordWrap(true);
+    column->addWidget(text);
+    column->addWidget(ok);
+    window.setMinimumWidth(600);
+    takeNaturalHeight(window);
+    EXPECT_EQ(window.size(), QSize(600, column->totalHeightForWidth(600)));
+    EXPECT_LT(window.height(), window.sizeHint().height()); // what it would be by itself
+}
+
+TEST_F(FittingWindow, KeepsTheSizeThatAFormGivesItself)
+{
+    build(3);
+    window.resize(500, 400);
+    takeNaturalHeight(window);
+    EXPECT_EQ(window.size(), QSize(500, 400));
+}
 } // namespace

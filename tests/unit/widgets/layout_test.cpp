@@ -278,4 +278,16 @@ TEST(Layout, ComingBackToAWindowLeavesTheSelection)
     EXPECT_TRUE(field.hasFocus());
     EXPECT_EQ(field.selectedText(), str("el"));
 }
+
+TEST(Layout, LetsSeveralGroupsBeginTheirControlsInOneColumn)
+{
+    const ui::Node first = ui::rows({ui::row(str("A long label in front of its field:"), ui::text(str("txtA")))});
+    const ui::Node second = ui::rows({ui::row(str("Short:"), ui::text(str("txtB")))});
+    ui::alignRows({first, second});
+    Window window(ui::column({ui::group(str("One"), first), ui::group(str("Two"), second)}));
+    const auto left = [&window](const char *name) {
+        return window.control<QLineEdit>(name).mapTo(&window, QPoint()).x();
+    };
+    EXPECT_EQ(left("txtA"), left("txtB"));
+}
 } // namespace

@@ -46,6 +46,19 @@ TEST_F(ListViewTest, KeepsRowsAsTheyWereAdded)
     EXPECT_EQ(list.rowAt(1).subItems.value(0), str("/s/a.htm"));
 }
 
+TEST_F(ListViewTest, FitsItsFirstColumnToWhatStandsInIt)
+{
+    list.fitFirstColumn();
+    const int narrow = list.columnWidth(0);
+    list.addRow(keyed("k3", "Page with Navigation"));
+    list.fitFirstColumn();
+    EXPECT_GE(list.columnWidth(0), list.fontMetrics().horizontalAdvance(str("Page with Navigation")));
+    EXPECT_LT(narrow, list.columnWidth(0));
+    list.addRow(keyed("k4", std::string(500, 'x').c_str()));
+    list.fitFirstColumn();
+    EXPECT_LT(list.columnWidth(0), 400); // the others are to be seen, too
+}
+
 TEST_F(ListViewTest, RefusesAKnownKeyAndTakesRowsWithoutOne)
 {
     EXPECT_FALSE(list.addRow(keyed("k1", "again")));
