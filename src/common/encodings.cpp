@@ -179,7 +179,8 @@ EncodedText asWindows1252(const QString &text)
 {
     if (const std::optional<QByteArray> bytes = toWindows1252(text)) {
         const std::optional<Utf8Contents> contents = utf8Contents(*bytes);
-        if (!utf8EncodingOf(*bytes) || (contents && contents->onlyAscii))
+        const bool isUtf8 = utf8EncodingOf(*bytes) && !(contents && contents->onlyAscii);
+        if (!isUtf8 && !hasUtf16Mark(*bytes))
             return {*bytes, Encoding::Windows1252};
     }
     return insteadAsUtf8(text);
@@ -187,8 +188,11 @@ EncodedText asWindows1252(const QString &text)
 
 EncodedText asOther(const QString &text, const QString &charset)
 {
-    if (const std::optional<QByteArray> bytes = toCharset(text, charset))
-        return {*bytes, Encoding::Other};
+    if (const std::optional<QByteArray> bytes = toCharset(text, charset); bytes && !hasUtf16Mark(*bytes)) {
+        const std::optional<Utf8Contents> contents = utf8Contents(*bytes);
+        if (!contents || contents->onlyAscii)
+            return {*bytes, Encoding::Other};
+    }
     return insteadAsUtf8(text);
 }
 
@@ -216,6 +220,11 @@ QString referenceTo(QStringView character)
     return QStringLiteral("&#%1;").arg(static_cast<uint>(code));
 }
 } // namespace
+
+bool hasUtf16Mark(const QByteArray &bytes)
+{
+    return bytes.size() % 2 == 0 && (bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF"));
+}
 
 DecodedText decode(const QByteArray &bytes, bool unicodeRow)
 {

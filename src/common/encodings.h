@@ -41,8 +41,12 @@ struct EncodedText {
     bool switchedToUtf8 = false;        ///< the encoding asked for cannot hold the text
 };
 
+/// Whether bytes begin with a mark of UTF-16 and can be that: their number is even.
+bool hasUtf16Mark(const QByteArray &bytes);
+
 /// Reads a file of text. Never fails, and no character or byte is dropped: encode() with the format told gives the same
-/// bytes again for every file whose line ends are all of one kind.
+/// bytes again for every file whose line ends are all of one kind, except that bytes which begin with a mark of UTF-16
+/// are never written as anything else.
 ///
 /// Plainly, it is UTF-8 if the bytes are valid UTF-8, else Windows-1252, whose five undefined bytes stand for the
 /// characters of the same code. By a Unicode row it is UTF-16 of the order its mark names, little-endian without one;
@@ -51,15 +55,15 @@ struct EncodedText {
 DecodedText decode(const QByteArray &bytes, bool unicodeRow = false);
 
 /// Reads a file in an encoding by its name, as charsetOfLabel() gives it. Nothing where the bytes are not valid in it,
-/// or would not be written as the same bytes again.
+/// or would not be written as the same bytes again; encode() may still make Unicode of what looks like it.
 std::optional<DecodedText> decodeAs(const QByteArray &bytes, const QString &charset);
 
 /// Writes text to be read by decode(), or decodePage(), as the same text.
 ///
-/// Windows-1252 gives way to UTF-8 where a character does not fit, or where the bytes would read back as UTF-8. UTF-8
-/// takes its mark where the text itself starts with that character, or holds half a surrogate pair: such a half is
-/// written in the three bytes it would have as a character, which decode() takes behind a mark only. An encoding by
-/// name gives way to UTF-8 where a character does not fit.
+/// Windows-1252 and an encoding by name give way to UTF-8 where a character does not fit, or where the bytes would read
+/// back as UTF-8 or UTF-16. UTF-8 takes its mark where the text itself starts with that character, or holds half a
+/// surrogate pair: such a half is written in the three bytes it would have as a character, which decode() takes behind
+/// a mark only.
 EncodedText encode(const QString &text, const FileFormat &format);
 
 /// The characters that have no place in an encoding, each once, in the order of their first appearance; none for the

@@ -126,11 +126,6 @@ bool contains(const std::array<const char *, Count> &names, const QString &name)
     return std::any_of(names.begin(), names.end(), [&](const char *known) { return name == QLatin1String(known); });
 }
 
-bool hasUtf16Mark(const QByteArray &bytes)
-{
-    return bytes.size() % 2 == 0 && (bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF"));
-}
-
 /// UTF-8 that no other encoding is to be taken for: it has a mark, or characters that only it writes so.
 bool isSurelyUtf8(const QByteArray &bytes)
 {

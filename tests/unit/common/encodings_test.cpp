@@ -182,6 +182,15 @@ TEST(Encode, LeavesWindows1252WhereItsBytesWouldReadBackAsUtf8)
     EXPECT_FALSE(encode(QStringLiteral("plain"), {Encoding::Windows1252, LineEnd::CrLf}).switchedToUtf8);
 }
 
+TEST(Encode, LeavesWindows1252WhereItsBytesWouldReadBackAsUtf16)
+{
+    const EncodedText encoded = encode(codes({0xFF, 0xFE}), {Encoding::Windows1252, LineEnd::CrLf});
+    EXPECT_TRUE(encoded.switchedToUtf8);
+    EXPECT_EQ(encoded.bytes, hex("C3BFC3BE"));
+    // Of an odd number they are no UTF-16.
+    EXPECT_EQ(encode(codes({0xFF, 0xFE, 0x61}), {Encoding::Windows1252, LineEnd::CrLf}).bytes, hex("FFFE61"));
+}
+
 TEST(Encode, TakesTheMarkWhereUtf8WouldLoseSomethingWithoutIt)
 {
     const EncodedText marked = encode(codes({0xFEFF, 0x61}), {Encoding::Utf8, LineEnd::CrLf});
@@ -279,6 +288,10 @@ TEST(Decode, LosesNoByteOfAnyFileWithOneKindOfBreak)
         if (decoded.mixedLineEnds)
             continue;
         const EncodedText encoded = encode(decoded.text, decoded.format);
+        if (hasUtf16Mark(bytes)) { // every other reader would take them for UTF-16
+            ASSERT_EQ(encoded.encoding, Encoding::Utf8);
+            continue;
+        }
         ASSERT_EQ(encoded.bytes.toHex(), bytes.toHex());
         ASSERT_EQ(encoded.encoding, decoded.format.encoding);
         ++checked;
@@ -348,5 +361,15 @@ TEST(Encode, GoesToUtf8WhereTheNamedEncodingHasNoPlace)
     EXPECT_EQ(other.bytes, hex("D09FC3A9"));
     EXPECT_EQ(other.encoding, Encoding::Utf8);
     EXPECT_TRUE(other.switchedToUtf8);
+}
+
+TEST(Encode, GoesToUtf8WhereTheBytesOfTheNamedEncodingWouldReadBackAsUnicode)
+{
+    const EncodedText asUtf16 = encode(codes({0x42A, 0x427}), koi8); // FF FE
+    EXPECT_TRUE(asUtf16.switchedToUtf8);
+    EXPECT_EQ(asUtf16.bytes, hex("D0AAD0A7"));
+    const EncodedText asUtf8 = encode(codes({0x446, 0x2558}), koi8); // C3 A9
+    EXPECT_TRUE(asUtf8.switchedToUtf8);
+    EXPECT_EQ(asUtf8.bytes, hex("D186E29598"));
 }
 } // namespace
