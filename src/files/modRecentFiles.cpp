@@ -1,10 +1,10 @@
 #include "files/modRecentFiles.h"
 
-#include "common/encodings.h"
 #include "common/fileCommands.h"
 #include "common/mainWindow.h"
 #include "common/paths.h"
 #include "common/programState.h"
+#include "files/addressHistory.h"
 #include "forms/programContext.h"
 #include "services/fileSystem.h"
 #include "services/services.h"
@@ -39,14 +39,6 @@ bool recordsAddresses(ProgramContext &context)
 QString addressFile(const ProgramContext &context)
 {
     return joinPath(context.services.appPath, QStringLiteral("AddrBar.dat"));
-}
-
-/// The history's lines. An empty one, which is what a cleared history holds, is no address.
-QStringList linesOf(const QString &text)
-{
-    QStringList lines = text.split(QStringLiteral("\r\n"));
-    lines.removeAll(QString());
-    return lines;
 }
 
 bool listHolds(const QComboBox &combo, const QString &address)
@@ -88,10 +80,7 @@ bool appendToHistory(ProgramContext &context, const QString &address)
     const FileContents old = files.readAll(path);
     if (old.error && files.exists(path)) // what cannot be read is not to be replaced
         return false;
-    QString text = decodeOwnFile(old.bytes);
-    if (!text.isEmpty() && !text.endsWith(QStringLiteral("\r\n")))
-        text += QStringLiteral("\r\n");
-    return !files.writeWhole(path, encodeOwnFile(text + address + QStringLiteral("\r\n")));
+    return !files.writeWhole(path, withAddress(old.bytes, address));
 }
 } // namespace
 
@@ -171,7 +160,7 @@ void LoadAddressHistory(ProgramContext &context, QComboBox &combo)
         return;
     const FileContents history = context.services.files.readAll(addressFile(context));
     if (!history.error)
-        addRows(combo, linesOf(decodeOwnFile(history.bytes)));
+        addRows(combo, addressesOf(history.bytes));
 }
 
 void RecordAddress(ProgramContext &context, QComboBox &combo)

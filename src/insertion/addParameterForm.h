@@ -1,16 +1,11 @@
 #pragma once
 
 #include "insertion/companionForm.h"
+#include "insertion/elementParameter.h"
 
 #include <optional>
 
 class QLineEdit;
-
-/// A value that is handed to an applet or object under a name.
-struct ElementParameter {
-    QString name;
-    QString value;
-};
 
 /// Asks for a parameter. Its two kinds differ in name and caption alone.
 class AddParameterForm : public CompanionForm

@@ -1,41 +1,16 @@
 #pragma once
 
 #include "insertion/browseDialog.h"
+#include "insertion/imageElement.h"
 #include "insertion/imagePreview.h"
 #include "insertion/insertionForm.h"
 #include "insertion/pathRules.h"
-#include "insertion/tagUnderCaret.h"
 #include "widgets/layout.h"
 
 class QCheckBox;
 class QComboBox;
 class QLineEdit;
 class QRadioButton;
-
-/// What the image dialog holds. Numbers are the texts of their boxes.
-struct ImageFields {
-    QString src;
-    QString name;
-    QString alt;
-    QString useMap; ///< with or without the "#" in front
-    QString align;
-    QString width;
-    QString height;
-    bool inPercent = false; ///< the unit of the size
-    QString border;
-    QString hSpace;
-    QString vSpace;
-    QString leftoverAttributes; ///< what goes into the tag as it stands, with its own blank in front
-};
-
-/// One `img` element. No field is required: without any, it is the bare element.
-QString imageMarkup(const ImageFields &fields);
-
-/// The `img` element around a caret, as ReadTagUnderCaret finds it.
-std::optional<TagUnderCaret> readImageTag(const QString &text, qsizetype selStart, qsizetype selLength);
-/// The fields that a tag fills. The unit of the size is the other one than the tag has, by intent: confirming an image
-/// as it was read makes pixels of a percentage, and the reverse. Width and height share the unit; the height decides.
-ImageFields imageFields(const TagUnderCaret &tag);
 
 /// Inserts an image, or edits the one under the caret, and previews it.
 class frmInsImage final : public InsertionForm

@@ -1,19 +1,9 @@
 #include "insertion/parameterList.h"
 
-#include "insertion/attributeText.h"
 #include "widgets/listView.h"
 
 #include <QHeaderView>
 #include <QPushButton>
-
-QString parametersMarkup(const QList<ElementParameter> &parameters, const QString &close)
-{
-    QString text;
-    for (const ElementParameter &parameter : parameters)
-        text += QStringLiteral("\r\n    <param") + attributeText(QStringLiteral("name"), parameter.name) +
-                attributeText(QStringLiteral("value"), parameter.value) + u'>';
-    return close.isEmpty() ? text : text + QStringLiteral("\r\n") + close;
-}
 
 ui::Node ParameterList::build(const QString &label, const Ask &ask)
 {

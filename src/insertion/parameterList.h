@@ -9,10 +9,6 @@
 
 class ListView;
 
-/// What follows the opening tag of an applet or object: a `param` element a line, and the closing tag `close` on a line
-/// of its own. An element that is edited goes on with the closing tag that it has: `close` is empty then.
-QString parametersMarkup(const QList<ElementParameter> &parameters, const QString &close);
-
 /// `lstParam` of a dialog, with the buttons `cmdAddPar` and `cmdRemPar`. Made anew with the form's controls.
 class ParameterList
 {

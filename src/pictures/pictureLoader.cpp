@@ -69,6 +69,15 @@ QImage readPixels(QDataStream &stream, const QSize &largest)
 }
 } // namespace
 
+std::optional<LoadedPicture> pictureOfAnswer(QIODevice &answer, const QSize &largest)
+{
+    QDataStream stream(&answer);
+    const QSize size = readSize(stream);
+    if (size.isEmpty())
+        return std::nullopt;
+    return LoadedPicture{size, readPixels(stream, largest)};
+}
+
 std::optional<LoadedPicture> LoadPicture(const QString &path, const QSize &largest)
 {
     if (path.isEmpty() || qEnvironmentVariableIsSet(pictureReader::Mark)) // a reader starts no readers
@@ -77,9 +86,5 @@ std::optional<LoadedPicture> LoadPicture(const QString &path, const QSize &large
     start(reader, path, largest);
     if (!runs(reader))
         return std::nullopt;
-    QDataStream stream(&reader);
-    const QSize size = readSize(stream);
-    if (size.isEmpty())
-        return std::nullopt;
-    return LoadedPicture{size, readPixels(stream, largest)};
+    return pictureOfAnswer(reader, largest);
 }

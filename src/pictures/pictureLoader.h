@@ -5,6 +5,8 @@
 #include <QString>
 #include <optional>
 
+class QIODevice;
+
 /// A picture as it was read from a file.
 struct LoadedPicture {
     QSize size;    ///< its own size in pixels, as a browser shows it
@@ -18,3 +20,7 @@ struct LoadedPicture {
 /// program down: it is done by a second process of the program itself, whose main function begins with
 /// readPictureIfAsked.
 std::optional<LoadedPicture> LoadPicture(const QString &path, const QSize &largest);
+
+/// What the second process has answered, which nobody can vouch for: a picture may have got the better of it. Nothing
+/// if it tells no size.
+std::optional<LoadedPicture> pictureOfAnswer(QIODevice &answer, const QSize &largest);

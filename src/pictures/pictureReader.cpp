@@ -72,12 +72,6 @@ void bringInWhatDrawingsNeed()
     }
 }
 
-void send(const QByteArray &bytes)
-{
-    std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stdout);
-    std::fflush(stdout);
-}
-
 QByteArray sizeBytes(const QSize &size)
 {
     QByteArray bytes;
@@ -117,35 +111,49 @@ QSize shownSize(const QImageReader &reader)
     return onItsSide ? reader.size().transposed() : reader.size();
 }
 
+void send(const QByteArray &bytes)
+{
+    std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stdout);
+    std::fflush(stdout);
+}
+
 int readPicture(const QString &path, const QSize &largest)
 {
     LocalFileSystem files;
     if (files.size(path).value_or(0) > LargestFile)
         return NoPicture;
-    QByteArray bytes = files.readAll(path).bytes;
+    const auto drawing = [] {
+        bringInWhatDrawingsNeed();
+        openNothingMore();
+    };
+    return pictureReader::decode(files.readAll(path).bytes, largest, {.send = send, .beforeDrawing = drawing})
+               ? 0
+               : NoPicture;
+}
+} // namespace
+
+bool pictureReader::decode(QByteArray bytes, const QSize &largest, const Steps &steps)
+{
     QBuffer buffer(&bytes);
     QImageReader reader(&buffer);
     reader.setAutoTransform(true);
     if (!reader.canRead())
-        return NoPicture;
-    if (isDrawing(reader)) {
-        bringInWhatDrawingsNeed();
-        openNothingMore();
-    }
+        return false;
+    if (isDrawing(reader))
+        steps.beforeDrawing();
     if (reader.size().isEmpty())
-        return NoPicture;
-    send(sizeBytes(shownSize(reader)));
+        return false;
+    steps.send(sizeBytes(shownSize(reader)));
     if (isTooLarge(reader))
-        return 0;
+        return true;
     if (const QSize size = within(reader.size(), largest); size != reader.size())
         reader.setScaledSize(size);
     const QImage picture = reader.read();
     if (picture.isNull())
-        return NoPicture;
-    send(pixelBytes(picture));
-    return 0;
+        return false;
+    steps.send(pixelBytes(picture));
+    return true;
 }
-} // namespace
 
 QStringList pictureReader::arguments(const QString &path, const QSize &largest)
 {

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QStringList>
+#include <functional>
 #include <optional>
 
 class QSize;
@@ -20,4 +21,12 @@ inline constexpr char Ready = 'R'; ///< the first byte that a reader writes: it 
 /// qint32 for a size; two more and the bytes of Format_ARGB32_Premultiplied, row by row, for the pixels. It ends with
 /// 0 unless the file holds no picture.
 QStringList arguments(const QString &path, const QSize &largest);
+
+/// What a reader does on its way through a picture.
+struct Steps {
+    std::function<void(const QByteArray &)> send;
+    std::function<void()> beforeDrawing; ///< the picture is a drawing, which may name other files
+};
+/// The reading itself, of a file's bytes. False if they are no picture, of which the size may have been sent by then.
+bool decode(QByteArray bytes, const QSize &largest, const Steps &steps);
 } // namespace pictureReader

@@ -1,5 +1,6 @@
 // What the library calls while a transfer runs. Nothing of the program runs within these calls: it is told afterwards.
 #include "services/loopback.h"
+#include "transfers/answerHeader.h"
 #include "transfers/curlTransfer.h"
 
 #include <QCryptographicHash>
@@ -11,7 +12,6 @@
 
 namespace
 {
-constexpr int Farewell = 221;                ///< of an FTP server: it says nothing of the transfer before
 constexpr qint64 ProgressMilliseconds = 100; ///< between two tellings
 
 CurlTransfer &transferOf(void *self)
@@ -79,27 +79,15 @@ std::size_t CurlTransfer::headerCame(char *line, std::size_t size, std::size_t c
 
 void CurlTransfer::takeHeader(const QByteArray &line)
 {
-    // The server's words stand behind its number: "HTTP/1.1 404 Not Found", "550 No such file".
-    const bool web = line.startsWith("HTTP/");
-    const QByteArray answer = web ? line.mid(line.indexOf(' ') + 1) : line;
-    const bool numbered = answer.size() >= 3 &&
-                          std::all_of(answer.begin(), answer.begin() + 3, [](char c) { return c >= '0' && c <= '9'; });
-    const int number = numbered ? answer.first(3).toInt() : 0;
-    const bool complete = web || answer.size() == 3 || (numbered && answer[3] == ' ');
-    if (numbered && complete && number != Farewell) {
-        m_end.ResponseCode = number;
-        m_end.ResponseInfo = QString::fromUtf8(answer.mid(4));
+    if (const std::optional<AnswerStatus> status = answerStatus(line)) {
+        m_end.ResponseCode = status->code;
+        m_end.ResponseInfo = status->words;
     }
     const bool upload = m_request.kind == TransferRequest::Kind::Upload;
-    if (upload ? m_state >= TransferState::RequestSent : web)
+    if (upload ? m_state >= TransferState::RequestSent : startsWebAnswer(line))
         advance(TransferState::ReceivingResponse);
-    if (line.size() > 13 && line.first(13).toLower() == "content-type:") {
-        const char *type = line.constData() + 13;
-        const QString value = QString::fromLatin1(type).toLower();
-        const qsizetype mark = value.indexOf(QStringLiteral("charset="));
-        m_end.charset =
-            mark < 0 ? QString() : value.sliced(mark + 8).section(u';', 0, 0).trimmed().remove(u'"').remove(u'\'');
-    }
+    if (const std::optional<QString> charset = charsetOfHeader(line))
+        m_end.charset = *charset;
 }
 
 std::size_t CurlTransfer::bodyCame(char *bytes, std::size_t size, std::size_t count, void *self)
