@@ -130,6 +130,35 @@ TEST_F(Dev, TestTakesThePresetThatIsAskedFor)
     EXPECT_EQ(deeds().constLast(), QStringLiteral("ctest --preset sanitize --no-tests=error -R a"));
 }
 
+TEST_F(Dev, TestBuildsTheFuzzersForMachinesThatOnlyTestWhereThereIsClang)
+{
+    pretend("cmake", "mkdir -p build/ci build/fuzz build/debug");
+    dev({QStringLiteral("test")}, {{QStringLiteral("CI"), QStringLiteral("true")}});
+    const QString build = QStringLiteral("cmake --build build/fuzz --target fuzzers");
+    EXPECT_FALSE(deeds().contains(build));
+    pretend("clang++", ":");
+    dev({QStringLiteral("test")});
+    EXPECT_FALSE(deeds().contains(build));
+    dev({QStringLiteral("test")}, {{QStringLiteral("CI"), QStringLiteral("true")}});
+    EXPECT_EQ(deeds().at(deeds().size() - 2), build);
+}
+
+TEST_F(Dev, FuzzesWhatIsNamedAndEndsWithTheWorstStatus)
+{
+    for (const char *name : {"tree/tests/fuzz/seeds/a", "tree/tests/fuzz/seeds/b", "tree/build"})
+        QDir(m_folder.path()).mkpath(QLatin1String{name});
+    writeScript(tree("tests/fuzz/fuzz.sh"), QStringLiteral("echo \"fuzz $2 $3\" >>\"$CALLS\"\n[[ $2 == b ]]"));
+    pretend("cmake", "mkdir -p build/fuzz");
+    EXPECT_EQ(dev({QStringLiteral("fuzz")}).status, 1);
+    EXPECT_THAT(deeds().mid(1),
+                ElementsAre(QStringLiteral("cmake --build build/fuzz --target fuzzers"), QStringLiteral("fuzz a 60"),
+                            QStringLiteral("fuzz b 60")));
+    EXPECT_EQ(dev({QStringLiteral("fuzz"), QStringLiteral("b"), QStringLiteral("5")}).status, 0);
+    EXPECT_EQ(deeds().constLast(), QStringLiteral("fuzz b 5"));
+    EXPECT_EQ(dev({QStringLiteral("fuzz"), QStringLiteral("c")}).errors,
+              QStringLiteral("There is no target c. There are: a b.\n"));
+}
+
 TEST_F(Dev, StopsAtAFailure)
 {
     pretend("cmake", "exit 3");
