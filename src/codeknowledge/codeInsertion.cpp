@@ -20,7 +20,7 @@ std::optional<QChar> characterBeforeCaret(const TextSurface &edit)
 
 std::optional<QString> chosenCode(const CodeKnowledge &codes, int number, std::optional<QChar> before)
 {
-    const TreeNode &node = codes.node(number);
+    const TreeNode node = codes.node(number);
     if (node.text == u"HyperText Markup Language" || node.text == u"Cascading Style Sheets")
         return std::nullopt;
     if (isElement(codes, node))

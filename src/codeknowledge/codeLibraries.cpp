@@ -1,100 +1,137 @@
 #include "codeknowledge/codeLibraries.h"
 
-#include "common/encodings.h"
+#include "codeknowledge/codeFiles.h"
+#include "codeknowledge/codeTreeModel.h"
 #include "common/paths.h"
 #include "services/fileSystem.h"
-#include "widgets/programIcon.h"
+
+#include <algorithm>
+#include <limits>
+#include <optional>
 
 namespace
 {
-/// Deprecated codes have a shape and a colour of their own.
-QIcon deprecatedIcon()
+/// Nothing if the file cannot be read, or is far too large to be one of ours.
+std::optional<QByteArray> bytesOf(FileSystem &files, const QString &path)
 {
-    return programIcon(QStringLiteral("strikethrough"), QColor(0xA8501F), QColor(0xF0B47D));
-}
-
-QHash<QString, QIcon> treeImages()
-{
-    const QIcon value = programIcon(QStringLiteral("quote"));
-    return {{QStringLiteral("ImgNode1"), programIcon(QStringLiteral("globe"))},
-            {QStringLiteral("ImgNode2"), programIcon(QStringLiteral("code-xml"))},
-            {QStringLiteral("ImgNode3"), programIcon(QStringLiteral("variable"))},
-            {QStringLiteral("ImgNode4"), value},
-            {QStringLiteral("ImgDepr"), deprecatedIcon()},
-            {QStringLiteral("ImgNodeCSS1"), programIcon(QStringLiteral("palette"))},
-            {QStringLiteral("ImgNodeCSSProperty"), programIcon(QStringLiteral("type-outline"))},
-            {QStringLiteral("ImgNodeCSSValue"), value}};
-}
-
-QHash<QString, QIcon> elementImages()
-{
-    return {{QStringLiteral("Element"), programIcon(QStringLiteral("code-xml"))},
-            {QStringLiteral("ElementDepr"), deprecatedIcon()}};
-}
-
-std::optional<QString> textOfFile(FileSystem &files, const QString &path)
-{
-    const FileContents file = files.readAll(path);
-    if (file.error)
+    FileContents file = files.readAll(path);
+    if (file.error || file.bytes.size() > std::numeric_limits<int>::max() / 4)
         return std::nullopt;
-    return decodeOwnFile(file.bytes);
+    return std::move(file.bytes);
+}
+CodeElements elementsOf(const CodeBranch &html)
+{
+    CodeElements elements;
+    const int count = html.size() > 0 ? html.childCount(0) : 0;
+    for (int row = 0; row < count; ++row) {
+        const HtmlLine line = htmlLine(html.lineOf(html.child(0, row)));
+        const QString name = u'<' + line.text;
+        elements.lstCodeAssistantElements.append(name);
+        elements.lstCodeAssistantElementsFull.append((line.deprecated ? u'd' : u'e') + name);
+    }
+    return elements;
+}
+
+CodeTree readCodes(FileSystem &files, const QString &folder)
+{
+    const auto html = bytesOf(files, joinPath(folder, QStringLiteral("Html.tcb")));
+    if (!html)
+        return {{}, {}};
+    CodeBranch branch = CodeBranch::ofHtml(*html);
+    if (!branch.isComplete())
+        return {std::move(branch), {}};
+    const auto css = bytesOf(files, joinPath(folder, QStringLiteral("Css.tcb")));
+    return {std::move(branch), css ? CodeBranch::ofCss(*css) : CodeBranch()};
 }
 } // namespace
 
-CodeLibraries::CodeLibraries()
+/// The files, and what they hold once it was asked for.
+class CodeLibraries::Source
 {
-    m_tree->setImages(treeImages());
-    m_elementNodes->setImages(elementImages());
+public:
+    void setPlace(FileSystem &files, const QString &folder)
+    {
+        m_files = &files;
+        m_folder = folder;
+        m_codes.reset(); // somebody may have looked before there was anything
+        m_elements.reset();
+    }
+    const CodeTree &codes()
+    {
+        if (!m_codes)
+            m_codes = m_files ? readCodes(*m_files, m_folder) : CodeTree({}, {});
+        return *m_codes;
+    }
+    const CodeElements &elements()
+    {
+        if (!m_elements)
+            m_elements = elementsOf(codes().html());
+        return *m_elements;
+    }
+
+private:
+    FileSystem *m_files = nullptr;
+    QString m_folder;
+    std::optional<CodeTree> m_codes;
+    std::optional<CodeElements> m_elements;
+};
+
+CodeLibraries::CodeLibraries()
+    : m_source(std::make_shared<Source>()),
+      m_tree(std::make_shared<CodeTreeModel>([source = m_source]() -> const CodeTree & { return source->codes(); })),
+      m_elementNodes(std::make_shared<CodeElementsModel>(
+          [source = m_source]() -> const QStringList & { return source->elements().lstCodeAssistantElementsFull; }))
+{
 }
+
+CodeLibraries::~CodeLibraries() = default;
 
 void CodeLibraries::LoadCodeLibraries(FileSystem &files, const QString &folder)
 {
-    m_complete = loadHtml(files, folder) && loadCss(files, folder);
-    addElementNodes();
+    m_source->setPlace(files, folder);
 }
 
-bool CodeLibraries::loadHtml(FileSystem &files, const QString &folder)
+const CodeTree &CodeLibraries::codes() const
 {
-    const auto text = textOfFile(files, joinPath(folder, QStringLiteral("Html.tcb")));
-    if (!text)
-        return false;
-    HtmlCodes codes = readHtmlCodes(*text);
-    const bool complete = codes.branch.complete;
-    addBranch(std::move(codes.branch));
-    m_elements = std::move(codes.elements);
-    if (complete)
-        m_htmlNodes = m_tree->size();
-    return complete;
+    return m_source->codes();
 }
 
-bool CodeLibraries::loadCss(FileSystem &files, const QString &folder)
+const CodeElements &CodeLibraries::elements() const
 {
-    const auto text = textOfFile(files, joinPath(folder, QStringLiteral("Css.tcb")));
-    if (!text)
-        return false;
-    CodeBranch branch = readCssCodes(*text);
-    const bool complete = branch.complete;
-    addBranch(std::move(branch));
-    return complete;
+    return m_source->elements();
 }
 
-void CodeLibraries::addBranch(CodeBranch branch)
+bool CodeLibraries::isComplete() const
 {
-    const int offset = m_tree->size();
-    m_tree->reserve(offset + static_cast<int>(branch.nodes.size()));
-    for (TreeNode &node : branch.nodes) {
-        if (node.parent >= 0)
-            node.parent += offset;
-        m_tree->add(std::move(node));
+    return codes().html().isComplete() && codes().css().isComplete();
+}
+
+int CodeLibraries::HtmlCodeNodeCount() const
+{
+    const CodeBranch &html = codes().html();
+    return html.isComplete() ? html.size() : 0;
+}
+
+int CodeLibraries::syntaxCount() const
+{
+    const CodeBranch &html = codes().html();
+    const int elements = html.size() > 0 ? html.childCount(0) : 0;
+    return html.isComplete() ? elements : std::max(elements - 1, 0); // written once the next element comes, or the end
+}
+
+QString CodeLibraries::lstCodeAssistantSyntax(int row) const
+{
+    if (row < 0 || row >= syntaxCount())
+        return {};
+    const CodeBranch &html = codes().html();
+    const int element = html.child(0, row);
+    QString syntax = u'<' + html.node(element).text;
+    const int attributes = html.childCount(element);
+    for (int i = 0; i < attributes; ++i) {
+        const AttributeText attribute = attributeText(htmlLine(html.lineOf(html.child(element, i))).text);
+        syntax.append(u' ').append(attribute.name);
+        if (!attribute.hint.isEmpty())
+            syntax.append(u'[').append(attribute.hint).append(u']');
     }
-}
-
-void CodeLibraries::addElementNodes()
-{
-    for (const QString &row : m_elements.lstCodeAssistantElementsFull) {
-        const bool current = row.startsWith(u'e');
-        m_elementNodes->add({.text = row.sliced(1),
-                             .key = row.toLower(),
-                             .imageKey = current ? QStringLiteral("Element") : QStringLiteral("ElementDepr")});
-    }
+    return syntax + u'>';
 }

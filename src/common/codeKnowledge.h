@@ -5,15 +5,14 @@
 #include <QStringList>
 
 /// The elements of HTML as the code assistant and the context help use them: row n of each list speaks of the same
-/// element, in the order of the data file. A file that could not be read to its end leaves the last list a row short.
+/// element, in the order of the data file.
 struct CodeElements {
     QStringList lstCodeAssistantElements;     ///< "<" and the name
     QStringList lstCodeAssistantElementsFull; ///< "e<" and the name, "d<" for a deprecated element
-    QStringList lstCodeAssistantSyntax;       ///< "<", the name, the attributes with their hints, ">"
     bool operator==(const CodeElements &) const = default;
 };
 
-/// What the program knows of HTML and CSS. It is read once, as the main window loads, and never changes.
+/// What the program knows of HTML and CSS. It is read once, by need, and never changes.
 class CodeKnowledge
 {
 public:
@@ -23,6 +22,9 @@ public:
     virtual ~CodeKnowledge() = default;
 
     virtual const CodeElements &elements() const = 0;
+    /// "<", the name, the attributes with their hints, ">" of the element in that row of the lists, from 0. Empty for a
+    /// row that there is not; a file that could not be read to its end leaves the last one out.
+    virtual QString lstCodeAssistantSyntax(int row) const = 0;
 
     /// The nodes of the HTML branch of the code tree, its root included: they are the nodes 0 to this number - 1. It is
     /// 0 unless the whole branch could be read.
@@ -30,5 +32,7 @@ public:
     /// The code tree, the program's one dictionary of elements, attributes and values. Nodes are numbered from 0; the
     /// roots have the keys "html" and "css".
     virtual int nodeCount() const = 0;
-    virtual const TreeNode &node(int number) const = 0;
+    virtual TreeNode node(int number) const = 0;
+    /// The parent of a node, without the making of its texts; -1 for a root.
+    virtual int parentOf(int number) const = 0;
 };

@@ -98,7 +98,7 @@ void CodeAssistant::hideAll()
 void CodeAssistant::showTip()
 {
     const QString syntax =
-        m_context.codes ? m_context.codes->elements().lstCodeAssistantSyntax.value(AssistantIndex) : QString();
+        m_context.codes ? m_context.codes->lstCodeAssistantSyntax(AssistantIndex) : QString();
     lblCodeAssistantTextSize->setText(syntax);
     txtCodeAssistantSyntax->setSyntax(syntax);
     placeTip();

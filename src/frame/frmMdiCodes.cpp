@@ -4,10 +4,10 @@
 #include "frame/frmMdi.h"
 #include "frame/frmMdiPane.h"
 #include "services/services.h"
-#include "widgets/controls.h"
 #include "widgets/nodeTree.h"
+#include "widgets/rowsModel.h"
 
-#include <QListWidget>
+#include <QListView>
 
 void frmMdi::loadCodes()
 {
@@ -20,9 +20,11 @@ void frmMdi::fillCodeTree()
 {
     NodeTree *treCodes = m_pane->treCodes;
     treCodes->showNodesOf(m_codes->tree());
-    if (m_codes->isComplete())
-        for (const QString &root : {QStringLiteral("css"), QStringLiteral("html")})
-            treCodes->expandNode(*treCodes->find(root));
+    treCodes->atFirstLook([this, treCodes] {
+        if (m_codes->isComplete())
+            for (const QString &root : {QStringLiteral("css"), QStringLiteral("html")})
+                treCodes->expandNode(*treCodes->find(root));
+    });
     connect(treCodes, &NodeTree::nodeDoubleClicked, this, [this](int node) { treCodes_DblClick(context(), node); });
     connect(treCodes, &NodeTree::nodeEntered, this, [this](int node) { treCodes_Enter(context(), node); });
 }
@@ -30,14 +32,20 @@ void frmMdi::fillCodeTree()
 /// The lists stand in the window as hidden controls, for those who look at its controls by their names.
 void frmMdi::fillCodeLists()
 {
-    const CodeElements &elements = m_codes->elements();
-    const auto fill = [this](const char *name, const QStringList &rows) {
-        QListWidget *list = ui::list(QLatin1String(name));
-        list->setParent(window());
+    const auto show = [this](const char *name, auto count, auto text) {
+        auto *list = new QListView(window());
+        list->setObjectName(QLatin1String(name));
         list->hide();
-        list->addItems(rows);
+        list->setModel(new RowsModel(count, text, list));
     };
-    fill("lstCodeAssistantElements", elements.lstCodeAssistantElements);
-    fill("lstCodeAssistantElementsFull", elements.lstCodeAssistantElementsFull);
-    fill("lstCodeAssistantSyntax", elements.lstCodeAssistantSyntax);
+    const auto rowsOf = [this, show](const char *name, QStringList CodeElements::*rows) {
+        show(
+            name, [this, rows] { return static_cast<int>((m_codes->elements().*rows).size()); },
+            [this, rows](int row) { return (m_codes->elements().*rows).value(row); });
+    };
+    rowsOf("lstCodeAssistantElements", &CodeElements::lstCodeAssistantElements);
+    rowsOf("lstCodeAssistantElementsFull", &CodeElements::lstCodeAssistantElementsFull);
+    show(
+        "lstCodeAssistantSyntax", [this] { return m_codes->syntaxCount(); },
+        [this](int row) { return m_codes->lstCodeAssistantSyntax(row); });
 }

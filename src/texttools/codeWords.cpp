@@ -7,6 +7,7 @@ CodeWords::CodeWords(const CodeKnowledge &codes) : m_codes(codes)
 {
     const QString html = QStringLiteral("html");
     int parent = -1; // that of the node before, since children mostly follow one another
+    bool underRoot = false;
     QList<int> siblings;
     const auto store = [&] {
         if (parent >= 0)
@@ -14,13 +15,14 @@ CodeWords::CodeWords(const CodeKnowledge &codes) : m_codes(codes)
         siblings.clear();
     };
     for (int number = 1; number < codes.HtmlCodeNodeCount(); ++number) {
-        const int above = codes.node(number).parent;
+        const int above = codes.parentOf(number);
         if (above != parent) {
             store();
             parent = above;
+            underRoot = above >= 0 && codes.node(above).key == html;
         }
         siblings += number;
-        if (above >= 0 && codes.node(above).key == html)
+        if (underRoot)
             m_elements += number;
     }
     store();

@@ -1,11 +1,12 @@
 #include "widgets/nodeTree.h"
 
-#include "widgets/nodeTreeModel.h"
+#include "widgets/keptNodes.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <utility>
 
-NodeTree::NodeTree(QWidget *parent) : QTreeView(parent), m_model(std::make_shared<NodeTreeModel>())
+NodeTree::NodeTree(QWidget *parent) : QTreeView(parent), m_own(std::make_shared<KeptNodes>()), m_model(m_own)
 {
     setModel(m_model.get());
     setHeaderHidden(true);
@@ -30,22 +31,44 @@ void NodeTree::showNodesOf(std::shared_ptr<NodeTreeModel> model)
     setModel(model.get());
     delete oldSelection;
     m_model = std::move(model);
+    m_own.reset();
+}
+
+void NodeTree::atFirstLook(std::function<void()> prepare)
+{
+    m_atFirstLook = std::move(prepare);
+    if (isVisible())
+        look();
+}
+
+void NodeTree::look() const
+{
+    if (const auto prepare = std::exchange(m_atFirstLook, nullptr))
+        prepare();
+}
+
+void NodeTree::showEvent(QShowEvent *event)
+{
+    look();
+    QTreeView::showEvent(event);
 }
 
 void NodeTree::setImages(const QHash<QString, QIcon> &images)
 {
-    m_model->setImages(images);
+    if (m_own)
+        m_own->setImages(images);
     viewport()->update();
 }
 
 std::optional<int> NodeTree::addNode(const TreeNode &node)
 {
-    return m_model->add(node);
+    return m_own ? m_own->add(node) : std::nullopt;
 }
 
 void NodeTree::clearNodes()
 {
-    m_model->clear();
+    if (m_own)
+        m_own->clear();
 }
 
 int NodeTree::nodeCount() const
@@ -53,7 +76,7 @@ int NodeTree::nodeCount() const
     return m_model->size();
 }
 
-const TreeNode &NodeTree::nodeAt(int node) const
+TreeNode NodeTree::nodeAt(int node) const
 {
     return m_model->at(node);
 }
@@ -91,13 +114,14 @@ bool NodeTree::isNodeExpanded(int node) const
 
 QModelIndex NodeTree::indexOf(int node) const
 {
+    look();
     m_model->publish();
     return m_model->indexOf(node);
 }
 
 int NodeTree::nodeOf(const QModelIndex &index) const
 {
-    return index.isValid() ? static_cast<int>(index.internalId()) : -1;
+    return NodeTreeModel::nodeOf(index);
 }
 
 QSize NodeTree::sizeHint() const

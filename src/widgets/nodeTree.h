@@ -4,10 +4,12 @@
 
 #include <QIcon>
 #include <QTreeView>
+#include <functional>
 #include <memory>
 #include <optional>
 
 class NodeTreeModel;
+class KeptNodes;
 
 /// A tree drawn from a flat list of nodes. Adding is cheap, thousands of nodes at a time: the view takes them over in
 /// one go when it next draws or is asked.
@@ -18,9 +20,11 @@ public:
     explicit NodeTree(QWidget *parent = nullptr);
     ~NodeTree() override;
 
-    /// Shows the nodes of a model that other trees may show as well, in place of its own; selection and expansion are
-    /// each tree's own.
+    /// Shows the nodes of a model that other trees may show as well, in place of its own, and has none to add to from
+    /// then on; selection and expansion are each tree's own.
     void showNodesOf(std::shared_ptr<NodeTreeModel> model);
+    /// Runs once, when the tree is first on show, or before it first tells of its view.
+    void atFirstLook(std::function<void()> prepare);
 
     void setImages(const QHash<QString, QIcon> &images);
     /// The number of the new node, the last child of its parent. Nothing, and no node, if the key is in the tree
@@ -29,7 +33,7 @@ public:
     void clearNodes();
 
     int nodeCount() const;
-    const TreeNode &nodeAt(int node) const;
+    TreeNode nodeAt(int node) const;
     std::optional<int> find(const QString &key) const;
 
     void selectNode(std::optional<int> node); ///< scrolls to it, too; nothing: no node is selected
@@ -48,7 +52,12 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
+    void look() const;
+
+    std::shared_ptr<KeptNodes> m_own; ///< what can be added to; none while another model is shown
     std::shared_ptr<NodeTreeModel> m_model;
+    mutable std::function<void()> m_atFirstLook;
 };

@@ -1,58 +1,27 @@
 #pragma once
 
-#include "widgets/nodeTree.h"
+#include "common/treeNode.h"
 
 #include <QAbstractItemModel>
-#include <QHash>
-#include <vector>
+#include <optional>
 
-/// The nodes of a tree. New ones are kept back from the view until publish(), which hands them over with one notice for
-/// each parent that the view knows, whatever their number.
-class NodeTreeModel final : public QAbstractItemModel
+/// The nodes of a tree, numbered from 0, as a view shows them and as others ask for them by their numbers.
+class NodeTreeModel : public QAbstractItemModel
 {
 public:
     using QAbstractItemModel::QAbstractItemModel;
 
-    void setImages(const QHash<QString, QIcon> &images);
-    std::optional<int> add(TreeNode node);
-    void reserve(int nodes); ///< room for so many in all
-    void clear();
-    void publish();
+    virtual int size() const = 0;
+    virtual TreeNode at(int node) const = 0;
+    /// The node of that key; nothing if there is none.
+    virtual std::optional<int> find(const QString &key) const = 0;
+    virtual QModelIndex indexOf(int node) const = 0; ///< where a view draws it
+    /// Hands over to the views what was kept back from them.
+    virtual void publish() {}
 
-    int size() const { return static_cast<int>(m_nodes.size()); }
-    const TreeNode &at(int node) const { return m_nodes[static_cast<size_t>(node)].item; }
-    std::optional<int> find(const QString &key) const;
-    QModelIndex indexOf(int node) const;
-
-    QModelIndex index(int row, int column, const QModelIndex &parent = {}) const override;
-    QModelIndex parent(const QModelIndex &child) const override;
-    int rowCount(const QModelIndex &parent = {}) const override;
-    int columnCount(const QModelIndex &parent = {}) const override;
-    QVariant data(const QModelIndex &index, int role) const override;
-
-private:
-    struct Children {
-        std::vector<int> nodes;
-        int published = 0; ///< how many of them the view knows
-    };
-    struct Entry {
-        TreeNode item;
-        int row = 0; ///< among its siblings
-        Children children;
-    };
-
-    Entry &entry(int node) { return m_nodes[static_cast<size_t>(node)]; }
-    const Entry &entry(int node) const { return m_nodes[static_cast<size_t>(node)]; }
-    Children &childrenOf(int node) { return node < 0 ? m_roots : entry(node).children; }
-    const Children &childrenOf(int node) const { return node < 0 ? m_roots : entry(node).children; }
-    bool accepts(const TreeNode &node) const;
-    void schedulePublishing();
-    QList<int> parentsWithNews();
-
-    std::vector<Entry> m_nodes;
-    Children m_roots;
-    QHash<QString, int> m_byKey;
-    QHash<QString, QIcon> m_images;
-    int m_published = 0; ///< nodes up to this number are known to the view
-    bool m_scheduled = false;
+    static int nodeOf(const QModelIndex &index) ///< -1 for no index
+    {
+        return index.isValid() ? static_cast<int>(index.internalId()) : -1;
+    }
+    int columnCount(const QModelIndex & = {}) const override { return 1; }
 };

@@ -105,9 +105,12 @@ QStringList stepsOf(const QString &path)
 
 std::optional<int> childNamed(const NodeTree &tree, int parent, const QString &text)
 {
-    for (int node = 0; node < tree.nodeCount(); ++node) {
-        if (tree.nodeAt(node).parent == parent && tree.nodeAt(node).text == text)
-            return node;
+    const QModelIndex above = tree.indexOf(parent);
+    const QAbstractItemModel &nodes = *tree.model();
+    for (int row = 0; row < nodes.rowCount(above); ++row) {
+        const QModelIndex child = nodes.index(row, 0, above);
+        if (child.data().toString() == text)
+            return tree.nodeOf(child);
     }
     return {};
 }

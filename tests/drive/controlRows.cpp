@@ -63,6 +63,14 @@ ControlRows rowsOfListView(const ListView &list)
     return rows;
 }
 
+/// A list whose rows are a model's.
+ControlRows rowsOfModel(const QListView &list)
+{
+    const QAbstractItemModel &model = *list.model();
+    return {model.rowCount(), list.currentIndex().row(),
+            [&model](int row) { return model.index(row, 0).data().toString(); }};
+}
+
 ControlRows rowsOfGrid(const CharacterGrid &grid)
 {
     return {static_cast<int>(grid.characters().size()), grid.selectedCell(),
@@ -123,6 +131,8 @@ std::optional<ControlRows> rowsOf(const QWidget &control)
         return rowsOfListView(*list);
     if (const auto *grid = qobject_cast<const CharacterGrid *>(&control))
         return rowsOfGrid(*grid);
+    if (const auto *list = qobject_cast<const QListView *>(&control); list && list->model())
+        return rowsOfModel(*list);
     return {};
 }
 } // namespace drive

@@ -2,10 +2,12 @@
 
 #include "codeknowledge/codeInsertion.h"
 #include "storage/localFileSystem.h"
+#include "widgets/nodeTreeModel.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+#include <malloc.h>
 
 namespace
 {
@@ -24,6 +26,15 @@ protected:
     std::optional<QString> chosen(int node, std::optional<QChar> before = u'x')
     {
         return chosenCode(codes, node, before);
+    }
+
+    /// The rows of lstCodeAssistantSyntax.
+    QStringList syntax() const
+    {
+        QStringList rows;
+        for (int row = 0; row < codes.syntaxCount(); ++row)
+            rows << codes.lstCodeAssistantSyntax(row);
+        return rows;
     }
 
     QTemporaryDir folder;
@@ -58,7 +69,7 @@ TEST_F(CodeLibrariesTest, ReadsTheCodePageOfTheFiles)
     put("Html.tcb", "+a\n++title=caf\xE9 \x80\n");
     put("Css.tcb", "");
     load();
-    EXPECT_EQ(codes.elements().lstCodeAssistantSyntax, QStringList{QStringLiteral("<a title=[caf\u00E9 \u20AC]>")});
+    EXPECT_EQ(syntax(), QStringList{QStringLiteral("<a title=[caf\u00E9 \u20AC]>")});
 }
 
 TEST_F(CodeLibrariesTest, ReadsNothingWithoutTheHtmlFile)
@@ -89,7 +100,7 @@ TEST_F(CodeLibrariesTest, EndsAtALineWithoutAPlaceInTheHtmlFile)
     EXPECT_EQ(codes.HtmlCodeNodeCount(), 0) << "it is told once the file is read";
     EXPECT_FALSE(codes.isComplete());
     EXPECT_EQ(codes.elementNodes()->size(), 2);
-    EXPECT_EQ(codes.elements().lstCodeAssistantSyntax, QStringList{QStringLiteral("<p>")});
+    EXPECT_EQ(syntax(), QStringList{QStringLiteral("<p>")});
 }
 
 TEST_F(CodeLibrariesTest, EndsAtALineWithoutAPlaceInTheCssFile)
@@ -109,6 +120,72 @@ TEST_F(CodeLibrariesTest, GivesAnElementThatComesAgainNoSecondNodeInTheAssistant
     load();
     EXPECT_EQ(codes.elements().lstCodeAssistantElements.size(), 4);
     EXPECT_EQ(codes.elementNodes()->size(), 3) << "its key is in the tree; a deprecated one has another";
+}
+
+TEST_F(CodeLibrariesTest, TellsOfEachElementInThreeLists)
+{
+    put("Html.tcb", "+img\n++src=URL\n++alt=\n+-border\n+++top\n-font\n+td\n++width=a=b\n");
+    put("Css.tcb", "");
+    load();
+    EXPECT_EQ(codes.elements().lstCodeAssistantElements,
+              (QStringList{QStringLiteral("<img"), QStringLiteral("<font"), QStringLiteral("<td")}));
+    EXPECT_EQ(codes.elements().lstCodeAssistantElementsFull,
+              (QStringList{QStringLiteral("e<img"), QStringLiteral("d<font"), QStringLiteral("e<td")}));
+    EXPECT_EQ(syntax(), (QStringList{QStringLiteral("<img src=[URL] alt= border>"), QStringLiteral("<font>"),
+                                     QStringLiteral("<td width=[a=b]>")}));
+    EXPECT_EQ(codes.lstCodeAssistantSyntax(3), QString());
+    EXPECT_EQ(codes.lstCodeAssistantSyntax(-1), QString());
+}
+
+TEST_F(CodeLibrariesTest, LeavesOutTheSyntaxOfTheElementThatTheReadingEndedIn)
+{
+    put("Html.tcb", "+a\n++href=\n+b\n+++value\n+c\n");
+    load();
+    EXPECT_EQ(codes.elements().lstCodeAssistantElements, (QStringList{QStringLiteral("<a"), QStringLiteral("<b")}));
+    EXPECT_EQ(syntax(), QStringList{QStringLiteral("<a href=>")});
+}
+
+TEST_F(CodeLibrariesTest, ReadsItsFilesWhenItIsFirstAsked)
+{
+    load(); // a start does not wait for them
+    put("Html.tcb", "+p\n");
+    put("Css.tcb", "+color\n");
+    EXPECT_EQ(codes.nodeCount(), 4);
+    put("Html.tcb", "+p\n+b\n");
+    EXPECT_EQ(codes.nodeCount(), 4) << "and once";
+    EXPECT_EQ(codes.elements().lstCodeAssistantElements.size(), 1);
+}
+
+TEST_F(CodeLibrariesTest, ShowsItsNodesInAView)
+{
+    put("Html.tcb", "+p\n++align=\n+++left\n-u\n");
+    put("Css.tcb", "+color\n++red\n+float\n");
+    load();
+    const auto tree = codes.tree();
+    ASSERT_EQ(tree->rowCount(), 2);
+    EXPECT_EQ(tree->find(QStringLiteral("html")), 0);
+    EXPECT_EQ(tree->find(QStringLiteral("css")), 5);
+    EXPECT_EQ(tree->find(QStringLiteral("float")), 8);
+    EXPECT_EQ(tree->find(QStringLiteral("p")), std::nullopt);
+    EXPECT_EQ(tree->find({}), std::nullopt);
+    for (int node = 0; node < tree->size(); ++node) {
+        const QModelIndex index = tree->indexOf(node);
+        EXPECT_EQ(NodeTreeModel::nodeOf(index), node);
+        EXPECT_EQ(NodeTreeModel::nodeOf(index.parent()), tree->at(node).parent);
+        EXPECT_EQ(tree->index(index.row(), 0, index.parent()), index);
+        EXPECT_EQ(index.data().toString(), tree->at(node).text);
+    }
+    EXPECT_FALSE(tree->index(2, 0).isValid());
+}
+
+TEST_F(CodeLibrariesTest, KeepsTheShippedFilesInLittleMemory)
+{
+    codes.LoadCodeLibraries(files, QStringLiteral(TEST_SOURCE_DIR "/data"));
+    const auto before = mallinfo2().uordblks + mallinfo2().hblkhd;
+    ASSERT_GT(codes.nodeCount(), 60'000);
+    const auto taken = mallinfo2().uordblks + mallinfo2().hblkhd - before;
+    EXPECT_LT(taken, 3U << 20U);
+    EXPECT_EQ(codes.node(codes.nodeCount() - 1).imageKey, QStringLiteral("ImgNodeCSSValue"));
 }
 
 class ChosenCodeTest : public CodeLibrariesTest

@@ -100,13 +100,14 @@ class FewElements final : public CodeKnowledge
 public:
     explicit FewElements(const QStringList &names) { m_elements.lstCodeAssistantElements = names; }
     const CodeElements &elements() const override { return m_elements; }
+    QString lstCodeAssistantSyntax(int) const override { return {}; }
     int HtmlCodeNodeCount() const override { return 0; }
     int nodeCount() const override { return 0; }
-    const TreeNode &node(int) const override { return m_none; }
+    TreeNode node(int) const override { return {}; }
+    int parentOf(int) const override { return -1; }
 
 private:
     CodeElements m_elements;
-    TreeNode m_none;
 };
 
 TEST(TagHelpTopic, IsThePageOfTheElementOrTheOneForNone)

@@ -24,9 +24,11 @@ public:
     }
 
     const CodeElements &elements() const override { return m_elements; }
+    QString lstCodeAssistantSyntax(int) const override { return {}; }
     int HtmlCodeNodeCount() const override { return m_htmlNodes; }
     int nodeCount() const override { return static_cast<int>(m_nodes.size()); }
-    const TreeNode &node(int number) const override { return m_nodes[static_cast<size_t>(number)]; }
+    TreeNode node(int number) const override { return m_nodes[static_cast<size_t>(number)]; }
+    int parentOf(int number) const override { return node(number).parent; }
 
 private:
     CodeElements m_elements;

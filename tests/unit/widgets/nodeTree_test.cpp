@@ -1,6 +1,6 @@
 #include "widgets/nodeTree.h"
 
-#include "widgets/nodeTreeModel.h"
+#include "widgets/keptNodes.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -155,7 +155,7 @@ TEST(NodeTree, TellsTheViewOfThousandsOfNodesAtOnce)
 
 TEST(NodeTree, ShowsAModelThatOthersShowToo)
 {
-    const auto model = std::make_shared<NodeTreeModel>();
+    const auto model = std::make_shared<KeptNodes>();
     model->add({str("one"), {}, {}, -1});
     NodeTree first;
     auto second = std::make_unique<NodeTree>();

@@ -1,25 +1,25 @@
-#include "widgets/nodeTreeModel.h"
+#include "widgets/keptNodes.h"
 
 #include <QMetaObject>
 #include <QSet>
 
-void NodeTreeModel::setImages(const QHash<QString, QIcon> &images)
+void KeptNodes::setImages(const QHash<QString, QIcon> &images)
 {
     m_images = images;
 }
 
-bool NodeTreeModel::accepts(const TreeNode &node) const
+bool KeptNodes::accepts(const TreeNode &node) const
 {
     return (node.key.isEmpty() || !m_byKey.contains(node.key)) &&
            (node.imageKey.isEmpty() || m_images.contains(node.imageKey)) && node.parent >= -1 && node.parent < size();
 }
 
-void NodeTreeModel::reserve(int nodes)
+void KeptNodes::reserve(int nodes)
 {
     m_nodes.reserve(static_cast<size_t>(nodes));
 }
 
-std::optional<int> NodeTreeModel::add(TreeNode node)
+std::optional<int> KeptNodes::add(TreeNode node)
 {
     if (!accepts(node))
         return {};
@@ -34,7 +34,7 @@ std::optional<int> NodeTreeModel::add(TreeNode node)
     return number;
 }
 
-void NodeTreeModel::clear()
+void KeptNodes::clear()
 {
     if (m_nodes.empty())
         return;
@@ -46,7 +46,7 @@ void NodeTreeModel::clear()
     endResetModel();
 }
 
-void NodeTreeModel::schedulePublishing()
+void KeptNodes::schedulePublishing()
 {
     if (m_scheduled)
         return;
@@ -55,7 +55,7 @@ void NodeTreeModel::schedulePublishing()
         this, [this] { publish(); }, Qt::QueuedConnection);
 }
 
-void NodeTreeModel::publish()
+void KeptNodes::publish()
 {
     m_scheduled = false;
     for (const int parent : parentsWithNews()) {
@@ -69,7 +69,7 @@ void NodeTreeModel::publish()
 
 /// Counts what stands under new nodes as known, since it comes into view with them, and tells the known parents that
 /// have new children.
-QList<int> NodeTreeModel::parentsWithNews()
+QList<int> KeptNodes::parentsWithNews()
 {
     QList<int> parents;
     QSet<int> known;
@@ -86,45 +86,40 @@ QList<int> NodeTreeModel::parentsWithNews()
     return parents;
 }
 
-std::optional<int> NodeTreeModel::find(const QString &key) const
+std::optional<int> KeptNodes::find(const QString &key) const
 {
     const auto found = m_byKey.constFind(key);
     return found == m_byKey.constEnd() ? std::optional<int>() : *found;
 }
 
-QModelIndex NodeTreeModel::indexOf(int node) const
+QModelIndex KeptNodes::indexOf(int node) const
 {
     return node < 0 ? QModelIndex() : createIndex(entry(node).row, 0, static_cast<quintptr>(node));
 }
 
-QModelIndex NodeTreeModel::index(int row, int column, const QModelIndex &parent) const
+QModelIndex KeptNodes::index(int row, int column, const QModelIndex &parent) const
 {
     if (column != 0 || row < 0 || row >= rowCount(parent))
         return {};
-    const Children &children = childrenOf(parent.isValid() ? static_cast<int>(parent.internalId()) : -1);
+    const Children &children = childrenOf(nodeOf(parent));
     return createIndex(row, 0, static_cast<quintptr>(children.nodes[static_cast<size_t>(row)]));
 }
 
-QModelIndex NodeTreeModel::parent(const QModelIndex &child) const
+QModelIndex KeptNodes::parent(const QModelIndex &child) const
 {
-    return child.isValid() ? indexOf(at(static_cast<int>(child.internalId())).parent) : QModelIndex();
+    return child.isValid() ? indexOf(entry(nodeOf(child)).item.parent) : QModelIndex();
 }
 
-int NodeTreeModel::rowCount(const QModelIndex &parent) const
+int KeptNodes::rowCount(const QModelIndex &parent) const
 {
-    return childrenOf(parent.isValid() ? static_cast<int>(parent.internalId()) : -1).published;
+    return childrenOf(nodeOf(parent)).published;
 }
 
-int NodeTreeModel::columnCount(const QModelIndex &) const
-{
-    return 1;
-}
-
-QVariant NodeTreeModel::data(const QModelIndex &index, int role) const
+QVariant KeptNodes::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid())
         return {};
-    const TreeNode &node = at(static_cast<int>(index.internalId()));
+    const TreeNode &node = entry(nodeOf(index)).item;
     if (role == Qt::DisplayRole)
         return node.text;
     if (role == Qt::DecorationRole && !node.imageKey.isEmpty())

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "codeknowledge/ownLines.h"
+#include "common/treeNode.h"
+
+#include <array>
+
+/// A branch of the code tree: the nodes that a data file gives, over the bytes of the file. Beside them it holds
+/// numbers alone; a text is made when it is asked for. Nodes are numbered from 0, which is the root; node n is the
+/// file's line n, counted from 1.
+class CodeBranch
+{
+public:
+    CodeBranch() = default; ///< of no nodes, not even a root
+
+    /// Reads `Html.tcb`. A value behind no attribute of its element, and an attribute in front of all elements, have no
+    /// place in the tree.
+    static CodeBranch ofHtml(const QByteArray &bytes);
+    /// Reads `Css.tcb`, whose properties have their names as keys. A value in front of all properties has no place in
+    /// the tree, and a property whose name is a key already.
+    static CodeBranch ofCss(const QByteArray &bytes);
+
+    /// False: a line had no place in the tree, and what stands behind it was not read.
+    bool isComplete() const { return m_complete; }
+
+    int size() const { return static_cast<int>(m_parents.size()); }
+    TreeNode node(int number) const;
+    int parentOf(int number) const { return m_parents[static_cast<size_t>(number)]; } ///< -1 for the root's
+    int childCount(int number) const { return below(number).count; }
+    int child(int number, int row) const; ///< the row counts from 0
+    int rowOf(int number) const;          ///< among its siblings, from 0
+
+    /// The line that a node other than the root was made of.
+    QString lineOf(int number) const { return m_lines.text(number - 1); }
+
+private:
+    /// The nodes right below one: part of a level, or numbers that follow one another.
+    struct Below {
+        const std::vector<int> *level = nullptr;
+        int first = 0; ///< the place in the level, or the number
+        int count = 0;
+    };
+
+    CodeBranch(const QByteArray &bytes, bool html);
+    void placeHtml();
+    void placeCss();
+    int lastDepth() const { return m_html ? 3 : 2; }
+    int depthOf(int number) const;
+    int behind(int number, int depth) const;
+    Below below(int number) const;
+    TreeNode htmlNode(int number) const;
+    TreeNode cssNode(int number) const;
+
+    OwnLines m_lines;
+    bool m_html = true;
+    bool m_complete = false;
+    std::vector<int> m_parents; ///< of each node
+    /// The nodes of each depth below the root's but the last one; those of the last depth stand right behind the node
+    /// above them.
+    std::array<std::vector<int>, 2> m_levels;
+};

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "codeknowledge/codeBranch.h"
+
+#include <optional>
+
+/// The code tree: the branches of HTML and of CSS, one behind the other. Nodes are numbered from 0 through both.
+class CodeTree
+{
+public:
+    /// A branch of no nodes is not in the tree.
+    CodeTree(CodeBranch html, CodeBranch css) : m_html(std::move(html)), m_css(std::move(css)) {}
+
+    const CodeBranch &html() const { return m_html; }
+    const CodeBranch &css() const { return m_css; }
+
+    int size() const { return m_html.size() + m_css.size(); }
+    TreeNode node(int number) const;
+    int parentOf(int number) const;                    ///< -1 for a root
+    int rowOf(int number) const;                       ///< among its siblings, from 0
+    int childCount(int number) const;                  ///< -1 is what the roots stand under
+    int child(int number, int row) const;              ///< the row counts from 0
+    std::optional<int> find(const QString &key) const; ///< nothing if no node has it
+
+private:
+    bool isHtml(int number) const { return number < m_html.size(); }
+
+    CodeBranch m_html;
+    CodeBranch m_css;
+};
