@@ -7,7 +7,7 @@ import generate
 import tcb
 from cssGrammar import Grammar
 from dtd import Definition
-from knowledge import Attribute, Element, Joiner, OWN
+from knowledge import ONLY, OWN, Attribute, Element, Joiner
 from tables import names, rows, source, unmarked
 
 
@@ -57,6 +57,14 @@ class GrammarTest(unittest.TestCase):
         self.assertEqual(self.values("<x> | b", {"x": "old"}, words={"x": ["a", "c"]}), ["a", "c", "b"])
 
 
+    def test_names_the_measures_and_leaves_them_apart_from_words(self):
+        grammar = Grammar({"it": "auto | <length [0,∞]> | <share> | f( <time> )"}, {"share": "<percentage> | <length>"}, {},
+                          {"length": [], "percentage": [], "time": []})  # fmt: skip
+        found = grammar.of("it")
+        self.assertEqual(list(found.measures), ["length", "percentage"])
+        self.assertEqual(found.in_order(["0", "auto"]), ["auto", "0", "f()"])
+
+
 class FilesTest(unittest.TestCase):
     def test_html_is_marked_by_depth_and_deprecation(self):
         attributes = [
@@ -95,10 +103,22 @@ def read_html():
     return found
 
 
+def read_css():
+    """{property: its values} of data/Css.tcb."""
+    found = {}
+    for line in (generate.DATA / "Css.tcb").read_bytes().decode("cp1252").split("\r\n")[:-1]:
+        if line.startswith("»»"):
+            values.append(line[2:])
+        else:
+            found[line[1:]] = values = []
+    return found
+
+
 class SourcesTest(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
         cls.html = read_html()
+        cls.only_ours = {(cells[0], cells[1]) for cells in rows("values.txt") if ONLY in cells}
         cls.omitted = {}
         for elements, attributes in rows("omissions.txt"):
             for element in names(elements):
@@ -144,8 +164,12 @@ class SourcesTest(unittest.TestCase):
         deprecated, forms, values = self.html[element][1][name]
         self.assertLessEqual(told.get("deprecated", False), deprecated)
         if told.get("boolean"):
-            self.assertEqual(forms, {""})
-        self.assertLessEqual(set(told.get("values", [])), set(values))
+            self.assertEqual(forms, {"", "="})
+            self.assertIn(name, values)
+        if told.get("omit"):
+            self.assertEqual(forms, {"", "="})
+        if (element, name) not in self.only_ours:
+            self.assertLessEqual(set(told.get("values", [])), set(values))
 
     def test_settled_elements_and_attributes_of_browsers_are_known(self):
         def settled(feature):
@@ -176,11 +200,90 @@ class SourcesTest(unittest.TestCase):
                 self.assertLessEqual(ours, set(attributes), element)
         self.assertLessEqual(set(told["WindowEventHandlers"]), set(self.html["body"][1]))
 
-    def test_every_property_stands_once(self):
-        told = source("mdn-data/css.json")["properties"]
-        lines = (generate.DATA / "Css.tcb").read_bytes().decode("cp1252").split("\r\n")
-        found = [line[1:] for line in lines if re.match("»[^»]", line)]
-        self.assertEqual(sorted(found), sorted(set(told) - {"--*"}))
+    def test_properties_are_those_that_browsers_know_and_each_stands_once(self):
+        told = set(source("mdn-data/css.json")["properties"]) - {"--*"}
+        browsers = source("browser-compat-data/css.json")["names"]
+        expected = told & set(browsers) | {"grid-gap", "grid-column-gap", "grid-row-gap"}
+        expected |= {name for name, of in browsers.items() if name.startswith("-") and of in told}
+        found = list(read_css())
+        self.assertEqual(sorted(found), sorted(expected - {"ime-mode"}))
+        for dead in ("box-align", "box-orient", "align-tracks", "scroll-snap-points-x", "ime-mode", "-ms-filter",
+                     "-moz-outline-radius", "-ms-scroll-rails"):  # fmt: skip
+            self.assertNotIn(dead, found)
+        for living in ("-webkit-background-clip", "-webkit-box-orient", "-webkit-text-size-adjust",
+                       "-webkit-backdrop-filter", "-webkit-user-select", "-webkit-line-clamp"):  # fmt: skip
+            self.assertIn(living, found)
+
+    def test_measures_and_functions_stand_beside_words(self):
+        found = read_css()
+        self.assertEqual(found["z-index"][:3], ["auto", "0", "1"])
+        hundreds = [str(number) for number in range(100, 1000, 100)]
+        self.assertEqual(found["font-weight"][:14], ["normal", "bold", "bolder", "lighter"] + hundreds + ["calc()"])
+        for name, values in {"width": ["1px", "100%", "calc()", "clamp()", "min()", "max()", "env()"],
+                             "animation-duration": ["1s", "calc()"], "rotate": ["45deg"]}.items():  # fmt: skip
+            self.assertLessEqual(set(values), set(found[name]), name)
+        self.assertNotIn("env()", found["z-index"])
+        self.assertNotIn("calc()", found["display"])
+        for name, values in found.items():
+            self.assertIn("var()", values, name)
+            self.assertFalse({"inline-list-item", "run-in", "element()", "paint()"} & set(values), name)
+
+
+class OrderTest(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.html = read_html()
+
+    def names(self, element):
+        return list(self.html[element][1])
+
+    def test_deprecated_elements_and_attributes_stand_last(self):
+        marks = [deprecated for deprecated, _ in self.html.values()]
+        self.assertEqual(marks, sorted(marks))
+        for element, (_, attributes) in self.html.items():
+            marks = [deprecated for deprecated, *_ in attributes.values()]
+            self.assertEqual(marks, sorted(marks), element)
+
+    def test_what_is_typed_finds_the_element_in_use_first(self):
+        rows = {"bl": "blockquote", "fo": "footer", "r": "rp", "sp": "span", "st": "strong", "ta": "table", "c": "canvas"}
+        for typed, expected in rows.items():
+            self.assertEqual(next(name for name in self.html if name.startswith(typed)), expected)
+
+    def test_own_attributes_stand_first_and_by_their_use(self):
+        rows = {
+            "a": ["href", "target", "rel"],
+            "img": ["src", "alt", "width", "height"],
+            "input": ["type", "name", "value"],
+            "td": ["colspan", "rowspan", "headers", "accesskey"],
+        }
+        for element, expected in rows.items():
+            self.assertEqual(self.names(element)[: len(expected)], expected)
+        rest = self.names("img")[self.names("img").index("sizes") + 1 : self.names("img").index("accesskey")]
+        self.assertEqual(rest, sorted(rest))
+
+    def test_flags_and_attributes_that_may_be_bare_have_both_forms(self):
+        for element, name in (("input", "disabled"), ("td", "nowrap"), ("div", "inert")):
+            self.assertEqual(self.html[element][1][name][1:], ({"", "="}, {name: False}))
+        for element, name in (
+            ("div", "autocorrect"), ("div", "translate"), ("div", "writingsuggestions"), ("dialog", "closedby"),
+            ("img", "fetchpriority"), ("img", "loading"), ("track", "kind"), ("img", "alt"), ("option", "value"),
+        ):  # fmt: skip
+            self.assertEqual(self.html[element][1][name][1], {"", "="}, name)
+        self.assertEqual(self.html["!doctype"][1]["public"][1], {""})
+
+    def test_values_are_those_of_today(self):
+        rows = {
+            ("link", "as"): "font image script style fetch track json text".split(),
+            ("script", "type"): ["application/json", "application/ld+json"],
+            ("source", "type"): ["audio/aac", "audio/mp4"],
+            ("iframe", "sandbox"): ["allow-storage-access-by-user-activation"],
+            ("iframe", "allow"): ["accelerometer", "clipboard-write"],
+            ("div", "role"): ["doc-footnote", "mark", "suggestion", "doc-toc"],
+            ("meta", "name"): ["viewport", "description", "theme-color", "twitter:card"],
+        }
+        for (element, name), expected in rows.items():
+            self.assertLessEqual(set(expected), set(self.html[element][1][name][2]))
+        self.assertNotIn("document", self.html["link"][1]["as"][2])
 
 
 class OwnTablesTest(unittest.TestCase):
@@ -213,6 +316,58 @@ class OwnTablesTest(unittest.TestCase):
                 self.assertLessEqual(added, self.attributes(element), element)
         for _, elements, _ in rows("exceptions.txt"):
             self.assertLessEqual(set(elements.split()), set(self.elements))
+        for elements, attributes in rows("order.txt"):
+            for element in names(elements):
+                own = {attribute.name for attribute in self.elements[element].own()}
+                self.assertLessEqual(set(attributes.split()), own, element)
+
+    def test_deprecated_elements_tell_what_to_use_instead_and_the_others_how_they_are_used(self):
+        deprecated = {name for name, element in self.elements.items() if element.deprecated}
+        self.assertEqual({name for name, _ in rows("instead.txt")}, deprecated)
+        told = {name for first, *_ in rows("models.txt") if not first.startswith("@") for name in names(first)}
+        self.assertEqual(told, set(self.elements) - deprecated)
+
+    def test_every_element_sees_others(self):
+        for element in self.elements.values():
+            self.assertTrue(element.related, element.name)
+            self.assertLessEqual(set(element.related), set(self.elements) - {element.name})
+        self.assertEqual(self.elements["video"].related, ["source", "track", "audio"])
+
+    def test_what_must_be_there_are_attributes_of_the_element(self):
+        for element in self.elements.values():
+            for name in re.findall(r"\b(?:alt|src|srcset|href|dir|rel|value|label|srclang|name|content)\b", element.demands):
+                self.assertIn(name, {attribute.name for attribute in element.attributes} | {"imagesrcset"}, element.name)
+
+
+class PagesTest(unittest.TestCase):
+    def page(self, name):
+        return (generate.DATA / "help/topics/reference" / name).read_text(encoding="utf-8")
+
+    def test_syntax_is_the_elements_own(self):
+        line = re.search(r'<p class="syntax"><code>(.*)</code>', self.page("Tag_IMG.htm"))[1]
+        self.assertTrue(line.startswith("&lt;img src=[URL] alt alt=[Text] width=[Pixels] height=[Pixels] "), line)
+        self.assertTrue(line.endswith(" ismap referrerpolicy= usemap=[#Name]&gt;"), line)
+
+    def test_deprecated_elements_say_what_to_use(self):
+        self.assertIn('Write <a href="Tag_ABBR.htm"><code>&lt;abbr&gt;</code></a> instead', self.page("Tag_ACRONYM.htm"))
+
+    def test_use_is_told(self):
+        page = self.page("Tag_LI.htm")
+        self.assertIn('<th align="left" valign="top">It may stand</th><td valign="top">in <a href="Tag_OL.htm">', page)
+        self.assertIn("the end tag may be left out before another li", page)
+
+    def test_measures_are_told_in_words(self):
+        page = self.page("Css_Z.htm")
+        row = re.search(r"<code>z-index:</code>.*?</tr>", page)[0]
+        self.assertIn("a whole number", row)
+        self.assertIn("the same as background-clip", self.page("Css_Prefixed.htm"))
+
+    def test_events_of_the_page_stand_apart(self):
+        every, body = self.page("EventAttributes.htm").split("can stand on <a href", 1)
+        self.assertIn("<code>onclick=</code>", every)
+        self.assertNotIn("<code>onbeforeunload=</code>", every)
+        self.assertIn("<code>onbeforeunload=</code>", body)
+        self.assertEqual(body.count("<code>on"), 18)
 
 
 class GeneratorTest(unittest.TestCase):

@@ -1,6 +1,7 @@
 """Collects from the formal syntax of CSS properties the words that can be written as they stand."""
 
 import re
+from dataclasses import dataclass, field
 
 # Everywhere a number can stand, a calculation can; nobody looks for these among the values of a property.
 _CALCULATIONS = {
@@ -22,30 +23,49 @@ _COLOURS = "named-color"
 _CALL = "()"
 
 
-class Grammar:
-    """`properties` is {name: syntax}, `syntaxes` {type: syntax}, and `words` {type: [word, ...]} goes before it."""
+@dataclass
+class Found:
+    """What a syntax holds, each as the keys of a dictionary, in order."""
 
-    def __init__(self, properties, syntaxes, words):
+    words: dict = field(default_factory=dict)
+    colours: dict = field(default_factory=dict)
+    measures: dict = field(default_factory=dict)  # the types of numbers and texts that one writes oneself
+
+    def in_order(self, samples=()):
+        """The words, `samples` that are not among them, the names of colours, and the functions last."""
+        functions = [word for word in self.words if word.endswith(_CALL)]
+        plain = dict.fromkeys([word for word in self.words if not word.endswith(_CALL)] + list(samples))
+        return list(plain) + list(self.colours) + functions
+
+
+class Grammar:
+    """`properties` is {name: syntax}, `syntaxes` {type: syntax}, and `words` {type: [word, ...]} goes before it, as do
+    `measures`, the types that are not looked into."""
+
+    def __init__(self, properties, syntaxes, words, measures=()):
         self._properties = properties
         self._syntaxes = syntaxes
         self._words = words
+        self._measures = measures
+
+    def of(self, name):
+        """What the property can be set to."""
+        return self._found(self._properties[name], ("property", name))
 
     def values(self, name):
-        """The words of the property in the order of its syntax, then the names of colours, then the functions."""
-        return self._in_order(self._properties[name], ("property", name))
+        return self.of(name).in_order()
 
     def colours(self):
         """The words that stand for a colour wherever one can stand."""
-        return self._in_order(self._syntaxes["color"], ("type", "color"))
+        return self._found(self._syntaxes["color"], ("type", "color")).in_order()
 
-    def _in_order(self, syntax, seen):
-        words, colours = {}, {}
-        self._collect(syntax, words, colours, {seen})
-        functions = [word for word in words if word.endswith(_CALL)]
-        return [word for word in words if not word.endswith(_CALL)] + list(colours) + functions
+    def _found(self, syntax, seen):
+        found = Found()
+        self._collect(syntax, found, found.words, {seen})
+        return found
 
-    def _collect(self, syntax, words, colours, seen):
-        """Adds what `syntax` holds to `words` or `colours`; `seen` has the names that are being looked into."""
+    def _collect(self, syntax, found, words, seen):
+        """Adds what `syntax` holds to `found`, and words to `words`; `seen` has the names that are being looked into."""
         depth = 0  # of functions whose arguments are passed over
         for token in _TOKEN.finditer(syntax):
             if depth > 0 or token["call"]:
@@ -57,18 +77,21 @@ class Grammar:
             elif token["function"]:
                 _add_function(token["function"], words)
             else:
-                self._look_into(token, words, colours, seen)
+                self._look_into(token, found, words, seen)
 
-    def _look_into(self, token, words, colours, seen):
+    def _look_into(self, token, found, words, seen):
         kind = "property" if token["property"] else "type"
         name = token[kind]
         if name is None or (kind, name) in seen:
+            return
+        if kind == "type" and name in self._measures:
+            found.measures.setdefault(name)
             return
         if kind == "type" and name in self._words:
             words.update(dict.fromkeys(self._words[name]))
             return
         syntax = (self._properties if kind == "property" else self._syntaxes).get(name, "")
-        self._collect(syntax, colours if name == _COLOURS else words, colours, seen | {(kind, name)})
+        self._collect(syntax, found, found.colours if name == _COLOURS else words, seen | {(kind, name)})
 
 
 def _add_function(name, words):

@@ -15,8 +15,7 @@ _OF_COMMON = {
     GLOBAL: "These attributes can stand on nearly every element, whatever it is for.",
     ARIA: "These attributes tell programs that read a page aloud, or show it on a braille display, what its parts are "
     "and how they stand. Where an element of HTML says so by itself, none of them is needed.",
-    EVENTS: "Each of these attributes holds a piece of script, which runs when the event happens. They can stand on "
-    "every element.",
+    EVENTS: "Each of these attributes holds a piece of script, which runs when the event happens.",
 }
 
 
@@ -44,44 +43,88 @@ def common_pages(elements):
     """{file name: (title, page)} of the attributes that the elements have in common."""
     found = {}
     for group, (name, caption, _) in _COMMON.items():
-        attributes = _all_of(elements, group)
-        parts = [paragraph(_OF_COMMON[group]), *_tables(attributes), way_back()]
+        parts = [paragraph(_OF_COMMON[group]), *_common_tables(elements, group), way_back()]
         found[name] = (caption, page(caption, caption, parts))
     return found
 
 
+def _common_tables(elements, group):
+    """Of events, those that only the whole page knows stand apart from those of every element."""
+    every = {attribute.name for element in elements if element.name == "div" for attribute in element.attributes}
+    attributes = _all_of(elements, group)
+    if group != EVENTS:
+        return _tables(attributes)
+    parts = []
+    for caption, of_all in ((_ON_EVERY, True), (_ON_BODY, False)):
+        parts += [paragraph(caption), *_tables([found for found in attributes if (found.name in every) == of_all])]
+    return parts
+
+
+_ON_EVERY = "These can stand on every element."
+_ON_BODY = f"These tell of the page as a whole, and can stand on {link('Tag_BODY.htm', code('<body>'))} alone."
+
+
 def syntax_line(element):
-    """The line that the code assistant shows once the element's name is complete."""
+    """The element with the attributes of its own that are in use."""
     line = "<" + element.name
-    for attribute in element.attributes:
+    for attribute in (own for own in element.own() if not own.deprecated or element.deprecated):
         line += f" {attribute.name}" if attribute.bare else ""
-        line += f" {attribute.name}=" + (f"[{attribute.hint}]" if attribute.hint else "") if attribute.valued else ""
+        hint = f"[{attribute.hint}]" if attribute.hint else ""
+        line += f" {attribute.name}={hint}" if attribute.valued and not _is_flag(attribute) else ""
     return line + ">"
+
+
+def _is_flag(attribute):
+    """Whether the name says it all, and is the one value that the attribute can have."""
+    return attribute.bare and attribute.values == [(attribute.name, attribute.deprecated)] and not attribute.hint
 
 
 def _page(element, known, common):
     parts = [
         paragraph(text(element.sentence)),
-        _standing(element),
+        _standing(element, known),
         heading("Example"),
         example(element.example),
-        *_tables(element.own()),
-        _common_attributes(element, common),
         heading("Syntax"),
         paragraph(code(syntax_line(element)), "syntax"),
+        _common_attributes(element, common),
+        *_model(element, known),
+        *_tables(element.own()),
         _related(element, known),
         way_back(),
     ]
     return page(title(element), tag(element.name), parts)
 
 
-def _standing(element):
+def _standing(element, known):
     told = []
     if element.deprecated:
         told.append("This element is deprecated. Browsers may still know it, but new pages do better without it.")
+        told.append(linked(element.instead, known))
     if element.void and element.name != "!doctype":
         told.append("It has no content and no end tag.")
     return paragraph(" ".join(told), "deprecated" if element.deprecated else None) if told else ""
+
+
+def linked(words, known):
+    """The words, each {name} in them as a link to that element's page."""
+    return re.sub(r"\{([\w!]+)\}", lambda name: _link_to(known[name[1]]), text(words))
+
+
+def _link_to(element):
+    return link(file_name(element), code(tag(element.name)))
+
+
+def _model(element, known):
+    """What the element may hold and where it may stand."""
+    told = (
+        ("It may hold", element.holds),
+        ("It may stand", element.stands),
+        ("It must have", element.demands),
+        ("Tags", element.tags),
+    )
+    rows = [(caption, linked(words, known)) for caption, words in told if words]
+    return [heading("Use"), table(None, rows)] if rows else []
 
 
 def _tables(attributes):
@@ -134,9 +177,7 @@ def _all_of(elements, group):
 
 
 def _related(element, known):
-    """Links to the other elements of the example."""
-    names = dict.fromkeys(re.findall(r"<(\w+)", element.example))
-    links = [link(file_name(known[name]), code(tag(name))) for name in names if name in known and name != element.name]
+    links = [_link_to(known[name]) for name in element.related]
     return paragraph("See also: " + ", ".join(links)) if links else ""
 
 

@@ -1,11 +1,13 @@
 """What there is to know of HTML: its elements, their attributes and the values of these, joined from all sources."""
 
+import re
 from dataclasses import dataclass, field
 
 from dtd import Definition
 from tables import FOLDER, MARK, names, rows, source, unmarked
 
 OWN, GLOBAL, ARIA, EVENTS = range(4)  # the groups of attributes, in the order in which they are listed
+ONLY = "="  # stands among values of ours: there are no others
 
 
 @dataclass
@@ -29,6 +31,12 @@ class Element:
     attributes: list = field(default_factory=list)
     sentence: str = ""
     example: str = ""
+    instead: str = ""  # of a deprecated element: what to use in its place
+    holds: str = ""  # these four tell how it is used, where there is something to tell
+    stands: str = ""
+    demands: str = ""
+    tags: str = ""
+    related: list = field(default_factory=list)  # the names of other elements
 
     def own(self):
         return [attribute for attribute in self.attributes if attribute.group == OWN]
@@ -54,7 +62,7 @@ class Sources:
     def elements(self):
         found = set(self.checked) | set(self.loose)
         found |= {name for name, feature in self.browsers["elements"].items() if _settled(feature)}
-        return sorted(name for name in found if [] not in self._omitted.get(name, []))
+        return [name for name in found if [] not in self._omitted.get(name, [])]
 
     def deprecated(self, element):
         return any(place.get(element, {}).get("deprecated") for place in (self.checked, self.browsers["elements"]))
@@ -131,6 +139,8 @@ class Values:
 
 def _joined_values(own, checked, listed):
     """Ours first, since they stand in a chosen order; then the sources' that are not among them."""
+    if ONLY in own:
+        own, checked, listed = [value for value in own if value != ONLY], None, None
     found = dict(unmarked(value) for value in own)
     for value in list((checked or {}).get("values", [])) + list(listed or []):
         found.setdefault(value, False)
@@ -143,6 +153,10 @@ def _joined_values(own, checked, listed):
 
 def _is_flag(name, checked, listed):
     return bool((checked or {}).get("boolean")) or listed == [name]
+
+
+def _may_be_bare(checked):
+    return bool((checked or {}).get("omit"))
 
 
 def _is_current(checked, browsers):
@@ -171,6 +185,20 @@ class Words:
 
     def unused(self):
         return sorted(set(self._words) - self.used)
+
+
+class Order:
+    """The attributes that an element is mostly written with stand first; the others follow by letter."""
+
+    def __init__(self):
+        self.chosen = {}
+        for elements, attributes in rows("order.txt"):
+            for element in names(elements):
+                self.chosen[element] = attributes.split()
+
+    def place(self, element, attribute):
+        first = self.chosen.get(element, [])
+        return (first.index(attribute) if attribute in first else len(first), attribute)
 
 
 class Additions:
@@ -205,6 +233,7 @@ class Joiner:
         self.additions = Additions()
         self.values = Values()
         self.words = Words()
+        self.order = Order()
         self._exceptions = {}
         for group, elements, kept in rows("exceptions.txt"):
             for element in elements.split():
@@ -212,39 +241,49 @@ class Joiner:
 
     def elements(self):
         told = {name: (mark, sentence) for name, mark, sentence in rows("elements.txt")}
-        examples = _examples()
+        instead = dict(rows("instead.txt"))
+        models, related, examples = _models(), _related(), _examples()
         found = set(self.sources.elements()) | self.additions.elements()
         result = []
-        for name in sorted(found):
+        for name in found:
             mark, sentence = told[name]
             element = Element(name, sentence=sentence, example=examples[name])
             element.deprecated = self.sources.deprecated(name) or MARK in mark
             element.void = self.sources.void(name) or "void" in mark
             element.attributes = self._attributes(element)
+            element.instead = instead[name] if element.deprecated else ""
+            element.holds, element.stands, element.demands, element.tags = models.get(name, ("", "", "", ""))
+            element.related = related[name]
             result.append(element)
-        return result
+        return sorted(result, key=lambda element: (element.deprecated, element.name))
 
     def _attributes(self, element):
+        """The current ones in front of the deprecated ones, its own in front of those of all elements."""
         common = self._common(element)
         named = {attribute.name for attribute in common}
-        return [own for own in self._own(element) if own.name not in named] + common
+        found = [own for own in self._own(element) if own.name not in named] + common
+        return sorted(found, key=lambda attribute: (attribute.deprecated, attribute.group))
 
     def _own(self, element):
         found = {}
         for name, (checked, browsers, listed) in self.sources.attributes(element.name).items():
             flag = _is_flag(name, checked, listed)
-            attribute = Attribute(name, OWN, bare=flag, valued=not flag, guessed=checked is None and listed is False)
+            attribute = Attribute(name, OWN, valued=True, guessed=checked is None and listed is False)
+            attribute.bare = flag or _may_be_bare(checked)
             attribute.deprecated = not _is_current(checked, browsers)
-            attribute.values = [] if flag else self._values(element.name, name, checked, listed)
+            attribute.values = [(name, False)] if flag else self._values(element.name, name, checked, listed)
             found[name] = attribute
         self.additions.apply(element.name, found, OWN)
         for attribute in found.values():
             attribute.deprecated |= element.deprecated
             self._complete(element.name, attribute)
-        return [found[name] for name in sorted(found)]
+        return [found[name] for name in sorted(found, key=lambda name: self.order.place(element.name, name))]
 
     def _complete(self, element, attribute):
         attribute.hint, attribute.meaning = self.words.of(element, attribute.name)
+        if attribute.bare and not attribute.valued and element != "!doctype":
+            # A flag, to which XHTML and old pages give its name as value.
+            attribute.valued, attribute.values = True, [(attribute.name, False)]
         if attribute.valued and not attribute.values:
             attribute.values = self._values(element, attribute.name, None, None)
 
@@ -271,12 +310,11 @@ class Joiner:
         found = {}
         for name, checked in self.sources.global_attributes().items():
             flag = _is_flag(name, checked, None)
-            attribute = Attribute(name, GLOBAL, bare=flag, valued=not flag, deprecated=checked.get("deprecated", False))
-            attribute.values = [] if flag else self._values("*", name, checked, None)
+            attribute = Attribute(name, GLOBAL, valued=True, deprecated=checked.get("deprecated", False))
+            attribute.bare = flag or _may_be_bare(checked)
+            attribute.values = [(name, False)] if flag else self._values("*", name, checked, None)
             found[name] = attribute
         self.additions.apply("*", found, GLOBAL)
-        for name in ("hidden",):
-            found[name].values = [value for value in found[name].values if value[0] != name]  # the form without value
         for attribute in found.values():
             self._complete("*", attribute)
         role = self._aria_rows()[0]
@@ -304,6 +342,27 @@ class Joiner:
         for attribute in attributes:
             self._complete(element, attribute)
         return attributes
+
+
+def _models():
+    """{element: what it may hold, where it may stand, which attributes it must have, which tags may be left out}"""
+    groups, found = {}, {}
+    for first, *cells in rows("models.txt"):
+        if first.startswith("@"):
+            groups[first] = cells[0]
+            continue
+        cells = [re.sub("@[a-z-]+", lambda group: groups[group[0]], cell) for cell in cells + [""] * (4 - len(cells))]
+        found.update(dict.fromkeys(names(first), tuple(cells)))
+    return found
+
+
+def _related():
+    """{element: the others that its page names}"""
+    found = {}
+    for elements, others in rows("related.txt"):
+        for name in names(elements):
+            found.setdefault(name, []).extend(other for other in names(others) if other != name)
+    return {name: list(dict.fromkeys(others)) for name, others in found.items()}
 
 
 def _examples():

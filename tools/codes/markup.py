@@ -51,11 +51,14 @@ def example(plain):
 
 
 def table(headings, rows):
-    """`headings` are text, the cells of `rows` html."""
-    head = "".join(f'<th align="left">{text(plain)}</th>' for plain in headings)
-    lines = ['<table class="reference" border="1" cellspacing="0" cellpadding="4" width="100%">', f"<tr>{head}</tr>"]
+    """`headings` are text, the cells of `rows` html; without headings the first cell of each row heads it."""
+    lines = ['<table class="reference" border="1" cellspacing="0" cellpadding="4" width="100%">']
+    if headings:
+        lines.append("<tr>" + "".join(f'<th align="left">{text(plain)}</th>' for plain in headings) + "</tr>")
     for cells in rows:
-        lines.append("<tr>" + "".join(f'<td valign="top">{html}</td>' for html in cells) + "</tr>")
+        first = "" if headings else f'<th align="left" valign="top">{cells[0]}</th>'
+        rest = cells if headings else cells[1:]
+        lines.append(f"<tr>{first}" + "".join(f'<td valign="top">{html}</td>' for html in rest) + "</tr>")
     return "\n".join(lines + ["</table>"])
 
 

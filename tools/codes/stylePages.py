@@ -5,6 +5,7 @@ from markup import codes, heading, link, page, paragraph, table, text
 
 _OWN = "-"  # stands for the names that begin with a browser's prefix
 _COLOURS = "Css_Colours.htm"
+_WITHOUT_WORDS = "what is named or drawn is written out"
 _STATUS = {
     "experimental": "experimental",
     "nonstandard": "not standardised",
@@ -57,8 +58,14 @@ def _row(found, colours, every):
     told = codes(value for value in found.values if value not in every and not (coloured and value in colours))
     if coloured:
         told += (", " if told else "") + link(_COLOURS, "a colour")
-    status = f"<br><i>{_STATUS[found.status]}</i>" if found.status in _STATUS else ""
-    return f'<a name="{found.name}"></a><code>{found.name}:</code>{status}', told or "a number or length"
+    if found.measures:
+        told += (", " if told else "") + text(" or ".join([", ".join(found.measures[:-1])] * bool(found.measures[1:])
+                                                          + found.measures[-1:]))  # fmt: skip
+    status = _STATUS.get(found.status, "")
+    if found.stands_for:
+        status = f"the same as {found.stands_for}"
+    status = f"<br><i>{status}</i>" if status else ""
+    return f'<a name="{found.name}"></a><code>{found.name}:</code>{status}', told or _WITHOUT_WORDS
 
 
 def _common_words(every):

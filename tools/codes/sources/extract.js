@@ -77,6 +77,34 @@ function browserCompatData() {
     return { elements: features(html.elements), globalAttributes: features(html.global_attributes) };
 }
 
+// The browsers whose makers go on with them.
+const BROWSERS = ["chrome", "chrome_android", "edge", "firefox", "firefox_android", "safari", "safari_ios"];
+
+// The names under which a browser of today knows a property without being told to: its own, with a prefix, or another.
+function livingNames(name, feature) {
+    const found = new Set();
+    for (const browser of BROWSERS) {
+        for (const support of [feature.__compat.support[browser] || []].flat()) {
+            const settled = support.version_added && support.version_added !== "preview" && !support.flags;
+            if (settled && !support.version_removed) found.add(support.alternative_name || (support.prefix || "") + name);
+        }
+    }
+    return found;
+}
+
+// Each living name of a property with the property it stands for.
+function browserCss() {
+    const { css, __meta } = JSON.parse(fs.readFileSync(inPackage("browser-compat-data", "data.json"), "utf8"));
+    const names = {};
+    for (const [name, feature] of Object.entries(css.properties)) {
+        for (const living of livingNames(name, feature)) names[living] = name;
+    }
+    for (const name of Object.keys(css.properties)) {
+        if (name in names) names[name] = name;
+    }
+    return { version: __meta.version, names: sortedByKey(names) };
+}
+
 function handlersIn(text, mixin) {
     const names = [];
     const block = new RegExp(`interface mixin ${mixin} \\{([^}]*)\\}`, "g");
@@ -114,5 +142,6 @@ function css() {
 
 write("html-validate", "elements.json", htmlValidateElements());
 write("browser-compat-data", "html.json", browserCompatData());
+write("browser-compat-data", "css.json", browserCss());
 write("webref-idl", "eventHandlers.json", eventHandlers());
 write("mdn-data", "css.json", css());
