@@ -146,7 +146,7 @@ QByteArray pageFiles::shownType(const QString &name)
 
 QByteArray pageFiles::pageType(const QString &name, const QByteArray &beginning)
 {
-    if (const QByteArray type = shownType(name); !type.isEmpty())
+    if (QByteArray type = shownType(name); !type.isEmpty())
         return type;
     if (isBinary(beginning) && !hasUtf16Mark(beginning))
         return "application/octet-stream";

@@ -27,7 +27,7 @@ struct Value {
     QString text;
 };
 
-Value unquoted(Value value)
+Value unquoted(const Value &value)
 {
     const bool quoted = value.text.startsWith(u'"') || value.text.startsWith(u'\'');
     return quoted ? Value{value.start + 1, value.text.sliced(1, value.text.size() - 2)} : value;

@@ -118,7 +118,7 @@ std::optional<FileDialogResult> DesktopCommonDialogs::showSave(const FileDialogR
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.asksBeforeReplacing);
     dialog.setDefaultSuffix(request.DefaultExt);
-    const std::optional<FileDialogResult> chosen = runFileDialog(dialog, request);
+    std::optional<FileDialogResult> chosen = runFileDialog(dialog, request);
     if (!chosen || !request.DefaultExt.isEmpty() || request.asksBeforeReplacing)
         return chosen;
     return withEnding(*chosen, request.Filter, [](const QString &path) { return QFileInfo::exists(path); });

@@ -53,7 +53,7 @@ bool IsFileNameClean(const QString &name)
 QString DefaultFileNameFromTitle(const QString &pageText, const QString &folder, FileSystem &files)
 {
     const QString title = titleOf(pageText);
-    const QString name = title + QStringLiteral(".html");
+    QString name = title + QStringLiteral(".html");
     if (title.isEmpty() || title.size() >= TooLongTitle || title.contains(u'\r') ||
         title.toLower() == u"enter_title_here" || !IsFileNameClean(name))
         return {};

@@ -37,7 +37,7 @@ std::optional<PrintError> printWatched(ProgramContext &context, const PrintJob &
         yielder.yield();
         return !watch.wasCancelled();
     };
-    const std::optional<PrintError> error = context.services.printing.print(job, goOn);
+    std::optional<PrintError> error = context.services.printing.print(job, goOn);
     watch.end();
     return error;
 }

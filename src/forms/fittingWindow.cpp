@@ -79,7 +79,7 @@ protected:
     /// As of any widget: the area's own would bring the middle of a wide control into sight.
     bool focusNextPrevChild(bool next) override
     {
-        const bool moved = QWidget::focusNextPrevChild(next);
+        const bool moved = QWidget::focusNextPrevChild(next); // NOLINT(bugprone-parent-virtual-call)
         QWidget *control = window()->focusWidget();
         if (moved && control && widget()->isAncestorOf(control))
             bringIntoSight(*control);

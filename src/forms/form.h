@@ -5,10 +5,10 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <QWidget>
 
 class QAbstractButton;
 class QPushButton;
-class QWidget;
 namespace ui
 {
 class Node;

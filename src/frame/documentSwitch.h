@@ -23,7 +23,7 @@ public:
     void list();
 
 private:
-    void addKeys(QWidget &window, const QStringList &keys, int step);
+    void addKeys(QWidget &window, const QStringList &keys, int by);
     void step(int by);
     void show(Document &document);
 

@@ -160,7 +160,7 @@ ui::Node frmInsertDHTMLMenu::rowFields()
 
 ui::Node frmInsertDHTMLMenu::rowButtons()
 {
-    const auto button = [this](const char *name, const char *caption, const char *tip, auto act) {
+    const auto button = [](const char *name, const char *caption, const char *tip, auto act) {
         QPushButton *made = ui::button(QLatin1String(name), QLatin1String(caption), [act] { act(); });
         made->setToolTip(QLatin1String(tip));
         made->setAutoDefault(false);

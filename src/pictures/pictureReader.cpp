@@ -50,7 +50,7 @@ void limitSelf()
 void openNothingMore()
 {
     const int lowest = ::open("/dev/null", O_RDONLY | O_CLOEXEC); // all numbers below it are taken, and now it is, too
-    const auto most = static_cast<rlim_t>(lowest + 1);
+    const auto most = static_cast<rlim_t>(lowest) + 1;
     const rlimit files{most, most};
     ::setrlimit(RLIMIT_NOFILE, &files);
 }

@@ -84,12 +84,12 @@ QString frmProjectLayout::fileOf(int box) const
 {
     FileSystem &files = services().files;
     const MapBox &shown = m_map->boxes()[box];
-    const QString path = shown.folder + shown.name;
+    QString path = shown.folder + shown.name;
     if (!QDir::isRelativePath(path) && files.exists(path))
         return path;
     for (const int page : m_scene->linksTo(box)) {
         const QString target = pathOfTarget(path);
-        const QString found = QDir::cleanPath(joinPath(m_map->boxes()[page].folder, target));
+        QString found = QDir::cleanPath(joinPath(m_map->boxes()[page].folder, target));
         if (!target.isEmpty() && QDir::isRelativePath(target) && files.exists(found))
             return found;
     }

@@ -102,7 +102,7 @@ public:
 
     /// From now on tells when something happens to one of these files, or to one that takes the place of one; an empty
     /// list tells nothing any more. `changed` runs from the event loop. Where nothing can be told, nothing happens.
-    virtual void watch(const QStringList & /*paths*/, std::function<void()> /*changed*/) {}
+    virtual void watch(const QStringList & /*paths*/, std::function<void()> /*changed*/) {} // NOLINT
 
     virtual FolderListing list(const QString &folder) = 0;
     /// Makes the folder and those above it that are missing. One that is there already is no failure.

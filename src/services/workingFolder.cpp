@@ -7,7 +7,7 @@
 
 QString workingFolder(Services &services)
 {
-    const QString folder = settings::read(services.settings, settings::WorkingDir);
+    QString folder = settings::read(services.settings, settings::WorkingDir);
     if (!folder.isEmpty() && !services.files.isFolder(folder))
         services.files.makeFolder(folder); // where it can't be made, the dialog starts elsewhere
     return folder;

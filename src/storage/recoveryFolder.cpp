@@ -172,7 +172,7 @@ void RecoveryFolder::takeOverSession(const QString &session, Finds &finds)
 /// Puts a file where nobody takes it for a page again, and gives that folder.
 QString RecoveryFolder::setAside(const QString &file)
 {
-    const QString folder = joinPath(m_root, AsideName);
+    QString folder = joinPath(m_root, AsideName);
     m_files.makeFolder(folder);
     ::chmod(QFile::encodeName(folder).constData(), UserAlone);
     renameFile(file, joinPath(folder, baseName(file)));

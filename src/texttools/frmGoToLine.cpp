@@ -8,6 +8,8 @@
 #include "widgets/numberField.h"
 #include "widgets/screenPointer.h"
 
+#include <QPushButton>
+
 frmGoToLine::frmGoToLine(ProgramContext &context) : DialogForm(context, QStringLiteral("frmGoToLine"))
 {
     setCaption(QStringLiteral("Go To Line"));

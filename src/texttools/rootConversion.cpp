@@ -60,8 +60,8 @@ ConvertedText convertRoot(const QString &text, const RootConversion &conversion)
         const std::optional<Link> link = linkAround(converted.text, end);
         if (!link || conversion.from == conversion.to)
             continue;
-        const auto first = converted.text.begin() + link->start;
-        const auto last = converted.text.begin() + link->end;
+        const QString::iterator first = converted.text.begin() + link->start;
+        const QString::iterator last = converted.text.begin() + link->end;
         if (std::find(first, last, conversion.from) != last)
             converted.caret = link->end + 1;
         std::replace(first, last, conversion.from, conversion.to);

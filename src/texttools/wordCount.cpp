@@ -2,6 +2,8 @@
 
 #include "common/tags.h"
 
+#include <QStringList>
+
 namespace
 {
 constexpr QStringView AddressStarts[] = {u"http:", u"https:", u"news:", u"file://", u"ftp:", u"mailto:"};

@@ -73,7 +73,7 @@ std::size_t CurlTransfer::headerCame(char *line, std::size_t size, std::size_t c
 {
     CurlTransfer &transfer = transferOf(self);
     transfer.noteActivity();
-    transfer.takeHeader(QByteArray(line, static_cast<qsizetype>(size * count)).trimmed());
+    transfer.takeHeader(QByteArray(line, static_cast<qsizetype>(size) * static_cast<qsizetype>(count)).trimmed());
     return size * count;
 }
 

@@ -40,7 +40,7 @@ QString TransferAddress::part(CURLUPart which) const
     const unsigned int flags = which == CURLUPART_USER || which == CURLUPART_PASSWORD ? CURLU_URLDECODE : 0;
     if (curl_url_get(m_handle.get(), which, &text, flags) != CURLUE_OK)
         return {};
-    const QString result = QString::fromUtf8(text);
+    QString result = QString::fromUtf8(text);
     curl_free(text);
     return result;
 }

@@ -50,7 +50,7 @@ QString transferFailure(CURLcode code, const QString &detail)
 {
     if (isAboutTrust(code))
         return QStringLiteral("The server could not prove what it is: %1.").arg(detail);
-    const QString known = sentence(code);
+    QString known = sentence(code);
     if (!known.isEmpty())
         return known;
     return detail.isEmpty() ? QString::fromUtf8(curl_easy_strerror(code)) + u'.' : detail + u'.';

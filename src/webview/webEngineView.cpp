@@ -148,7 +148,7 @@ void WebEngineView::ask(std::function<void()> answered)
 void WebEngineView::text(std::function<void(const QString &)> taken)
 {
     if (m_page)
-        m_page->toPlainText(std::move(taken));
+        m_page->toPlainText(taken);
 }
 
 void WebEngineView::place(const QString &text, std::function<void(const std::optional<QPoint> &)> taken)

@@ -1,5 +1,6 @@
 #include "widgets/screenPointer.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 
 ScreenPointer::~ScreenPointer()

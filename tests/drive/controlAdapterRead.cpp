@@ -341,7 +341,7 @@ Value readWidget(const QWidget &widget, const Asked &asked)
         // An editable combo's text is what stands in its field, not the row picked last: texts go before rows.
         for (const auto &reader :
              {readWindow, readCommon, readCaption, readValue, readPlace, readText, readTextLimits, readBrowser}) {
-            if (const Value value = reader(widget, asked.name))
+            if (Value value = reader(widget, asked.name))
                 return value;
         }
     }

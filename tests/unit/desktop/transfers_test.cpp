@@ -536,7 +536,7 @@ protected:
         address.sin_family = AF_INET;
         address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
         socklen_t length = sizeof address;
-        ::bind(socket, reinterpret_cast<sockaddr *>(&address), length);
+        EXPECT_EQ(::bind(socket, reinterpret_cast<sockaddr *>(&address), length), 0);
         ::getsockname(socket, reinterpret_cast<sockaddr *>(&address), &length);
         ::close(socket);
         return ntohs(address.sin_port);
