@@ -32,15 +32,15 @@ CodeElements elementsOf(const CodeBranch &html)
     return elements;
 }
 
-CodeTree readCodes(FileSystem &files, const QString &folder)
+CodeTree readCodes(FileSystem &files, const QString &htmlFile, const QString &cssFile)
 {
-    const auto html = bytesOf(files, joinPath(folder, QStringLiteral("Html.tcb")));
+    const auto html = bytesOf(files, htmlFile);
     if (!html)
         return {{}, {}};
     CodeBranch branch = CodeBranch::ofHtml(*html);
     if (!branch.isComplete())
         return {std::move(branch), {}};
-    const auto css = bytesOf(files, joinPath(folder, QStringLiteral("Css.tcb")));
+    const auto css = bytesOf(files, cssFile);
     return {std::move(branch), css ? CodeBranch::ofCss(*css) : CodeBranch()};
 }
 } // namespace
@@ -49,17 +49,18 @@ CodeTree readCodes(FileSystem &files, const QString &folder)
 class CodeLibraries::Source
 {
 public:
-    void setPlace(FileSystem &files, const QString &folder)
+    void setFiles(FileSystem &files, const QString &html, const QString &css)
     {
         m_files = &files;
-        m_folder = folder;
+        m_html = html;
+        m_css = css;
         m_codes.reset(); // somebody may have looked before there was anything
         m_elements.reset();
     }
     const CodeTree &codes()
     {
         if (!m_codes)
-            m_codes = m_files ? readCodes(*m_files, m_folder) : CodeTree({}, {});
+            m_codes = m_files ? readCodes(*m_files, m_html, m_css) : CodeTree({}, {});
         return *m_codes;
     }
     const CodeElements &elements()
@@ -71,7 +72,8 @@ public:
 
 private:
     FileSystem *m_files = nullptr;
-    QString m_folder;
+    QString m_html;
+    QString m_css;
     std::optional<CodeTree> m_codes;
     std::optional<CodeElements> m_elements;
 };
@@ -88,7 +90,12 @@ CodeLibraries::~CodeLibraries() = default;
 
 void CodeLibraries::LoadCodeLibraries(FileSystem &files, const QString &folder)
 {
-    m_source->setPlace(files, folder);
+    LoadCodeLibraries(files, joinPath(folder, QStringLiteral("Html.tcb")), joinPath(folder, QStringLiteral("Css.tcb")));
+}
+
+void CodeLibraries::LoadCodeLibraries(FileSystem &files, const QString &html, const QString &css)
+{
+    m_source->setFiles(files, html, css);
 }
 
 const CodeTree &CodeLibraries::codes() const

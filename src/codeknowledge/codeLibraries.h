@@ -21,6 +21,8 @@ public:
     /// what cannot be read is not there. Without `Html.tcb` nothing is read; a line that has no place in the tree ends
     /// the reading of both files.
     void LoadCodeLibraries(FileSystem &files, const QString &folder);
+    /// The same for two files by their paths.
+    void LoadCodeLibraries(FileSystem &files, const QString &html, const QString &css);
     /// Whether both files were read to their ends.
     bool isComplete() const;
 

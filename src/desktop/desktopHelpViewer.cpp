@@ -2,8 +2,8 @@
 
 #include "help/helpWindow.h"
 
-DesktopHelpViewer::DesktopHelpViewer(const QString &folder, FileSystem &files, Launcher &launcher)
-    : m_folder(folder), m_files(files), m_launcher(launcher)
+DesktopHelpViewer::DesktopHelpViewer(const QStringList &folders, FileSystem &files, Launcher &launcher)
+    : m_folders(folders), m_files(files), m_launcher(launcher)
 {
 }
 
@@ -27,6 +27,6 @@ void DesktopHelpViewer::index()
 HelpWindow &DesktopHelpViewer::opened()
 {
     if (!m_window)
-        m_window = std::make_unique<HelpWindow>(m_folder, m_files, m_launcher);
+        m_window = std::make_unique<HelpWindow>(m_folders, m_files, m_launcher);
     return *m_window;
 }

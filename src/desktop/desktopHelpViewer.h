@@ -2,6 +2,7 @@
 
 #include "services/helpViewer.h"
 
+#include <QStringList>
 #include <memory>
 
 class FileSystem;
@@ -12,8 +13,8 @@ class Launcher;
 class DesktopHelpViewer final : public HelpViewer
 {
 public:
-    /// `folder` holds the help's files. The services outlive the viewer.
-    DesktopHelpViewer(const QString &folder, FileSystem &files, Launcher &launcher);
+    /// The help's files stand in the first of `folders` that has them. The services outlive the viewer.
+    DesktopHelpViewer(const QStringList &folders, FileSystem &files, Launcher &launcher);
     ~DesktopHelpViewer() override;
 
     void show(const QString &topic) override;
@@ -26,7 +27,7 @@ public:
 private:
     HelpWindow &opened();
 
-    QString m_folder;
+    QStringList m_folders;
     FileSystem &m_files;
     Launcher &m_launcher;
     std::unique_ptr<HelpWindow> m_window;

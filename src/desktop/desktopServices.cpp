@@ -40,12 +40,21 @@ QString settingsFolder()
     return joinPath(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation),
                     QStringLiteral("tagwrighter"));
 }
+/// The help of the program's folder comes before the installed one, page by page.
+QStringList helpFolders(const ProgramFolders &folders)
+{
+    QStringList help{joinPath(folders.own, QStringLiteral("help"))};
+    if (!folders.installed.isEmpty())
+        help += joinPath(folders.installed, QStringLiteral("help"));
+    return help;
+}
 } // namespace
 
 struct DesktopServices::Parts {
     explicit Parts(CommonDialogs *dialogs) : commonDialogs(dialogs ? *dialogs : desktopDialogs) {}
 
-    QString appPath = programFolder(runningProgramPlaces());
+    ProgramFolders folders = programFolders(runningProgramPlaces());
+    QString appPath = folders.own;
     DesktopMessageBoxes messageBoxes;
     DesktopPrinting printing;
     DesktopCommonDialogs desktopDialogs{printing};
@@ -56,11 +65,12 @@ struct DesktopServices::Parts {
     DesktopClipboard clipboard;
     SystemClock clock;
     Random random;
-    DesktopHelpViewer help{joinPath(appPath, QStringLiteral("help")), files, launcher};
+    DesktopHelpViewer help{helpFolders(folders), files, launcher};
     QtTimerSource timers;
     EventModalLoop modalLoop;
     EventYielder yielder;
-    ServedPages pages{settings, {appPath}};
+    ServedPages pages{settings,
+                      folders.installed.isEmpty() ? QStringList{appPath} : QStringList{appPath, folders.installed}};
     ModulePageViews pageViews{moduleFolders(), pages};
     ThreadWorker worker;
     DesktopSystemFacts systemFacts{appPath};
@@ -89,6 +99,7 @@ struct DesktopServices::Parts {
         .printing = printing,
         .systemFacts = systemFacts,
         .appPath = appPath,
+        .installedPath = folders.installed,
         .statePath = stateFolder(),
     };
 };

@@ -9,11 +9,14 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
+#include <QTimer>
 
 #include <algorithm>
 
 namespace
 {
+constexpr int AfterTheStart = 3000; // milliseconds
+
 QByteArray contentsOf(const QString &path)
 {
     QFile file(path);
@@ -59,13 +62,18 @@ void XdgFileClasses::registerAll()
 {
     const QString entry = QStringLiteral("/applications/tagwrighter.desktop");
     const auto holdsEntry = [&](const QString &folder) { return QFile::exists(folder + entry); };
-    if (std::any_of(places.dataDirs.begin(), places.dataDirs.end(), holdsEntry))
-        return;
+    // Where the program is installed for everybody, its types and its entry stand there already.
+    if (std::none_of(places.dataDirs.begin(), places.dataDirs.end(), holdsEntry))
+        registerProgram(places.dataHome + entry);
+    writeAssociations(places.configHome + QStringLiteral("/mimeapps.list"), otherHtmlPrograms());
+}
+
+void XdgFileClasses::registerProgram(const QString &entry)
+{
     if (writeIfDifferent(places.dataHome + QStringLiteral("/mime/packages/tagwrighter.xml"), mimePackage()))
         run(QStringLiteral("update-mime-database"), {places.dataHome + QStringLiteral("/mime")});
-    if (writeIfDifferent(places.dataHome + entry, desktopEntry(places.program)))
+    if (writeIfDifferent(entry, desktopEntry(places.program)))
         run(QStringLiteral("update-desktop-database"), {places.dataHome + QStringLiteral("/applications")});
-    writeAssociations(places.configHome + QStringLiteral("/mimeapps.list"), otherHtmlPrograms());
 }
 
 QStringList XdgFileClasses::otherHtmlPrograms() const
@@ -80,7 +88,10 @@ QStringList XdgFileClasses::otherHtmlPrograms() const
 
 void startInBackground(const QString &program, const QStringList &arguments)
 {
-    const QString path = QStandardPaths::findExecutable(program);
-    if (!path.isEmpty())
-        QProcess::startDetached(path, arguments);
+    // No start waits for it: the window is to be on show first.
+    QTimer::singleShot(AfterTheStart, qApp, [program, arguments] {
+        const QString path = QStandardPaths::findExecutable(program);
+        if (!path.isEmpty())
+            QProcess::startDetached(path, arguments);
+    });
 }

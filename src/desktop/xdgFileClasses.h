@@ -17,7 +17,8 @@ struct XdgPlaces {
 XdgPlaces currentXdgPlaces();
 
 /// Registers with the desktop by the user's own files. Where a package has put the program's desktop entry into one of
-/// the shared folders, it has registered everything, and nothing is written.
+/// the shared folders, that has registered the program and its types for everybody, and only the user's associations
+/// are written.
 class XdgFileClasses final : public FileClasses
 {
 public:
@@ -29,11 +30,12 @@ public:
     void registerAll() override;
 
 private:
+    void registerProgram(const QString &entry);
     QStringList otherHtmlPrograms() const;
 
     XdgPlaces places;
     Run run;
 };
 
-/// The way of starting a program that XdgFileClasses takes outside of tests.
+/// The way of starting a program that XdgFileClasses takes outside of tests: some seconds later, from the event loop.
 void startInBackground(const QString &program, const QStringList &arguments);

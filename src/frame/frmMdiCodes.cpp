@@ -3,6 +3,7 @@
 #include "codeknowledge/codeLibraries.h"
 #include "frame/frmMdi.h"
 #include "frame/frmMdiPane.h"
+#include "services/programFiles.h"
 #include "services/services.h"
 #include "widgets/nodeTree.h"
 #include "widgets/rowsModel.h"
@@ -11,7 +12,8 @@
 
 void frmMdi::loadCodes()
 {
-    m_codes->LoadCodeLibraries(services().files, services().appPath);
+    m_codes->LoadCodeLibraries(services().files, programFile(services(), QStringLiteral("Html.tcb")),
+                               programFile(services(), QStringLiteral("Css.tcb")));
     fillCodeTree();
     fillCodeLists();
 }

@@ -19,7 +19,7 @@ bool isPage(const QString &name)
 }
 } // namespace
 
-HelpFolder::HelpFolder(const QString &folder, FileSystem &files) : m_folder(folder), m_files(files) {}
+HelpFolder::HelpFolder(const QStringList &folders, FileSystem &files) : m_folders(folders), m_files(files) {}
 
 QString HelpFolder::startPage()
 {
@@ -31,14 +31,28 @@ QString HelpFolder::notFoundPage()
     return QStringLiteral("topics/reference/Information_KeywordNotFound.htm");
 }
 
+/// Where the file stands; empty if it stands nowhere.
+QString HelpFolder::pathOf(const QString &page) const
+{
+    for (const QString &folder : m_folders) {
+        QString path = joinPath(folder, page);
+        if (m_files.exists(path))
+            return path;
+    }
+    return {};
+}
+
 bool HelpFolder::has(const QString &page) const
 {
-    return m_files.exists(joinPath(m_folder, page));
+    return !pathOf(page).isEmpty();
 }
 
 std::optional<QByteArray> HelpFolder::bytes(const QString &page) const
 {
-    const FileContents contents = m_files.readAll(joinPath(m_folder, page));
+    const QString path = pathOf(page);
+    if (path.isEmpty())
+        return std::nullopt;
+    const FileContents contents = m_files.readAll(path);
     return contents.error ? std::nullopt : std::optional(contents.bytes);
 }
 
@@ -68,18 +82,19 @@ const QList<HelpText> &HelpFolder::texts()
 {
     if (!m_texts) {
         m_texts.emplace();
-        readTexts(QStringLiteral("topics"), deepest);
+        for (const QString &folder : m_folders)
+            readTexts(folder, QStringLiteral("topics"), deepest);
     }
     return *m_texts;
 }
 
-void HelpFolder::readTexts(const QString &under, int levels)
+void HelpFolder::readTexts(const QString &folder, const QString &under, int levels)
 {
-    for (const FolderEntry &entry : m_files.list(joinPath(m_folder, under)).entries) {
+    for (const FolderEntry &entry : m_files.list(joinPath(folder, under)).entries) {
         const QString path = under + u'/' + entry.name;
         if (entry.isFolder && levels > 0)
-            readTexts(path, levels - 1);
-        else if (!entry.isFolder && isPage(entry.name))
+            readTexts(folder, path, levels - 1);
+        else if (!entry.isFolder && isPage(entry.name) && pathOf(path) == joinPath(folder, path))
             m_texts->append(helpTextOf(path, html(path).value_or(QString())));
     }
 }

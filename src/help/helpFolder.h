@@ -6,16 +6,18 @@
 #include <QByteArray>
 #include <QList>
 #include <QString>
+#include <QStringList>
 #include <optional>
 
 class FileSystem;
 
-/// The help's folder: its pages, its table of contents and the list of the reference pages. Nothing is read before it
-/// is asked for; contents and texts are read once.
+/// The help's files: its pages, its table of contents and the list of the reference pages. Nothing is read before it is
+/// asked for; contents and texts are read once.
 class HelpFolder
 {
 public:
-    HelpFolder(const QString &folder, FileSystem &files);
+    /// A file stands in the first of `folders` that has it.
+    HelpFolder(const QStringList &folders, FileSystem &files);
 
     bool has(const QString &page) const;
     /// What stands in the file of a page or a picture; nothing if it cannot be read.
@@ -32,9 +34,10 @@ public:
 
 private:
     QString textFile(const QString &name) const;
-    void readTexts(const QString &under, int levels);
+    QString pathOf(const QString &page) const;
+    void readTexts(const QString &folder, const QString &under, int levels);
 
-    QString m_folder;
+    QStringList m_folders;
     FileSystem &m_files;
     std::optional<QList<HelpEntry>> m_contents;
     std::optional<QList<HelpText>> m_texts;

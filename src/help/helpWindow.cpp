@@ -37,8 +37,8 @@ QWidget *spacer()
 }
 } // namespace
 
-HelpWindow::HelpWindow(const QString &folder, FileSystem &files, Launcher &launcher)
-    : m_folder(folder, files),
+HelpWindow::HelpWindow(const QStringList &folders, FileSystem &files, Launcher &launcher)
+    : m_folder(folders, files),
       m_launcher(launcher),
       m_navigator(new HelpNavigator(m_folder)),
       m_browser(new HelpBrowser(m_folder)),

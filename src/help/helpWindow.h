@@ -19,8 +19,8 @@ class HelpWindow final : public QMainWindow
 {
     Q_OBJECT
 public:
-    /// `folder` holds the help's files. The services outlive the window.
-    HelpWindow(const QString &folder, FileSystem &files, Launcher &launcher);
+    /// The help's files stand in the first of `folders` that has them. The services outlive the window.
+    HelpWindow(const QStringList &folders, FileSystem &files, Launcher &launcher);
 
     /// Shows a topic by its path, as in "::/topics/Index.htm", and the window above all others.
     void showTopic(const QString &topic);

@@ -43,6 +43,7 @@ struct Services {
     WizardServer &wizards;
     Printing &printing;
     SystemFacts &systemFacts;
-    QString appPath;   ///< the program's folder (`App.Path`), without a final separator
+    QString appPath;            ///< the program's folder (`App.Path`), without a final separator
+    QString installedPath = {}; ///< where an installation keeps what it brought along; empty where that is `appPath`
     QString statePath; ///< where the program keeps what it has to remember by itself, without a final separator
 };

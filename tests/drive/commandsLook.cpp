@@ -235,7 +235,7 @@ void shot(Stage &stage, const Line &line)
 // The help's calls are only recorded, so that its window comes up for the picture alone. What is searched for is typed.
 void shotHelp(Stage &stage, const Line &line)
 {
-    DesktopHelpViewer viewer(joinPath(stage.world.app(), QStringLiteral("help")), stage.desktop.files,
+    DesktopHelpViewer viewer({joinPath(stage.world.app(), QStringLiteral("help"))}, stage.desktop.files,
                              stage.desktop.launcher);
     viewer.show(line.words[1]);
     const QString tab = line.words.value(2);

@@ -2,6 +2,7 @@
 
 #include "unit/support/sandbox.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 
@@ -20,7 +21,8 @@ protected:
         QDir().mkpath(path("share/MyPages"));
     }
 
-    QString found() const { return programFolder({path("bin"), path("share"), path("home")}); }
+    ProgramFolders folders() const { return programFolders({path("bin"), path("share"), path("home")}); }
+    QString found() const { return folders().own; }
 
     static constexpr const char *own = "home/tagwrighter";
 };
@@ -29,6 +31,7 @@ TEST_F(ProgramFolder, IsTheExecutablesWhereTheDataStandBesideIt)
 {
     put("bin/Html.tcb", "codes");
     EXPECT_EQ(found(), path("bin"));
+    EXPECT_EQ(folders().installed, QString());
     EXPECT_FALSE(QFile::exists(path("home")));
 }
 
@@ -40,15 +43,38 @@ TEST_F(ProgramFolder, IsTheUsersWhereTheExecutablesCannotBeWritten)
     if (::getuid() != 0)
         GTEST_SKIP() << "only root can become a user without rights";
     EXPECT_EQ(inChild([&] { return becomeNobody() && found() == path(own) ? 0 : 1; }), 0);
-    EXPECT_EQ(get("home/tagwrighter/Html.tcb"), "codes");
+    EXPECT_EQ(get("home/tagwrighter/Template/one.tpl"), "one");
 }
 
-TEST_F(ProgramFolder, IsSeededOnTheFirstStart)
+TEST_F(ProgramFolder, ReadsWhatStandsBesideAnExecutableThatCannotBeWritten)
 {
+    put("bin/Html.tcb", "codes");
+    put("bin/Template/beside.tpl", "beside");
+    QDir().mkpath(path("home"));
+    ASSERT_TRUE(QFile::setPermissions(path("home"), QFile::Permissions(0x7777)));
+    if (::getuid() != 0)
+        GTEST_SKIP() << "only root can become a user without rights";
+    EXPECT_EQ(inChild([&] {
+                  const ProgramPlaces places{path("bin"), {}, path("home")};
+                  return becomeNobody() && programFolders(places).installed == path("bin") ? 0 : 1;
+              }),
+              0);
+    EXPECT_EQ(get("home/tagwrighter/Template/beside.tpl"), "beside");
+}
+
+TEST_F(ProgramFolder, IsGivenWhatTheUserMayChangeOnTheFirstStart)
+{
+    put("share/CodeLibrary/Lists/a.cde", "code");
+    put("share/Syntax.dic", "words");
+    put("share/help/topics/Index.htm", "page");
     EXPECT_EQ(found(), path(own));
-    EXPECT_EQ(get("home/tagwrighter/Html.tcb"), "codes");
+    EXPECT_EQ(folders().installed, path("share"));
     EXPECT_EQ(get("home/tagwrighter/Template/one.tpl"), "one");
+    EXPECT_EQ(get("home/tagwrighter/CodeLibrary/Lists/a.cde"), "code");
+    EXPECT_EQ(get("home/tagwrighter/Syntax.dic"), "words");
     EXPECT_TRUE(QDir(path("home/tagwrighter/MyPages")).exists());
+    EXPECT_FALSE(QFile::exists(path("home/tagwrighter/Html.tcb")));
+    EXPECT_FALSE(QFile::exists(path("home/tagwrighter/help")));
 }
 
 TEST_F(ProgramFolder, GetsWhatIsNewAndKeepsWhatStandsThere)
@@ -59,12 +85,35 @@ TEST_F(ProgramFolder, GetsWhatIsNewAndKeepsWhatStandsThere)
     put("home/tagwrighter/Template/two.tpl", "the user's two");
     put("share/Html.tcb", "newer codes");
     put("share/Template/two.tpl", "two");
-    put("share/Help/a.htm", "page");
+    put("share/Template/three.tpl", "three");
     EXPECT_EQ(found(), path(own));
     EXPECT_EQ(get("home/tagwrighter/Html.tcb"), "the user's codes");
     EXPECT_EQ(get("home/tagwrighter/Template/mine.tpl"), "mine");
     EXPECT_EQ(get("home/tagwrighter/Template/two.tpl"), "the user's two");
-    EXPECT_EQ(get("home/tagwrighter/Help/a.htm"), "page");
+    EXPECT_EQ(get("home/tagwrighter/Template/three.tpl"), "three");
+}
+
+TEST_F(ProgramFolder, LosesTheCopiesOfAnEarlierVersionThatNobodyHasChanged)
+{
+    put("home/tagwrighter/Html.tcb", "older codes");
+    put("home/tagwrighter/help/a.htm", "older page");
+    put("home/tagwrighter/help/sub/b.htm", "older page");
+    put("home/tagwrighter/Template/one.tpl", "older one");
+    put("home/tagwrighter/.installed", "Css.tcb\nHtml.tcb\nTemplate\nTemplate/one.tpl\nhelp\nhelp/a.htm\nhelp/sub\n"
+                                       "help/sub/b.htm\n");
+    put("home/tagwrighter/Css.tcb", "changed by the user");
+    QFile changed(path("home/tagwrighter/Css.tcb"));
+    ASSERT_TRUE(changed.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(changed.setFileTime(QDateTime::currentDateTime().addSecs(60), QFileDevice::FileModificationTime));
+    changed.close();
+    put("home/tagwrighter/help/mine.htm", "the user's page");
+    found();
+    EXPECT_EQ(names("home/tagwrighter/help"), QStringList(QStringLiteral("mine.htm")));
+    EXPECT_FALSE(QFile::exists(path("home/tagwrighter/Html.tcb")));
+    EXPECT_EQ(get("home/tagwrighter/Css.tcb"), "changed by the user");
+    EXPECT_EQ(get("home/tagwrighter/Template/one.tpl"), "older one");
+    found();
+    EXPECT_EQ(get("home/tagwrighter/Css.tcb"), "changed by the user");
 }
 
 TEST_F(ProgramFolder, DoesNotBringBackWhatTheUserTookAway)
@@ -79,9 +128,9 @@ TEST_F(ProgramFolder, DoesNotBringBackWhatTheUserTookAway)
 
 TEST_F(ProgramFolder, IsNamedWhereNothingCanBeSeeded)
 {
-    EXPECT_EQ(programFolder({path("bin"), QString(), path("home")}), path(own));
-    EXPECT_EQ(programFolder({path("bin"), path("none"), path("home")}), path(own));
+    EXPECT_EQ(programFolders({path("bin"), QString(), path("home")}).own, path(own));
+    EXPECT_EQ(programFolders({path("bin"), path("none"), path("home")}).own, path(own));
     put("file", "in the way");
-    EXPECT_EQ(programFolder({path("bin"), path("share"), path("file")}), path("file/tagwrighter"));
+    EXPECT_EQ(programFolders({path("bin"), path("share"), path("file")}).own, path("file/tagwrighter"));
 }
 } // namespace

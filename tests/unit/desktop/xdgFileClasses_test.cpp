@@ -84,85 +84,32 @@ TEST_F(FileClassesOfTheDesktop, FollowTheProgramToAnotherPlace)
     EXPECT_EQ(started, QStringList(q("update-desktop-database ") + path("data/applications")));
 }
 
-TEST_F(FileClassesOfTheDesktop, AreLeftToAnInstalledPackage)
+TEST_F(FileClassesOfTheDesktop, AreLeftToAnInstalledPackageButForTheUsersAssociations)
 {
     put("share/applications/tagwrighter.desktop", "[Desktop Entry]\n");
     registerAll();
-    EXPECT_EQ(names(), QStringList(q("share")));
+    EXPECT_EQ(names(), QStringList({q("config"), q("share")}));
+    EXPECT_TRUE(get("config/mimeapps.list").contains("\ntext/css=tagwrighter.desktop;\n"));
     EXPECT_EQ(started, QStringList());
 }
 
-TEST_F(FileClassesOfTheDesktop, TakeBackTheDefaultAndLeaveHtmlToOthers)
+QByteArray packaged(const char *name)
 {
-    put("share/applications/mimeinfo.cache", "[MIME Cache]\ntext/html=firefox-esr.desktop;other.desktop;\n");
-    put("config/mimeapps.list",
-        "# mine\n[Added Associations]\ntext/html=epiphany.desktop;\nimage/png=gimp.desktop\n\n"
-        "[Default Applications]\ntext/css=kate.desktop;tagwrighter.desktop;\nimage/png=gimp.desktop\n");
-    registerAll();
-    EXPECT_EQ(get("config/mimeapps.list"),
-              "# mine\n[Added Associations]\n"
-              "text/html=epiphany.desktop;firefox-esr.desktop;other.desktop;tagwrighter.desktop;\n"
-              "image/png=gimp.desktop\n\n"
-              "[Default Applications]\ntext/css=tagwrighter.desktop;kate.desktop;\nimage/png=gimp.desktop\n"
-              "application/x-tagwrighter-template=tagwrighter.desktop;\n"
-              "application/x-tagwrighter-project=tagwrighter.desktop;\n"
-              "application/x-tagwrighter-combined-template=tagwrighter.desktop;\n");
+    QFile file(QStringLiteral(TEST_SOURCE_DIR "/packaging/") + q(name));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name;
+    return file.readAll();
 }
 
-TEST_F(FileClassesOfTheDesktop, LeaveAListAloneThatTheyCannotRead)
+// A package tells the desktop the same.
+TEST_F(FileClassesOfTheDesktop, AreThoseOfThePackage)
 {
-    put("config/mimeapps.list", "[Default Applications]\ntext/css=\xFF.desktop\n");
-    registerAll();
-    EXPECT_EQ(get("config/mimeapps.list"), "[Default Applications]\ntext/css=\xFF.desktop\n");
-}
-
-TEST_F(FileClassesOfTheDesktop, PassOverRefusedWrites)
-{
-    put("data", "a file where the folder is to be");
-    registerAll();
-    EXPECT_EQ(get("data"), "a file where the folder is to be");
-    EXPECT_EQ(started, QStringList());
-    EXPECT_TRUE(get("config/mimeapps.list").contains("text/css=tagwrighter.desktop;"));
-}
-
-TEST_F(FileClassesOfTheDesktop, AreUnderstoodByTheDesktop)
-{
-    const QString updater = QStandardPaths::findExecutable(q("update-mime-database"));
-    ASSERT_FALSE(updater.isEmpty()) << "shared-mime-info is missing";
-    registerAll();
-    ASSERT_EQ(QProcess::execute(updater, {path("data/mime")}), 0);
-    const QByteArray globs = get("data/mime/globs2");
-    EXPECT_TRUE(globs.contains("60:application/x-tagwrighter-template:*.tpl\n")) << globs.constData();
-    EXPECT_TRUE(globs.contains("60:application/x-tagwrighter-project:*.tsp\n"));
-    EXPECT_TRUE(globs.contains("60:application/x-tagwrighter-code-library:*.tcb\n"));
-    EXPECT_TRUE(globs.contains("60:application/x-tagwrighter-combined-template:*.ctp\n"));
-    EXPECT_FALSE(globs.contains("css"));
-    EXPECT_FALSE(globs.contains("htm"));
-    EXPECT_TRUE(get("data/mime/application/x-tagwrighter-project.xml").contains("Tagwrighter Project"));
-}
-
-TEST(FileClassTable, HoldsTheProgramsKindsOfFiles)
-{
-    struct Row {
-        const char *extension, *className, *description;
-        int icon;
-        FileClassUse use;
-    };
-    const Row rows[] = {
-        {"tpl", "Tagwrighter.Template", "Tagwrighter Template", 2, FileClassUse::Owned},
-        {"tsp", "Tagwrighter.Project", "Tagwrighter Project", 4, FileClassUse::Owned},
-        {"tcb", "Tagwrighter.CodeLibrary", "Tagwrighter Code Library", 3, FileClassUse::Data},
-        {"ctp", "Tagwrighter.CombinedTemplate", "Tagwrighter Combined Template", 5, FileClassUse::Owned},
-        {"css", "Tagwrighter.StyleSheet", "Tagwrighter Style Sheet", 6, FileClassUse::TakenOver},
-        {"htm", "", "", 0, FileClassUse::Offered},
-    };
-    ASSERT_EQ(fileClassTable.size(), std::size(rows));
-    for (size_t i = 0; i < fileClassTable.size(); ++i) {
-        EXPECT_STREQ(fileClassTable[i].extension, rows[i].extension);
-        EXPECT_STREQ(fileClassTable[i].className, rows[i].className);
-        EXPECT_STREQ(fileClassTable[i].description, rows[i].description);
-        EXPECT_EQ(fileClassTable[i].icon, rows[i].icon);
-        EXPECT_EQ(fileClassTable[i].use, rows[i].use);
+    EXPECT_EQ(packaged("tagwrighter-mime.xml"), mimePackage().toUtf8());
+    const QByteArray entry = packaged("tagwrighter.desktop");
+    for (const FileClass &row : fileClassTable)
+        EXPECT_EQ(entry.contains(QByteArray(row.mimeType) + ';'), row.use != FileClassUse::Data) << row.mimeType;
+    for (const FileClass &row : fileClassTable) {
+        const QByteArray icon = "icons/tagwrighter-" + QByteArray::number(row.icon) + ".svg";
+        EXPECT_TRUE(row.icon == 0 || !packaged(icon.constData()).isEmpty()) << icon.constData();
     }
 }
 

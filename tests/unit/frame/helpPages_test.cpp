@@ -273,7 +273,7 @@ TEST(HelpPages, ComeUpInTheWindow)
 {
     LocalFileSystem files;
     NoLauncher launcher;
-    DesktopHelpViewer viewer(help, files, launcher);
+    DesktopHelpViewer viewer({help}, files, launcher);
     for (const char *topic : topics) {
         const QString page = helpPageOfTopic(q(topic)).value_or(QString());
         viewer.show(q(topic));

@@ -90,7 +90,7 @@ protected:
 
     LocalFileSystem files;
     NotedLauncher launcher;
-    DesktopHelpViewer viewer{path("help"), files, launcher};
+    DesktopHelpViewer viewer{{path("help")}, files, launcher};
 };
 
 TEST_F(Help, IsMadeWhenItIsFirstAskedFor)
@@ -137,7 +137,7 @@ TEST_F(Help, SaysThatATopicIsMissing)
 
 TEST_F(Help, WithoutItsPagesSaysSoItself)
 {
-    DesktopHelpViewer empty(path("nowhere"), files, launcher);
+    DesktopHelpViewer empty({path("nowhere")}, files, launcher);
     empty.show(q("::/topics/Index.htm"));
     const auto *shown = empty.window()->findChild<HelpBrowser *>();
     EXPECT_EQ(shown->documentTitle(), q("Topic not found"));

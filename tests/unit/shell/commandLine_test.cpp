@@ -34,6 +34,19 @@ TEST(CommandLine, NamesOneFileQuotedOrNot)
             << row.text;
 }
 
+TEST(CommandLine, AsksAboutTheProgramByOneOptionAlone)
+{
+    const QString version = QStringLiteral("1.2.3");
+    const auto answer = [&](const QStringList &arguments) { return answerToCommandLine(arguments, version); };
+    EXPECT_EQ(answer({QStringLiteral("--version")}), QStringLiteral("Tagwrighter 1.2.3\n"));
+    ASSERT_TRUE(answer({QStringLiteral("--help")}));
+    EXPECT_TRUE(answer({QStringLiteral("--help")})->startsWith(QStringLiteral("Usage: tagwrighter [FILE]\n")));
+    EXPECT_EQ(answer({QStringLiteral("-h")}), answer({QStringLiteral("--help")}));
+    EXPECT_EQ(answer({}), std::nullopt);
+    EXPECT_EQ(answer({QStringLiteral("--help"), QStringLiteral("a.htm")}), std::nullopt); // a file of that name
+    EXPECT_EQ(answer({QStringLiteral("/a/--version")}), std::nullopt);
+}
+
 TEST(CommandLine, TextIsTheArgumentsAsOneLine)
 {
     EXPECT_EQ(commandLineText({}), QString());
