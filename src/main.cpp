@@ -9,10 +9,19 @@
 
 #include <QApplication>
 
+#include <algorithm>
+#include <cstdio>
+
 int main(int argc, char **argv)
 {
     if (const std::optional<int> status = readPictureIfAsked(argc, argv))
         return *status;
+    // Neither a display nor a home is needed to be told about the program.
+    const QStringList arguments(argv + std::min(argc, 1), argv + argc);
+    if (const std::optional<QString> answer = answerToCommandLine(arguments, QStringLiteral(TAGWRIGHTER_VERSION))) {
+        std::fputs(answer->toUtf8().constData(), stdout);
+        return 0;
+    }
     QApplication desktop(argc, argv);
     useReadableStyle();
     QApplication::setApplicationName(QStringLiteral("tagwrighter"));

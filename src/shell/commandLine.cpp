@@ -5,6 +5,22 @@
 
 #include <QDir>
 
+std::optional<QString> answerToCommandLine(const QStringList &arguments, const QString &version)
+{
+    if (arguments.size() != 1)
+        return std::nullopt;
+    const QString &option = arguments.first();
+    if (option == u"--version")
+        return QStringLiteral("Tagwrighter %1\n").arg(version);
+    if (option == u"--help" || option == u"-h")
+        return QStringLiteral("Usage: tagwrighter [FILE]\n"
+                              "An editor of web pages for those who write HTML by hand.\n\n"
+                              "FILE is a page or any other text, a template (.tpl, .ctp) or a site project (.tsp).\n\n"
+                              "  --help     tells this\n"
+                              "  --version  tells the version\n");
+    return std::nullopt;
+}
+
 QString commandLineText(const QStringList &arguments)
 {
     QString text = arguments.join(u' ');

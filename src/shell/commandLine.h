@@ -2,6 +2,11 @@
 
 #include <QString>
 #include <QStringList>
+#include <optional>
+
+/// What the program prints for a command line that only asks about the program, which is one of "--help", "-h" and
+/// "--version" by itself; nothing for any other.
+std::optional<QString> answerToCommandLine(const QStringList &arguments, const QString &version);
 
 /// The text behind the program's name as one line, as the program takes it: one path, quoted or not. A path that is
 /// relative to the folder the program was started in is made absolute.
