@@ -1,5 +1,5 @@
 // A dictionary of the syntax checker, and a page that is checked with it.
-#include "codeknowledge/codeFiles.h"
+#include "codeknowledge/codeBranch.h"
 #include "common/codeKnowledge.h"
 #include "fuzz/fuzzInput.h"
 #include "texttools/checkDictionary.h"
@@ -12,14 +12,19 @@ namespace
 class FewCodes final : public CodeKnowledge
 {
 public:
-    FewCodes() : m_codes(readHtmlCodes(u"\u00BBa\r\n\u00BB\u00BBhref=\r\n\u00BBp\r\n\u00BB\u00BBclass=\r\n\u00BBbr")) {}
-    const CodeElements &elements() const override { return m_codes.elements; }
+    const CodeElements &elements() const override { return m_elements; }
+    QString lstCodeAssistantSyntax(int) const override { return {}; }
     int HtmlCodeNodeCount() const override { return nodeCount(); }
-    int nodeCount() const override { return static_cast<int>(m_codes.branch.nodes.size()); }
-    const TreeNode &node(int number) const override { return m_codes.branch.nodes[static_cast<std::size_t>(number)]; }
+    int nodeCount() const override { return m_codes.size(); }
+    TreeNode node(int number) const override { return m_codes.node(number); }
+    int parentOf(int number) const override { return m_codes.parentOf(number); }
 
 private:
-    HtmlCodes m_codes;
+    CodeBranch m_codes = CodeBranch::ofHtml("\xBB"
+                                            "a\r\n\xBB\xBBhref=\r\n\xBBp\r\n\xBB\xBB"
+                                            "class=\r\n\xBB"
+                                            "br");
+    CodeElements m_elements;
 };
 
 /// Goes through a page as its user would: one stop is changed, the next one passed over.
