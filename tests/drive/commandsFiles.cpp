@@ -2,6 +2,7 @@
 #include "common/fileErrors.h"
 #include "drive/commands.h"
 #include "drive/diskRoom.h"
+#include "drive/events.h"
 #include "drive/patterns.h"
 #include "drive/stage.h"
 #include "drive/told.h"
@@ -12,7 +13,6 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QTest>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -183,7 +183,7 @@ std::optional<QByteArray> awaitContents(const QString &path, const QByteArray &e
         got = contentsOf(path);
         return got == expected;
     };
-    return QTest::qWaitFor(holds, FileMilliseconds) ? expected : got;
+    return comesTrue(holds, FileMilliseconds) ? expected : got;
 }
 
 void expectFile(Stage &stage, const Line &line)
@@ -211,7 +211,7 @@ void expectNoFile(Stage &stage, const Line &line)
 {
     const QString &path = line.words[0];
     const auto isThere = [&] { return QFileInfo::exists(path) || QFileInfo(path).isSymLink(); };
-    if (!QTest::qWaitFor([&] { return !isThere(); }, FileMilliseconds))
+    if (!comesTrue([&] { return !isThere(); }, FileMilliseconds))
         stage.referee.fail(QStringLiteral("no file %1").arg(path), QStringLiteral("one"));
 }
 
@@ -232,7 +232,7 @@ void expectFolder(Stage &stage, const Line &line)
         got.sort();
         return got == expected;
     };
-    if (!QTest::qWaitFor(holds, FileMilliseconds))
+    if (!comesTrue(holds, FileMilliseconds))
         stage.referee.fail(QStringLiteral("%1 to hold %2").arg(folder, quotedList(expected)), quotedList(got));
 }
 

@@ -17,7 +17,6 @@
 #include <QClipboard>
 #include <QImage>
 #include <QMimeData>
-#include <QTest>
 #include <QUrl>
 #include <QWidget>
 
@@ -167,11 +166,11 @@ QPoint placeInPage(Stage &stage, WebBrowser &browser, const QString &text)
     const auto ask = [&] {
         const auto answer = std::make_shared<std::optional<std::optional<QPoint>>>();
         browser.placeOfText(text, [answer](const std::optional<QPoint> &found) { *answer = found; });
-        (void)QTest::qWaitFor([&] { return answer->has_value(); }, LongestMilliseconds);
+        (void)comesTrue([&] { return answer->has_value(); }, LongestMilliseconds);
         place = answer->value_or(std::nullopt);
         return place.has_value();
     };
-    if (!QTest::qWaitFor(ask, LongestMilliseconds))
+    if (!comesTrue(ask, LongestMilliseconds))
         stage.referee.fail(QStringLiteral("%1 in the page on show").arg(quoted(text)),
                            QStringLiteral("no such text in it"));
     return *place;

@@ -12,7 +12,6 @@
 
 #include <QElapsedTimer>
 #include <QPointer>
-#include <QTest>
 #include <cmath>
 
 namespace drive
@@ -101,7 +100,7 @@ void waitFor(Stage &stage, const Line &line)
     const QString &property = line.words[1];
     const int limit = line.words.size() > 3 ? numberOf(stage, line.words[3], 0) : 5000;
     std::optional<QString> got;
-    const bool came = QTest::qWaitFor(
+    const bool came = comesTrue(
         [&] {
             const auto target = awaitTarget(stage, name);
             got = target ? tryReadTarget(stage, *target, property) : std::nullopt;

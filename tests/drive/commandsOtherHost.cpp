@@ -1,12 +1,12 @@
 // Another host, and what pages send to it.
 #include "drive/commands.h"
+#include "drive/events.h"
 #include "drive/otherHost.h"
 #include "drive/patterns.h"
 #include "drive/stage.h"
 #include "drive/told.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 namespace drive
 {
@@ -34,7 +34,7 @@ void expectRequest(Stage &stage, const Line &line)
     auto &requests = otherHost(stage).requests;
     const QRegularExpression pattern = wholePattern(stage, line.words[0]);
     const QString expected = QStringLiteral("a request that matches %1").arg(line.words[0]);
-    if (!QTest::qWaitFor([&] { return !requests.isEmpty(); }, LongestWait))
+    if (!comesTrue([&] { return !requests.isEmpty(); }, LongestWait))
         stage.referee.fail(expected, QStringLiteral("none"));
     const QString got = requests.take();
     if (!pattern.match(got).hasMatch())
@@ -44,7 +44,7 @@ void expectRequest(Stage &stage, const Line &line)
 void expectNoRequest(Stage &stage, const Line &)
 {
     auto &requests = otherHost(stage).requests;
-    QTest::qWait(Stragglers);
+    letPass(Stragglers);
     if (!requests.isEmpty())
         stage.referee.fail(QStringLiteral("no request"), quoted(requests.oldest()));
 }

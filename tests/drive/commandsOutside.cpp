@@ -1,6 +1,7 @@
 // Servers, networks and wizards.
 #include "common/mainWindow.h"
 #include "drive/commands.h"
+#include "drive/events.h"
 #include "drive/patterns.h"
 #include "drive/stage.h"
 #include "drive/told.h"
@@ -8,7 +9,6 @@
 
 #include <QFile>
 #include <QRegularExpression>
-#include <QTest>
 
 namespace drive
 {
@@ -118,7 +118,7 @@ void waitForStatus(Stage &stage, const Line &line)
     const QRegularExpression pattern = wholePattern(stage, line.words[0]);
     const int limit = line.words.size() > 1 ? wholeNumber(stage, line.words[1]) : 5000;
     QString got;
-    const bool came = QTest::qWaitFor(
+    const bool came = comesTrue(
         [&] {
             const MainWindow *window = stage.isRunning() ? stage.program().context().mainWindow : nullptr;
             got = window ? window->statusText() : QString();

@@ -4,6 +4,7 @@
 #include "common/textSurface.h"
 #include "controlRows.h"
 #include "controlText.h"
+#include "events.h"
 #include "services/timer.h"
 #include "widgets/accelerators.h"
 #include "widgets/characterGrid.h"
@@ -27,7 +28,6 @@
 #include <QPlainTextEdit>
 #include <QRegularExpression>
 #include <QScrollBar>
-#include <QTest>
 
 namespace drive
 {
@@ -244,7 +244,7 @@ Value pageText(const WebBrowser &browser)
     constexpr int longest = 2000; // milliseconds
     const auto answer = std::make_shared<Value>();
     const_cast<WebBrowser &>(browser).pageText([answer](const QString &text) { *answer = text; });
-    return QTest::qWaitFor([&] { return answer->has_value(); }, longest) ? *answer : std::nullopt;
+    return comesTrue([&] { return answer->has_value(); }, longest) ? *answer : std::nullopt;
 }
 
 Value readBrowser(const QWidget &widget, const QString &name)

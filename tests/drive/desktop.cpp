@@ -3,12 +3,12 @@
 #include "common/paths.h"
 #include "desktop/stateFolder.h"
 #include "drive/carriedOver.h"
+#include "drive/events.h"
 #include "drive/world.h"
 
 #include <QDir>
 #include <QScopedValueRollback>
 #include <QStandardPaths>
-#include <QTest>
 #include <algorithm>
 
 namespace drive
@@ -141,7 +141,7 @@ void ScriptedYielder::waitForEvents()
 {
     constexpr int Milliseconds = 2; // a script names the waits by their number: each is to be as long as the others
     yield();
-    QTest::qWait(Milliseconds);
+    letPass(Milliseconds);
 }
 
 QList<ScriptedYielder::MissedAct> ScriptedYielder::missed() const

@@ -5,7 +5,9 @@
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QEvent>
+#include <QEventLoop>
 #include <QThread>
+#include <QTimer>
 #include <QWidget>
 
 namespace drive
@@ -81,6 +83,26 @@ void settle()
         awaitDisplay();
     else if (activateLastWindow())
         dealWithEvents();
+}
+
+void letPass(int milliseconds)
+{
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    loop.exec();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+bool comesTrue(const std::function<bool()> &condition, int milliseconds)
+{
+    constexpr int Slice = 10; // milliseconds
+    const QDeadlineTimer end(milliseconds);
+    while (!condition()) {
+        if (end.hasExpired())
+            return false;
+        letPass(Slice);
+    }
+    return true;
 }
 
 ActivationOrder::ActivationOrder(QObject &application) : QObject(&application)

@@ -18,6 +18,12 @@ void insideEvent(const std::function<void()> &act);
 /// activated, as a desktop does.
 void settle();
 
+/// Lets real time pass, in milliseconds. The program's event loop turns all the while without a pause: the engine of
+/// the page view does one piece of its work a turn, and would fall behind its pages.
+void letPass(int milliseconds);
+/// Lets real time pass until the condition holds, for at most so many milliseconds. False if it never did.
+bool comesTrue(const std::function<bool()> &condition, int milliseconds);
+
 /// Remembers in which order windows were active, for as long as it lives. A child of the application object.
 class ActivationOrder final : public QObject
 {
