@@ -211,6 +211,7 @@ void WebBrowser::showView(bool shown)
 void WebBrowser::load(const QUrl &address)
 {
     m_waiting.reset();
+    m_whyStopped.clear();
     m_strip->hide();
     m_ownNavigations.forget();
     m_slowNavigations.forget();
