@@ -257,7 +257,7 @@ std::optional<FileDialogResult> ScriptedDialogs::showOpen(const FileDialogReques
 
 std::optional<FileDialogResult> ScriptedDialogs::showSave(const FileDialogRequest &request)
 {
-    const std::optional<FileDialogResult> chosen = showFile(DialogKind::Save, request);
+    std::optional<FileDialogResult> chosen = showFile(DialogKind::Save, request);
     if (!chosen || !request.DefaultExt.isEmpty() || request.asksBeforeReplacing)
         return chosen;
     return withEnding(*chosen, request.Filter, [](const QString &path) { return QFileInfo::exists(path); });

@@ -238,7 +238,7 @@ void clickNamed(Stage &stage, const QString &name)
         activate(stage, *target.form);
         return;
     }
-    if (const ActionResult result = click(readyControl(stage, target)); !result.done)
+    if (ActionResult result = click(readyControl(stage, target)); !result.done)
         stage.referee.fail(QStringLiteral("%1 to be clicked").arg(name), result.reason);
 }
 

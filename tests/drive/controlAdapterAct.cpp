@@ -59,7 +59,7 @@ ActionResult setLine(QWidget &control, const QLineEdit &edit, const QString &val
 {
     if (edit.isReadOnly())
         return refused(QStringLiteral("%1 is locked").arg(nameOf(control)));
-    if (const ActionResult result = focus(control); !result.done)
+    if (ActionResult result = focus(control); !result.done)
         return result;
     pressKey(control, Qt::Key_A, Qt::ControlModifier);
     if (value.isEmpty())
@@ -75,7 +75,7 @@ ActionResult setArea(QPlainTextEdit &area, const QString &value)
     const auto *surface = dynamic_cast<const TextSurface *>(&area);
     if (surface ? surface->Locked() : area.isReadOnly())
         return refused(QStringLiteral("%1 is locked").arg(nameOf(area)));
-    if (const ActionResult result = focus(area); !result.done)
+    if (ActionResult result = focus(area); !result.done)
         return result;
     pressKey(area, Qt::Key_A, Qt::ControlModifier);
     if (value.isEmpty())
@@ -113,7 +113,7 @@ ActionResult setFolder(FolderList &list, const QString &path)
             return refused(
                 QStringLiteral("expected a way to %1 in %2, which is at %3").arg(path, nameOf(list), list.Path()));
         const QString before = list.Path();
-        if (const ActionResult result = dblpick(list, QString::number(*next)); !result.done)
+        if (ActionResult result = dblpick(list, QString::number(*next)); !result.done)
             return result;
         if (list.Path() == before)
             return refused(QStringLiteral("expected %1 to open a folder, it stays at %2").arg(nameOf(list), before));
@@ -184,7 +184,7 @@ ActionResult usable(QObject &control)
 
 ActionResult focus(QObject &control)
 {
-    if (const ActionResult result = usable(control); !result.done)
+    if (ActionResult result = usable(control); !result.done)
         return result;
     QWidget &widget = *widgetOf(control);
     activateWindowOf(widget);
@@ -208,7 +208,7 @@ ActionResult setValue(QObject &control, const QString &value)
 
 ActionResult click(QObject &control)
 {
-    if (const ActionResult result = usable(control); !result.done)
+    if (ActionResult result = usable(control); !result.done)
         return result;
     if (auto *drawn = qobject_cast<DrawnControl *>(&control)) {
         drawn->reveal();
@@ -235,7 +235,7 @@ ActionResult pick(QObject &control, const QString &row, std::optional<bool> sele
 
 ActionResult scroll(QObject &control, const QString &value)
 {
-    if (const ActionResult result = usable(control); !result.done)
+    if (ActionResult result = usable(control); !result.done)
         return result;
     auto *bar = qobject_cast<QAbstractSlider *>(&control);
     bool isNumber = false;

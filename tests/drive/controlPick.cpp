@@ -199,7 +199,7 @@ ActionResult pickRow(QWidget &control, const QString &row, std::optional<bool> s
 
 ActionResult dblpick(QObject &control, const QString &row)
 {
-    if (const ActionResult result = usable(control); !result.done)
+    if (ActionResult result = usable(control); !result.done)
         return result;
     auto *view = qobject_cast<QAbstractItemView *>(&control);
     if (!view)
@@ -215,7 +215,7 @@ ActionResult dblpick(QObject &control, const QString &row)
 
 ActionResult tick(QObject &control, const QString &row, bool ticked)
 {
-    if (const ActionResult result = usable(control); !result.done)
+    if (ActionResult result = usable(control); !result.done)
         return result;
     auto *view = qobject_cast<QAbstractItemView *>(&control);
     const Found found =
@@ -237,7 +237,7 @@ ActionResult tick(QObject &control, const QString &row, bool ticked)
 
 ActionResult node(QObject &control, const QString &path, NodeAction action)
 {
-    if (const ActionResult result = usable(control); !result.done)
+    if (ActionResult result = usable(control); !result.done)
         return result;
     auto *tree = qobject_cast<NodeTree *>(&control);
     if (!tree)

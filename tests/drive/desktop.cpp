@@ -66,14 +66,14 @@ std::optional<FileError> ScriptedFiles::checkReadable(const QString &path)
 
 std::optional<FileError> ScriptedFiles::writeWhole(const QString &path, const QByteArray &bytes)
 {
-    if (const auto error = failure(path, Act::Write))
+    if (auto error = failure(path, Act::Write))
         return error;
     return m_real.writeWhole(path, bytes);
 }
 
 std::optional<FileError> ScriptedFiles::writeScratch(const QString &path, const QByteArray &bytes)
 {
-    if (const auto error = failure(path, Act::Write))
+    if (auto error = failure(path, Act::Write))
         return error;
     return m_real.writeScratch(path, bytes);
 }
@@ -88,16 +88,16 @@ FolderListing ScriptedFiles::list(const QString &folder)
 
 std::optional<FileError> ScriptedFiles::makeFolder(const QString &folder)
 {
-    if (const auto error = failure(folder, Act::Write))
+    if (auto error = failure(folder, Act::Write))
         return error;
     return m_real.makeFolder(folder);
 }
 
 std::optional<FileError> ScriptedFiles::copyFile(const QString &from, const QString &to)
 {
-    if (const auto error = failure(from, Act::Read))
+    if (auto error = failure(from, Act::Read))
         return error;
-    if (const auto error = failure(to, Act::Write))
+    if (auto error = failure(to, Act::Write))
         return error;
     return m_real.copyFile(from, to);
 }

@@ -37,7 +37,7 @@ void typeText(Stage &stage, const QString &text);
 
 enum class MouseAct { Press, Release, Move, Click, DoubleClick, RightClick };
 /// `at` is in the widget's own coordinates, in logical pixels.
-void moveMouse(QWidget &widget, MouseAct act, QPoint at, Qt::KeyboardModifiers modifiers);
+void moveMouse(QWidget &target, MouseAct act, QPoint at, Qt::KeyboardModifiers modifiers);
 
 /// Drags data onto the middle of the widget and drops it, unless the program refuses it.
 void dropOn(QWidget &widget, const QMimeData &data);

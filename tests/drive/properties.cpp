@@ -92,9 +92,9 @@ std::optional<QString> formProperty(Stage &stage, Form &form, const QString &pro
     if (property == QStringLiteral("MousePointer") && pointer != 0)
         return QString::number(pointer);
     if (const Document *document = documentOf(form))
-        if (const auto value = propertyOf(documentProperties, *document, property))
+        if (auto value = propertyOf(documentProperties, *document, property))
             return value;
-    if (const auto value = ownProperty(form, property))
+    if (auto value = ownProperty(form, property))
         return value;
     return readProperty(*form.window(), property);
 }
@@ -113,15 +113,15 @@ constexpr Property<QAction> entryProperties[] = {
 std::optional<QString> controlProperty(QObject &control, const QString &property)
 {
     if (const auto *entry = qobject_cast<QAction *>(&control))
-        if (const auto value = propertyOf(entryProperties, *entry, property))
+        if (auto value = propertyOf(entryProperties, *entry, property))
             return value;
     if (const auto *surface = dynamic_cast<TextSurface *>(&control))
-        if (const auto value = propertyOf(surfaceProperties, *surface, property))
+        if (auto value = propertyOf(surfaceProperties, *surface, property))
             return value;
     if (const auto *bar = qobject_cast<QToolBar *>(&control))
-        if (const auto value = toolBarProperty(*bar, property))
+        if (auto value = toolBarProperty(*bar, property))
             return value;
-    if (const auto value = readProperty(control, property))
+    if (auto value = readProperty(control, property))
         return value;
     return ownProperty(control, property);
 }

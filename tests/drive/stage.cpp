@@ -183,7 +183,7 @@ Line Stage::takeWhen(Form &form)
                      QStringLiteral("a `when` for %1")
                          .arg(waiting.isEmpty() ? QStringLiteral("no form") : waiting.join(QStringLiteral(", "))));
     }
-    const Line when = found->line;
+    Line when = found->line;
     m_whens.erase(found);
     return when;
 }

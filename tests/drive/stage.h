@@ -24,7 +24,7 @@ namespace drive
 class Stage
 {
 public:
-    Stage(Referee &referee, const World &world);
+    Stage(Referee &toldTo, const World &ownWorld);
     Stage(const Stage &) = delete;
     Stage &operator=(const Stage &) = delete;
     ~Stage();

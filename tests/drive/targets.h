@@ -24,15 +24,15 @@ struct Target {
 
 /// What a target's name stands for. The script is wrong if there is no such form or control, and fails if the control's
 /// form is not loaded or the document is not there.
-Target findTarget(Stage &stage, const QString &name);
+Target findTarget(Stage &stage, const QString &text);
 /// The same for one that may come yet; nothing as long as its form is not loaded.
-std::optional<Target> awaitTarget(Stage &stage, const QString &name);
+std::optional<Target> awaitTarget(Stage &stage, const QString &text);
 
 /// The form of a target alone, whatever control it names; nothing as long as it is not loaded.
-std::optional<Target> awaitForm(Stage &stage, const QString &name);
+std::optional<Target> awaitForm(Stage &stage, const QString &text);
 
 /// The form of a target that is to be a form alone.
-Form &findForm(Stage &stage, const QString &name);
+Form &findForm(Stage &stage, const QString &text);
 /// A timer by its name: one of the active document or the main window, or a target like any other.
 Target findTimer(Stage &stage, const QString &name);
 

@@ -44,6 +44,7 @@ void ColouringReference::prepare()
     attempt([&] { txtEdit.setSelLength(length); });
 }
 
+// The rules in one piece, as they are told. NOLINTNEXTLINE(readability-function-size)
 void ColouringReference::tagPass()
 {
     const QString Text = txtEdit.Text();

@@ -1,5 +1,6 @@
 #include "insertion/modExcludePath.h"
 
+#include <QList>
 #include <gtest/gtest.h>
 
 namespace
