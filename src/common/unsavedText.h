@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 class Document;
 
 /// What keeps the unsaved text of the open documents safe while the program runs.
@@ -18,8 +20,9 @@ public:
     /// The document was saved, given up or closed by the user's word: what is kept of it goes.
     virtual void forget(Document &document) = 0;
     /// Brings back what a program left that ended without being asked to. `opened` is the page that this start was
-    /// called for, which stays the active one; nothing for none.
-    virtual void restore(Document *opened) = 0;
+    /// called for, which stays the active one; nothing for none. What no document's line can tell is given back, empty
+    /// for nothing.
+    virtual QString restore(Document *opened) = 0;
     /// Keeps all unsaved text now, and returns when it is on the disk.
     virtual void keepNow() = 0;
 };

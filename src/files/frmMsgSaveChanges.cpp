@@ -3,6 +3,7 @@
 #include "common/fileCommands.h"
 #include "common/mainWindow.h"
 #include "common/programState.h"
+#include "common/unsavedText.h"
 #include "files/unsavedDocuments.h"
 #include "widgets/layout.h"
 
@@ -63,7 +64,7 @@ void frmMsgSaveChanges::cmdYes_Click()
     m_answered = saved && context().state.FormUnloadHandled;
     Unload();
     if (m_answered)
-        context().end();
+        leave();
 }
 
 bool frmMsgSaveChanges::saveSelected()
@@ -89,6 +90,15 @@ void frmMsgSaveChanges::cmdNo_Click()
 {
     m_answered = true;
     Unload();
+    leave();
+}
+
+/// Ends the program. What was not saved is given up by the user's word: no start brings it back.
+void frmMsgSaveChanges::leave()
+{
+    if (context().unsavedText)
+        for (Document *document : frmMdi().openDocuments())
+            context().unsavedText->forget(*document);
     context().end();
 }
 

@@ -21,6 +21,7 @@ private:
     void cmdNo_Click();
     bool saveSelected();
     void callOffExit();
+    void leave();
 
     QListWidget *lstUnsavedFiles = nullptr;
     bool m_answered = false; ///< the exit goes on; any other end of the form calls it off

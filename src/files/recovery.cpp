@@ -174,7 +174,7 @@ void Recovery::forget(Document &document)
         m_context.services.worker.run([this, file] { m_folder.remove(file); }, [] {});
 }
 
-void Recovery::restore(Document *opened)
+QString Recovery::restore(Document *opened)
 {
     const RecoveryFolder::Finds finds = m_folder.takeOver();
     QHash<Document *, QString> texts;
@@ -194,11 +194,11 @@ void Recovery::restore(Document *opened)
         tell(*document, texts.value(document), document == m_recovered.constFirst());
     if (active && !m_recovered.isEmpty())
         active->activate();
-    tellFinds(finds.unreadable);
+    return remarkOn(finds.unreadable);
 }
 
-/// Tells of what no document's line can tell.
-void Recovery::tellFinds(const QString &unreadable) const
+/// What no document's line can tell.
+QString Recovery::remarkOn(const QString &unreadable) const
 {
     QStringList sentences;
     for (const QString &file : m_settled.putBack)
@@ -211,8 +211,7 @@ void Recovery::tellFinds(const QString &unreadable) const
     if (!unreadable.isEmpty())
         sentences << QStringLiteral("Unsaved text was found that could not be read. It is kept in ") + unreadable +
                          QStringLiteral(".");
-    if (!sentences.isEmpty())
-        m_context.mainWindow->SetStatusText(sentences.join(u' '));
+    return sentences.join(u' ');
 }
 
 /// The document with the kept text in it, dirty; nothing if there is no memory for one.

@@ -22,7 +22,7 @@ public:
     void noteChange(Document &document) override;
     void noteActivation() override;
     void forget(Document &document) override;
-    void restore(Document *opened) override;
+    QString restore(Document *opened) override;
     void keepNow() override;
 
 private:
@@ -49,7 +49,7 @@ private:
     bool giveUp(Document &document);
     void forAll(bool discarded);
     void answered(Document &document);
-    void tellFinds(const QString &unreadable) const;
+    QString remarkOn(const QString &unreadable) const;
 
     ProgramContext &m_context;
     RecoveryFolder m_folder;      ///< used by the worker alone, once the start is over

@@ -219,6 +219,7 @@ void frmMdi::decideWelcome()
 
 void frmMdi::restoreUnsavedText(Document *opened)
 {
-    if (context().unsavedText)
-        context().unsavedText->restore(opened);
+    const QString remark = context().unsavedText ? context().unsavedText->restore(opened) : QString();
+    if (!remark.isEmpty())
+        keepStatus(remark);
 }
