@@ -8,8 +8,9 @@ namespace
 {
 std::vector<std::span<const Command>> allTables()
 {
-    return {lifeCommands(), menuCommands(),   inputCommands(), controlCommands(), answerCommands(),    compareCommands(),
-            lookCommands(), recordCommands(), printCommands(), fileCommands(),    otherHostCommands(), outsideCommands()};
+    return {lifeCommands(),      menuCommands(),    inputCommands(),  controlCommands(), answerCommands(),
+            compareCommands(),   lookCommands(),    recordCommands(), printCommands(),   fileCommands(),
+            otherHostCommands(), previewCommands(), outsideCommands()};
 }
 
 QString countOf(const Command &command)

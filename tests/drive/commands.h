@@ -28,6 +28,7 @@ std::span<const Command> compareCommands();
 std::span<const Command> printCommands();
 std::span<const Command> fileCommands();
 std::span<const Command> otherHostCommands();
+std::span<const Command> previewCommands();
 std::span<const Command> outsideCommands();
 
 /// Nothing if there is no such command.
