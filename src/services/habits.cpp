@@ -7,6 +7,7 @@ namespace
 // A rule comes in here once it works.
 constexpr HabitRule rules[] = {
     {&Habits::HabitKeys, &settings::HabitKeys, "Enter replaces a selection, Tab indents by the width"},
+    {&Habits::HabitPreview, &settings::HabitPreview, "The preview shows changes beside the page's files"},
 };
 } // namespace
 

@@ -1,6 +1,7 @@
 #include "services/settings.h"
 
 #include "common/paths.h"
+#include "services/habits.h"
 #include "services/settingsStore.h"
 
 #include <array>
@@ -79,7 +80,7 @@ bool previewsByCopy(SettingsStore &store)
 
 bool previewsInPlace(SettingsStore &store)
 {
-    return read(store, EditingHabits) == u"today";
+    return readHabits(store).HabitPreview;
 }
 
 namespace
