@@ -1,6 +1,6 @@
 #include "browser/pageTrial.h"
 #include "desktop/desktopServices.h"
-#include "desktop/endSignals.h"
+#include "desktop/sessionEnd.h"
 #include "frame/application.h"
 #include "pictures/pictureReader.h"
 #include "shell/commandLine.h"
@@ -35,9 +35,7 @@ int main(int argc, char **argv)
         return tryPages(services.services().pageViews);
     Application program(services.services());
     QObject::connect(&program, &Application::ended, &desktop, &QCoreApplication::quit, Qt::QueuedConnection);
-    const EndSignals signals([&program] { program.endKeepingText(); });
-    QObject::connect(&desktop, &QGuiApplication::commitDataRequest, &program,
-                     [&program] { program.keepUnsavedText(); });
+    const SessionEnd end(desktop, program);
     program.Main(commandLineText(QApplication::arguments().mid(1)));
     return QApplication::exec();
 }

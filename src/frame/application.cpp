@@ -7,7 +7,9 @@
 #include "extensions/extensionsForms.h"
 #include "files/documentFiles.h"
 #include "files/filesForms.h"
+#include "files/frmMsgSaveChanges.h"
 #include "files/recovery.h"
+#include "files/unsavedDocuments.h"
 #include "frame/frmMdi.h"
 #include "frame/frmMdiTables.h"
 #include "frame/frmSplash.h"
@@ -15,6 +17,7 @@
 #include "internet/internetForms.h"
 #include "internet/uploads.h"
 #include "project/projectForms.h"
+#include "services/modalLoop.h"
 #include "services/services.h"
 #include "services/settings.h"
 #include "shell/shellForms.h"
@@ -114,6 +117,28 @@ void Application::keepUnsavedText()
 {
     if (!m_ended && m_mdi->isLoaded())
         m_unsavedText->keepNow();
+}
+
+bool Application::hasUnsavedWork() const
+{
+    return m_state.project.ProjectChanged || !unsavedCaptions(*m_mdi).isEmpty();
+}
+
+bool Application::mayEndSession(bool mayAsk)
+{
+    keepUnsavedText();
+    if (m_ended || !mayAsk || !m_mdi->isLoaded())
+        return true;
+    auto &list = m_forms.get<frmMsgSaveChanges>();
+    if (!list.isLoaded()) {
+        // Whoever is in the middle of a dialog is not torn out of it: the text is safe.
+        if (!m_mdi->Enabled() || !hasUnsavedWork())
+            return true;
+        m_mdi->Unload();
+    }
+    if (!m_ended && list.isLoaded())
+        m_context.services.modalLoop.run(list);
+    return m_ended;
 }
 
 void Application::End()

@@ -32,6 +32,10 @@ public:
     void endKeepingText();
     /// Brings all unsaved text to the disk, as before the desktop's session ends.
     void keepUnsavedText();
+    /// The desktop's session is about to end. Unsaved text is brought to the disk at once; with `mayAsk` the user is
+    /// then asked what becomes of it, as at any end of the program, and this returns once that is answered. False where
+    /// the user stays: the session is not to end.
+    bool mayEndSession(bool mayAsk);
     bool hasEnded() const { return m_ended; }
 
     const QString &commandLine() const { return m_commandLine; }
@@ -48,6 +52,7 @@ private:
     T &own(Arguments &&...arguments);
     void addFiles();
     void requireForms() const;
+    bool hasUnsavedWork() const;
 
     ProgramState m_state;
     FormRuntime m_forms;

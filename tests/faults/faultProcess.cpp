@@ -15,13 +15,13 @@
 namespace
 {
 /// What the new process does; it never comes back.
-[[noreturn]] void become(const FaultProcess &process, int output)
+[[noreturn]] void become(const FaultProcess &process, int output, int errors)
 {
     ::prctl(PR_SET_PDEATHSIG, SIGKILL); // a test that is given up takes it along
     const int nothing = ::open("/dev/null", O_RDWR | O_CLOEXEC);
     ::dup2(nothing, STDIN_FILENO);
-    ::dup2(output >= 0 ? output : nothing, STDOUT_FILENO);
-    ::dup2(output >= 0 ? output : nothing, STDERR_FILENO);
+    ::dup2(output, STDOUT_FILENO);
+    ::dup2(errors >= 0 ? errors : nothing, STDERR_FILENO);
     if (process.prepare && !process.prepare())
         ::_exit(NotPrepared);
     for (const auto &[name, value] : process.variables)
@@ -46,7 +46,7 @@ pid_t startToFirstLine(const FaultProcess &process)
         return -1;
     const pid_t child = ::fork();
     if (child == 0)
-        become(process, channel[1]);
+        become(process, channel[1], -1);
     ::close(channel[1]);
     char got = 0;
     while (got != '\n' && ::read(channel[0], &got, 1) == 1) {
@@ -81,7 +81,7 @@ FaultOutcome runToEnd(const FaultProcess &process)
         return {};
     const pid_t child = ::fork();
     if (child == 0)
-        become(process, channel[1]);
+        become(process, channel[1], channel[1]);
     ::close(channel[1]);
     FaultOutcome outcome;
     std::array<char, 4096> buffer{};
