@@ -27,8 +27,12 @@ DesktopPrinting::~DesktopPrinting() = default;
 
 QPrinter &DesktopPrinting::printer()
 {
-    if (!m_printer)
+    if (!m_printer) {
         m_printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        // Without a printer to ask, the toolkit would print to within 3 mm of the edges.
+        constexpr qreal Margin = printed::Margin;
+        m_printer->setPageMargins(QMarginsF(Margin, Margin, Margin, Margin), QPageLayout::Point);
+    }
     return *m_printer;
 }
 

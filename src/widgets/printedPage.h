@@ -9,6 +9,9 @@ struct PrintJob;
 /// them, and a foot with the title and the page's number.
 namespace printed
 {
+/// What stays free around it, unless the user chooses otherwise.
+constexpr qreal Margin = 36;
+
 /// The lines that fit over the foot, at least one.
 int linesOfPage(qreal height, qreal lineHeight);
 /// The room that the line numbers take up before the text, where `lines` is the last number and `digit` a digit's

@@ -8,7 +8,7 @@
 
 namespace
 {
-constexpr qreal Margin = 36; ///< points around what is printed
+using printed::Margin;
 constexpr qreal MetresPerInch = 0.0254;
 constexpr qreal PointsPerInch = 72;
 

@@ -137,6 +137,14 @@ const QString source = QStringLiteral(
     "one line of the paper, and which is broken at its blanks therefore, more than once.</p>\r\n"
     "</body>\r\n</html>");
 
+// The preview draws those margins around the page, and so the paper has to have them.
+TEST_F(DesktopPrintingTest, LeavesHalfAnInchFreeAroundThePage)
+{
+    const QSizeF size = printing.paper(font).size;
+    EXPECT_NEAR(size.width(), 595 - 72, 1);
+    EXPECT_NEAR(size.height(), 842 - 72, 1);
+}
+
 TEST_F(DesktopPrintingTest, PutsEveryWordOfThePageOnPaper)
 {
     QStringList expected = source.split(QRegularExpression(QStringLiteral("\\s+")), Qt::SkipEmptyParts);
