@@ -51,15 +51,18 @@ void MenuPreview::setOpen(int caption)
 
 void MenuPreview::arrange()
 {
-    const int padding = CellPadding + m_picture.itemPadding;
-    const int height = fontMetrics().height() + 2 * padding;
-    m_barHeight = std::max(LeastBarHeight, height + 2 * CellSpacing);
+    // A bar without a padding of its own is a table, whose cells have some, and whose height is written.
+    const bool isTable = m_picture.itemPadding == 0;
+    const int spacing = isTable ? CellSpacing : 0;
+    const int cell = isTable ? CellPadding : 0;
+    const int height = fontMetrics().height() + 2 * (cell + m_picture.itemPadding);
+    m_barHeight = std::max(isTable ? LeastBarHeight : 0, height + 2 * spacing);
     m_captions.clear();
-    int left = CellSpacing;
+    int left = spacing;
     for (const MenuPicture::Caption &caption : std::as_const(m_picture.captions)) {
-        const int width = fontMetrics().horizontalAdvance(caption.text) + 2 * (CellPadding + 2 * m_picture.itemPadding);
+        const int width = fontMetrics().horizontalAdvance(caption.text) + 2 * (cell + 2 * m_picture.itemPadding);
         m_captions.append(QRect(left, (m_barHeight - height) / 2, width, height));
-        left += width + CellSpacing;
+        left += width + spacing;
     }
     m_size = QSize(left, m_barHeight + fontMetrics().height() + Room);
     for (int caption = 0; caption < m_captions.size(); ++caption) {

@@ -55,6 +55,21 @@ TEST_F(MenuPreviewTest, showsTheBoxOfTheOpenCaption)
     EXPECT_EQ(preview.grab().toImage().pixelColor(390, 5), Bar);
 }
 
+// The list of a plain menu has nothing around its captions but their padding, 4 above and 8 beside; a table's cells
+// have.
+TEST_F(MenuPreviewTest, drawsAListWithoutTheRoomOfATable)
+{
+    const int line = preview.fontMetrics().height();
+    EXPECT_EQ(preview.captionRect(0).topLeft(), QPoint(2, 2));
+    EXPECT_EQ(preview.captionRect(0).height(), line + 2);
+    MenuPicture plain = picture();
+    plain.itemPadding = 4;
+    preview.setPicture(plain);
+    EXPECT_EQ(preview.captionRect(0).topLeft(), QPoint(0, 0));
+    EXPECT_EQ(preview.captionRect(0).height(), line + 8);
+    EXPECT_EQ(preview.captionRect(1).left(), preview.captionRect(0).right() + 1);
+}
+
 TEST_F(MenuPreviewTest, opensTheBoxUnderThePointerUntilItLeaves)
 {
     const QPoint cell = preview.captionRect(1).center();
