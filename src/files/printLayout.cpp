@@ -70,10 +70,12 @@ public:
     {
         const bool tabs = line.contains(u'\t');
         const QString shown = tabs ? withoutTabs(line, m_choices.tabWidth) : line;
+        const QList<qsizetype> places = tabs && m_choices.colours ? placesOf(line) : QList<qsizetype>();
         for (const LinePart &part : brokenLine(shown, m_width, m_paper.textWidth)) {
             PrintedLine onPaper{shown.mid(part.start, part.length), part.start == 0 ? number : 0};
-            // Where tabs were replaced, places on paper are none of the source: such a line stays black.
-            if (m_choices.colours && !tabs && part.length > 0)
+            if (tabs && m_choices.colours && part.length > 0)
+                addFormats(onPaper, part, places, start);
+            else if (m_choices.colours && part.length > 0)
                 collectFormats(m_source, start + part.start, part.length, start + part.start, onPaper.formats);
             place(onPaper);
         }
@@ -82,6 +84,33 @@ public:
     QList<PrintedPage> take() { return std::move(m_pages); }
 
 private:
+    /// Where each character of a line stands on paper, where its tabs are blanks, and where its end does.
+    QList<qsizetype> placesOf(const QString &line) const
+    {
+        QList<qsizetype> places{0};
+        for (const QChar character : line)
+            places.append(places.last() +
+                          (character == u'\t' ? m_choices.tabWidth - places.last() % m_choices.tabWidth : 1));
+        return places;
+    }
+
+    /// The formats of a part of a line with tabs, which starts at `start` of the source.
+    void addFormats(PrintedLine &onPaper, const LinePart &part, const QList<qsizetype> &places, qsizetype start) const
+    {
+        const auto characterAt = [&places](qsizetype place) {
+            return std::upper_bound(places.begin(), places.end(), place) - places.begin() - 1;
+        };
+        const qsizetype first = characterAt(part.start);
+        const qsizetype last = characterAt(part.start + part.length - 1);
+        QList<FormatRange> ranges;
+        collectFormats(m_source, start + first, last - first + 1, start, ranges);
+        for (const FormatRange &range : std::as_const(ranges)) {
+            const qsizetype from = std::max<qsizetype>(places[range.start], part.start);
+            const qsizetype to = std::min<qsizetype>(places[range.start + range.length], part.start + part.length);
+            onPaper.formats.append({from - part.start, to - from, range.format});
+        }
+    }
+
     void place(const PrintedLine &line)
     {
         if (m_pages.isEmpty() || m_pages.last().lines.size() >= m_perPage)

@@ -151,6 +151,23 @@ TEST_F(PagesTest, TakeTheColoursOfTheSource)
     EXPECT_EQ(formats[2].length, 2);
 }
 
+// A tab is one character of the source and several on paper.
+TEST_F(PagesTest, ColoursALineWithTabs)
+{
+    surface.setText(QStringLiteral("\tx <b>\ty"));
+    surface.setFormat(3, 3, {.colour = 0x800000, .bold = true, .underline = false});
+    const QList<PrintedPage> laidOut = laidOutPages(surface, paper, {.colours = true, .tabWidth = 4});
+    const PrintedLine &line = laidOut[0].lines[0];
+    EXPECT_EQ(line.text, QStringLiteral("    x <b>   y"));
+    ASSERT_EQ(line.formats.size(), 3);
+    EXPECT_EQ(line.formats[0].length, 6);
+    EXPECT_EQ(line.formats[1].start, 6);
+    EXPECT_EQ(line.formats[1].length, 3);
+    EXPECT_EQ(line.formats[1].format.bold, true);
+    EXPECT_EQ(line.formats[2].start, 9);
+    EXPECT_EQ(line.formats[2].length, 4);
+}
+
 TEST(WithoutTags, TakesOutEveryTag)
 {
     EXPECT_EQ(withoutTags(QStringLiteral("<p>One <b>two</b></p>\r\n")), QStringLiteral("One two\r\n"));
