@@ -34,6 +34,8 @@ QStringList fontRows()
     return rows;
 }
 
+constexpr int CharactersShown = 11; // as wide as capital letters
+
 QStringList encodingRows()
 {
     return {encodingName({Encoding::Utf8}), encodingName({Encoding::Utf8Bom}), encodingName({Encoding::Windows1252})};
@@ -88,6 +90,10 @@ void frmMoreOptions::buildControls()
     cboEncoding = ui::dropList(QStringLiteral("cboEncoding"), encodingRows());
     cboTheme = ui::dropList(QStringLiteral("cboTheme"),
                             {QStringLiteral("As the desktop"), QStringLiteral("Light"), QStringLiteral("Dark")});
+    for (QComboBox *list : {cboEditorFont, cboEncoding}) { // whatever long names there are
+        list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        list->setMinimumContentsLength(CharactersShown);
+    }
     SpinButton *updSize =
         ui::spin(QStringLiteral("updEditorFontSize"), txtEditorFontSize, SmallestFontSize, LargestFontSize);
     SpinButton *updTabs = ui::spin(QStringLiteral("updTabWidth"), txtTabWidth, SmallestTabWidth, LargestTabWidth);
