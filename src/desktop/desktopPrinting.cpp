@@ -3,6 +3,7 @@
 #include "widgets/printedPage.h"
 
 #include <QFontMetricsF>
+#include <QMarginsF>
 #include <QPainter>
 #include <QPrinter>
 

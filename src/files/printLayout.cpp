@@ -3,6 +3,7 @@
 #include "widgets/printedPage.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace
 {
