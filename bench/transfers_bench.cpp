@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -27,19 +28,24 @@ public:
     void finished(const TransferEnd &ended) override
     {
         bytes = ended.body.size();
-        over = true;
+        loop.quit();
     }
 
     qsizetype bytes = 0;
-    bool over = false;
+    QEventLoop loop;
 };
 
-/// Gets the page once; false if it did not come.
+/// Gets the page once; false if it did not come. It waits in an event loop as the program does: a test's waiting would
+/// sleep between two turns, and be measured along.
 bool get(ModuleTransfers &transfers, const QString &address, qsizetype size)
 {
     Watcher watcher;
     const StartedTransfer started = transfers.start({.url = address}, watcher);
-    return started.transfer && QTest::qWaitFor([&] { return watcher.over; }, Longest) && watcher.bytes == size;
+    if (!started.transfer)
+        return false;
+    QTimer::singleShot(Longest, &watcher.loop, &QEventLoop::quit);
+    watcher.loop.exec();
+    return watcher.bytes == size;
 }
 
 double milliseconds(const QElapsedTimer &clock)
@@ -68,13 +74,14 @@ double longestPause(const Run &run)
 {
     QElapsedTimer clock;
     double longest = 0;
-    QTimer turns;
+    QTimer turns; // one of no time at all would wait until nothing comes any more
+    turns.setTimerType(Qt::PreciseTimer);
     QObject::connect(&turns, &QTimer::timeout, [&] {
         longest = std::max(longest, milliseconds(clock));
         clock.start();
     });
     clock.start();
-    turns.start(0);
+    turns.start(1);
     run();
     return longest;
 }

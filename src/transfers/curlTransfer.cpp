@@ -12,8 +12,14 @@ constexpr long MostRedirects = 10;
 constexpr int UsualPatience = 30;     ///< seconds
 constexpr int CleanupPatience = 5;    ///< seconds
 constexpr int PatienceInterval = 250; ///< milliseconds between two looks
-constexpr long BufferBytes = 512 * 1024;
+// At each turn the library fills its buffer up to a hundred times if the server is quick enough. What comes of that is
+// to take a few milliseconds, since nothing else happens meanwhile.
+constexpr long ReadBytes = 32 * 1024;
+constexpr long WriteBytes = 512 * 1024;
 constexpr int FirstErrorStatus = 400;
+// No other way would help with these.
+constexpr int WrongPassword = 401;
+constexpr int NoRoomOnServer = 507;
 
 /// A web address leads to web addresses alone, and one that is encrypted to encrypted ones.
 QByteArray redirectSchemes(const QString &scheme)
@@ -46,6 +52,8 @@ void CurlTransfer::begin()
     if (m_request.kind == TransferRequest::Kind::Download) {
         setUp();
         run([this](CURLcode code) { downloadOver(code); });
+    } else if (mayMove(m_address.scheme()) && !goesByProxy() && !m_target.isEmpty()) {
+        beginUploadToWeb();
     } else {
         const bool byName = canRename(m_address.scheme(), m_names.target) && !goesByProxy();
         beginUpload(byName ? UploadWay::ByTemporaryName : UploadWay::Straight, false);
@@ -55,16 +63,86 @@ void CurlTransfer::begin()
 void CurlTransfer::beginUpload(UploadWay way, bool retry)
 {
     const bool byName = way == UploadWay::ByTemporaryName;
-    m_address.setName(byName ? QString::fromLatin1(QUrl::toPercentEncoding(m_names.temporary)) : m_target);
-    m_sent = 0;
+    m_address.setName(byName ? temporaryName() : m_target);
     setUp();
+    setBody();
     setCommands(uploadCommands(way, m_address.scheme(), m_address.folder(), m_names, retry));
-    curl_easy_setopt(m_easy, CURLOPT_UPLOAD, 1L);
-    curl_easy_setopt(m_easy, CURLOPT_INFILESIZE_LARGE, static_cast<curl_off_t>(m_request.body.size()));
-    curl_slist *headers = curl_slist_append(nullptr, "Expect:"); // a page is not worth a question first
-    m_lists.append(headers);
-    curl_easy_setopt(m_easy, CURLOPT_HTTPHEADER, headers);
     run([this, byName](CURLcode code) { byName ? temporaryUploadOver(code) : uploadOver(code); });
+}
+
+/// Asks a web server whether it can rename, before anything is sent: where it could not take a temporary file away
+/// either, one would stay.
+void CurlTransfer::beginUploadToWeb()
+{
+    setUp();
+    curl_easy_setopt(m_easy, CURLOPT_FORBID_REUSE, 0L); // the page follows on the same connection
+    curl_easy_setopt(m_easy, CURLOPT_CUSTOMREQUEST, "OPTIONS");
+    m_asksWay = true;
+    curl_easy_setopt(m_easy, CURLOPT_NOBODY, 1L);
+    run([this](CURLcode code) {
+        m_asksWay = false;
+        const bool moves = code == CURLE_OK && !isRefused() && allowsMove(m_allowed);
+        const bool silent = code == CURLE_GOT_NOTHING || code == CURLE_RECV_ERROR || code == CURLE_SEND_ERROR;
+        if (code == CURLE_OK && m_end.ResponseCode == WrongPassword)
+            uploadOver(code);
+        else if (moves)
+            beginPut(temporaryName(), [this](CURLcode put) { temporaryPutOver(put); });
+        else if (code == CURLE_OK || silent)
+            beginUpload(UploadWay::Straight, false);
+        else
+            fail(code);
+    });
+}
+
+void CurlTransfer::beginPut(const QString &name, const std::function<void(CURLcode)> &over)
+{
+    m_address.setName(name);
+    setUp();
+    setBody();
+    run(over);
+}
+
+void CurlTransfer::temporaryPutOver(CURLcode code)
+{
+    if (code == CURLE_OK && !isRefused())
+        beginMove();
+    else if (code == CURLE_OK && m_end.ResponseCode != NoRoomOnServer)
+        beginUpload(UploadWay::Straight, false);
+    else if (m_sent > 0)
+        beginRemoval([this, code] { code == CURLE_OK ? uploadOver(code) : fail(code); });
+    else
+        fail(code);
+}
+
+void CurlTransfer::beginMove()
+{
+    const QByteArray target = m_address.besides(m_target).toUtf8();
+    setUp();
+    curl_easy_setopt(m_easy, CURLOPT_CUSTOMREQUEST, "MOVE");
+    curl_easy_setopt(m_easy, CURLOPT_NOBODY, 1L);
+    addHeaders({"Destination: " + target, "Overwrite: T"});
+    run([this](CURLcode code) {
+        if (code == CURLE_OK && !isRefused())
+            succeed();
+        else
+            beginRemoval([this] { beginUpload(UploadWay::Straight, false); });
+    });
+}
+
+/// Takes the temporary file of a web server away; whatever comes of that, it goes on from what was told before.
+void CurlTransfer::beginRemoval(const std::function<void()> &then)
+{
+    const TransferEnd told = m_end;
+    const int patience = std::exchange(m_request.patience, CleanupPatience);
+    m_address.setName(temporaryName());
+    setUp();
+    curl_easy_setopt(m_easy, CURLOPT_CUSTOMREQUEST, "DELETE");
+    curl_easy_setopt(m_easy, CURLOPT_NOBODY, 1L);
+    run([this, told, then, patience](CURLcode) {
+        m_request.patience = patience;
+        m_end = told;
+        then();
+    });
 }
 
 /// Takes away what has come of a file that will not become whole; the failure is told thereafter.
@@ -96,8 +174,8 @@ void CurlTransfer::setUp()
     curl_easy_setopt(m_easy, CURLOPT_MAXREDIRS, MostRedirects);
     curl_easy_setopt(m_easy, CURLOPT_NOSIGNAL, 1L);
     curl_easy_setopt(m_easy, CURLOPT_FORBID_REUSE, 1L); // a connection knows its password
-    curl_easy_setopt(m_easy, CURLOPT_BUFFERSIZE, BufferBytes);
-    curl_easy_setopt(m_easy, CURLOPT_UPLOAD_BUFFERSIZE, BufferBytes);
+    curl_easy_setopt(m_easy, CURLOPT_BUFFERSIZE, ReadBytes);
+    curl_easy_setopt(m_easy, CURLOPT_UPLOAD_BUFFERSIZE, WriteBytes);
     curl_easy_setopt(m_easy, CURLOPT_USERAGENT, "Tagwrighter");
     curl_easy_setopt(m_easy, CURLOPT_ACCEPT_ENCODING, "");
     curl_easy_setopt(m_easy, CURLOPT_ERRORBUFFER, m_detail);
@@ -105,6 +183,34 @@ void CurlTransfer::setUp()
     setProxy();
     setTrust();
     setCallbacks();
+}
+
+void CurlTransfer::setBody()
+{
+    m_sent = 0;
+    curl_easy_setopt(m_easy, CURLOPT_UPLOAD, 1L);
+    curl_easy_setopt(m_easy, CURLOPT_INFILESIZE_LARGE, static_cast<curl_off_t>(m_request.body.size()));
+    addHeaders({"Expect:"}); // a page is not worth a question first
+}
+
+void CurlTransfer::addHeaders(const QList<QByteArray> &lines)
+{
+    curl_slist *headers = nullptr;
+    for (const QByteArray &line : lines)
+        headers = curl_slist_append(headers, line.constData());
+    m_lists.append(headers);
+    curl_easy_setopt(m_easy, CURLOPT_HTTPHEADER, headers);
+}
+
+QString CurlTransfer::temporaryName() const
+{
+    return QString::fromLatin1(QUrl::toPercentEncoding(m_names.temporary));
+}
+
+/// Whether the server has answered, and that with a no.
+bool CurlTransfer::isRefused() const
+{
+    return m_end.ResponseCode >= FirstErrorStatus;
 }
 
 void CurlTransfer::setCommands(const UploadCommands &commands)

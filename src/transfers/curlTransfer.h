@@ -25,8 +25,16 @@ private:
     // Turns.
     void begin();
     void beginUpload(UploadWay way, bool retry);
+    void beginUploadToWeb();
+    void beginPut(const QString &name, const std::function<void(CURLcode)> &over);
+    void beginMove();
+    void beginRemoval(const std::function<void()> &then);
     void beginCleanup(CURLcode failure);
     void setUp();
+    void setBody();
+    void addHeaders(const QList<QByteArray> &lines);
+    bool isRefused() const;
+    QString temporaryName() const;
     void setCommands(const UploadCommands &commands);
     void setCredentials();
     void setProxy();
@@ -40,6 +48,7 @@ private:
     void downloadOver(CURLcode code);
     void uploadOver(CURLcode code);
     void temporaryUploadOver(CURLcode code);
+    void temporaryPutOver(CURLcode code);
     void completeResponse(CURLcode code);
     QString reasonOf(CURLcode code) const;
     void succeed();
@@ -85,6 +94,8 @@ private:
     QString m_target; ///< an upload's name, in codes
     UploadNames m_names;
     TransferEnd m_end;
+    bool m_asksWay = false; ///< it asks a web server what it allows, and the page is still to be sent
+    QByteArray m_allowed;   ///< the methods that a web server allows
     bool m_tooLarge = false;
     bool m_keyChanged = false;
 };

@@ -12,6 +12,7 @@
 
 namespace
 {
+constexpr qsizetype SmallBody = 1 << 20;     ///< bytes
 constexpr qint64 ProgressMilliseconds = 100; ///< between two tellings
 
 CurlTransfer &transferOf(void *self)
@@ -64,7 +65,7 @@ int CurlTransfer::requesting(void *self, char *, char *, int, int)
     CurlTransfer &transfer = transferOf(self);
     transfer.noteActivity();
     transfer.advance(TransferState::Requesting);
-    if (transfer.m_request.kind == TransferRequest::Kind::Download)
+    if (transfer.m_request.kind == TransferRequest::Kind::Download || transfer.m_asksWay)
         transfer.advance(TransferState::RequestSent);
     return CURL_PREREQFUNC_OK;
 }
@@ -84,8 +85,11 @@ void CurlTransfer::takeHeader(const QByteArray &line)
         m_end.ResponseInfo = status->words;
     }
     const bool upload = m_request.kind == TransferRequest::Kind::Upload;
-    if (upload ? m_state >= TransferState::RequestSent : startsWebAnswer(line))
+    const bool answers = upload ? m_state >= TransferState::RequestSent && !m_asksWay : startsWebAnswer(line);
+    if (answers)
         advance(TransferState::ReceivingResponse);
+    if (line.first(qMin(line.size(), qsizetype(6))).toLower() == "allow:")
+        m_allowed = line.mid(6);
     if (const std::optional<QString> charset = charsetOfHeader(line))
         m_end.charset = *charset;
 }
@@ -100,7 +104,12 @@ std::size_t CurlTransfer::bodyCame(char *bytes, std::size_t size, std::size_t co
         transfer.m_tooLarge = true;
         return 0;
     }
-    transfer.m_end.body.append(bytes, length);
+    // Growing by and by, a large body would be copied several times over, during which nothing else happens. Room that
+    // is never written to takes no memory.
+    QByteArray &body = transfer.m_end.body;
+    if (body.size() + length > SmallBody && body.capacity() < LargestDownload)
+        body.reserve(LargestDownload);
+    body.append(bytes, length);
     return size * count;
 }
 

@@ -83,6 +83,12 @@ QString TransferAddress::name() const
     return path.sliced(path.lastIndexOf(u'/') + 1);
 }
 
+QString TransferAddress::besides(const QString &encodedName) const
+{
+    const QString port = hasPort() ? u':' + part(CURLUPART_PORT) : QString();
+    return scheme() + QStringLiteral("://") + host() + port + folder() + encodedName;
+}
+
 void TransferAddress::setName(const QString &encodedName)
 {
     set(CURLUPART_PATH, folder() + encodedName);

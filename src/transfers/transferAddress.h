@@ -29,6 +29,8 @@ public:
     QString folder() const;
     QString name() const;
     void setName(const QString &encodedName);
+    /// The address of another name in the same folder, in codes, without user and password.
+    QString besides(const QString &encodedName) const;
 
     CURLU *handle() const { return m_handle.get(); }
 

@@ -52,6 +52,18 @@ UploadNames uploadNames(const QString &target)
     return {target, QStringLiteral(".tagwrighter-%1.tmp").arg(mark), QStringLiteral(".tagwrighter-%1.old").arg(mark)};
 }
 
+bool mayMove(const QString &scheme)
+{
+    return scheme == u"http" || scheme == u"https";
+}
+
+bool allowsMove(const QByteArray &allowed)
+{
+    const QList<QByteArray> methods = allowed.split(',');
+    return std::any_of(methods.begin(), methods.end(),
+                       [](const QByteArray &method) { return method.trimmed().toUpper() == "MOVE"; });
+}
+
 bool canRename(const QString &scheme, const QString &target)
 {
     const bool plain = std::none_of(target.begin(), target.end(), [](QChar c) { return c < u' ' || c == u'\x7f'; });

@@ -24,6 +24,10 @@ struct UploadNames {
 };
 UploadNames uploadNames(const QString &target);
 
+/// Whether a server of that protocol can have a method for renaming, which it is to be asked about.
+bool mayMove(const QString &scheme);
+/// Whether what a web server says it allows (the header's value, "GET, PUT, MOVE") has that method.
+bool allowsMove(const QByteArray &allowed);
 /// Whether a server of that protocol has commands for renaming, and the name is one that they can hold.
 bool canRename(const QString &scheme, const QString &target);
 

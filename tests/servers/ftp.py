@@ -1,8 +1,9 @@
 """An FTP server for the tests, on this machine alone: ftp.py FOLDER USER PASSWORD [no-rename] [no-new-names]
-[read-only] [--tls CERTIFICATE].
+[read-only] [--tls CERTIFICATE KEY].
 
 The one user may do everything in the folder, but for what the words behind the password forbid: to rename, to make
-files that are not there, or to write at all.
+files that are not there, or to write at all. With a certificate everything is encrypted from the first byte on, as
+addresses of ftps have it.
 """
 
 import logging
@@ -99,10 +100,29 @@ def main():
     authorizer.add_user(user, password, folder, perm="elr" if "read-only" in WORDS else "elradfmwMT")
     handler = Handler
     if "--tls" in WORDS:
-        from pyftpdlib.handlers import TLS_FTPHandler
+        from pyftpdlib.handlers import TLS_DTPHandler, TLS_FTPHandler
+
+        class TlsChannel(TLS_DTPHandler):
+            def readable(self):
+                # A client may shake hands before it says what it wants, which is not the end of its connection.
+                return self._ssl_accepting or super().readable()
 
         class TlsHandler(Handler, TLS_FTPHandler):
-            certfile = WORDS[WORDS.index("--tls") + 1]
+            certfile, keyfile = WORDS[WORDS.index("--tls") + 1 :][:2]
+            dtp_handler = TlsChannel
+            tls_data_required = True
+
+            @classmethod
+            def get_ssl_context(cls):
+                context = super().get_ssl_context()
+                context.set_session_id(b"test")  # clients take the session along to the data's connection
+                return context
+
+            def handle(self):
+                self.secure_connection(self.ssl_context)
+
+            def handle_ssl_established(self):
+                super().handle()  # the greeting
 
         handler = TlsHandler
     else:

@@ -1,6 +1,8 @@
-"""A web server for the tests, on this machine alone: web.py FOLDER [--tls CERTIFICATE KEY] [--six].
+"""A web server for the tests, on this machine alone: web.py FOLDER [--tls CERTIFICATE KEY] [--six]
+[moves [refuses]].
 
-GET and PUT files of the folder. A folder is answered with its index.html. A file NAME.answer beside a missing NAME is a
+GET and PUT files of the folder; with "moves", MOVE and DELETE as well, as servers of shared folders do; with "refuses",
+MOVE is offered and refused. A folder is answered with its index.html. A file NAME.answer beside a missing NAME is a
 whole answer: its status line, its headers, an empty line and its body; the header "X-Endless: yes" repeats the body
 without an end. A file .password in the folder holds "USER:PASSWORD", which everybody has to give then.
 """
@@ -30,9 +32,9 @@ class Handler(http.server.BaseHTTPRequestHandler):
     def log_message(self, *_):
         pass
 
-    def path_on_disk(self):
+    def path_on_disk(self, address=None):
         # As a proxy, the server is given whole addresses.
-        path = urllib.parse.urlsplit(self.path).path.split(";")[0]
+        path = urllib.parse.urlsplit(self.path if address is None else address).path.split(";")[0]
         parts = [part for part in urllib.parse.unquote(path).split("/") if part not in ("", ".", "..")]
         found = os.path.join(self.folder, *parts)
         return os.path.join(found, "index.html") if os.path.isdir(found) else found
@@ -121,6 +123,38 @@ class Handler(http.server.BaseHTTPRequestHandler):
             return
         self.answer(201, b"")
 
+    def do_OPTIONS(self):
+        methods = [name[3:] for name in dir(self) if name.startswith("do_")]
+        self.answer(204, b"", {"Allow": ", ".join(methods)})
+
+
+class MovingHandler(Handler):
+    """Renames and removes as well, as a server of shared folders does."""
+
+    def do_MOVE(self):
+        if not self.is_allowed():
+            return
+        target = self.path_on_disk(self.headers.get("Destination", ""))
+        there = os.path.exists(target)
+        if "refuses" in sys.argv:
+            self.answer(403, b"")
+        elif not os.path.isfile(self.path_on_disk()):
+            self.answer(404, b"")
+        elif there and self.headers.get("Overwrite") == "F":
+            self.answer(412, b"")
+        else:
+            os.replace(self.path_on_disk(), target)
+            self.answer(204 if there else 201, b"")
+
+    def do_DELETE(self):
+        if not self.is_allowed():
+            return
+        try:
+            os.remove(self.path_on_disk())
+            self.answer(204, b"")
+        except OSError:
+            self.answer(404, b"")
+
 
 class Server(http.server.ThreadingHTTPServer):
     daemon_threads = True
@@ -137,7 +171,8 @@ def main():
     arguments = sys.argv[1:]
     Handler.folder = arguments[0]
     six = "--six" in arguments
-    server = Server6(("::1", 0), Handler) if six else Server(("127.0.0.1", 0), Handler)
+    handler = MovingHandler if "moves" in arguments else Handler
+    server = Server6(("::1", 0), handler) if six else Server(("127.0.0.1", 0), handler)
     if "--tls" in arguments:
         at = arguments.index("--tls")
         context = ssl.SSLContext(ssl.PROTOCOL_TLS_SERVER)

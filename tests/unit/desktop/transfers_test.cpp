@@ -14,6 +14,7 @@
 #include <QTest>
 #include <QTimer>
 #include <arpa/inet.h>
+#include <ctime>
 #include <gtest/gtest.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -243,6 +244,37 @@ TEST_F(TransfersTest, StopAtTheMostTheyTake)
               q("It is larger than 64 MiB, which is more than can be opened."));
 }
 
+/// What this thread has taken of the processor, in milliseconds: on a busy machine a turn may last far longer.
+double processorMilliseconds()
+{
+    timespec taken = {};
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &taken);
+    return double(taken.tv_sec) * 1e3 + double(taken.tv_nsec) * 1e-6;
+}
+
+TEST_F(TransfersTest, LeaveTheWindowItsTurns)
+{
+    constexpr qsizetype Size = 50'000'000;
+    serveWeb();
+    write("large.htm", QByteArray(Size, 'x'));
+    watcher = std::make_unique<Watcher>();
+    const StartedTransfer started = transfers.start({.url = webAddress("/large.htm")}, *watcher);
+    double before = processorMilliseconds();
+    double longest = 0;
+    QEventLoop loop;
+    QTimer turns;
+    QObject::connect(&turns, &QTimer::timeout, [&] {
+        const double now = processorMilliseconds();
+        longest = std::max(longest, now - std::exchange(before, now));
+        if (watcher->over)
+            loop.quit();
+    });
+    turns.start(1);
+    loop.exec();
+    EXPECT_EQ(watcher->end.body.size(), Size);
+    EXPECT_LT(longest, 20) << "milliseconds";
+}
+
 TEST_F(TransfersTest, AreBrokenOffWithTheirObject)
 {
     serveWeb();
@@ -342,6 +374,37 @@ TEST_F(TransfersTest, PutAPageByHttp)
     EXPECT_EQ(full.end.failure, q("Insufficient Storage"));
     EXPECT_EQ(full.states.last(), 11);
     EXPECT_EQ(read("a.htm"), QByteArray("<p>new"));
+}
+
+TEST_F(TransfersTest, PutAPageByATemporaryNameWhereAWebServerRenames)
+{
+    serveWeb({q("moves")});
+    write("my page.htm", "old");
+    const Watcher &done = run(put(webAddress("/my page.htm"), "<p>new"));
+    EXPECT_EQ(done.end.failure, QString());
+    EXPECT_EQ(done.end.ResponseCode, 204); // of the renaming: there was a page of that name
+    EXPECT_EQ(done.states, AllStates);
+    EXPECT_EQ(read("my page.htm"), QByteArray("<p>new"));
+    EXPECT_EQ(names(), QStringList{q("my page.htm")});
+    ASSERT_TRUE(web->tell(q("full 3")));
+    const Watcher &full = run(put(webAddress("/my page.htm"), "<p>newer"));
+    EXPECT_EQ(full.end.ResponseCode, 507);
+    EXPECT_EQ(full.end.failure, q("Insufficient Storage"));
+    ASSERT_TRUE(web->tell(q("full")));
+    ASSERT_TRUE(web->tell(q("cut 3")));
+    EXPECT_NE(run(put(webAddress("/my page.htm"), QByteArray(100'000, 'x'))).end.failure, QString());
+    EXPECT_EQ(read("my page.htm"), QByteArray("<p>new")); // whole, whatever came of the others
+}
+
+TEST_F(TransfersTest, PutAPageStraightWhereAWebServerRefusesToRename)
+{
+    serveWeb({q("moves"), q("refuses")});
+    write("a.htm", "old");
+    const Watcher &done = run(put(webAddress("/a.htm"), "new"));
+    EXPECT_EQ(done.end.failure, QString());
+    EXPECT_EQ(done.states, AllStates);
+    EXPECT_EQ(read("a.htm"), QByteArray("new"));
+    EXPECT_EQ(names(), QStringList{q("a.htm")}); // and nothing beside it
 }
 
 TEST_F(TransfersTest, TakeThePortOfTheAddressBeforeTheOther)
@@ -465,6 +528,36 @@ TEST_F(TlsTest, ACertificateOfAnotherServerIsRefused)
     serveWeb(certificate("elsewhere"));
     trust("elsewhere");
     EXPECT_TRUE(get(secure("/")).end.failure.startsWith(q("The server could not prove what it is")));
+}
+
+TEST_F(TlsTest, AnFtpServerThatIsVouchedForIsGoneTo)
+{
+    serveFtp(certificate("own"));
+    write("a.htm", "safe");
+    trust("own");
+    const QString root = q("ftps://127.0.0.1:%1/").arg(ftp->port());
+    TransferRequest request{.url = root + q("a.htm"), .userName = q("anna"), .password = q("secret")};
+    EXPECT_EQ(run(request).end.body, QByteArray("safe")) << watcher->end.failure.toStdString();
+    EXPECT_EQ(run(put(root + q("b.htm"), "put")).end.failure, QString());
+    EXPECT_EQ(read("b.htm"), QByteArray("put"));
+    EXPECT_EQ(names(), (QStringList{q("a.htm"), q("b.htm")}));
+}
+
+TEST_F(TlsTest, AnFtpServerThatNobodyVouchesForIsRefused)
+{
+    serveFtp(certificate("other"));
+    write("a.htm", "unsafe");
+    trust("own");
+    const QString root = q("ftps://127.0.0.1:%1/").arg(ftp->port());
+    for (const TransferRequest &request :
+         {TransferRequest{.url = root + q("a.htm"), .userName = q("anna"), .password = q("secret")},
+          put(root + q("a.htm"), "put")}) {
+        const Watcher &got = run(request);
+        EXPECT_TRUE(got.end.failure.startsWith(q("The server could not prove what it is")))
+            << got.end.failure.toStdString();
+        EXPECT_TRUE(got.end.body.isEmpty());
+    }
+    EXPECT_EQ(read("a.htm"), QByteArray("unsafe"));
 }
 
 TEST_F(TlsTest, AnEncryptedAddressLeadsToNoPlainOne)

@@ -97,6 +97,8 @@ TEST(Renaming, IsForServersOfFilesAndForPlainNames)
 {
     EXPECT_TRUE(canRename(q("ftp"), q("a b.htm")));
     EXPECT_TRUE(canRename(q("ftps"), q("a")));
+    EXPECT_TRUE(mayMove(q("https")) && !mayMove(q("ftp")));
+    EXPECT_TRUE(allowsMove("GET, PUT,move") && !allowsMove("GET, REMOVE"));
     EXPECT_TRUE(canRename(q("sftp"), q("a")));
     EXPECT_FALSE(canRename(q("http"), q("a")));
     EXPECT_FALSE(canRename(q("ftp"), QString()));
