@@ -15,7 +15,8 @@ target_link_libraries(tagwrighter_precompiled_widgets PRIVATE tagwrighter_option
 # tagwrighter_folder(FOLDER LINK...): the library tagwrighter_FOLDER.
 function(tagwrighter_folder folder)
     set(name tagwrighter_${folder})
-    file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp ${PROJECT_SOURCE_DIR}/src/${folder}/*.h)
+    set(place ${PROJECT_SOURCE_DIR}/src/${folder})
+    file(GLOB sources CONFIGURE_DEPENDS ${place}/*.cpp ${place}/*.h ${place}/*/*.cpp ${place}/*/*.h)
     set(implementations ${sources})
     list(FILTER implementations INCLUDE REGEX "\\.cpp$")
     if(NOT implementations)

@@ -26,9 +26,10 @@ QList<Include> includesOf(const QString &source)
     return result;
 }
 
+/// The folder of src/ that a file belongs to, however deep below it the file stands.
 QString folderOf(const QString &path)
 {
-    return path.section(u'/', 0, -2);
+    return path.contains(u'/') ? path.section(u'/', 0, 0) : QString();
 }
 
 /// The main windows and the application that owns all forms are more than their folder: which of them this file is of.
