@@ -21,7 +21,7 @@ class Definition:
     def __init__(self, text, switches=None):
         self._entities = dict(switches or {})
         self.elements = {}
-        self._read(_without_comments(text))
+        self._read(without_comments(text))
 
     def _read(self, text):
         at = 0
@@ -44,12 +44,9 @@ class Definition:
             self._list_attributes(self._expand(body))
 
     def _list_attributes(self, body):
-        names = _NAMES.match(body)
-        attributes = {}
-        for match in _ATTRIBUTE.finditer(body, names.end()):
-            attributes[match["name"].lower()] = _words(match["type"])
-        for element in _words(names[1]) or [names[1].lower()]:
-            self.elements.setdefault(element, {}).update(attributes)
+        for elements, match in listed(body):
+            for element in elements:
+                self.elements.setdefault(element, {})[match["name"].lower()] = _words(match["type"])
 
     def _expand(self, text):
         while _REFERENCE.search(text):
@@ -57,7 +54,14 @@ class Definition:
         return text.strip()
 
 
-def _without_comments(text):
+def listed(body):
+    """(elements, match of an attribute) for each attribute of a list."""
+    names = _NAMES.match(body)
+    elements = _words(names[1]) or [names[1].lower()]
+    return [(elements, match) for match in _ATTRIBUTE.finditer(body, names.end())]
+
+
+def without_comments(text):
     text = re.sub(r"<!--.*?-->", "", text, flags=re.DOTALL)
     return re.sub(r"--.*?--", "", text, flags=re.DOTALL)
 

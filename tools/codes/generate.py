@@ -9,6 +9,7 @@ import sys
 from pathlib import Path
 
 import helpPages
+import pageRules
 import tcb
 from knowledge import Joiner
 from styles import Styles
@@ -20,6 +21,7 @@ NOTICES = "LICENSE-codes"
 _NOTICED = {
     "html-validate": "html-validate",
     "html401": "The document type definitions of HTML 4.01",
+    "markuplint-html-spec": "@markuplint/html-spec",
     "webref-idl": "Webref",
 }
 
@@ -29,6 +31,7 @@ def files():
     elements = Joiner().elements()
     styles = Styles()
     found = {"Html.tcb": tcb.html(elements), "Css.tcb": tcb.css(styles.properties()), NOTICES: _notices()}
+    found["Page.rules"] = pageRules.text().encode("utf-8")
     for name, html in helpPages.files(elements, styles).items():
         found["help/" + name] = html.encode("utf-8")
     return found
@@ -37,7 +40,7 @@ def files():
 def _notices():
     """The notices that have to go along with what is made from the sources."""
     parts = [f"{name}\n\n{source(folder + '/LICENSE')}" for folder, name in sorted(_NOTICED.items())]
-    return ("Html.tcb and the help's reference pages are made from parts of the following works.\n\n"
+    return ("Html.tcb, Page.rules and the help's reference pages are made from parts of the following works.\n\n"
             + ("\n" + "-" * 72 + "\n\n").join(parts)).encode("utf-8")  # fmt: skip
 
 

@@ -3,7 +3,7 @@
 //     node extract.js FOLDER
 //
 // FOLDER holds each package as `npm pack NAME@VERSION` and `tar xzf` leave it, under html-validate/,
-// browser-compat-data/, webref-idl/ and mdn-data/. Only who moves to newer versions runs this.
+// browser-compat-data/, webref-idl/, mdn-data/ and markuplint-html-spec/. Only who moves to newer versions runs this.
 "use strict";
 
 const fs = require("fs");
@@ -49,6 +49,61 @@ function htmlValidateElements() {
         if (element.void) kept[name].void = true;
     }
     return sortedByKey(kept);
+}
+
+// What an element may not hold at any depth, and the names of character references: what a check of a page needs beyond
+// the names of elements and attributes. Conditions that are functions are no data, and left out.
+function htmlValidateContent() {
+    const { html5, entities } = require(inPackage("html-validate", "dist", "cjs", "elements.js"));
+    const kept = {};
+    for (const [name, element] of Object.entries(html5)) {
+        const excluded = (element.permittedDescendants || []).flatMap((rule) => (rule && rule.exclude) || []);
+        if (excluded.length > 0) kept[name] = { notWithin: excluded };
+    }
+    const names = (entities || []).map((name) => name.replace(/^&/, "")).sort();
+    return { elements: sortedByKey(kept), references: names };
+}
+
+// The structure alone: no sentence of the package, whose texts are of other sources.
+function markuplintAttribute(attribute) {
+    const kept = {};
+    for (const key of ["type", "required", "requiredEither", "condition", "deprecated", "experimental", "nonStandard"]) {
+        if (attribute[key] !== undefined) kept[key] = attribute[key];
+    }
+    return kept;
+}
+
+function markuplintAttributes(attributes) {
+    const kept = {};
+    for (const [name, attribute] of Object.entries(attributes || {})) kept[name] = markuplintAttribute(attribute);
+    return sortedByKey(kept);
+}
+
+function markuplintStructure() {
+    const { def, specs } = JSON.parse(fs.readFileSync(inPackage("markuplint-html-spec", "index.json"), "utf8"));
+    const elements = {};
+    for (const spec of specs.filter((one) => !one.name.includes(":"))) {
+        const kept = { content: spec.contentModel, attributes: markuplintAttributes(spec.attributes) };
+        kept.shared = spec.globalAttrs;
+        elements[spec.name] = kept;
+    }
+    const shared = {};
+    for (const [name, attributes] of Object.entries(def["#globalAttrs"])) {
+        if (!/SVG|XLink|MathML|Event/.test(name)) shared[name] = markuplintAttributes(attributes);
+    }
+    const groups = {};
+    for (const [name, members] of Object.entries(def["#contentModels"])) {
+        if (!/SVG|MathML/.test(name)) groups[name] = members;
+    }
+    const aria = def["#aria"]["1.3"];
+    const roles = [...aria.roles, ...aria.graphicsRoles, ...aria.dpubRoles];
+    return {
+        elements: sortedByKey(elements),
+        shared: sortedByKey(shared),
+        groups: sortedByKey(groups),
+        roles: roles.filter((role) => !role.isAbstract).map((role) => role.name).sort(),
+        aria: aria.props.map((property) => property.name).sort(),
+    };
 }
 
 // Where a feature stands: on its way out, not yet settled, or in no standard at all.
@@ -145,3 +200,5 @@ write("browser-compat-data", "html.json", browserCompatData());
 write("browser-compat-data", "css.json", browserCss());
 write("webref-idl", "eventHandlers.json", eventHandlers());
 write("mdn-data", "css.json", css());
+write("html-validate", "content.json", htmlValidateContent());
+write("markuplint-html-spec", "structure.json", markuplintStructure());
