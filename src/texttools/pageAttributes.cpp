@@ -1,0 +1,256 @@
+#include "texttools/pageAttributes.h"
+
+#include "texttools/pageValues.h"
+
+namespace
+{
+bool startsWith(QStringView name, const char *prefix)
+{
+    return name.startsWith(QLatin1String(prefix), Qt::CaseInsensitive);
+}
+
+bool isNamed(QStringView name, const char *other)
+{
+    const QLatin1String word(other);
+    return name.size() == word.size() && name.compare(word, Qt::CaseInsensitive) == 0;
+}
+} // namespace
+
+void PageAttributes::take(const html::Token &token)
+{
+    m_taken.resize(0);
+    for (const html::Attribute &attribute : token.attributes)
+        if (!attribute.twice)
+            m_taken.append(
+                {&attribute, m_vocabulary.attribute(m_text.mid(attribute.name.start, attribute.name.length))});
+}
+
+std::optional<QStringView> PageAttributes::value(QLatin1String name) const
+{
+    for (const Taken &taken : m_taken)
+        if (m_text.mid(taken.attribute->name.start, taken.attribute->name.length).compare(name, Qt::CaseInsensitive) ==
+            0)
+            return valueOf(*taken.attribute);
+    return {};
+}
+
+bool PageAttributes::interactive(PageTag tag, QStringView name) const
+{
+    if (tag == PageTag::A)
+        return has(QLatin1String("href"));
+    if (tag == PageTag::Input) {
+        const auto type = value(QLatin1String("type"));
+        return !type || !isNamed(*type, "hidden");
+    }
+    if (isNamed(name, "audio") || isNamed(name, "video"))
+        return has(QLatin1String("controls"));
+    if (isNamed(name, "img") || isNamed(name, "object"))
+        return has(QLatin1String("usemap"));
+    return true;
+}
+
+void PageAttributes::check(const html::Token &token, const PageTree::Opened &opened)
+{
+    if (opened.foreign) {
+        collect(token, opened);
+        return;
+    }
+    const QStringView name = m_text.mid(token.name.start, token.name.length);
+    const bool judged = opened.element > 0 && opened.tag != PageTag::Svg && opened.tag != PageTag::Math;
+    for (const Taken &taken : std::as_const(m_taken))
+        if (judged)
+            checkName(token, opened, taken);
+    collect(token, opened);
+    if (!judged || name.contains(u'-'))
+        return;
+    const ElementRule &rule = m_vocabulary.rule(opened.element);
+    if (rule.deprecated)
+        return;
+    checkDemands(token, rule);
+    checkConditions(rule);
+}
+
+/// Whether anybody may write an attribute of that name on any element.
+bool PageAttributes::isFree(QStringView name, const PageTree::Opened &opened)
+{
+    if (startsWith(name, "data-"))
+        return name.size() > 5;
+    if (isNamed(name, "xmlns") || isNamed(name, "xml:lang") || isNamed(name, "xml:space"))
+        return true;
+    if (isNamed(name, "is") || isNamed(name, "property") || isNamed(name, "typeof") || isNamed(name, "vocab") ||
+        isNamed(name, "prefix") || isNamed(name, "resource") || isNamed(name, "about") || isNamed(name, "datatype") ||
+        isNamed(name, "inlist"))
+        return m_vocabulary.today();
+    return opened.tag == PageTag::Html && startsWith(name, "xmlns:");
+}
+
+void PageAttributes::checkName(const html::Token &, const PageTree::Opened &opened, const Taken &taken)
+{
+    const QStringView name = m_text.mid(taken.attribute->name.start, taken.attribute->name.length);
+    const AttributeRule *rule = taken.number > 0 ? m_vocabulary.attributeOf(opened.element, taken.number) : nullptr;
+    if (startsWith(name, "aria-") && m_rules.isAria(name))
+        return;
+    if (isNamed(name, "role")) {
+        checkRole(taken);
+        return;
+    }
+    if (!rule) {
+        if (!isFree(name, opened))
+            tellUnknown(taken, opened);
+        return;
+    }
+    if (rule->deprecated && !m_vocabulary.rule(opened.element).deprecated && m_problems.wants("deprecated"))
+        m_problems.hint("deprecated", whole(*taken.attribute),
+                        QStringLiteral("%1 of <%2> is deprecated.")
+                            .arg(name.toString().toLower(), m_vocabulary.nameOf(opened.element)),
+                        QStringLiteral("A style sheet, or a newer attribute."));
+    else if (!rule->deprecated)
+        checkValue(taken, *rule);
+}
+
+void PageAttributes::tellUnknown(const Taken &taken, const PageTree::Opened &opened)
+{
+    if (!m_problems.wants("unknown-attribute"))
+        return;
+    const QString name = m_text.mid(taken.attribute->name.start, taken.attribute->name.length).toString();
+    m_problems.error("unknown-attribute", whole(*taken.attribute),
+                     QStringLiteral("<%1> has no attribute %2.").arg(m_vocabulary.nameOf(opened.element), name),
+                     m_vocabulary.today() ? QStringLiteral("A name of the language, or data-%1.").arg(name.toLower())
+                                          : QString());
+}
+
+void PageAttributes::checkValue(const Taken &taken, const AttributeRule &rule)
+{
+    if (rule.kind == ValueKind::Any)
+        return;
+    const html::Attribute &attribute = *taken.attribute;
+    const QStringView value = valueOf(attribute);
+    if (value.contains(u'&')) // what a reference stands for is not looked up
+        return;
+    const ValueFault fault = faultOfValue(rule, m_text.mid(attribute.name.start, attribute.name.length), value);
+    if (fault.message.isEmpty() || !m_problems.wants("value"))
+        return;
+    const html::Range range = attribute.valued ? attribute.value : attribute.name;
+    PageProblem &problem =
+        m_problems.error("value", range.length > 0 ? range : whole(attribute), fault.message, fault.remedy);
+    if (!fault.fix.isEmpty() && attribute.quote)
+        problem.fix = {{attribute.value.start, attribute.value.length, fault.fix}};
+    else if (!fault.fix.isNull())
+        problem.fix = {{attribute.name.start + attribute.name.length,
+                        attribute.end() - attribute.name.start - attribute.name.length, QString()}};
+}
+
+void PageAttributes::checkRole(const Taken &taken)
+{
+    for (const QStringView word : wordsOfValue(valueOf(*taken.attribute)))
+        if (!m_rules.isRole(word) && m_problems.wants("value"))
+            m_problems.error("value", {word.data() - m_text.data(), word.size()},
+                             QStringLiteral("\"%1\" is no role.").arg(word.toString()),
+                             QStringLiteral("A role of ARIA, such as button or navigation."));
+}
+
+const PageAttributes::Taken *PageAttributes::taken(int number) const
+{
+    for (const Taken &taken : m_taken)
+        if (taken.number == number)
+            return &taken;
+    return nullptr;
+}
+
+bool PageAttributes::holds(const AttributeTest &test) const
+{
+    const Taken *found = taken(test.attribute);
+    switch (test.kind) {
+    case AttributeTest::Kind::Present:
+        return found != nullptr;
+    case AttributeTest::Kind::Absent:
+        return found == nullptr;
+    case AttributeTest::Kind::IsOneOf:
+        return found && test.words.contains(valueOf(*found->attribute).toString(), Qt::CaseInsensitive);
+    case AttributeTest::Kind::HasWord:
+        if (found)
+            for (const QStringView word : wordsOfValue(valueOf(*found->attribute)))
+                if (test.words.contains(word.toString(), Qt::CaseInsensitive))
+                    return true;
+        return false;
+    }
+    return false;
+}
+
+bool PageAttributes::hold(const QList<AttributeTest> &tests) const
+{
+    return std::all_of(tests.begin(), tests.end(), [this](const AttributeTest &test) { return holds(test); });
+}
+
+void PageAttributes::checkDemands(const html::Token &token, const ElementRule &rule)
+{
+    QList<int> told;
+    for (const AttributeDemand &demand : rule.demands) {
+        const bool met = std::any_of(demand.anyOf.begin(), demand.anyOf.end(), [this](int one) { return taken(one); });
+        if (met || told.contains(demand.anyOf.constFirst()) || !hold(demand.where) ||
+            !m_problems.wants("missing-attribute"))
+            continue;
+        told.append(demand.anyOf.constFirst());
+        QStringList names;
+        for (const int number : demand.anyOf)
+            names.append(m_vocabulary.attributeName(number));
+        m_problems.error("missing-attribute", token.range,
+                         QStringLiteral("<%1> lacks %2.").arg(rule.name, names.join(QStringLiteral(" or "))),
+                         QStringLiteral("<%1 %2=\"...\">").arg(rule.name, names.constFirst()));
+    }
+}
+
+void PageAttributes::checkConditions(const ElementRule &rule)
+{
+    for (const AttributeCondition &condition : rule.conditions) {
+        const Taken *found = taken(condition.attribute);
+        const bool met = !found || std::any_of(condition.where.begin(), condition.where.end(),
+                                               [this](const QList<AttributeTest> &tests) { return hold(tests); });
+        if (met || !m_problems.wants("attribute-out-of-place"))
+            continue;
+        m_problems.error("attribute-out-of-place", whole(*found->attribute),
+                         QStringLiteral("%1 counts for nothing on this <%2>.")
+                             .arg(m_vocabulary.attributeName(condition.attribute), rule.name),
+                         QStringLiteral("It may stand with %1.").arg(condition.told));
+    }
+}
+
+/// Notes the names that the tag gives and those that it points to.
+void PageAttributes::collect(const html::Token &token, const PageTree::Opened &opened)
+{
+    const QStringView element = m_text.mid(token.name.start, token.name.length);
+    for (const Taken &taken : std::as_const(m_taken)) {
+        const html::Attribute &attribute = *taken.attribute;
+        const QStringView name = m_text.mid(attribute.name.start, attribute.name.length);
+        if (!attribute.valued || attribute.value.length == 0)
+            continue;
+        if (isNamed(name, "id")) {
+            const bool hidden = isNamed(value(QLatin1String("type")).value_or(QStringView()), "hidden");
+            const bool field = element.contains(u'-') || opened.tag == PageTag::Button ||
+                               opened.tag == PageTag::Input || opened.tag == PageTag::Select ||
+                               opened.tag == PageTag::Textarea || isNamed(element, "meter") ||
+                               isNamed(element, "output") || isNamed(element, "progress");
+            m_references.addId(attribute.value, element, field && !hidden);
+        } else if (isNamed(name, "name") && opened.tag == PageTag::A) {
+            m_references.addAnchor(attribute.value);
+        } else if (isNamed(name, "name") && isNamed(element, "map")) {
+            m_references.addMap(attribute.value);
+        } else if (isNamed(name, "href") && (opened.tag == PageTag::A || isNamed(element, "area"))) {
+            m_references.addLink(attribute.value);
+        } else if (isNamed(name, "usemap") && m_text[attribute.value.start] == u'#') {
+            m_references.addReference(PageReferences::To::Map, {attribute.value.start + 1, attribute.value.length - 1},
+                                      name);
+        } else if (isNamed(name, "for") && isNamed(element, "label")) {
+            m_references.addReference(PageReferences::To::Field, attribute.value, name);
+        } else if (isNamed(name, "list") && opened.tag == PageTag::Input) {
+            m_references.addReference(PageReferences::To::Datalist, attribute.value, name);
+        } else if (isNamed(name, "form")) {
+            m_references.addReference(PageReferences::To::Form, attribute.value, name);
+        } else if (isNamed(name, "aria-labelledby") || isNamed(name, "aria-describedby") ||
+                   isNamed(name, "aria-controls") || isNamed(name, "headers") ||
+                   (isNamed(name, "for") && isNamed(element, "output"))) {
+            for (const QStringView word : wordsOfValue(valueOf(attribute)))
+                m_references.addReference(PageReferences::To::Id, {word.data() - m_text.data(), word.size()}, name);
+        }
+    }
+}

@@ -1,0 +1,90 @@
+#include "texttools/pageHints.h"
+
+#include "texttools/pageValues.h"
+
+namespace
+{
+bool isNamed(QStringView name, const char *other)
+{
+    return name.compare(QLatin1String(other), Qt::CaseInsensitive) == 0;
+}
+
+/// The kinds of links that are in use; the list is open.
+bool isKnownLinkKind(QStringView word)
+{
+    static const NameTable names = NameTable::of(
+        "alternate author bookmark canonical compression-dictionary dns-prefetch expect external help icon "
+        "license manifest me modulepreload next nofollow noopener noreferrer opener pingback preconnect "
+        "prefetch preload prerender prev privacy-policy search shortcut stylesheet tag terms-of-service ugc "
+        "sponsored mask-icon apple-touch-icon apple-touch-icon-precomposed apple-touch-startup-image amphtml "
+        "home start contents index glossary copyright chapter section subsection appendix up first last top "
+        "made toc webmention hub self edituri wlwmanifest shortlink profile schema.dc schema.dcterms "
+        "image_src archives");
+    return names.find(word) > 0;
+}
+} // namespace
+
+void PageHints::startTag(const html::Token &token, const PageTree::Opened &opened, const PageAttributes &attributes)
+{
+    const QStringView name = nameOf(token);
+    if (opened.tag == PageTag::Html) {
+        const auto language = attributes.value(QLatin1String("lang"));
+        if ((!language || language->isEmpty()) && !attributes.has(QLatin1String("xml:lang")))
+            m_problems.hint("no-language", token.range, QStringLiteral("The page does not say what language it is in."),
+                            QStringLiteral("<html lang=\"en\">"));
+    }
+    if (opened.tag == PageTag::Heading && !opened.foreign)
+        checkHeading(token);
+    if (opened.tag == PageTag::A && !opened.foreign && attributes.has(QLatin1String("href"))) {
+        m_link = token.range;
+        m_linkFilled = attributes.has(QLatin1String("aria-label")) ||
+                       attributes.has(QLatin1String("aria-labelledby")) || attributes.has(QLatin1String("title"));
+        m_pictureInLink = false;
+    } else if (isNamed(name, "img")) {
+        const auto text = attributes.value(QLatin1String("alt"));
+        m_linkFilled |= text && !text->isEmpty();
+        m_pictureInLink = true;
+    } else if (opened.foreign || opened.unknown || opened.element == 0 || opened.tag == PageTag::Svg ||
+               opened.tag == PageTag::Math || opened.tag == PageTag::Applet || opened.tag == PageTag::RawText ||
+               opened.tag == PageTag::Input || opened.tag == PageTag::Button || opened.tag == PageTag::Select ||
+               opened.tag == PageTag::Textarea || isNamed(name, "video") || isNamed(name, "audio") ||
+               isNamed(name, "canvas")) {
+        m_linkFilled = true; // nobody can see from here what it shows
+    }
+    checkWords(attributes, token, opened);
+}
+
+void PageHints::endTag(const html::Token &token)
+{
+    if (m_link.length == 0 || !isNamed(nameOf(token), "a"))
+        return;
+    if (!m_linkFilled && m_problems.wants("empty-link"))
+        m_problems.hint("empty-link", m_link,
+                        m_pictureInLink ? QStringLiteral("A picture without a text is all that this link holds.")
+                                        : QStringLiteral("This link holds nothing that one could read or click."),
+                        m_pictureInLink ? QStringLiteral("An alt that tells where it leads.")
+                                        : QStringLiteral("A text that tells where it leads."));
+    m_link = {};
+}
+
+void PageHints::checkHeading(const html::Token &token)
+{
+    const int level = nameOf(token)[1].digitValue();
+    if (m_heading > 0 && level > m_heading + 1 && m_problems.wants("heading-level"))
+        m_problems.hint("heading-level", token.range, QStringLiteral("<h%1> follows <h%2>.").arg(level).arg(m_heading),
+                        QStringLiteral("<h%1>").arg(m_heading + 1));
+    m_heading = level;
+}
+
+void PageHints::checkWords(const PageAttributes &attributes, const html::Token &token, const PageTree::Opened &opened)
+{
+    const auto kinds = attributes.value(QLatin1String("rel"));
+    if (!kinds || opened.element == 0)
+        return;
+    for (const QStringView word : wordsOfValue(*kinds))
+        if (!isKnownLinkKind(word) && !word.contains(u':') && m_problems.wants("link-kind"))
+            m_problems.hint("link-kind", {word.data() - m_text.data(), word.size()},
+                            QStringLiteral("\"%1\" is a kind of link that few know.").arg(word.toString()),
+                            nameOf(token).size() == 1 ? QString()
+                                                      : QStringLiteral("stylesheet, icon, alternate and others."));
+}

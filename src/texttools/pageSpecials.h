@@ -1,0 +1,44 @@
+#pragma once
+
+#include "texttools/pageAttributes.h"
+#include "texttools/pageTree.h"
+
+/// The rules that hold for single elements and that no table of models and attributes can tell.
+class PageSpecials
+{
+public:
+    PageSpecials(QStringView text, const PageTree &tree, PageProblems &problems)
+        : m_text(text), m_tree(tree), m_problems(problems)
+    {
+    }
+
+    /// Behind what the tree made of the tag; `parent` is the element that was open in front of it.
+    void startTag(const html::Token &token, const PageTree::Opened &opened, PageTag parent,
+                  const PageAttributes &attributes);
+    void endTag(const html::Token &token);
+
+private:
+    void checkHeadMatter(const html::Token &token, PageTag parent, const PageAttributes &attributes);
+    void checkSource(const html::Token &token, const PageAttributes &attributes);
+    void checkLabel(const html::Token &token, const PageTree::Opened &opened, const PageAttributes &attributes);
+    void checkInput(const PageAttributes &attributes);
+    void checkArea(const html::Token &token, const PageAttributes &attributes);
+    void checkMain(const html::Token &token, const PageAttributes &attributes);
+    void checkPicture(const html::Token &token, const PageAttributes &attributes);
+    void tell(const char *rule, html::Range range, const QString &message, const QString &remedy);
+    html::Range rangeOf(QStringView part) const { return {part.data() - m_text.data(), part.size()}; }
+    bool isNamed(const html::Token &token, const char *name) const
+    {
+        return m_text.mid(token.name.start, token.name.length).compare(QLatin1String(name), Qt::CaseInsensitive) == 0;
+    }
+
+    QStringView m_text;
+    const PageTree &m_tree;
+    PageProblems &m_problems;
+    bool m_main = false;           ///< one was there
+    bool m_mediaHasFile = false;   ///< the open audio or video names a file itself
+    bool m_columnsCounted = false; ///< the open colgroup says how many columns it is for
+    int m_figures = 0;             ///< open ones
+    int m_maps = 0;                ///< open ones
+    int m_fields = -1;             ///< fields in the open label; -1 without a label
+};

@@ -1,0 +1,583 @@
+#include "texttools/pageTree.h"
+
+#include <algorithm>
+
+namespace
+{
+/// Elements of HTML whose start ends svg and math.
+bool breaksOut(QStringView name)
+{
+    static const NameTable names = NameTable::of(
+        "b big blockquote body br center code dd div dl dt em embed h1 h2 h3 h4 h5 h6 head hr i img li listing menu "
+        "meta nobr ol p pre ruby s small span strong strike sub sup table tt u ul var");
+    return names.find(name) > 0;
+}
+
+/// Elements of svg and math in which HTML may stand again.
+bool takesHtml(QStringView name)
+{
+    for (const char *one : {"foreignObject", "desc", "title", "mi", "mo", "mn", "ms", "mtext", "annotation-xml"})
+        if (name.compare(QLatin1String(one), Qt::CaseInsensitive) == 0)
+            return true;
+    return false;
+}
+
+bool isTablePart(PageTag tag)
+{
+    return tag == PageTag::Table || tag == PageTag::Rows || tag == PageTag::Row;
+}
+
+} // namespace
+
+PageTree::PageTree(QStringView text, const Vocabulary &vocabulary, PageProblems &problems)
+    : m_text(text), m_vocabulary(vocabulary), m_problems(problems)
+{
+    m_open.reserve(64);
+}
+
+bool PageTree::inForeign() const
+{
+    return !m_open.empty() && m_open.back().space != Space::Html && !m_open.back().holdsHtml;
+}
+
+bool PageTree::inside(PageTag tag) const
+{
+    return std::any_of(m_open.begin(), m_open.end(), [tag](const OpenElement &one) { return one.tag == tag; });
+}
+
+void PageTree::fill()
+{
+    for (auto one = m_open.rbegin(); one != m_open.rend() && !one->filled; ++one)
+        one->filled = true;
+}
+
+void PageTree::setTitled()
+{
+    if (!m_open.empty())
+        top().titled = true;
+}
+
+QString PageTree::shown(const OpenElement &element) const
+{
+    if (!element.implied)
+        return shown(element.name);
+    return u'<' + m_vocabulary.nameOf(element.element) + u'>';
+}
+
+// --- Opening ---------------------------------------------------------------------------------------------------------
+
+PageTree::Opened PageTree::startTag(const html::Token &token)
+{
+    if (inForeign() && !leavesForeign(token))
+        return startForeign(token);
+    const QStringView name = m_text.mid(token.name.start, token.name.length);
+    if (inForeign()) {
+        if (m_problems.wants("html-in-foreign"))
+            m_problems.error("html-in-foreign", token.range,
+                             QStringLiteral("%1 of HTML ends the drawing or formula around it.").arg(shown(token.name)),
+                             QStringLiteral("Close it first, or put the element into <foreignObject>."));
+        while (inForeign())
+            m_open.pop_back();
+    }
+    return startHtml(token, m_vocabulary.element(name));
+}
+
+bool PageTree::leavesForeign(const html::Token &token) const
+{
+    const QStringView name = m_text.mid(token.name.start, token.name.length);
+    if (breaksOut(name))
+        return true;
+    return name.compare(u"font", Qt::CaseInsensitive) == 0 && !token.attributes.isEmpty();
+}
+
+PageTree::Opened PageTree::startForeign(const html::Token &token)
+{
+    if (!token.selfClosing)
+        push(token, 0, top().space);
+    return {.foreign = true};
+}
+
+PageTree::Opened PageTree::startHtml(const html::Token &token, int element)
+{
+    const ElementRule &rule = m_vocabulary.rule(element);
+    const QStringView name = m_text.mid(token.name.start, token.name.length);
+    Opened opened{element, rule.tag};
+    opened.unknown = element == 0 && !name.contains(u'-') && name.compare(u"image", Qt::CaseInsensitive) != 0;
+    opened.ignored = !makeRoom(token, element, rule.tag);
+    if (opened.ignored)
+        return opened;
+    const bool structure = rule.tag == PageTag::Html || rule.tag == PageTag::Head || rule.tag == PageTag::Body;
+    const int child = element > 0 ? element : name.contains(u'-') ? Vocabulary::Custom : 0;
+    opened.judged = m_open.empty() || m_open.back().judged || structure;
+    if (child > 0)
+        accept(token, child);
+    if (!rule.isVoid && !(m_xml && token.selfClosing))
+        push(token, element,
+             rule.tag == PageTag::Svg    ? Space::Svg
+             : rule.tag == PageTag::Math ? Space::Math
+                                         : Space::Html);
+    if ((rule.tag == PageTag::Svg || rule.tag == PageTag::Math) && token.selfClosing)
+        m_open.pop_back();
+    return opened;
+}
+
+/// Closes what the tag closes, and opens what has to be there around it. False if the tag counts for nothing.
+bool PageTree::makeRoom(const html::Token &token, int element, PageTag tag)
+{
+    if (tag == PageTag::Html || tag == PageTag::Head || tag == PageTag::Body || tag == PageTag::Frameset)
+        return startStructure(token, tag);
+    if (inside(PageTag::Template))
+        return closeForStart(token, tag);
+    const bool headMatter = tag == PageTag::HeadMatter || tag == PageTag::Title || tag == PageTag::Style ||
+                            tag == PageTag::Script || tag == PageTag::Template || tag == PageTag::Noscript;
+    if (headMatter && !m_body)
+        ensureHead(token);
+    else if (!inside(PageTag::Frameset))
+        ensureBody(token);
+    return startInTable(token, element, tag);
+}
+
+bool PageTree::startStructure(const html::Token &token, PageTag tag)
+{
+    switch (tag) {
+    case PageTag::Html:
+        return startHtmlTag(token);
+    case PageTag::Head:
+        return startHeadTag(token);
+    case PageTag::Body:
+        return startBodyTag(token);
+    default:
+        if (m_body && !inside(PageTag::Frameset)) {
+            ignore(token);
+            return false;
+        }
+        if (m_open.empty())
+            imply("html", token);
+        while (!m_open.empty() && top().tag == PageTag::Head)
+            pop(&token);
+        m_body = true;
+        return true;
+    }
+}
+
+bool PageTree::startHtmlTag(const html::Token &token)
+{
+    m_wholePage = true;
+    if (m_open.empty())
+        return true;
+    ignore(token);
+    return false;
+}
+
+bool PageTree::startHeadTag(const html::Token &token)
+{
+    m_wholePage = true;
+    if (m_head || m_body) {
+        ignore(token);
+        return false;
+    }
+    if (m_open.empty())
+        imply("html", token);
+    m_head = m_headTag = true;
+    return true;
+}
+
+bool PageTree::startBodyTag(const html::Token &token)
+{
+    m_wholePage = true;
+    if (m_body) {
+        ignore(token);
+        return false;
+    }
+    if (m_open.empty())
+        imply("html", token);
+    if (!m_head)
+        imply("head", token);
+    while (top().tag != PageTag::Html)
+        pop(&token);
+    m_head = m_body = true;
+    return true;
+}
+
+void PageTree::ensureHead(const html::Token &token)
+{
+    if (m_open.empty())
+        imply("html", token);
+    if (!m_head)
+        imply("head", token);
+    m_head = true;
+}
+
+void PageTree::ensureBody(const html::Token &token)
+{
+    if (m_body) {
+        if (m_afterBody && m_problems.wants("behind-body")) {
+            m_problems.error("behind-body", token.range, QStringLiteral("This stands behind the end of the body."),
+                             QStringLiteral("Put it in front of </body>."));
+            m_afterBody = false;
+        }
+        return;
+    }
+    if (m_open.empty())
+        imply("html", token);
+    if (!m_head)
+        imply("head", token);
+    while (top().tag != PageTag::Html)
+        pop(&token);
+    m_head = true;
+    imply("body", token);
+    m_body = true;
+}
+
+void PageTree::imply(const char *name, const html::Token &token)
+{
+    const int element = m_vocabulary.element(QString::fromLatin1(name));
+    if (!m_open.empty())
+        accept(token, element);
+    push(token, element, Space::Html, true);
+}
+
+void PageTree::ignore(const html::Token &token)
+{
+    ++m_ignored[nameAt(token.name)];
+    if (m_problems.wants("stray-start-tag"))
+        m_problems.error("stray-start-tag", token.range,
+                         QStringLiteral("%1 may not stand here, and browsers pass it over.").arg(shown(token.name)));
+}
+
+/// What a start tag closes by itself. False if the tag counts for nothing.
+bool PageTree::closeForStart(const html::Token &token, PageTag tag)
+{
+    if (tag == PageTag::Li || tag == PageTag::Description)
+        closeListItem(token, tag);
+    if (endsParagraph(tag) && inScope(PageTag::P, true) >= 0)
+        closeParagraph(token);
+    switch (tag) {
+    case PageTag::A:
+    case PageTag::Button:
+    case PageTag::Form:
+    case PageTag::Heading:
+        return closeLike(token, tag);
+    case PageTag::Option:
+    case PageTag::Optgroup:
+    case PageTag::Hr:
+        if (top().tag == PageTag::Option)
+            pop(&token);
+        if (tag != PageTag::Option && top().tag == PageTag::Optgroup)
+            pop(&token);
+        return true;
+    case PageTag::RubyPart:
+        while (top().tag == PageTag::RubyPart)
+            pop(&token);
+        return true;
+    case PageTag::Select:
+    case PageTag::Input:
+        if (const qsizetype at = inScope(PageTag::Select); at >= 0) {
+            m_problems.error("in-its-like", token.range,
+                             QStringLiteral("%1 ends the <select> around it.").arg(shown(token.name)),
+                             QStringLiteral("Close the <select> first."));
+            closeTo(at, nullptr);
+        }
+        return true;
+    default:
+        return true;
+    }
+}
+
+/// An element of that kind may not stand in its like, which browsers close.
+bool PageTree::closeLike(const html::Token &token, PageTag tag)
+{
+    if (tag == PageTag::Form) {
+        if (!inside(PageTag::Form) || inside(PageTag::Template))
+            return true;
+        m_problems.error("in-its-like", token.range, QStringLiteral("A form may not stand in a form."),
+                         QStringLiteral("Close the first <form> in front of this one."));
+        ++m_ignored[nameAt(token.name)];
+        return false;
+    }
+    const qsizetype at =
+        tag == PageTag::Heading ? (top().tag == tag ? qsizetype(m_open.size()) - 1 : -1) : inScope(tag);
+    if (at < 0)
+        return true;
+    m_problems.error("in-its-like", token.range,
+                     QStringLiteral("%1 may not stand in %2.").arg(shown(token.name), shown(m_open[size_t(at)])),
+                     QStringLiteral("Close %1 first.").arg(shown(m_open[size_t(at)])));
+    ++m_ignored[nameAt(m_open[size_t(at)].name)];
+    m_open.erase(m_open.begin() + at);
+    return true;
+}
+
+void PageTree::closeListItem(const html::Token &token, PageTag tag)
+{
+    for (auto at = qsizetype(m_open.size()) - 1; at >= 0; --at) {
+        const OpenElement &one = m_open[size_t(at)];
+        if (one.tag == tag) {
+            closeTo(at, &token);
+            return;
+        }
+        const bool passed = one.tag == PageTag::P || (one.tag == PageTag::Closing &&
+                                                      (nameAt(one.name) == u"div" || nameAt(one.name) == u"address"));
+        if (isSpecial(one.tag) && !passed)
+            return;
+    }
+}
+
+void PageTree::closeParagraph(const html::Token &token)
+{
+    m_ended.insert(QStringLiteral("p"), token.range);
+    closeTo(inScope(PageTag::P, true), &token);
+}
+
+// --- Tables ----------------------------------------------------------------------------------------------------------
+
+bool PageTree::startInTable(const html::Token &token, int element, PageTag tag)
+{
+    switch (tag) {
+    case PageTag::Caption:
+    case PageTag::Col:
+    case PageTag::Colgroup:
+    case PageTag::Rows:
+        return startTablePart(token, tag);
+    case PageTag::Row:
+        return startRow(token);
+    case PageTag::Cell:
+        return startCell(token);
+    default:
+        break;
+    }
+    if (top().tag == PageTag::Colgroup && tag != PageTag::Template)
+        pop(&token);
+    const bool passes = tag == PageTag::Script || tag == PageTag::Style || tag == PageTag::Template || element == 0;
+    if (isTablePart(top().tag) && !passes && tag != PageTag::Table && top().judged) {
+        if (m_problems.wants("misplaced"))
+            m_problems.error("misplaced", token.range,
+                             QStringLiteral("%1 may not stand in %2; browsers put it in front of the table.")
+                                 .arg(shown(token.name), shown(top())),
+                             QStringLiteral("Put it into a cell."));
+        top().judged = false;
+        return true;
+    }
+    if (tag == PageTag::Table && isTablePart(top().tag)) {
+        m_problems.error("in-its-like", token.range, QStringLiteral("A table may stand in a cell of a table only."),
+                         QStringLiteral("Put it into <td>."));
+        closeTo(inTableScope(PageTag::Table), nullptr);
+    }
+    return closeForStart(token, tag);
+}
+
+/// caption, colgroup, col, tbody, thead and tfoot.
+bool PageTree::startTablePart(const html::Token &token, PageTag tag)
+{
+    const qsizetype table = inTableScope(PageTag::Table);
+    if (table < 0) {
+        ignore(token);
+        return false;
+    }
+    if (!(tag == PageTag::Col && top().tag == PageTag::Colgroup))
+        closeTo(table + 1, &token);
+    if (tag == PageTag::Col && top().tag == PageTag::Table)
+        imply("colgroup", token);
+    return true;
+}
+
+bool PageTree::startRow(const html::Token &token)
+{
+    const qsizetype table = inTableScope(PageTag::Table);
+    if (table < 0) {
+        ignore(token);
+        return false;
+    }
+    const qsizetype rows = inTableScope(PageTag::Rows);
+    closeTo(rows > table ? rows + 1 : table + 1, &token);
+    if (rows <= table)
+        imply("tbody", token);
+    return true;
+}
+
+bool PageTree::startCell(const html::Token &token)
+{
+    const qsizetype table = inTableScope(PageTag::Table);
+    if (table < 0) {
+        ignore(token);
+        return false;
+    }
+    const qsizetype row = inTableScope(PageTag::Row);
+    if (row > table) {
+        closeTo(row + 1, &token);
+        return true;
+    }
+    m_problems.error("misplaced", token.range, QStringLiteral("%1 stands in no row.").arg(shown(token.name)),
+                     QStringLiteral("Put <tr> in front of it."));
+    startRow(token);
+    imply("tr", token);
+    return true;
+}
+
+// --- What may stand where --------------------------------------------------------------------------------------------
+
+void PageTree::push(const html::Token &token, int element, Space space, bool implied)
+{
+    const ElementRule &rule = m_vocabulary.rule(space == Space::Html || element > 0 ? element : 0);
+    OpenElement opened;
+    opened.element = element;
+    opened.tag = rule.tag;
+    opened.space = space;
+    opened.implied = implied;
+    opened.start = token.range;
+    opened.name = token.name;
+    opened.holdsHtml = space != Space::Html && takesHtml(m_text.mid(token.name.start, token.name.length));
+    opened.judged = element > 0 && !rule.deprecated && space == Space::Html && rule.model.judged();
+    opened.model = &rule.model;
+    const OpenElement *parent = m_open.empty() ? nullptr : &m_open.back();
+    if (parent) {
+        if (rule.variants.contains(parent->element))
+            opened.model = &*rule.variants.constFind(parent->element);
+        opened.without = parent->without;
+        opened.plus = parent->plus;
+        opened.transparent = parent->transparent;
+        if (const NameSet *held = parent->model ? parent->model->acceptedBehind(parent->state) : nullptr;
+            held && held->any())
+            opened.transparent = held;
+        opened.judged = opened.judged && (parent->judged || parent->tag == PageTag::Html);
+    }
+    opened.state = opened.model->start();
+    if (m_vocabulary.today() || element > 0)
+        opened.without |= rule.without;
+    opened.plus |= rule.plus;
+    if (space != Space::Html && opened.holdsHtml)
+        opened.judged = false;
+    m_open.push_back(opened);
+}
+
+/// Whether the child may stand next; the parent's state goes on.
+bool PageTree::fits(OpenElement &parent, int child)
+{
+    const ContentModel::Match match = parent.model->match(parent.state, child);
+    if (match.accepted) {
+        parent.state = match.state;
+        return true;
+    }
+    if (match.transparent && (!parent.transparent || parent.transparent->test(size_t(child)))) {
+        parent.state = parent.model->matchTransparent(parent.state).state;
+        return true;
+    }
+    return parent.plus.test(size_t(child));
+}
+
+void PageTree::accept(const html::Token &token, int child)
+{
+    if (m_open.empty() || !m_open.back().judged)
+        return;
+    OpenElement &parent = top();
+    if (tellForbidden(token, parent, child))
+        return;
+    tellOnce(token, parent, child);
+    const bool first = parent.state == parent.model->start();
+    if (fits(parent, child))
+        return;
+    if (first && parent.tag == PageTag::Body && m_vocabulary.rule(child).tag == PageTag::Style) {
+        m_problems.hint("style-in-body", token.range, QStringLiteral("A style sheet belongs into the head."),
+                        QStringLiteral("Put it in front of </head>."));
+        return;
+    }
+    tellMisplaced(token, parent, child);
+}
+
+void PageTree::tellMisplaced(const html::Token &token, const OpenElement &parent, int child)
+{
+    if (!m_problems.wants("misplaced"))
+        return;
+    const QString name = shown(token.name);
+    if (parent.model->empty()) {
+        m_problems.error("misplaced", token.range,
+                         QStringLiteral("%1 may not stand in %2, which holds nothing.").arg(name, shown(parent)));
+    } else if (parent.model->knows(child)) {
+        m_problems.error("misplaced", token.range,
+                         QStringLiteral("%1 may not stand at this place in %2.").arg(name, shown(parent)));
+    } else {
+        const QString expected = namesOf(parent.model->expected(parent.model->start()));
+        m_problems.error("misplaced", token.range, QStringLiteral("%1 may not stand in %2.").arg(name, shown(parent)),
+                         expected.isEmpty() ? QString()
+                                            : QStringLiteral("%1 may hold %2.").arg(shown(parent), expected));
+    }
+}
+
+bool PageTree::tellForbidden(const html::Token &token, const OpenElement &parent, int child)
+{
+    if (!parent.without.test(size_t(child)))
+        return false;
+    const NameSet interactive = m_vocabulary.group(QStringLiteral("interactive"));
+    if (interactive.test(size_t(child)) && !m_interactive && m_vocabulary.rule(child).tag != PageTag::A)
+        return false;
+    for (auto outer = m_open.rbegin(); outer != m_open.rend(); ++outer) {
+        const NameSet &without = m_vocabulary.rule(outer->element).without;
+        const bool named = without.test(size_t(child));
+        if (!named)
+            continue;
+        // A link without an address is none, and may stand in a button; it may not in a link.
+        if (m_vocabulary.rule(child).tag == PageTag::A && !m_interactive && outer->tag != PageTag::A)
+            return false;
+        if (m_problems.wants("in-its-like"))
+            m_problems.error("in-its-like", token.range,
+                             QStringLiteral("%1 may not stand anywhere in %2.").arg(shown(token.name), shown(*outer)),
+                             QStringLiteral("Close %1 first.").arg(shown(*outer)));
+        return true;
+    }
+    return false;
+}
+
+void PageTree::tellOnce(const html::Token &token, OpenElement &parent, int child)
+{
+    const ElementRule &rule = m_vocabulary.rule(parent.element);
+    if (rule.once.isEmpty() && rule.must.isEmpty())
+        return;
+    if (parent.seen.contains(child) && rule.once.contains(child) && m_problems.wants("once"))
+        m_problems.error("once", token.range,
+                         QStringLiteral("A second %1 in %2.").arg(shown(token.name), shown(parent)));
+    parent.seen.append(child);
+}
+
+void PageTree::text(const html::Token &token)
+{
+    if (token.blank)
+        return;
+    if (!inForeign() && !m_body && (m_open.empty() || top().tag == PageTag::Html || top().tag == PageTag::Head))
+        ensureBody(token);
+    else if (!inForeign() && m_afterBody)
+        ensureBody(token);
+    if (m_open.empty())
+        return;
+    fill();
+    OpenElement &parent = top();
+    if (!parent.judged)
+        return;
+    if (fits(parent, Vocabulary::Text) || parent.textTold)
+        return;
+    parent.textTold = true;
+    if (!m_problems.wants("misplaced-text"))
+        return;
+    qsizetype start = token.range.start;
+    while (html::isBlank(m_text[start].unicode()))
+        ++start;
+    m_problems.error(
+        "misplaced-text", {start, token.end() - start},
+        QStringLiteral("Text may not stand in %1 by itself.").arg(shown(parent)),
+        QStringLiteral("%1 may hold %2.").arg(shown(parent), namesOf(parent.model->expected(parent.state))));
+}
+
+/// "<dt>, <dd>", of many the first few.
+QString PageTree::namesOf(const NameSet &set) const
+{
+    constexpr int Most = 4;
+    QStringList names;
+    for (int element = 1; element <= m_vocabulary.elementCount(); ++element)
+        if (set.test(size_t(element)) && !m_vocabulary.rule(element).deprecated)
+            names.append(u'<' + m_vocabulary.nameOf(element) + u'>');
+    if (set.test(Vocabulary::Text))
+        names.prepend(QStringLiteral("text"));
+    if (names.isEmpty())
+        return QStringLiteral("nothing");
+    if (names.size() <= Most)
+        return names.join(QStringLiteral(", "));
+    return names.mid(0, Most).join(QStringLiteral(", ")) + QStringLiteral(" and others");
+}
