@@ -160,6 +160,7 @@ constexpr MenuCommand menuTable[] = {
 
     {"mnuTools", "bar", "&Tools", "", "", Doc, head()},
     {"mnuCheckSyntax", "mnuTools", "Check Syntax...", "", "list-checks", Any, shows("frmSyntaxCheck")},
+    {"mnuCheckPage", "mnuTools", "Check &Page", "", "", Any, shows("frmPageCheck")},
     {"mnuCodeOptimise", "mnuTools", "Optimise Syntax for Readability", "", "", Any, runs(&C::mnuCodeOptimise_Click)},
     {"mnuSpelling", "mnuTools", "&Spelling...", "", "", Any, nothing()},
     {"mnuWordCount", "mnuTools", "&Word Count...", "", "", Any, shows("frmWordCount")},

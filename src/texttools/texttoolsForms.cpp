@@ -5,6 +5,7 @@
 #include "texttools/frmFind.h"
 #include "texttools/frmGoToCharacter.h"
 #include "texttools/frmGoToLine.h"
+#include "texttools/frmPageCheck.h"
 #include "texttools/frmSyntaxCheck.h"
 #include "texttools/frmWordCount.h"
 
@@ -22,5 +23,5 @@ std::vector<std::unique_ptr<Form>> made(ProgramContext &context)
 std::vector<std::unique_ptr<Form>> texttoolsForms(ProgramContext &context)
 {
     return made<frmSyntaxCheck, frmFind, frmGoToLine, frmGoToCharacter, frmWordCount, frmChangeCase,
-                frmChangeRootDirectory>(context);
+                frmChangeRootDirectory, frmPageCheck>(context);
 }

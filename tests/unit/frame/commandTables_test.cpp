@@ -109,6 +109,7 @@ constexpr Entry listed[] = {
     {"mnuFormat", "mnuUnderline", "&Underlined Text"},
     {"bar", "mnuTools", "&Tools"},
     {"mnuTools", "mnuCheckSyntax", "Check Syntax..."},
+    {"mnuTools", "mnuCheckPage", "Check &Page"},
     {"mnuTools", "mnuCodeOptimise", "Optimise Syntax for Readability"},
     {"mnuTools", "mnuSpelling", "&Spelling..."},
     {"mnuTools", "mnuWordCount", "&Word Count..."},

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "forms/form.h"
+#include "texttools/pageCheck.h"
+
+#include <QPointer>
+#include <memory>
+#include <optional>
+
+class Document;
+class EditSurface;
+class ListView;
+class QLabel;
+class QPushButton;
+class Timer;
+
+/// The check of a page: a list of what is wrong with the active document, which stays usable. Where the program edits
+/// as today's editors do, the check goes on by itself a moment after each pause in the typing, window or not, and marks
+/// what it finds in the text.
+class frmPageCheck final : public Form
+{
+    Q_OBJECT
+public:
+    explicit frmPageCheck(ProgramContext &context);
+    ~frmPageCheck() override;
+
+    QObject *control(const QString &name) const override;
+
+protected:
+    void Form_Load() override;
+    void Form_Unload() override;
+    void presentWindow() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void build();
+    void followFocus(QWidget *now);
+    void follow(EditSurface *surface);
+    void forget();
+    void addKeys(QWidget *mainWindow);
+    void txtEdit_Change();
+    void tmrPageCheck_Timer();
+    bool checksByItself() const;
+    Document *documentOf(const EditSurface *surface) const;
+    void check(Document &document);
+    PageCheckContext contextOf(const Document &document) const;
+    bool readRules();
+    void showProblems();
+    void tell(const QString &text);
+    void selectRow(int row);
+    void lstProblems_Click();
+    void cmdGoTo_Click();
+    void cmdPutRight_Click();
+    void goRound(int by);
+    void goTo(int row, bool focus);
+    std::optional<int> rowAfterCheck(const PageProblem &problem) const;
+    bool showTip(QWidget *viewport, const QPoint &position, const QPoint &global);
+
+    std::shared_ptr<const PageRules> m_rules;
+    std::unique_ptr<Timer> tmrPageCheck;
+    QPointer<EditSurface> m_surface; ///< the one that was checked last, or is waiting to be
+    QList<PageProblem> m_problems;   ///< of its text as it was checked
+    QString m_checked;               ///< that text
+    QMetaObject::Connection m_change;
+    QMetaObject::Connection m_closing;
+    QPointer<QObject> m_keys; ///< there while the main window has the keys that go round
+    ListView *lstProblems = nullptr;
+    QLabel *lblFound = nullptr;
+    QPushButton *cmdGoTo = nullptr;
+    QPushButton *cmdPutRight = nullptr;
+};
