@@ -1,5 +1,6 @@
 #include "browser/pageTrial.h"
 #include "desktop/desktopServices.h"
+#include "desktop/programStart.h"
 #include "desktop/sessionEnd.h"
 #include "frame/application.h"
 #include "pictures/pictureReader.h"
@@ -36,6 +37,11 @@ int main(int argc, char **argv)
     Application program(services.services());
     QObject::connect(&program, &Application::ended, &desktop, &QCoreApplication::quit, Qt::QueuedConnection);
     const SessionEnd end(desktop, program);
-    program.Main(commandLineText(QApplication::arguments().mid(1)));
+    const QStringList given = QApplication::arguments().mid(1); // without what the desktop has taken
+    const bool alone = !given.isEmpty() && given.constFirst() == NewInstanceOption;
+    const QString line = commandLineText(alone ? given.mid(1) : given);
+    ProgramStart start;
+    if (!start.begin(program, services.services(), alone ? QString(NewInstanceOption + u' ' + line).trimmed() : line))
+        return 0;
     return QApplication::exec();
 }

@@ -75,6 +75,8 @@ public:
 
     /// Takes the text and its selection into the document's history.
     virtual void UndoRedoChange() = 0;
+    /// The text as it stands is the one that the document was opened with.
+    virtual void beginHistory() {}
     /// Go one step through the history; nothing at its ends.
     virtual void Undo() = 0;
     virtual void Redo() = 0;

@@ -52,6 +52,8 @@ public:
 
     /// Asks about unsaved changes as the document, or the exit, demands. False keeps the document open.
     virtual bool mayClose(Document &document) = 0;
+    /// The document's text changes for the first time since it was opened or saved.
+    virtual void noteFirstChange(Document & /*document*/) {}
     /// One minute of a document's automatic saving has passed.
     virtual void autoSaveTick(Document &document) = 0;
     /// The box for the error of a file operation, by the program's error code; `description` is the system's own, told

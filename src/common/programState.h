@@ -20,6 +20,6 @@ struct ProgramState {
     std::function<void()> stopWizard = {}; ///< ends the wizard that runs; nothing while there is none
     bool ProgramEnded = false;             ///< the windows are gone; what events still bring has nowhere to show
     QStringList setAside = {};             ///< files that could not be the program's own, by their new paths; untold
-    Habits habits = {};                    ///< as read at the main window's load and at each choice since
+    Habits habits = {};                    ///< as read at the start and at each choice since
     ProjectState project;
 };

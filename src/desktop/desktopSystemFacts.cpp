@@ -65,3 +65,9 @@ QList<SystemFact> DesktopSystemFacts::all()
         {QStringLiteral("Temporary folder"), QDir::tempPath()},
     };
 }
+
+QString DesktopSystemFacts::language() const
+{
+    const QString name = QLocale::system().bcp47Name();
+    return name == u"C" ? QStringLiteral("en") : name; // no language at all
+}

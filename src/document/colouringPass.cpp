@@ -1,6 +1,7 @@
 #include "document/colouringPass.h"
 
 #include "common/mainWindow.h"
+#include "common/programState.h"
 #include "document/frmWrite.h"
 #include "services/services.h"
 #include "services/timer.h"
@@ -46,7 +47,7 @@ void ColouringPass::begin()
     m_context.mainWindow->clearStructureTree();
     m_context.screenPointer.setMousePointer(ArrowHourglassPointer);
     m_edit->setPaintingHeld(true);
-    if (m_context.mainWindow->activeDocument() == m_form)
+    if (!m_context.state.habits.HabitFocus && m_context.mainWindow->activeDocument() == m_form)
         m_edit->SetFocus();
     m_edit->setHideSelection(true);
     m_edit->setLocked(true);

@@ -5,6 +5,7 @@
 #include "common/mainWindow.h"
 #include "common/paths.h"
 #include "common/unsavedText.h"
+#include "document/documentHistory.h"
 #include "document/viewingPanes.h"
 #include "services/editorSettings.h"
 #include "services/services.h"
@@ -23,6 +24,8 @@ constexpr int LivePreviewMilliseconds = 500;
 } // namespace
 
 frmWrite::frmWrite(ProgramContext &context) : MdiForm(context, QStringLiteral("frmWrite")) {}
+
+frmWrite::~frmWrite() = default;
 
 TextSurface &frmWrite::txtEdit()
 {
@@ -58,6 +61,7 @@ void frmWrite::buildSurface()
     connect(m_edit, &EditSurface::Change, this, &frmWrite::txtEdit_Change);
     connect(m_edit, &EditSurface::gotFocus, this, &frmWrite::txtEdit_GotFocus);
     connect(m_edit, &EditSurface::lostFocus, this, &frmWrite::txtEdit_LostFocus);
+    connect(m_edit, &EditSurface::SelChange, this, [this] { m_history->selectionMoved(); });
     m_edit->setHooks(surfaceHooks());
     applyEditorSettings();
 }
@@ -126,6 +130,7 @@ void frmWrite::applyEditorSettings()
 {
     m_edit->setFont(::editorFont(services().settings));
     m_edit->setTabWidth(tabWidth(services().settings));
+    followHabits();
 }
 
 void frmWrite::CheckWordWrapSettings()

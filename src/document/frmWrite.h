@@ -1,13 +1,15 @@
 #pragma once
 
 #include "common/document.h"
+#include "common/textSelection.h"
 #include "document/typedColouring.h"
-#include "document/undoHistory.h"
 #include "forms/mdiForm.h"
 
+#include <memory>
 #include <optional>
 
 class CodeAssistant;
+class DocumentHistory;
 class EditSurface;
 class NoticeBar;
 class QPoint;
@@ -15,7 +17,6 @@ class QUrl;
 class Timer;
 class ViewingPanes;
 class WebBrowser;
-struct LineChange;
 struct SurfaceCharacter;
 struct SurfaceHooks;
 struct SurfaceKey;
@@ -29,6 +30,7 @@ class frmWrite final : public MdiForm, public Document
     Q_PROPERTY(bool IsSplit MEMBER IsSplit)
 public:
     explicit frmWrite(ProgramContext &context);
+    ~frmWrite() override;
 
     QString documentCaption() const override { return Caption(); }
     void setDocumentCaption(const QString &caption) override { setCaption(caption); }
@@ -51,7 +53,8 @@ public:
     void Undo() override;
     void Redo() override;
     UndoRedo IsUndoRedoPossible() const override;
-    int UndoPosition() const override { return m_history.UndoPosition(); }
+    int UndoPosition() const override;
+    void beginHistory() override;
     void IndentText(bool indent) override;
     void OptimiseSyntax() override;
 
@@ -100,8 +103,9 @@ private:
     bool maySendForm(const QUrl &where);
     void brwWebBrowser_OtherHosts(bool shown);
     void showOtherHosts(bool shown);
-    void restore(const UndoSnapshot &snapshot);
-    void take(const TextSelection &selection);
+    void followHabits();
+    void noteClean(std::optional<bool> clean);
+    TextSelection selection() const;
 
     void txtEdit_Change();
     void txtEdit_KeyDown(SurfaceKey &key);
@@ -137,7 +141,8 @@ private:
     void fillToNextStop();
     void indentBySteps(bool indent);
     void indentLines(bool indent);
-    void apply(const LineChange &change);
+    bool openAbbreviation();
+    void writeEndTag();
 
     NoticeBar *m_noticeBar = nullptr;
     ViewingPanes *m_panes = nullptr;
@@ -149,9 +154,12 @@ private:
     Timer *tmrAutoSave = nullptr;
     Timer *tmrLineCount = nullptr;
     CodeAssistant *m_assistant = nullptr;
-    UndoHistory m_history;
+    std::unique_ptr<DocumentHistory> m_history;
+    bool m_keepsEdits = false; ///< the history is one of edits
+    bool m_tagEnds = false;    ///< the next change is a ">" that was typed
     TypedColouring m_typed;
     QString HoverLink;              ///< the address under the pointer while Ctrl is held; empty otherwise
+    bool m_followsTarget = false;   ///< it is the target of a link, which may be a page of this machine
     qsizetype FirstVisibleLine = 0; ///< when the line information was last brought up to date
     bool SkipLineUpdate = false; ///< set by every key but Delete: the change it makes leaves the line information alone
     bool m_unloading = false;    ///< activation leaves this document out

@@ -6,9 +6,13 @@
 #include "common/programState.h"
 #include "common/unsavedText.h"
 #include "document/codeAssistant.h"
+#include "document/documentHistory.h"
 #include "document/frmWrite.h"
+#include "document/handCommands.h"
+#include "document/lineHands.h"
 #include "document/lineIndent.h"
 #include "document/modClipboard.h"
+#include "document/tagPairs.h"
 #include "document/typing.h"
 #include "services/services.h"
 #include "services/settings.h"
@@ -74,15 +78,38 @@ void frmWrite::txtEdit_Change()
     tmrUpdateLiveSplitPreview->setEnabled(true);
     if (context().unsavedText)
         context().unsavedText->noteChange(*this);
+    m_history->changed(!boolDirty);
+    if (!boolDirty && context().files)
+        context().files->noteFirstChange(*this);
     boolDirty = true; // by the assistant's own changes, too
     if (!std::exchange(SkipLineUpdate, false))
         UpdateLineInformation();
     m_assistant->followWord();
+    if (std::exchange(m_tagEnds, false))
+        writeEndTag();
+}
+
+/// The end tag goes in behind the caret. Who writes it by hand takes the place of the one that is there.
+void frmWrite::writeEndTag()
+{
+    if (commentSignsAt({}, 0, DocSavePath) != CommentSigns::Html)
+        return;
+    const qsizetype caret = m_edit->SelStart();
+    const QString text = m_edit->Text();
+    const QString tag = missingEndTag(text, caret);
+    const qsizetype doubled = tag.isEmpty() ? doubledEndTagBehind(text, caret) : 0;
+    if (tag.isEmpty() && doubled == 0)
+        return;
+    m_history->keyDown(); // a step of its own: one can do without it
+    m_edit->setSelLength(doubled);
+    m_edit->setSelText(tag);
+    m_edit->setSelStart(caret);
 }
 
 void frmWrite::txtEdit_KeyDown(SurfaceKey &key)
 {
     UpdateLineInformation();
+    m_history->keyDown();
     if (key.key != Qt::Key_Delete)
         SkipLineUpdate = true;
     stopColouring(key);
@@ -135,12 +162,19 @@ void frmWrite::indentByTab(SurfaceKey &key)
     const bool outdent = held == Qt::ShiftModifier;
     if (m_edit->SelLength() > 0 || outdent) {
         IndentText(!outdent);
+    } else if (openAbbreviation()) {
+        useUp(key);
     } else {
         context().state.habits.HabitKeys ? fillToNextStop() : fillWithThreeBlanks();
         key.key = Qt::Key_Space; // which is what it stands for from here on
     }
     key.discard = true;
     m_edit->SetFocus();
+}
+
+bool frmWrite::openAbbreviation()
+{
+    return context().state.habits.HandsAbbreviations && ExpandAbbreviation(context(), *this);
 }
 
 void frmWrite::fillWithThreeBlanks()
@@ -150,7 +184,7 @@ void frmWrite::fillWithThreeBlanks()
 
 void frmWrite::fillToNextStop()
 {
-    apply(filledToNextStop(m_edit->Text(), m_edit->SelStart(), indentStyle(services().settings)));
+    applyChange(*m_edit, filledToNextStop(m_edit->Text(), m_edit->SelStart(), indentStyle(services().settings)));
 }
 
 void frmWrite::breakLine(SurfaceKey &key)
@@ -159,7 +193,7 @@ void frmWrite::breakLine(SurfaceKey &key)
         return;
     if (context().state.habits.HabitKeys ? replaceByLine() : startIndentedLine())
         useUp(key);
-    UndoRedoChange();
+    m_history->takeAtKey(selection());
 }
 
 bool frmWrite::startIndentedLine()
@@ -188,7 +222,8 @@ bool frmWrite::replaceByLine()
 void frmWrite::recordStep(const SurfaceKey &key)
 {
     if (endsAStep(key))
-        UndoRedoChange();
+        m_history->takeAtKey(selection());
+    m_history->setTyping(key.key == Qt::Key_Delete); // it gives no character
 }
 
 void frmWrite::leaveForPane(SurfaceKey &key)
@@ -257,6 +292,8 @@ void frmWrite::txtEdit_KeyPress(SurfaceCharacter &character)
         m_assistant->hideTip();
     else if (character.text == u" " && character.committed)
         m_assistant->CommitAssistant(Qt::Key_Space); // an input method's blank comes without a key
+    m_history->setTyping(!character.committed);
+    m_tagEnds = character.text == u">" && context().state.habits.HandsClose;
     const auto part = [this](qsizetype start, qsizetype length) { return m_edit->textPart(start, length); };
     const TypedResult result = m_typed.keyPress(character.text, m_edit->SelStart(), part, frmMdi().colouring);
     if (result.writesClosingBracket) {
@@ -282,6 +319,7 @@ void frmWrite::leaveTagBehind(QStringView typed)
 
 void frmWrite::txtEdit_KeyUp()
 {
+    m_history->setTyping(false);
     m_assistant->followCaret();
 }
 

@@ -1,9 +1,12 @@
 // What a document window does at the mouse and at drops on its edit surface, and when that is scrolled.
 #include "common/fileCommands.h"
 #include "common/mainWindow.h"
+#include "common/programState.h"
 #include "document/assistantWords.h"
 #include "document/codeAssistant.h"
 #include "document/frmWrite.h"
+#include "document/handCommands.h"
+#include "document/linkTarget.h"
 #include "document/viewingPanes.h"
 #include "internet/modViewInBrowser.h"
 #include "services/services.h"
@@ -59,7 +62,14 @@ void frmWrite::tmrLineCount_Timer()
 void frmWrite::txtEdit_MouseMove(const SurfaceMouse &mouse)
 {
     const bool looksForLink = (mouse.modifiers & RealModifiers) == Qt::ControlModifier;
-    setHoverLink(looksForLink ? linkIn(WordAtPoint(*m_edit, mouse.position)) : QString());
+    const QString target = looksForLink && context().state.habits.HandsFollow
+                               ? linkTargetAt(m_edit->Text(), m_edit->characterFromPosition(mouse.position))
+                               : QString();
+    m_followsTarget = !target.isEmpty();
+    if (m_followsTarget)
+        setHoverLink(target);
+    else
+        setHoverLink(looksForLink ? linkIn(WordAtPoint(*m_edit, mouse.position)) : QString());
 }
 
 /// Keeps the address under the pointer, which is a hand over one.
@@ -90,8 +100,12 @@ void frmWrite::txtEdit_MouseUp(const SurfaceMouse &mouse)
 void frmWrite::txtEdit_Click()
 {
     UpdateLineInformation();
-    if (!HoverLink.isEmpty())
-        OpenInBrowser(context(), HoverLink);
+    const QString link = HoverLink; // the click may bring another window to the front
+    if (m_followsTarget)
+        QMetaObject::invokeMethod(
+            this, [this, link] { FollowLink(context(), *this, link); }, Qt::QueuedConnection);
+    else if (!link.isEmpty())
+        OpenInBrowser(context(), link);
     txtEdit_KeyUp();
 }
 

@@ -2,6 +2,7 @@
 #include "browser/otherHosts.h"
 #include "browser/webBrowser.h"
 #include "common/mainWindow.h"
+#include "common/programState.h"
 #include "document/codeAssistant.h"
 #include "document/frmWrite.h"
 #include "document/modBrowserControl.h"
@@ -139,6 +140,7 @@ void frmWrite::tmrUpdateLiveSplitPreview_Timer()
     if (IsSplit)
         FollowWithLivePreview(context());
     // A user who has moved into the assistant's list goes on there.
-    if (self && isLoaded() && frmMdi().activeDocument() == this && !m_assistant->isListShown())
+    if (self && isLoaded() && !context().state.habits.HabitFocus && frmMdi().activeDocument() == this &&
+        !m_assistant->isListShown())
         m_edit->SetFocus();
 }

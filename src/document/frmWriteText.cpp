@@ -1,8 +1,11 @@
 // What a document window does to its whole text: colouring, history, indentation and the optimiser.
 #include "common/programState.h"
+#include "common/unsavedText.h"
 #include "document/codeAssistant.h"
 #include "document/colouringPass.h"
+#include "document/documentHistory.h"
 #include "document/frmWrite.h"
+#include "document/handCommands.h"
 #include "document/indentation.h"
 #include "document/lineIndent.h"
 #include "document/syntaxOptimiser.h"
@@ -56,55 +59,65 @@ void frmWrite::UpdateLineInformation()
     FirstVisibleLine = m_edit->firstVisibleLine();
 }
 
-void frmWrite::take(const TextSelection &selection)
+/// Another kind of history knows nothing of what the one before kept.
+void frmWrite::followHabits()
 {
-    m_history.UndoRedoChange({m_edit->Text(), selection});
+    const bool edits = context().state.habits.HabitUndo;
+    if (m_history && edits == m_keepsEdits)
+        return;
+    m_keepsEdits = edits;
+    m_history = edits ? editStepHistory(*m_edit, services().clock, !boolDirty) : snapshotHistory(*m_edit);
+    m_history->take(selection());
+}
+
+TextSelection frmWrite::selection() const
+{
+    return {m_edit->SelStart(), m_edit->SelLength()};
+}
+
+void frmWrite::beginHistory()
+{
+    m_history->begin(!boolDirty);
 }
 
 void frmWrite::UndoRedoChange()
 {
-    take({m_edit->SelStart(), m_edit->SelLength()});
+    m_history->take(selection());
 }
 
 void frmWrite::Undo()
 {
-    if (const auto snapshot = m_history.Undo())
-        restore(*snapshot);
+    noteClean(m_history->undo(!boolDirty));
 }
 
 void frmWrite::Redo()
 {
-    if (const auto snapshot = m_history.Redo())
-        restore(*snapshot);
+    noteClean(m_history->redo(!boolDirty));
 }
 
-void frmWrite::restore(const UndoSnapshot &snapshot)
+/// A text that is the saved one again has nothing to be kept.
+void frmWrite::noteClean(std::optional<bool> clean)
 {
-    m_edit->setText(snapshot.text);
-    m_edit->setSelStart(snapshot.selection.start);
-    m_edit->setSelLength(snapshot.selection.length);
+    if (!clean)
+        return;
+    boolDirty = !*clean;
+    if (*clean && context().unsavedText)
+        context().unsavedText->forget(*this);
 }
 
 Document::UndoRedo frmWrite::IsUndoRedoPossible() const
 {
-    const UndoHistory::Possible possible = m_history.IsUndoRedoPossible();
-    return {possible.undo, possible.redo};
+    return m_history->possible();
+}
+
+int frmWrite::UndoPosition() const
+{
+    return m_history->position();
 }
 
 void frmWrite::IndentText(bool indent)
 {
     context().state.habits.HabitKeys ? indentLines(indent) : indentBySteps(indent);
-}
-
-void frmWrite::apply(const LineChange &change)
-{
-    if (change.replacement) {
-        m_edit->setSelStart(change.replacement->start);
-        m_edit->setSelLength(change.replacement->length);
-        m_edit->setSelText(change.replacement->text);
-    }
-    m_edit->setSelStart(change.selection.start);
-    m_edit->setSelLength(change.selection.length);
 }
 
 /// By whole lines; without a selection, one step goes in at the caret.
@@ -113,9 +126,9 @@ void frmWrite::indentLines(bool indent)
     const IndentStyle style = indentStyle(services().settings);
     const TextSelection selection{m_edit->SelStart(), m_edit->SelLength()};
     if (!indent) {
-        apply(outdentedLines(m_edit->Text(), selection, style));
+        applyChange(*m_edit, outdentedLines(m_edit->Text(), selection, style));
     } else if (selection.length > 0) {
-        apply(indentedLines(m_edit->Text(), selection, style));
+        applyChange(*m_edit, indentedLines(m_edit->Text(), selection, style));
     } else {
         m_edit->setSelText(indentStep(style));
     }
@@ -132,7 +145,7 @@ void frmWrite::indentBySteps(bool indent)
         m_edit->setSelText(result.replacement->text);
     }
     if (result.recorded)
-        take(*result.recorded);
+        m_history->take(*result.recorded);
     m_edit->setSelStart(result.selection.start);
     m_edit->setSelLength(result.selection.length);
     if (result.takesFocus)
@@ -150,7 +163,7 @@ void frmWrite::OptimiseSyntax()
     m_edit->setLocked(true);
     const QPointer<frmWrite> self(this);
     services().yielder.beginPass();
-    SyntaxOptimiser optimiser(m_edit->Text(), m_history);
+    SyntaxOptimiser optimiser(m_edit->Text(), m_history->snapshots());
     while (optimiser.advance()) {
         services().yielder.yield();
         if (!self || !isLoaded()) {
@@ -160,6 +173,7 @@ void frmWrite::OptimiseSyntax()
     }
     if (optimiser.hasChanged()) {
         m_edit->setText(optimiser.text());
+        m_history->changed(!boolDirty);
         boolDirty = true;
     }
     ColouringActive = false;

@@ -1,17 +1,10 @@
 #pragma once
 
-#include "document/indentation.h"
+#include "document/lineChange.h"
 #include "services/editorSettings.h"
 
 /// Indentation as today's editors do it: by whole lines and by the width that is set. Texts have every line break as
 /// CR LF, and selections lie inside them.
-
-/// A change of the text, and what is selected after it.
-struct LineChange {
-    std::optional<TextReplacement> replacement; ///< nothing: the text stays
-    TextSelection selection;
-    bool operator==(const LineChange &) const = default;
-};
 
 /// Moves the lines of the selection one step inwards. A line is in the selection if a character of it is; empty lines
 /// stay empty. What was selected stays selected, from the line's start if the selection began there.

@@ -81,6 +81,7 @@ void showInNewDocument(ProgramContext &context, const QString &page)
     document->txtEdit().setText(page);
     document->DocSelUpdate(QString());
     document->boolDirty = true;
+    document->beginHistory();
     document->txtEdit().SetFocus();
 }
 

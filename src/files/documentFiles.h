@@ -36,6 +36,7 @@ public:
     void forgetFile(const Document &document) override { m_outside.forget(document); }
 
     bool mayClose(Document &document) override;
+    void noteFirstChange(Document &document) override;
     void autoSaveTick(Document &document) override;
     void FileErrors(int errorNumber, const QString &description = {}) override;
     void MemoryErrors(int errorNumber) override;
@@ -85,6 +86,9 @@ private:
     bool askBeforeClose(Document &document);
     bool mayCloseByExitList();
 
+    void autoSaveByMinutes(Document &document);
+    void autoSaveWhatChanged(Document &document);
+    void autoSaveAndTell(Document &document);
     bool AutoSaveDocument(Document &document);
     void autoSaveNameless(Document &document);
 

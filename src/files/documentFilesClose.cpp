@@ -14,6 +14,7 @@
 #include "widgets/screenPointer.h"
 
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace
@@ -88,11 +89,50 @@ bool DocumentFiles::mayCloseByExitList()
 
 void DocumentFiles::autoSaveTick(Document &document)
 {
+    m_context.state.habits.HabitSave ? autoSaveWhatChanged(document) : autoSaveByMinutes(document);
+}
+
+/// The time begins anew; by the classic way, no tick asks when the document was changed.
+void DocumentFiles::noteFirstChange(Document &document)
+{
+    if (!m_context.state.habits.HabitSave)
+        return;
+    document.autoSaveTicks = 0;
+    if (document.autoSaveEnabled()) {
+        document.setAutoSaveEnabled(false);
+        document.setAutoSaveEnabled(true);
+    }
+}
+
+/// A document without changes has no time to be over. While a dialog works on it, and for as long as it has no file,
+/// the save is put off.
+void DocumentFiles::autoSaveWhatChanged(Document &document)
+{
+    const std::optional<qint16> minutes = autoSaveMinutes(m_context.services.settings);
+    if (!document.boolDirty)
+        document.autoSaveTicks = 0;
+    else if (document.autoSaveTicks < std::numeric_limits<qint16>::max())
+        ++document.autoSaveTicks;
+    const bool isTime = document.boolDirty && minutes && *minutes > 0 && document.autoSaveTicks >= *minutes;
+    if (!isTime || !settings::isOn(m_context.services.settings, settings::AutoSaveUse))
+        return;
+    const bool inDialog = m_context.mainWindow->activeDocument() == &document && !m_context.mainWindow->Enabled();
+    if (!inDialog && !document.NewDoc && !document.DocSavePath.isEmpty())
+        autoSaveAndTell(document);
+}
+
+void DocumentFiles::autoSaveByMinutes(Document &document)
+{
     SettingsStore &store = m_context.services.settings;
     // The counter is one of 16 bits and wraps as such.
     document.autoSaveTicks = static_cast<qint16>(static_cast<quint16>(document.autoSaveTicks) + 1U);
     if (document.autoSaveTicks != autoSaveMinutes(store) || !settings::isOn(store, settings::AutoSaveUse))
         return;
+    autoSaveAndTell(document);
+}
+
+void DocumentFiles::autoSaveAndTell(Document &document)
+{
     const bool saved = AutoSaveDocument(document);
     document.autoSaveTicks = 0;
     if (!saved)

@@ -148,6 +148,7 @@ void DocumentFiles::OpenDocumentFile(const QString &path, bool unicode)
     AddToRecentFiles(path);
     document.NewDoc = false;
     finishOpened(document);
+    document.beginHistory();
 }
 
 void DocumentFiles::OpenTemplateFile(const QString &path, bool asTemplate)
@@ -157,8 +158,10 @@ void DocumentFiles::OpenTemplateFile(const QString &path, bool asTemplate)
         return;
     }
     // The text starts a page of its own: it has no file, and is written as any new page is.
-    if (const std::optional<Opened> opened = openIntoNewDocument(path, false))
+    if (const std::optional<Opened> opened = openIntoNewDocument(path, false)) {
         finishOpened(*opened->document);
+        opened->document->beginHistory();
+    }
 }
 
 bool DocumentFiles::refuseOpenTwice(const QString &path)

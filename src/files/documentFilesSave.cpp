@@ -208,7 +208,7 @@ bool DocumentFiles::mayWriteOver(Document &document)
 bool DocumentFiles::leavesEncoding(const Document &document, SaveForm form) const
 {
     return formatOfSave(document, form).encoding == Encoding::Other &&
-           encodedForSave(document.txtEdit().Text(), document, form).switchedToUtf8;
+           encodedForSave(document.txtEdit().Text(), document, form, m_context.state.habits).switchedToUtf8;
 }
 
 bool DocumentFiles::mayLeaveEncoding(Document &document, SaveForm form)
@@ -252,7 +252,7 @@ std::optional<FileError> DocumentFiles::write(Document &document, const Target &
     FileSystem &files = m_context.services.files;
     try {
         const QString text = target.text.value_or(document.txtEdit().Text());
-        const EncodedText encoded = encodedForSave(text, document, target.form);
+        const EncodedText encoded = encodedForSave(text, document, target.form, m_context.state.habits);
         if (std::optional<FileError> error = files.writeWhole(target.path, encoded.bytes))
             return error;
         document.fileStamp = files.stamp(target.path);

@@ -48,6 +48,11 @@ QString charsetRemark(const QString &pageText, const FileFormat &format)
         return {};
     return QStringLiteral("The page names the encoding \"%1\" but is saved as %2.").arg(charset, encodingName(format));
 }
+
+QString withBreak(const QString &text)
+{
+    return text + QStringLiteral("\r\n");
+}
 } // namespace
 
 FileFormat formatOfSave(const Document &document, SaveForm form)
@@ -55,9 +60,9 @@ FileFormat formatOfSave(const Document &document, SaveForm form)
     return formatOfDocument(document, encodingOfSave(document, form));
 }
 
-EncodedText encodedForSave(const QString &text, const Document &document, SaveForm form)
+EncodedText encodedForSave(const QString &text, const Document &document, SaveForm form, const Habits &habits)
 {
-    return encode(text + QStringLiteral("\r\n"), formatOfSave(document, form));
+    return encode(habits.HabitSave ? text : withBreak(text), formatOfSave(document, form));
 }
 
 void noteOpened(Document &document, const DecodedText &opened, bool unicode)

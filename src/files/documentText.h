@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/document.h"
+#include "common/habits.h"
 
 /// A document's text on its way between the window and the bytes of its file.
 
@@ -14,8 +15,9 @@ enum class SaveForm {
 /// The format in which a save writes the document; characters may still make it another, as encode() tells.
 FileFormat formatOfSave(const Document &document, SaveForm form);
 
-/// The bytes of a text that is saved as the document's: the text and one line break more, which each save adds.
-EncodedText encodedForSave(const QString &text, const Document &document, SaveForm form);
+/// The bytes of a text that is saved as the document's: the text, and by the classic way one line break more, which
+/// each save adds.
+EncodedText encodedForSave(const QString &text, const Document &document, SaveForm form, const Habits &habits);
 
 /// Takes over how a file was read: the text's format, and whether a Unicode row read it.
 void noteOpened(Document &document, const DecodedText &opened, bool unicode);

@@ -124,6 +124,7 @@ void finishPage(ProgramContext &context, Document &document, const QString &fold
 {
     const bool clean = !fillMarks(document.txtEdit(), folder) || writeFilled(context, document);
     document.boolDirty = !clean;
+    document.beginHistory();
     document.NewDoc = false;
     document.ExternalCallColourCode();
     document.txtEdit().setSelStart(0);

@@ -244,6 +244,7 @@ Document *Recovery::bringBack(const RecoveryFolder::Found &found)
     document->txtEdit().setSelStart(page.selStart);
     document->txtEdit().setSelLength(page.selLength);
     document->boolDirty = true;
+    document->beginHistory();
     // It is kept as it stands: nothing is written before something changes.
     m_kept[document] = {.file = found.file, .changed = false, .stamp = page.stamp, .digest = page.fileDigest};
     return document;

@@ -3,6 +3,7 @@
 #include "codeknowledge/codeknowledgeForms.h"
 #include "common/mainWindow.h"
 #include "common/unsavedText.h"
+#include "document/frmWrapAbbreviation.h"
 #include "document/modDocument.h"
 #include "extensions/extensionsForms.h"
 #include "files/documentFiles.h"
@@ -17,6 +18,7 @@
 #include "internet/internetForms.h"
 #include "internet/uploads.h"
 #include "project/projectForms.h"
+#include "services/habits.h"
 #include "services/modalLoop.h"
 #include "services/services.h"
 #include "services/settings.h"
@@ -52,6 +54,7 @@ Application::Application(Services &services)
         m_forms.own(std::move(form));
     for (std::unique_ptr<Form> &form : projectForms(m_context, m_mdi->project()))
         m_forms.own(std::move(form));
+    m_forms.own(std::make_unique<frmWrapAbbreviation>(m_context));
     requireForms();
     connect(m_mdi, &Form::unloaded, this, &Application::End);
 }
@@ -100,11 +103,18 @@ T &Application::own(Arguments &&...arguments)
 void Application::Main(const QString &commandLine)
 {
     m_commandLine = commandLine;
+    m_state.habits = readHabits(m_context.services.settings);
     const QString colours = settings::read(m_context.services.settings, settings::Theme);
     if (colours != theme::Desktop)
         theme::apply(colours);
     m_splash->Load();
     m_splash->Show();
+}
+
+void Application::takeOver(const QString &commandLine)
+{
+    if (!m_ended)
+        m_mdi->takeOver(commandLine);
 }
 
 void Application::endKeepingText()

@@ -26,6 +26,9 @@ public:
     /// one line, opened once the main window loads; empty for none.
     void Main(const QString &commandLine);
 
+    /// Takes what another start of the program was given, and opens it as that one would have.
+    void takeOver(const QString &commandLine);
+
     /// Ends the program at once: no further handler of a form runs.
     void End();
     /// Ends the program from outside, as at the end of the desktop's session: unsaved text is kept for the next start.

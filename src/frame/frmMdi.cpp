@@ -78,6 +78,8 @@ void frmMdi::setEnabled(bool enabled)
 {
     if (m_gate)
         m_gate->setOpen(enabled);
+    if (enabled && !m_waiting.isEmpty())
+        QMetaObject::invokeMethod(this, &frmMdi::openWaiting, Qt::QueuedConnection);
     if (enabled && !m_keptStatus.isEmpty()) // from here on the user can read it
         enableResetBar();
 }

@@ -83,6 +83,9 @@ public:
     bool ProjectChanged() const; ///< its lists hold changes that its file does not
     bool ProjectOpen() const;
 
+    /// Comes to the front and opens what the line names, as soon as the window takes input.
+    void takeOver(const QString &commandLine);
+
     QObject *control(const QString &name) const override;
     QMainWindow *frame() const;
 
@@ -117,7 +120,10 @@ private:
     void fillCodeTree();
     void fillCodeLists();
     void picAddress_Resize();
-    void openCommandLineFile();
+    /// False where there is none, or it could not be opened.
+    bool openCommandLineFile(const QString &commandLine);
+    void openWaiting();
+    void goOnWithFile();
     /// What the status bar tells, whatever says "Ready" meanwhile, until a few seconds after the window takes input.
     void keepStatus(const QString &text);
     void decideWelcome();
@@ -165,7 +171,8 @@ private:
     QLabel *m_message = nullptr;
     QLabel *m_format = nullptr;
     DocumentSwitch *m_documentSwitch = nullptr;
-    QString m_keptStatus; ///< stands for "Ready" until tmrResetBar takes it away
+    QStringList m_waiting; ///< lines of other starts that are not opened yet
+    QString m_keptStatus;  ///< stands for "Ready" until tmrResetBar takes it away
     Timer *tmrResetBar = nullptr;
     std::optional<QPoint> m_insertBarMouse; ///< where it went down on the first button, in the client area
     bool m_fontTyped = false;               ///< a face was typed into cboFont and not yet taken

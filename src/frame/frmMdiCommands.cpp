@@ -3,6 +3,7 @@
 
 #include "common/fileCommands.h"
 #include "document/elementSteps.h"
+#include "document/handCommands.h"
 #include "document/modBrowserControl.h"
 #include "document/modClipboard.h"
 #include "document/modDocument.h"
@@ -203,6 +204,47 @@ void MainCommands::mnuNextTag_Click()
         SelectNextElement(active->txtEdit());
         active->txtEdit().SetFocus();
     }
+}
+
+void MainCommands::mnuToggleComment_Click()
+{
+    ToggleComment(m_context);
+}
+
+void MainCommands::mnuMoveLinesUp_Click()
+{
+    MoveLines(m_context, true);
+}
+
+void MainCommands::mnuMoveLinesDown_Click()
+{
+    MoveLines(m_context, false);
+}
+
+void MainCommands::mnuDoubleLines_Click()
+{
+    DoubleLines(m_context);
+}
+
+void MainCommands::mnuRemoveLines_Click()
+{
+    RemoveLines(m_context);
+}
+
+void MainCommands::mnuCloseElement_Click()
+{
+    CloseElement(m_context);
+}
+
+void MainCommands::mnuExpandAbbreviation_Click()
+{
+    if (Document *active = document())
+        ExpandAbbreviation(m_context, *active);
+}
+
+void MainCommands::mnuFollowLink_Click()
+{
+    FollowLinkAtCaret(m_context);
 }
 
 void MainCommands::mnuShowbar_Click()

@@ -24,6 +24,8 @@ public:
     /// Makes the menus, the pop-ups and the toolbars of a newly loaded window; the toolbars are not placed yet.
     void build(QMainWindow &window);
     void setDocumentControlsEnabled(bool enabled);
+    /// Shows the commands of the rules that the user edits by, and hides the others.
+    void followHabits();
     void setProjectCommandsEnabled(bool enabled);
     /// Makes the entries of the add-ins, each by its number, behind those that the table holds.
     void showAddIns(QMainWindow &window, const QMap<int, QString> &captions);
@@ -65,6 +67,14 @@ public:
     void mnuFindPrevious_Click();
     void mnuPreviousTag_Click();
     void mnuNextTag_Click();
+    void mnuToggleComment_Click();
+    void mnuMoveLinesUp_Click();
+    void mnuMoveLinesDown_Click();
+    void mnuDoubleLines_Click();
+    void mnuRemoveLines_Click();
+    void mnuCloseElement_Click();
+    void mnuExpandAbbreviation_Click();
+    void mnuFollowLink_Click();
     // View
     void mnuShowbar_Click();
     void mnuShowPrjWindow_Click();

@@ -2,6 +2,7 @@
 #include "common/programState.h"
 #include "forms/modLaunchHTMLHelp.h"
 #include "frame/frmMdi.h"
+#include "frame/frmMdiCommands.h"
 #include "frame/habitsNotice.h"
 #include "services/habits.h"
 #include "services/services.h"
@@ -11,6 +12,7 @@
 void frmMdi::takeOverHabits()
 {
     context().state.habits = readHabits(services().settings);
+    m_commands->followHabits();
     const bool chosen = habitsAreChosen(services().settings);
     for (Document *document : openDocuments()) {
         document->applyEditorSettings();

@@ -30,6 +30,8 @@
 #include <QMainWindow>
 #include <QScreen>
 
+#include <utility>
+
 namespace
 {
 constexpr int TwipsPerPixel = 15;
@@ -48,16 +50,16 @@ void frmMdi::Form_Load()
         context().end();
         return;
     }
-    takeOverHabits();
     restoreState();
     loadCodes();
     FillAddInMenu(context());
-    openCommandLineFile();
+    const bool opened = openCommandLineFile(m_commandLine);
     picAddress_Resize();
-    decideWelcome();
+    opened &&context().state.habits.HabitStart ? goOnWithFile() : decideWelcome();
     context().state.AlreadyStarted = true;
     m_pane->refreshLocalFiles();
     offerHabits();
+    openWaiting();
 }
 
 void frmMdi::restoreState()
@@ -178,22 +180,54 @@ void frmMdi::picAddress_Resize()
     picAddress->layout()->activate();
 }
 
-void frmMdi::openCommandLineFile()
+bool frmMdi::openCommandLineFile(const QString &commandLine)
 {
     FileCommands *files = context().files;
-    if (m_commandLine.isEmpty() || !files)
-        return;
-    const CommandLineFile file = commandLineFile(m_commandLine);
+    if (commandLine.isEmpty() || !files)
+        return false;
+    const CommandLineFile file = commandLineFile(commandLine);
     const bool missing = !services().files.exists(file.path);
     if (missing) { // what is told of it belongs over the main window
         if (Form *splash = context().forms.find(QStringLiteral("frmSplash")))
             splash->Hide();
         presentWindow();
     }
-    OpenCommandLineFile(*files, m_commandLine);
+    OpenCommandLineFile(*files, commandLine);
     const bool opened = file.action == CommandLineAction::Project || activeDocument();
     if (missing || !opened)
         keepStatus(QStringLiteral("The file \"%1\" could not be opened.").arg(file.path));
+    return !missing && opened;
+}
+
+/// What was asked for is there: neither a blank page nor the Welcome screen gets in front of it.
+void frmMdi::goOnWithFile()
+{
+    Document *opened = activeDocument();
+    setEnabled(true);
+    if (opened)
+        opened->txtEdit().SetFocus();
+    restoreUnsavedText(opened);
+}
+
+void frmMdi::takeOver(const QString &commandLine)
+{
+    m_waiting.append(commandLine);
+    openWaiting();
+}
+
+/// A dialog that is up goes on first.
+void frmMdi::openWaiting()
+{
+    if (!isLoaded() || !context().state.AlreadyStarted || !Enabled())
+        return;
+    const QStringList lines = std::exchange(m_waiting, {});
+    for (const QString &line : lines)
+        openCommandLineFile(line);
+    if (lines.isEmpty())
+        return;
+    window()->setWindowState(window()->windowState() & ~Qt::WindowMinimized);
+    window()->raise();
+    window()->activateWindow();
 }
 
 void frmMdi::decideWelcome()

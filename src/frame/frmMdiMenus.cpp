@@ -1,4 +1,5 @@
 // The making of the main window's menus and toolbars, and their enabling.
+#include "common/programState.h"
 #include "extensions/modAddIns.h"
 #include "files/modRecentFiles.h"
 #include "forms/form.h"
@@ -59,6 +60,7 @@ void MainCommands::build(QMainWindow &window)
         m_actions.insert(QLatin1String(alias.alias), action(QLatin1String(alias.name)));
     makeCheckable();
     followMenus();
+    followHabits();
 }
 
 QMenu *MainCommands::menu(const QString &name) const
@@ -185,6 +187,19 @@ void MainCommands::enableSelectionEntries()
     const bool selected = active && active->txtEdit().SelLength() >= LeastSelected;
     for (const char *name : {"mnuPCut", "mnuPCopy"})
         action(QLatin1String(name))->setEnabled(selected);
+}
+
+/// What is hidden has no key either.
+void MainCommands::followHabits()
+{
+    bool any = false;
+    for (const MenuCommand &command : menuCommands())
+        if (command.hand) {
+            const bool shown = m_context.state.habits.*command.hand;
+            action(QLatin1String(command.name))->setVisible(shown);
+            any = any || shown;
+        }
+    action(QStringLiteral("mnuHands"))->setVisible(any);
 }
 
 bool MainCommands::isMet(Needs needs) const

@@ -94,6 +94,17 @@ constexpr MenuCommand menuTable[] = {
     line("mnuDashLibrary", "mnuEdit"),
     {"mnuAddToCodeLibrary", "mnuEdit", "Add Code Selection to Library...", "", "", Any, shows("frmAddToCodeLib")},
 
+    {"mnuHands", "mnuEdit", "&Hands", "", "", Any, head()},
+    {"mnuToggleComment", "mnuHands", "&Comment or Uncomment Lines", "Ctrl+/", "", Any, runs(&C::mnuToggleComment_Click), &Habits::HandsComment},
+    {"mnuMoveLinesUp", "mnuHands", "Move Lines &Up", "Alt+Up", "", Any, runs(&C::mnuMoveLinesUp_Click), &Habits::HandsLines},
+    {"mnuMoveLinesDown", "mnuHands", "Move Lines &Down", "Alt+Down", "", Any, runs(&C::mnuMoveLinesDown_Click), &Habits::HandsLines},
+    {"mnuDoubleLines", "mnuHands", "D&ouble Lines", "Ctrl+D", "", Any, runs(&C::mnuDoubleLines_Click), &Habits::HandsLines},
+    {"mnuRemoveLines", "mnuHands", "&Remove Lines", "Ctrl+Shift+K", "", Any, runs(&C::mnuRemoveLines_Click), &Habits::HandsLines},
+    {"mnuCloseElement", "mnuHands", "C&lose Element", "", "", Any, runs(&C::mnuCloseElement_Click), &Habits::HandsClose},
+    {"mnuExpandAbbreviation", "mnuHands", "&Expand Abbreviation", "", "", Any, runs(&C::mnuExpandAbbreviation_Click), &Habits::HandsAbbreviations},
+    {"mnuWrapAbbreviation", "mnuHands", "&Wrap With Abbreviation...", "Ctrl+Shift+A", "", Any, shows("frmWrapAbbreviation"), &Habits::HandsAbbreviations},
+    {"mnuFollowLink", "mnuHands", "&Follow Link", "", "", Any, runs(&C::mnuFollowLink_Click), &Habits::HandsFollow},
+
     {"mnuView", "bar", "&View", "", "", Any, head()},
     {"mnuShowbar", "mnuView", "&Address Bar", "", "", Any, runs(&C::mnuShowbar_Click)},
     {"mnuShowPrjWindow", "mnuView", "Task &Manager Pane", "", "", Any, runs(&C::mnuShowPrjWindow_Click)},

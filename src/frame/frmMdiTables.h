@@ -1,5 +1,7 @@
 #pragma once
 
+#include "common/habits.h"
+
 #include <span>
 
 class MainCommands;
@@ -34,6 +36,7 @@ struct MenuCommand {
     const char *icon;     ///< the name of its drawing; empty for none
     Needs needs;
     CommandAction action;
+    bool Habits::*hand = nullptr; ///< the rule of the user's that it belongs to: it is there only with that
 };
 
 /// One button of a toolbar, in the order of the toolbars, or one entry of a button's drop-down list.

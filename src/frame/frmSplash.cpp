@@ -1,5 +1,6 @@
 #include "frame/frmSplash.h"
 
+#include "common/programState.h"
 #include "services/doEvents.h"
 #include "services/fileClasses.h"
 #include "services/services.h"
@@ -57,7 +58,8 @@ void frmSplash::Form_Load()
     presentWindow();
     DoEvents(); // the splash paints before the slow work
 
-    services().fileClasses.registerAll();
+    if (!context().state.habits.HabitDesktop) // there, the user asks for it in the options
+        services().fileClasses.registerAll();
     prepareSettings();
     context().screenPointer.setMousePointer(0);
     Timer1->setEnabled(true);

@@ -210,6 +210,7 @@ void frmOpenFromInternet::openDocument(const QString &address, const Fetch &fetc
     frmMdi().showFileFormat(fileFormatText(*document));
     document->InternetOriginURL = originOf(withoutPassword(address));
     document->boolDirty = false;
+    document->beginHistory();
     document->DocSelUpdate(QString());
     document->NewDoc = true;
     recordAddress(address);

@@ -3,6 +3,7 @@
 #include "common/document.h"
 #include "common/mainWindow.h"
 #include "common/paths.h"
+#include "common/programState.h"
 #include "files/documentText.h"
 #include "files/modRecentFiles.h"
 #include "forms/modLaunchHTMLHelp.h"
@@ -275,7 +276,8 @@ void frmSavetoInternet::setTarget()
 std::optional<QString> frmSavetoInternet::upload(Document &document)
 {
     const QString path = joinPath(services().appPath, QStringLiteral("tmp_upload.htm"));
-    const EncodedText encoded = encodedForSave(document.txtEdit().Text(), document, SaveForm::AsOpened);
+    const EncodedText encoded =
+        encodedForSave(document.txtEdit().Text(), document, SaveForm::AsOpened, context().state.habits);
     if (const auto error = services().files.writeScratch(path, encoded.bytes))
         return error->description;
     return netSave->Execute(putOperation({path, txtFileName->text()}));

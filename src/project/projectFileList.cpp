@@ -1,7 +1,9 @@
 // What the dialogs are offered of the open project.
 #include "project/modProjectFileCtrl.h"
 
+#include "common/addressText.h"
 #include "common/paths.h"
+#include "common/programState.h"
 #include "common/siteProject.h"
 #include "forms/programContext.h"
 #include "widgets/controls.h"
@@ -17,6 +19,17 @@ QStringList extensionsOf(ProjectFiles kind)
     return {QStringLiteral("gif"), QStringLiteral("jpg"), QStringLiteral("jpeg"), QStringLiteral("bmp"),
             QStringLiteral("dib"), QStringLiteral("ico"), QStringLiteral("cur")};
 }
+
+/// The same files as addresses from the root of the site, which the project's folder is; those elsewhere have none.
+QStringList fromProjectFolder(const QStringList &paths, const QString &project)
+{
+    const QString folder = FolderOfPath(project);
+    QStringList addresses;
+    for (const QString &path : paths)
+        if (path.startsWith(folder))
+            addresses.append(u'/' + encodedAddress(path.mid(folder.size())));
+    return addresses;
+}
 } // namespace
 
 void FillProjectFileList(ProgramContext &context, ProjectFiles kind, QComboBox &combo)
@@ -31,5 +44,7 @@ void FillProjectFileList(ProgramContext &context, ProjectFiles kind, QComboBox &
         if (extensions.contains(GetFileExtension(item.text).toLower()))
             paths.append(item.key);
     }
+    if (context.state.habits.HabitPaths)
+        paths += fromProjectFolder(paths, context.project->path());
     ui::addRows(combo, paths);
 }

@@ -38,14 +38,17 @@ IndentStyle indentStyle(SettingsStore &store)
     return {width(store, settings::IndentWidth), settings::isOn(store, settings::IndentWithTabs), tabWidth(store)};
 }
 
-FileFormat newDocumentFormat(SettingsStore &store)
+FileFormat newDocumentFormat(SettingsStore &store, LineEnd unset)
 {
     FileFormat format;
+    const QString lineEnd = settings::readStored(store, settings::NewLineEnd);
     const QString encoding = settings::read(store, settings::NewEncoding);
     for (const Encoding offered : {Encoding::Utf8, Encoding::Utf8Bom, Encoding::Windows1252})
         if (encoding == encodingName({offered}))
             format.encoding = offered;
-    if (settings::read(store, settings::NewLineEnd) == lineEndName(LineEnd::Lf))
+    if (lineEnd.isEmpty())
+        format.lineEnd = unset;
+    else if (lineEnd == lineEndName(LineEnd::Lf))
         format.lineEnd = LineEnd::Lf;
     return format;
 }

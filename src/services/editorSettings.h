@@ -19,8 +19,8 @@ struct IndentStyle {
     int tabWidth = 4;  ///< columns from one tab stop to the next, as they are shown
 };
 IndentStyle indentStyle(SettingsStore &store);
-/// How a new document is written.
-FileFormat newDocumentFormat(SettingsStore &store);
+/// How a new document is written. `unset` ends the lines where the user has chosen no line end.
+FileFormat newDocumentFormat(SettingsStore &store, LineEnd unset = LineEnd::CrLf);
 
 constexpr int SmallestTabWidth = 1;
 constexpr int LargestTabWidth = 16;

@@ -6,8 +6,20 @@ namespace
 {
 // A rule comes in here once it works.
 constexpr HabitRule rules[] = {
-    {&Habits::HabitKeys, &settings::HabitKeys, "Enter replaces a selection, Tab indents by the width"},
+    {&Habits::HabitUndo, &settings::HabitUndo, "Undo and redo go by edits"},
+    {&Habits::HabitFocus, &settings::HabitFocus, "Only you move the keyboard's focus"},
     {&Habits::HabitPreview, &settings::HabitPreview, "The preview shows changes beside the page's files"},
+    {&Habits::HabitSave, &settings::HabitSave, "A save adds nothing; automatic saving writes what has changed"},
+    {&Habits::HabitKeys, &settings::HabitKeys, "Enter replaces a selection, Tab indents by the width"},
+    {&Habits::HabitPaths, &settings::HabitPaths, "Paths are truly relative"},
+    {&Habits::HabitStart, &settings::HabitStart, "One program opens what it is given and nothing else"},
+    {&Habits::HabitDesktop, &settings::HabitDesktop, "File associations are written on request only"},
+    {&Habits::HabitNewPage, &settings::HabitNewPage, "A new page is one of today"},
+    {&Habits::HandsClose, &settings::HandsClose, "An end tag writes itself behind its start tag"},
+    {&Habits::HandsComment, &settings::HandsComment, "Ctrl+/ makes comments of lines"},
+    {&Habits::HandsLines, &settings::HandsLines, "Keys move, double and remove lines"},
+    {&Habits::HandsAbbreviations, &settings::HandsAbbreviations, "Tab opens abbreviations into elements"},
+    {&Habits::HandsFollow, &settings::HandsFollow, "Ctrl and a click follow href and src"},
 };
 } // namespace
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "common/encodings.h"
+
 #include <QList>
 #include <QString>
 
@@ -19,4 +21,8 @@ public:
     virtual ~SystemFacts() = default;
 
     virtual QList<SystemFact> all() = 0; ///< empty where nothing can be found out
+    /// How the desktop's own text files end their lines.
+    virtual LineEnd lineEnd() const { return LineEnd::Lf; }
+    /// The language of the desktop, as pages name it: "en", "de-CH".
+    virtual QString language() const { return QStringLiteral("en"); }
 };

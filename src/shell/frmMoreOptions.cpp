@@ -1,8 +1,10 @@
 #include "shell/frmMoreOptions.h"
 
 #include "common/mainWindow.h"
+#include "document/modDocument.h"
 #include "forms/modLaunchHTMLHelp.h"
 #include "services/editorSettings.h"
+#include "services/fileClasses.h"
 #include "services/services.h"
 #include "services/settings.h"
 #include "shell/habitChoice.h"
@@ -117,11 +119,15 @@ void frmMoreOptions::buildControls()
     });
     const ui::Node windows = ui::rows({ui::row(QStringLiteral("T&heme:"), cboTheme)});
     ui::alignRows({editor, documents, windows});
+    QPushButton *cmdFileClasses =
+        ui::button(QStringLiteral("cmdFileClasses"), QStringLiteral("Open &Pages With Tagwrighter"),
+                   [this] { services().fileClasses.registerAll(); });
     setContent(ui::beside({
         ui::column({
             ui::group(QStringLiteral("Editor"), editor),
             ui::group(QStringLiteral("New documents"), documents),
             ui::group(QStringLiteral("Windows"), windows),
+            ui::group(QStringLiteral("Desktop"), ui::column({cmdFileClasses})),
             ui::space(),
         }),
         ui::column({m_habits->controls(), ui::space()}),
@@ -134,7 +140,7 @@ void frmMoreOptions::buildControls()
 void frmMoreOptions::showSettings()
 {
     SettingsStore &store = services().settings;
-    const FileFormat format = newDocumentFormat(store);
+    const FileFormat format = formatOfNewDocument(context());
     selectFont(*cboEditorFont, settings::read(store, settings::EditorFont));
     txtEditorFontSize->setText(QString::number(QFontInfo(editorFont(store)).pointSize()));
     txtTabWidth->setText(QString::number(tabWidth(store)));

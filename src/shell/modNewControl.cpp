@@ -64,6 +64,7 @@ void openStandard(ProgramContext &context, const QString &path)
         return;
     document->txtEdit().setText(decodePage(file.bytes).text);
     document->boolDirty = false;
+    document->beginHistory();
     document->DocSelUpdate(QString());
     document->txtEdit().SetFocus();
 }

@@ -1,6 +1,7 @@
 #include "drive/stage.h"
 
 #include "common/mainWindow.h"
+#include "desktop/programStart.h"
 #include "drive/commands.h"
 #include "drive/events.h"
 #include "drive/told.h"
@@ -47,8 +48,9 @@ Stage::~Stage() = default;
 void Stage::playScript(const std::vector<Line> &lines)
 {
     // An author who has chosen nothing is asked which habits to edit by; a script that has not is no such author.
+    const QString habits = qEnvironmentVariable("TAGWRIGHTER_HABITS", QStringLiteral("classic"));
     desktop.services().settings.SaveSetting(QStringLiteral("QWRK77XE"), QStringLiteral("Settings"),
-                                            QStringLiteral("EditingHabits"), QStringLiteral("classic"));
+                                            QStringLiteral("EditingHabits"), habits);
     play(lines, 0);
 }
 
@@ -105,10 +107,13 @@ void Stage::playLine(const Line &line)
 
 void Stage::launch(const QString &commandLine)
 {
+    m_start.reset();
     m_program.reset();
     m_program = std::make_unique<Application>(desktop.services());
     m_started = true;
-    m_program->Main(commandLine);
+    m_start = std::make_unique<ProgramStart>();
+    if (!m_start->begin(*m_program, desktop.services(), commandLine))
+        m_program.reset(); // another one has taken the line
 }
 
 bool Stage::isRunning() const

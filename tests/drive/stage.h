@@ -15,6 +15,7 @@
 #include <vector>
 
 class Application;
+class ProgramStart;
 class Document;
 class Form;
 
@@ -83,6 +84,7 @@ private:
     void take(const CarriedOver &carried);
 
     std::unique_ptr<Application> m_program;
+    std::unique_ptr<ProgramStart> m_start; ///< gone before the program that it tells
     bool m_started = false;
     std::vector<When> m_whens;
     std::vector<Frame> m_frames; ///< the innermost last
