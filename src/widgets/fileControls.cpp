@@ -5,7 +5,9 @@
 #include <QDir>
 #include <QFileIconProvider>
 #include <QFileInfo>
+#include <QIconEngine>
 #include <QKeyEvent>
+#include <QPainter>
 
 namespace
 {
@@ -16,6 +18,35 @@ bool isUnder(const QString &path, const QString &folder)
     return path == folder || path.startsWith(folder.endsWith(u'/') ? folder : folder + u'/');
 }
 
+/// The desktop's icon of a kind of place, asked for when it is first drawn: the style reads a dozen pictures for it,
+/// which a start with other things on show need not wait for.
+class PlaceIcon final : public QIconEngine
+{
+public:
+    explicit PlaceIcon(QFileIconProvider::IconType place) : m_place(place) {}
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
+    {
+        icon().paint(painter, rect, Qt::AlignCenter, mode, state);
+    }
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
+    {
+        return icon().pixmap(size, 1, mode, state);
+    }
+    QIconEngine *clone() const override { return new PlaceIcon(m_place); }
+
+private:
+    const QIcon &icon()
+    {
+        if (m_icon.isNull())
+            m_icon = QFileIconProvider().icon(m_place);
+        return m_icon;
+    }
+
+    QFileIconProvider::IconType m_place;
+    QIcon m_icon;
+};
+
 QString lastName(const QString &path)
 {
     const QString name = QFileInfo(path).fileName();
@@ -25,9 +56,10 @@ QString lastName(const QString &path)
 
 DriveList::DriveList(FileSystem &files, QWidget *parent) : QComboBox(parent)
 {
+    const QIcon icon(new PlaceIcon(QFileIconProvider::Drive));
     for (const QString &place : QStringList{QDir::rootPath(), QDir::homePath()} + files.volumes()) {
         if (findText(place) < 0)
-            addItem(QFileIconProvider().icon(QFileIconProvider::Drive), place);
+            addItem(icon, place);
     }
 }
 
@@ -48,7 +80,8 @@ bool DriveList::setDrive(const QString &path)
     return best >= 0;
 }
 
-FolderList::FolderList(FileSystem &files, QWidget *parent) : QListWidget(parent), m_files(files)
+FolderList::FolderList(FileSystem &files, QWidget *parent)
+    : QListWidget(parent), m_files(files), m_folderIcon(new PlaceIcon(QFileIconProvider::Folder))
 {
     connect(this, &QListWidget::itemDoubleClicked, this, &FolderList::openRow);
 }
@@ -88,7 +121,7 @@ void FolderList::fill()
 void FolderList::addFolder(const QString &path, int depth)
 {
     auto *item = new QListWidgetItem(QString(depth * 2, u' ') + lastName(path), this);
-    item->setIcon(QFileIconProvider().icon(QFileIconProvider::Folder));
+    item->setIcon(m_folderIcon);
     item->setData(PathRole, path);
     item->setToolTip(path);
 }

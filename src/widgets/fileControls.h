@@ -45,6 +45,7 @@ private:
     void fill();
 
     FileSystem &m_files;
+    QIcon m_folderIcon;
     QString m_path;
     QStringList m_subfolders;
 };
