@@ -66,6 +66,16 @@ std::span<const Name<Value>> all(const Name<Value> (&names)[size])
     return names;
 }
 
+/// What leaving a box by its close box answers.
+MessageAnswer closed(MessageButtons buttons)
+{
+    for (const MessageAnswer answer : {MessageAnswer::Cancel, MessageAnswer::No})
+        if (hasButton(buttons, answer))
+            return answer;
+    return MessageAnswer::OK;
+}
+} // namespace
+
 bool hasButton(MessageButtons buttons, MessageAnswer answer)
 {
     switch (buttons) {
@@ -82,15 +92,6 @@ bool hasButton(MessageButtons buttons, MessageAnswer answer)
     }
     return false;
 }
-/// What leaving a box by its close box answers.
-MessageAnswer closed(MessageButtons buttons)
-{
-    for (const MessageAnswer answer : {MessageAnswer::Cancel, MessageAnswer::No})
-        if (hasButton(buttons, answer))
-            return answer;
-    return MessageAnswer::OK;
-}
-} // namespace
 
 QString buttonsName(MessageButtons buttons)
 {
@@ -142,6 +143,8 @@ MessageAnswer ScriptedBoxes::show(const MessageBox &box)
         tellOnly(boxText(box));
         return closed(box.buttons);
     }
+    if (freely)
+        return freely(box).value_or(closed(box.buttons));
     shown.add({box, m_referee.line()});
     if (const auto block = takeBlock(box.title)) {
         check(block->answer, box);
@@ -225,11 +228,22 @@ bool DialogAnswer::fits(DialogKind dialog) const
 
 std::optional<DialogAnswer> ScriptedDialogs::answerTo(const ShownDialog &dialog)
 {
+    if (freely)
+        return freely(dialog.kind);
     shown.add(dialog);
-    const auto found = std::find_if(m_answers.begin(), m_answers.end(),
-                                    [&](const DialogAnswer &answer) { return answer.fits(dialog.kind); });
-    if (found == m_answers.end())
+    const bool answered = std::any_of(m_answers.begin(), m_answers.end(),
+                                      [&](const DialogAnswer &answer) { return answer.fits(dialog.kind); });
+    if (!answered)
         m_referee.fail(QStringLiteral("no dialog without a queued answer"), dialog.told());
+    return takeQueued(dialog.kind);
+}
+
+std::optional<DialogAnswer> ScriptedDialogs::takeQueued(DialogKind kind)
+{
+    const auto found =
+        std::find_if(m_answers.begin(), m_answers.end(), [&](const DialogAnswer &answer) { return answer.fits(kind); });
+    if (found == m_answers.end())
+        return std::nullopt;
     const DialogAnswer answer = *found;
     m_answers.erase(found);
     return answer.kind == DialogAnswer::Kind::Cancel ? std::nullopt : std::optional(answer);

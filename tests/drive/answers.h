@@ -35,6 +35,8 @@ std::optional<MessageAnswer> parseAnswer(const QString &name);
 std::optional<MessageIcon> parseIcon(const QString &name);
 std::optional<MessageButtons> parseButtons(const QString &name);
 
+bool hasButton(MessageButtons buttons, MessageAnswer answer);
+
 /// A box as messages tell it.
 QString boxText(const MessageBox &box);
 
@@ -67,6 +69,10 @@ public:
 
     /// Takes what a box says, in a program that no script answers: boxes are left by their close box then.
     std::function<void(const QString &)> tellOnly;
+
+    /// Answers the boxes of a free play, which are not kept; nothing leaves a box by its close box. It is set by who
+    /// plays freely.
+    std::function<std::optional<MessageAnswer>(const MessageBox &)> freely;
 
     Recorded<ShownBox> shown; ///< those not yet looked at
 
@@ -117,6 +123,11 @@ public:
     std::optional<int> showPrint() override;
     void queue(const DialogAnswer &answer) { m_answers.append(answer); }
     const QList<DialogAnswer> &answers() const { return m_answers; }
+    /// The oldest answer that fits; nothing if it is a cancel, or if there is none.
+    std::optional<DialogAnswer> takeQueued(DialogKind kind);
+
+    /// Answers the dialogs of a free play, which are not kept; nothing leaves a dialog.
+    std::function<std::optional<DialogAnswer>(DialogKind)> freely;
 
     Recorded<ShownDialog> shown;
 

@@ -8,9 +8,9 @@ namespace
 {
 std::vector<std::span<const Command>> allTables()
 {
-    return {lifeCommands(),      menuCommands(),    inputCommands(),  controlCommands(), answerCommands(),
-            compareCommands(),   lookCommands(),    recordCommands(), printCommands(),   fileCommands(),
-            otherHostCommands(), previewCommands(), outsideCommands()};
+    return {lifeCommands(),      menuCommands(),    inputCommands(),   controlCommands(), answerCommands(),
+            compareCommands(),   lookCommands(),    recordCommands(),  printCommands(),   fileCommands(),
+            otherHostCommands(), previewCommands(), outsideCommands(), freeCommands()};
 }
 
 QString countOf(const Command &command)

@@ -30,6 +30,7 @@ std::span<const Command> fileCommands();
 std::span<const Command> otherHostCommands();
 std::span<const Command> previewCommands();
 std::span<const Command> outsideCommands();
+std::span<const Command> freeCommands();
 
 /// Nothing if there is no such command.
 const Command *commandNamed(const QString &name);

@@ -16,6 +16,10 @@ struct Progress {
     std::atomic<bool> killed = false;   ///< the process has ended itself at a `kill`, and another one is to go on
 };
 
+/// Thrown in place of the end where a line that cannot be done is passed over.
+struct PassedOver {
+};
+
 /// Tells the first thing that does not hold, and ends the process with it: from within a handler of the program there
 /// is no other way out that would not run more of the program.
 class Referee
@@ -26,6 +30,9 @@ public:
     void enterLine(int line) { m_progress.line = line; }
     int line() const { return m_progress.line; }
     const QString &file() const { return m_file; }
+    /// While it is true, what does not hold is passed over by an exception: for a command that looks whether it can be
+    /// done before it does anything.
+    bool passesOver = false;
     void tellKilled() const { m_progress.killed = true; }
 
     [[noreturn]] void fail(const QString &expected, const QString &got) const { failAt(line(), expected, got); }

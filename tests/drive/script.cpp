@@ -210,6 +210,7 @@ Script parseScript(const QString &text)
 bool opensBlock(const Line &line)
 {
     return line.command == QStringLiteral("when") || line.command == QStringLiteral("when-box") ||
+           line.command == QStringLiteral("freely") ||
            (line.command == QStringLiteral("during") && line.words.size() == 1);
 }
 

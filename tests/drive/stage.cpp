@@ -98,11 +98,16 @@ void Stage::play(const std::vector<Line> &lines, int opening, int from)
 
 void Stage::playLine(const Line &line)
 {
+    insideEvent([&] { run(line); });
+}
+
+void Stage::run(const Line &line)
+{
     referee.enterLine(line.number);
     Line call = line;
     for (QString &word : call.words)
         word = servers.expanded(desktop.expanded(world.expanded(word)));
-    insideEvent([&] { commandNamed(call.command)->run(*this, call); });
+    commandNamed(call.command)->run(*this, call);
 }
 
 void Stage::launch(const QString &commandLine)

@@ -57,6 +57,8 @@ public:
     /// The active document; the script fails if there is none.
     Document &activeDocument();
 
+    /// Runs the command of a line, marks replaced.
+    void run(const Line &line);
     void queueWhen(const Line &line);
     /// Plays the `when`s of modeless forms that have come up.
     void playShownForms();

@@ -46,7 +46,10 @@ bool pointsAtPreview(const Line &line)
         return true;
     if (line.command == QStringLiteral("key")) // the way of the keyboard through all controls
         return line.words.contains(QStringLiteral("Tab")) || line.words.contains(QStringLiteral("Shift+Tab"));
-    return commands.contains(line.command) && line.words.value(0).endsWith(QStringLiteral(".brwWebBrowser"));
+    const QString what = line.words.value(0);
+    const bool preview =
+        what.endsWith(QStringLiteral(".brwWebBrowser")) || what.endsWith(QStringLiteral(".picViewingPane(1)"));
+    return commands.contains(line.command) && preview;
 }
 
 QWidget *ancestorPreview(QWidget *widget)

@@ -150,13 +150,24 @@ TEST_F(Dev, FuzzesWhatIsNamedAndEndsWithTheWorstStatus)
     writeScript(tree("tests/fuzz/fuzz.sh"), QStringLiteral("echo \"fuzz $2 $3\" >>\"$CALLS\"\n[[ $2 == b ]]"));
     pretend("cmake", "mkdir -p build/fuzz");
     EXPECT_EQ(dev({QStringLiteral("fuzz")}).status, 1);
-    EXPECT_THAT(deeds().mid(1),
-                ElementsAre(QStringLiteral("cmake --build build/fuzz --target fuzzers"), QStringLiteral("fuzz a 60"),
-                            QStringLiteral("fuzz b 60")));
+    EXPECT_THAT(deeds().mid(1), ElementsAre(QStringLiteral("cmake --build build/fuzz --target fuzzers"),
+                                            QStringLiteral("fuzz a 60"), QStringLiteral("fuzz b 60")));
     EXPECT_EQ(dev({QStringLiteral("fuzz"), QStringLiteral("b"), QStringLiteral("5")}).status, 0);
     EXPECT_EQ(deeds().constLast(), QStringLiteral("fuzz b 5"));
     EXPECT_EQ(dev({QStringLiteral("fuzz"), QStringLiteral("c")}).errors,
               QStringLiteral("There is no target c. There are: a b.\n"));
+}
+
+TEST_F(Dev, LetsTheMonkeyLooseUnderTheSanitizers)
+{
+    pretend("cmake", "mkdir -p build/sanitize");
+    pretend("python3", "exit 5");
+    EXPECT_EQ(dev({QStringLiteral("monkey"), QStringLiteral("7"), QStringLiteral("20")}).status, 5);
+    EXPECT_THAT(deeds().mid(1), ElementsAre(QStringLiteral("cmake --build build/sanitize --target tagwrighter-drive"),
+                                            QStringLiteral("python3 tests/drive/monkey.py "
+                                                           "build/sanitize/tests/drive/tagwrighter-drive 7 20 "
+                                                           "--found build/sanitize/found")));
+    EXPECT_EQ(dev({QStringLiteral("monkey"), QStringLiteral("x"), QStringLiteral("20")}).status, 2);
 }
 
 TEST_F(Dev, StopsAtAFailure)
