@@ -3,8 +3,12 @@
 #include "figures.h"
 #include "forms/formRuntime.h"
 #include "runningProgram.h"
+#include "services/fileSystem.h"
+#include "services/programFiles.h"
+#include "services/services.h"
 #include "texttools/frmFind.h"
 #include "texttools/frmSyntaxCheck.h"
+#include "texttools/pageCheck.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -60,6 +64,17 @@ double checkTime(RunningProgram &running, qsizetype characters)
         });
 }
 
+/// The check of a page, without its window.
+double pageCheckTime(RunningProgram &running, qsizetype characters)
+{
+    const Services &services = running.program().context().services;
+    const auto rules =
+        PageRules::read(services.files.readAll(programFile(services, QStringLiteral("Page.rules"))).bytes);
+    const QString text = rightPage(characters);
+    return medianTime(
+        Runs, [&] { checkPage(text, *rules); }, [] {});
+}
+
 /// 1 MB, in every fiftieth character of which the text stands that is replaced.
 QString manyMatches()
 {
@@ -98,6 +113,7 @@ void textToolFigures(Figures &figures)
     figures.add(QStringLiteral("syntax check, 63,900 characters"), checkTime(running, LargestColoured) * Milli, unit,
                 400);
     figures.add(QStringLiteral("syntax check, 1 MB"), checkTime(running, 1'000'000) * Milli, unit);
+    figures.add(QStringLiteral("page check, 1 MB"), pageCheckTime(running, 1'000'000) * Milli, unit, 40);
     figures.add(QStringLiteral("replace all, 1 MB, 20,000 matches"),
                 replaceTime(running, QStringLiteral("title")) * Milli, unit, 600);
     figures.add(QStringLiteral("replace all by nothing, 1 MB, 20,000 matches"), replaceTime(running, QString()) * Milli,

@@ -70,6 +70,10 @@ void frmPageCheck::build()
                       .dblClick = [this](int row) { goTo(row, true); },
                       .enter = [this](int row) { goTo(row, true); }});
     lstProblems->setSmallIcons(kindIcons());
+    constexpr int LineWidth = 70;
+    constexpr int WrongWidth = 310;
+    lstProblems->setColumnWidth(0, LineWidth);
+    lstProblems->setColumnWidth(1, WrongWidth);
     connect(lstProblems, &ListView::rowClicked, this, [this](int row) { goTo(row, false); });
     lblFound = ui::label(QStringLiteral("lblFound"), QString());
     cmdGoTo = ui::button(QStringLiteral("cmdGoTo"), QStringLiteral("&Go There"), [this] { cmdGoTo_Click(); });

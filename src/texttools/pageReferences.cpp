@@ -10,15 +10,15 @@ QString wanted(PageReferences::To to)
 {
     switch (to) {
     case PageReferences::To::Map:
-        return QStringLiteral("a <map> of that name");
+        return QStringLiteral("The name of a <map> in the page.");
     case PageReferences::To::Datalist:
-        return QStringLiteral("a <datalist> of that id");
+        return QStringLiteral("The id of a <datalist> in the page.");
     case PageReferences::To::Form:
-        return QStringLiteral("a <form> of that id");
+        return QStringLiteral("The id of a <form> in the page.");
     case PageReferences::To::Field:
-        return QStringLiteral("a field of that id");
+        return QStringLiteral("The id of a field in the page.");
     default:
-        return QStringLiteral("an element of that id");
+        return QStringLiteral("The id of an element in the page.");
     }
 }
 } // namespace
@@ -96,10 +96,9 @@ void PageReferences::finish()
     for (const Reference &reference : std::as_const(m_references)) {
         if (!leadsNowhere(reference) || !m_problems.wants("leads-nowhere"))
             continue;
-        m_problems.error(
-            "leads-nowhere", reference.range,
-            QStringLiteral("%1 leads to \"%2\", which is not in the page.")
-                .arg(reference.attribute.toString().toLower(), view(reference.range).toString()),
-            QStringLiteral("The name of %1.").arg(wanted(reference.to).mid(wanted(reference.to).indexOf(u' ') + 1)));
+        m_problems.error("leads-nowhere", reference.range,
+                         QStringLiteral("%1 leads to \"%2\", which is not in the page.")
+                             .arg(reference.attribute.toString().toLower(), view(reference.range).toString()),
+                         wanted(reference.to));
     }
 }
