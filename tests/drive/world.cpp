@@ -1,7 +1,5 @@
 #include "drive/world.h"
 
-#include "desktop/programFolder.h"
-
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -105,10 +103,16 @@ void World::setEnvironment() const
 
 void World::seedProgramFolder(const QString &installedData) const
 {
-    ProgramPlaces places;
-    places.installedData = installedData;
-    places.userDataHome = m_root;
-    programFolder(places);
+    // A portable copy has everything in one folder that can be written.
+    const QDir source(installedData);
+    QDirIterator walk(installedData, QDir::Files, QDirIterator::Subdirectories);
+    while (walk.hasNext()) {
+        const QString file = walk.next();
+        const QString copy = app() + u'/' + source.relativeFilePath(file);
+        QDir().mkpath(QFileInfo(copy).path());
+        QFile::copy(file, copy);
+        QFile::setPermissions(copy, QFile::permissions(copy) | QFile::WriteOwner);
+    }
 }
 
 void World::remove() const
