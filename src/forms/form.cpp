@@ -165,6 +165,8 @@ void Form::presentWindow()
         fitInto(*m_window, roomFor(*m_window));
     }
     m_window->show();
+    if (!m_window) // some desktops let events run here, and one of them may have been the end
+        return;
     m_window->raise();
     m_window->activateWindow();
 }

@@ -108,7 +108,8 @@ void Application::Main(const QString &commandLine)
     if (colours != theme::Desktop)
         theme::apply(colours);
     m_splash->Load();
-    m_splash->Show();
+    if (!m_ended)
+        m_splash->Show();
 }
 
 void Application::takeOver(const QString &commandLine)

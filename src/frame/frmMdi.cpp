@@ -65,6 +65,8 @@ void frmMdi::presentWindow()
 {
     // The window's state was chosen at the load; showing it keeps that state.
     window()->setVisible(true);
+    if (!isLoaded()) // events ran, and one of them was the end
+        return;
     window()->raise();
     window()->activateWindow();
 }

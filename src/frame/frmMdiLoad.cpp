@@ -54,8 +54,13 @@ void frmMdi::Form_Load()
     loadCodes();
     FillAddInMenu(context());
     const bool opened = openCommandLineFile(m_commandLine);
+    if (context().state.ProgramEnded) // opening lets events run, and one of them was the end
+        return;
     picAddress_Resize();
-    opened &&context().state.habits.HabitStart ? goOnWithFile() : decideWelcome();
+    if (opened && context().state.habits.HabitStart)
+        goOnWithFile();
+    else
+        decideWelcome();
     context().state.AlreadyStarted = true;
     m_pane->refreshLocalFiles();
     offerHabits();
@@ -246,6 +251,8 @@ void frmMdi::decideWelcome()
     Form &welcome = context().forms.get<frmWelcome>();
     welcome.Load();
     presentWindow();
+    if (context().state.ProgramEnded)
+        return;
     restoreUnsavedText(opened);
     setEnabled(false); // making documents has given it back
     welcome.Show();

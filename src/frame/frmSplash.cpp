@@ -57,6 +57,8 @@ void frmSplash::Form_Load()
     context().screenPointer.setMousePointer(HourglassPointer);
     presentWindow();
     DoEvents(); // the splash paints before the slow work
+    if (context().state.ProgramEnded) // a signal among those events, and the window is gone
+        return;
 
     if (!context().state.habits.HabitDesktop) // there, the user asks for it in the options
         services().fileClasses.registerAll();

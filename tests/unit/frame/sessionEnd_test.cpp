@@ -146,4 +146,21 @@ TEST_F(SessionEnds, AsksNothingWhereAllIsSaved)
     EXPECT_FALSE(application->hasEnded());
     EXPECT_EQ(kept(), 0);
 }
+// The splash lets events run in its load, and a signal may be among them.
+TEST(AStart, MayEndWhileTheSplashIsLoaded)
+{
+    QTemporaryDir home;
+    for (const char *place : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"})
+        qputenv(place, home.path().toUtf8());
+    DesktopServices desktop;
+    Application application(desktop.services());
+    int ends = 0;
+    QObject::connect(&application, &Application::ended, [&] { ++ends; });
+    QTimer::singleShot(0, &application, [&] { application.endKeepingText(); });
+    application.Main({});
+    EXPECT_EQ(ends, 1);
+    EXPECT_FALSE(application.form(QStringLiteral("frmSplash"))->isLoaded());
+    EXPECT_FALSE(application.form(QStringLiteral("frmMdi"))->isLoaded());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
 } // namespace
