@@ -43,5 +43,7 @@ int main(int argc, char **argv)
     ProgramStart start;
     if (!start.begin(program, services.services(), alone ? QString(NewInstanceOption + u' ' + line).trimmed() : line))
         return 0;
+    if (program.hasEnded()) // by a signal while it started: what quits the loop below came too early
+        return 0;
     return QApplication::exec();
 }

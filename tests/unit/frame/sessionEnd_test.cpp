@@ -159,6 +159,7 @@ TEST(AStart, MayEndWhileTheSplashIsLoaded)
     QTimer::singleShot(0, &application, [&] { application.endKeepingText(); });
     application.Main({});
     EXPECT_EQ(ends, 1);
+    EXPECT_TRUE(application.hasEnded());
     EXPECT_FALSE(application.form(QStringLiteral("frmSplash"))->isLoaded());
     EXPECT_FALSE(application.form(QStringLiteral("frmMdi"))->isLoaded());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
