@@ -541,9 +541,8 @@ void PageTree::text(const html::Token &token)
 {
     if (token.blank)
         return;
-    if (!inForeign() && !m_body && (m_open.empty() || top().tag == PageTag::Html || top().tag == PageTag::Head))
-        ensureBody(token);
-    else if (!inForeign() && m_afterBody)
+    const bool beforeBody = !m_body && (m_open.empty() || top().tag == PageTag::Html || top().tag == PageTag::Head);
+    if (!inForeign() && (beforeBody || m_afterBody))
         ensureBody(token);
     if (m_open.empty())
         return;

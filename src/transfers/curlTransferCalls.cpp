@@ -97,7 +97,7 @@ void CurlTransfer::takeHeader(const QByteArray &line)
 std::size_t CurlTransfer::bodyCame(char *bytes, std::size_t size, std::size_t count, void *self)
 {
     CurlTransfer &transfer = transferOf(self);
-    const auto length = static_cast<qsizetype>(size * count);
+    const auto length = static_cast<qsizetype>(size) * static_cast<qsizetype>(count);
     transfer.noteActivity();
     transfer.advance(TransferState::ReceivingResponse);
     if (transfer.m_end.body.size() + length > LargestDownload) {

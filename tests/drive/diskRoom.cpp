@@ -74,6 +74,7 @@ size_t lengthOf(const struct iovec *parts, int count)
 
 // These stand before the system's own for the whole program, its libraries included. A call that moves several pieces
 // at once is refused as a whole where it does not fit; nobody relies on how much of it is written.
+// NOLINTBEGIN(readability-inconsistent-declaration-parameter-name): the system's names are reserved ones
 extern "C" {
 ssize_t write(int descriptor, const void *bytes, size_t count)
 {
@@ -128,6 +129,7 @@ ssize_t copy_file_range(int from, off64_t *fromOffset, int to, off64_t *toOffset
     return fits < 0 ? -1 : own(from, fromOffset, to, toOffset, static_cast<size_t>(fits), flags);
 }
 }
+// NOLINTEND(readability-inconsistent-declaration-parameter-name)
 
 namespace drive
 {

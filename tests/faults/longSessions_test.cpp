@@ -117,27 +117,27 @@ protected:
     {
         Services &real = m_desktop->services();
         settings::write(real.settings, settings::WelcomeScreen, QStringLiteral("false"));
-        m_services.reset(new Services{.messageBoxes = boxes,
-                                      .commonDialogs = leftDialogs,
-                                      .settings = real.settings,
-                                      .files = real.files,
-                                      .launcher = real.launcher,
-                                      .clipboard = real.clipboard,
-                                      .clock = real.clock,
-                                      .random = real.random,
-                                      .help = real.help,
-                                      .timers = timers,
-                                      .fileClasses = real.fileClasses,
-                                      .modalLoop = real.modalLoop,
-                                      .yielder = real.yielder,
-                                      .pageViews = real.pageViews,
-                                      .worker = real.worker,
-                                      .transfers = real.transfers,
-                                      .wizards = real.wizards,
-                                      .printing = real.printing,
-                                      .systemFacts = real.systemFacts,
-                                      .appPath = real.appPath,
-                                      .statePath = real.statePath});
+        m_services = std::make_unique<Services>(Services{.messageBoxes = boxes,
+                                                         .commonDialogs = leftDialogs,
+                                                         .settings = real.settings,
+                                                         .files = real.files,
+                                                         .launcher = real.launcher,
+                                                         .clipboard = real.clipboard,
+                                                         .clock = real.clock,
+                                                         .random = real.random,
+                                                         .help = real.help,
+                                                         .timers = timers,
+                                                         .fileClasses = real.fileClasses,
+                                                         .modalLoop = real.modalLoop,
+                                                         .yielder = real.yielder,
+                                                         .pageViews = real.pageViews,
+                                                         .worker = real.worker,
+                                                         .transfers = real.transfers,
+                                                         .wizards = real.wizards,
+                                                         .printing = real.printing,
+                                                         .systemFacts = real.systemFacts,
+                                                         .appPath = real.appPath,
+                                                         .statePath = real.statePath});
         application = std::make_unique<Application>(*m_services);
         application->form(QStringLiteral("frmMdi"))->Show();
         settle();
@@ -192,6 +192,7 @@ protected:
 
     /// Does something again and again: after the first tenth, by which all that is made once is there, nothing grows
     /// by more than a twentieth, and the bytes that each time is known to leave.
+    // NOLINTNEXTLINE(readability-function-size): most of it is what the expectations stand for
     void repeat(int times, const std::function<void(int)> &once, double bytesLeft = 0)
     {
         QElapsedTimer timer;

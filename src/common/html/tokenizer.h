@@ -122,7 +122,7 @@ private:
     bool readRawText();
     qsizetype rawEnd(qsizetype from) const;
     qsizetype scriptEnd(qsizetype from) const;
-    bool endsRaw(qsizetype at) const;
+    bool endsRaw(qsizetype position) const;
     void readMarkup();
     void readEndMark();
     void readDeclaration();
