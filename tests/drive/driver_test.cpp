@@ -19,7 +19,7 @@ class Driver : public testing::Test
 protected:
     QString script(const QString &name, const QString &text)
     {
-        const QString path = folder.filePath(name);
+        QString path = folder.filePath(name);
         QFile file(path);
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(text.toUtf8());

@@ -14,5 +14,5 @@ void chooseMenuEntry(Stage &stage, const QString &name);
 /// Opens a menu, and those above it, and closes it again.
 void openMenu(Stage &stage, const QString &name);
 /// Opens a drop-down list and chooses the entry of that 0-based number, name, key or text.
-void chooseFromList(Stage &stage, QMenu &menu, const QString &entry);
+void chooseFromList(Stage &stage, QMenu &menu, const QString &name);
 } // namespace drive

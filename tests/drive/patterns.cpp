@@ -8,8 +8,8 @@ namespace drive
 {
 QRegularExpression wholePattern(Stage &stage, const QString &text)
 {
-    const QRegularExpression pattern(QRegularExpression::anchoredPattern(text),
-                                     QRegularExpression::DotMatchesEverythingOption);
+    QRegularExpression pattern(QRegularExpression::anchoredPattern(text),
+                               QRegularExpression::DotMatchesEverythingOption);
     if (!pattern.isValid())
         stage.referee.wrong(QStringLiteral("%1 is no regular expression: %2").arg(text, pattern.errorString()));
     return pattern;

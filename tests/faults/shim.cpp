@@ -106,6 +106,7 @@ int openOwn(const char *name, const char *path, int flags, mode_t mode)
 }
 } // namespace
 
+// NOLINTBEGIN(readability-inconsistent-declaration-parameter-name): the system's names are reserved ones
 extern "C" {
 int open(const char *path, int flags, ...)
 {
@@ -171,3 +172,4 @@ int ftruncate64(int descriptor, off64_t length)
     return failsOf("ftruncate", descriptor) ? -1 : own(descriptor, length);
 }
 }
+// NOLINTEND(readability-inconsistent-declaration-parameter-name)

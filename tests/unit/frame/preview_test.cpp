@@ -56,7 +56,7 @@ protected:
         Services &real = desktop->services();
         settings::write(real.settings, settings::WelcomeScreen, QStringLiteral("false"));
         views = std::make_unique<CountedViews>(home.path(), real.pageViews.source());
-        services.reset(new Services{
+        services = std::make_unique<Services>(Services{
             .messageBoxes = real.messageBoxes,
             .commonDialogs = real.commonDialogs,
             .settings = real.settings,

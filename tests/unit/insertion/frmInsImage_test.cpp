@@ -74,6 +74,7 @@ ImageFields crossed(ImageFields fields)
     return fields;
 }
 
+// NOLINTNEXTLINE(readability-function-size): most of it is what the expectations stand for
 void expectSame(const ImageFields &got, const ImageFields &expected, unsigned round)
 {
     EXPECT_EQ(got.src, expected.src) << round;
