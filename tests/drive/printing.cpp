@@ -34,7 +34,7 @@ std::optional<PrintError> ScriptedPrinting::failure()
 
 std::optional<PrintError> ScriptedPrinting::printPicture(const PictureJob &job)
 {
-    if (const auto error = failure())
+    if (auto error = failure())
         return error;
     QImage paper(595, 842, QImage::Format_RGB32);
     QPainter painter(&paper);
@@ -46,7 +46,7 @@ std::optional<PrintError> ScriptedPrinting::printPicture(const PictureJob &job)
 
 std::optional<PrintError> ScriptedPrinting::print(const PrintJob &job, const std::function<bool(int)> &goOn)
 {
-    if (const auto error = failure())
+    if (auto error = failure())
         return error;
     for (int page = 0; page < job.pages.size() * job.copies; ++page)
         if (!goOn(page))
