@@ -30,7 +30,7 @@ Control *control(Form &form, const char *name)
 
 QString photograph(const QString &folder, const char *format)
 {
-    const QString path = folder + u'/' + QLatin1String(format);
+    QString path = folder + u'/' + QLatin1String(format);
     QImage picture(4000, 3000, QImage::Format_RGB32);
     for (int y = 0; y < picture.height(); ++y)
         for (int x = 0; x < picture.width(); ++x)

@@ -21,7 +21,7 @@ constexpr qsizetype Huge = 10'000'000;
 
 QString fileWith(const RunningProgram &program, const QString &name, const QString &text)
 {
-    const QString path = program.home() + u'/' + name;
+    QString path = program.home() + u'/' + name;
     QFile file(path);
     if (file.open(QIODevice::WriteOnly))
         file.write(text.toUtf8());

@@ -64,7 +64,7 @@ QString makeSite(const QString &folder)
         writeFile(pathOf(folder, number), pageOf(folder, random));
         contents.editorFiles.append(pathOf(folder, number));
     }
-    const QString path = joinPath(folder, QStringLiteral("large.tsp"));
+    QString path = joinPath(folder, QStringLiteral("large.tsp"));
     writeFile(path, projectFileText(contents).toUtf8());
     return path;
 }

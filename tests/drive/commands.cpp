@@ -59,7 +59,7 @@ std::optional<ScriptError> checkCommands(const std::vector<Line> &lines)
     for (const Line &line : lines) {
         if (const auto reason = wrongWith(line))
             return ScriptError{line.number, *reason};
-        if (const auto error = checkCommands(line.block))
+        if (auto error = checkCommands(line.block))
             return error;
     }
     return std::nullopt;

@@ -53,7 +53,7 @@ ScriptedWizards::Result ScriptedWizards::start(int index)
     started.add(index);
     if (m_results.empty())
         return {};
-    const Result result = m_results.front();
+    Result result = m_results.front();
     m_results.pop_front();
     return result;
 }

@@ -35,7 +35,7 @@ std::string lookOf(const std::vector<CharacterFormat> &formats, const ColouringO
     };
     std::string result;
     for (const CharacterFormat &format : formats) {
-        const auto look =
+        const auto *const look =
             std::find_if(std::begin(looks), std::end(looks), [&](const auto &each) { return each.first == format; });
         result += look == std::end(looks) ? '?' : look->second;
     }

@@ -1,5 +1,6 @@
 #include "frame/frmMdiBands.h"
 
+#include <QList>
 #include <gtest/gtest.h>
 
 TEST(BandLayout, aFlagIsWrittenAsAWord)
