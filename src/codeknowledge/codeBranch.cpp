@@ -128,7 +128,8 @@ CodeBranch::Below CodeBranch::below(int number) const
 int CodeBranch::child(int number, int row) const
 {
     const Below children = below(number);
-    return children.level ? (*children.level)[static_cast<size_t>(children.first) + static_cast<size_t>(row)] : children.first + row;
+    return children.level ? (*children.level)[static_cast<size_t>(children.first) + static_cast<size_t>(row)]
+                          : children.first + row;
 }
 
 int CodeBranch::rowOf(int number) const
