@@ -16,8 +16,10 @@ struct Authority {
 
 Authority authorityOf(const QString &address)
 {
-    const qsizetype scheme = address.indexOf(QStringLiteral("://"));
-    const qsizetype start = scheme < 0 ? 0 : scheme + 3;
+    const qsizetype scheme = address.indexOf(QStringLiteral(":/"));
+    qsizetype start = scheme < 0 ? 0 : scheme + 1;
+    while (start < address.size() && address[start] == u'/') // one or three of them are taken for two by who goes there
+        ++start;
     qsizetype end = start;
     while (end < address.size() && !QStringLiteral("/?#").contains(address[end]))
         ++end;

@@ -1,6 +1,6 @@
 #!/bin/bash
 # fuzz.sh FOLDER TARGET SECONDS: lets the fuzzer of a target, in the folder of the fuzzers, make inputs for so long, or up to
-# TAGWRIGHTER_FUZZ_INPUTS of them. It begins with the seeds and with what it found before: that stands in found/TARGET/
+# TAGWRIGHTER_FUZZ_INPUTS of them; with TAGWRIGHTER_FUZZ_SEED it goes the same way each time. It begins with the seeds and with what it found before: that stands in found/TARGET/
 # beside the fuzzers, fails until it is mended, and then goes into seeds/TARGET/.
 set -euo pipefail
 
@@ -18,6 +18,6 @@ mkdir -p "$inputs" "$found"
 export ASAN_OPTIONS=allocator_may_return_null=1
 export LSAN_OPTIONS=suppressions=$here/../leaks.txt:print_suppressions=0
 export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 TZ=UTC
-exec "$fuzzers/fuzz_$target" -max_total_time="$seconds" ${TAGWRIGHTER_FUZZ_INPUTS:+-runs="$TAGWRIGHTER_FUZZ_INPUTS"} \
+exec "$fuzzers/fuzz_$target" -max_total_time="$seconds" ${TAGWRIGHTER_FUZZ_SEED:+-seed="$TAGWRIGHTER_FUZZ_SEED"} ${TAGWRIGHTER_FUZZ_INPUTS:+-runs="$TAGWRIGHTER_FUZZ_INPUTS"} \
     -timeout=10 -rss_limit_mb=2048 -error_exitcode=1 -print_final_stats=1 -artifact_prefix="$found/" \
     "$inputs" "$here/seeds/$target" "$found"

@@ -58,6 +58,8 @@ TEST(Addresses, LoseTheirPasswordBeforeTheyAreShown)
     } rows[] = {{"ftp://u:p@h/x", "ftp://u@h/x"},
                 {"ftp://u:p:q@r@h/x", "ftp://u@h/x"},
                 {"u:p@h", "u@h"},
+                {"ftp:///u:p@h/x", "ftp:///u@h/x"},
+                {"ftp:/u:p@h/x", "ftp:/u@h/x"},
                 {"ftp://u@h:21/x", "ftp://u@h:21/x"},
                 {"ftp://h:21/a@b:c", "ftp://h:21/a@b:c"},
                 {"http://h/?a:b@c", "http://h/?a:b@c"}};
