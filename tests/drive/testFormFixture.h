@@ -9,6 +9,7 @@
 #include "services/commonDialogs.h"
 #include "services/timer.h"
 #include "testForm.h"
+#include "unit/support/servicesOver.h"
 #include "widgets/screenPointer.h"
 
 #include <QRegularExpression>
@@ -69,7 +70,10 @@ protected:
     ColourAnswer dialogs;
     EventModalLoop modalLoop;
     DesktopServices desktop;
-    Services services = scripted(desktop.services());
+    /// The services of the desktop, with dialogs that are answered.
+    Services services = servicesOver(
+        desktop.services(),
+        {.commonDialogs = &dialogs, .modalLoop = &modalLoop, .appPath = QString(), .statePath = QString()});
     FormRuntime forms;
     ProgramState state;
     ScreenPointer pointer;
@@ -77,34 +81,6 @@ protected:
     frmTestControls form{context};
 
 private:
-    /// The services of the desktop, with dialogs that are answered.
-    Services scripted(Services &real)
-    {
-        return {
-            .messageBoxes = real.messageBoxes,
-            .commonDialogs = dialogs,
-            .settings = real.settings,
-            .files = real.files,
-            .launcher = real.launcher,
-            .clipboard = real.clipboard,
-            .clock = real.clock,
-            .random = real.random,
-            .help = real.help,
-            .timers = real.timers,
-            .fileClasses = real.fileClasses,
-            .modalLoop = modalLoop,
-            .yielder = real.yielder,
-            .pageViews = real.pageViews,
-            .worker = real.worker,
-            .transfers = real.transfers,
-            .wizards = real.wizards,
-            .printing = real.printing,
-            .systemFacts = real.systemFacts,
-            .appPath = QString(),
-            .statePath = QString(),
-        };
-    }
-
     qsizetype m_seen = 0;
 };
 } // namespace drive

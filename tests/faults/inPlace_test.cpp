@@ -2,6 +2,7 @@
 #include "savingPlace.h"
 
 #include <array>
+#include <cerrno>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
@@ -49,8 +50,10 @@ TEST_F(SavesInPlace, KeepHardLinks)
 
 TEST_F(SavesInPlace, KeepAttributes)
 {
-    if (::setxattr(native("site/a.htm").constData(), "user.note", "mine", 4, 0) != 0)
+    const int set = ::setxattr(native("site/a.htm").constData(), "user.note", "mine", 4, 0);
+    if (set != 0 && errno == ENOTSUP)
         GTEST_SKIP() << "files have no attributes of their own here";
+    ASSERT_EQ(set, 0);
     EXPECT_EQ(save(), 0);
     expectSameFile();
     std::array<char, 10> value{};
@@ -68,9 +71,11 @@ TEST_F(SavesInPlace, KeepAccessLists)
                                                 "10000600ffffffff"
                                                 "20000400ffffffff");
     const QByteArray name = native("site/a.htm");
-    if (::setxattr(name.constData(), "system.posix_acl_access", list.constData(), static_cast<size_t>(list.size()),
-                   0) != 0)
+    const int set =
+        ::setxattr(name.constData(), "system.posix_acl_access", list.constData(), static_cast<size_t>(list.size()), 0);
+    if (set != 0 && errno == ENOTSUP)
         GTEST_SKIP() << "files have no access lists here";
+    ASSERT_EQ(set, 0);
     EXPECT_EQ(save(), 0);
     expectSameFile();
     QByteArray found(200, '\0');

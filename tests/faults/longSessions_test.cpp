@@ -13,6 +13,7 @@
 #include "services/worker.h"
 #include "surface/editSurface.h"
 #include "unit/support/fakes.h"
+#include "unit/support/servicesOver.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -117,27 +118,8 @@ protected:
     {
         Services &real = m_desktop->services();
         settings::write(real.settings, settings::WelcomeScreen, QStringLiteral("false"));
-        m_services = std::make_unique<Services>(Services{.messageBoxes = boxes,
-                                                         .commonDialogs = leftDialogs,
-                                                         .settings = real.settings,
-                                                         .files = real.files,
-                                                         .launcher = real.launcher,
-                                                         .clipboard = real.clipboard,
-                                                         .clock = real.clock,
-                                                         .random = real.random,
-                                                         .help = real.help,
-                                                         .timers = timers,
-                                                         .fileClasses = real.fileClasses,
-                                                         .modalLoop = real.modalLoop,
-                                                         .yielder = real.yielder,
-                                                         .pageViews = real.pageViews,
-                                                         .worker = real.worker,
-                                                         .transfers = real.transfers,
-                                                         .wizards = real.wizards,
-                                                         .printing = real.printing,
-                                                         .systemFacts = real.systemFacts,
-                                                         .appPath = real.appPath,
-                                                         .statePath = real.statePath});
+        m_services = std::make_unique<Services>(
+            servicesOver(real, {.messageBoxes = &boxes, .commonDialogs = &leftDialogs, .timers = &timers}));
         application = std::make_unique<Application>(*m_services);
         application->form(QStringLiteral("frmMdi"))->Show();
         settle();

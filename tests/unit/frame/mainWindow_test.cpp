@@ -10,6 +10,7 @@
 #include "services/settings.h"
 #include "services/settingsStore.h"
 #include "services/timer.h"
+#include "unit/support/servicesOver.h"
 #include "widgets/screenPointer.h"
 
 #include <gtest/gtest.h>
@@ -43,7 +44,8 @@ public:
 class MainWindowTest : public testing::Test
 {
 protected:
-    MainWindowTest() : desktop(desktopAt(home.path())), services(servicesOver(desktop->services(), boxes))
+    MainWindowTest()
+        : desktop(desktopAt(home.path())), services(servicesOver(desktop->services(), {.messageBoxes = &boxes}))
     {
         settings::write(services.settings, settings::WelcomeScreen, QStringLiteral("false"));
         settings::write(services.settings, settings::WinState, QStringLiteral("0"));
@@ -102,33 +104,6 @@ private:
         for (const char *place : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME"})
             qputenv(place, folder.toUtf8());
         return std::make_unique<DesktopServices>();
-    }
-
-    static Services servicesOver(Services &real, MessageBoxes &messageBoxes)
-    {
-        return {
-            .messageBoxes = messageBoxes,
-            .commonDialogs = real.commonDialogs,
-            .settings = real.settings,
-            .files = real.files,
-            .launcher = real.launcher,
-            .clipboard = real.clipboard,
-            .clock = real.clock,
-            .random = real.random,
-            .help = real.help,
-            .timers = real.timers,
-            .fileClasses = real.fileClasses,
-            .modalLoop = real.modalLoop,
-            .yielder = real.yielder,
-            .pageViews = real.pageViews,
-            .worker = real.worker,
-            .transfers = real.transfers,
-            .wizards = real.wizards,
-            .printing = real.printing,
-            .systemFacts = real.systemFacts,
-            .appPath = real.appPath,
-            .statePath = real.statePath,
-        };
     }
 };
 } // namespace

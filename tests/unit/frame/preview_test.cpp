@@ -10,6 +10,7 @@
 #include "services/services.h"
 #include "services/settings.h"
 #include "services/timer.h"
+#include "unit/support/servicesOver.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -56,29 +57,7 @@ protected:
         Services &real = desktop->services();
         settings::write(real.settings, settings::WelcomeScreen, QStringLiteral("false"));
         views = std::make_unique<CountedViews>(home.path(), real.pageViews.source());
-        services = std::make_unique<Services>(Services{
-            .messageBoxes = real.messageBoxes,
-            .commonDialogs = real.commonDialogs,
-            .settings = real.settings,
-            .files = real.files,
-            .launcher = real.launcher,
-            .clipboard = real.clipboard,
-            .clock = real.clock,
-            .random = real.random,
-            .help = real.help,
-            .timers = real.timers,
-            .fileClasses = real.fileClasses,
-            .modalLoop = real.modalLoop,
-            .yielder = real.yielder,
-            .pageViews = *views,
-            .worker = real.worker,
-            .transfers = real.transfers,
-            .wizards = real.wizards,
-            .printing = real.printing,
-            .systemFacts = real.systemFacts,
-            .appPath = home.path(),
-            .statePath = real.statePath,
-        });
+        services = std::make_unique<Services>(servicesOver(real, {.pageViews = views.get(), .appPath = home.path()}));
         application = std::make_unique<Application>(*services);
         application->form(QStringLiteral("frmMdi"))->Show();
     }

@@ -8,6 +8,7 @@
 #include "frame/application.h"
 #include "services/settings.h"
 #include "unit/support/fakes.h"
+#include "unit/support/servicesOver.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -35,27 +36,8 @@ protected:
         Services &real = desktop->services();
         settings::write(real.settings, settings::WelcomeScreen, q("false"));
         settings::write(real.settings, settings::BlankDocCode, q("0"));
-        services = std::make_unique<Services>(Services{.messageBoxes = boxes,
-                                                       .commonDialogs = real.commonDialogs,
-                                                       .settings = real.settings,
-                                                       .files = real.files,
-                                                       .launcher = real.launcher,
-                                                       .clipboard = real.clipboard,
-                                                       .clock = real.clock,
-                                                       .random = real.random,
-                                                       .help = real.help,
-                                                       .timers = real.timers,
-                                                       .fileClasses = real.fileClasses,
-                                                       .modalLoop = real.modalLoop,
-                                                       .yielder = real.yielder,
-                                                       .pageViews = real.pageViews,
-                                                       .worker = real.worker,
-                                                       .transfers = real.transfers,
-                                                       .wizards = wizards,
-                                                       .printing = real.printing,
-                                                       .systemFacts = real.systemFacts,
-                                                       .appPath = home.path(),
-                                                       .statePath = home.path()});
+        services = std::make_unique<Services>(servicesOver(
+            real, {.messageBoxes = &boxes, .wizards = &wizards, .appPath = home.path(), .statePath = home.path()}));
         application = std::make_unique<Application>(*services);
         mainForm().Show();
     }
