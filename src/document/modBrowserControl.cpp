@@ -44,7 +44,7 @@ void goTo(ProgramContext &context, BrowserCommand command, const QString &target
 QString placeOfCopy(ProgramContext &context, const Document &document, const DocumentCopy &copy)
 {
     PageSource &source = context.services.pageViews.source();
-    if (document.DocSavePath.isEmpty() || !settings::previewsInPlace(context.services.settings)) {
+    if (document.DocSavePath.isEmpty() || !context.state.habits.HabitPreview) {
         source.setFolderOf(copy.path, otherHosts::folderOf(document.DocSavePath));
         return copy.path;
     }

@@ -1,7 +1,6 @@
 #include "services/settings.h"
 
 #include "common/paths.h"
-#include "services/habits.h"
 #include "services/settingsStore.h"
 
 #include <array>
@@ -76,11 +75,6 @@ void writeBoolean(SettingsStore &store, const Key &key, bool on)
 bool previewsByCopy(SettingsStore &store)
 {
     return std::floor(read(store, PagePreview).toDouble()) == 1;
-}
-
-bool previewsInPlace(SettingsStore &store)
-{
-    return readHabits(store).HabitPreview;
 }
 
 namespace

@@ -48,9 +48,6 @@ void writeBoolean(SettingsStore &store, const Key &key, bool on);
 
 /// Whether a preview shows an unsaved document by a temporary copy; otherwise the document is saved first.
 bool previewsByCopy(SettingsStore &store);
-/// Whether the live preview shows the unsaved text of a file as if it were saved, with what stands beside it; otherwise
-/// as a copy that stands by itself.
-bool previewsInPlace(SettingsStore &store);
 
 /// Writes the first-run values of the keys that hold nothing yet, in the order of the list.
 void writeFirstRunDefaults(SettingsStore &store, const QString &appPath);
