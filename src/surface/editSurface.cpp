@@ -1,16 +1,15 @@
+// The edit surface's contract: text, selection, formats, lines, and what it tells of them.
 #include "surface/editSurface.h"
 
 #include "common/darkGround.h"
-#include "common/longLines.h"
 #include "common/text.h"
 #include "surface/lineMargin.h"
+#include "surface/surfaceAccessible.h"
 
 #include <QFontDatabase>
 #include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QScopedValueRollback>
 #include <QScrollBar>
-#include <QTextBlock>
 #include <algorithm>
 #include <utility>
 
@@ -32,24 +31,19 @@ QPalette::ColorRole roleOf(ColourValue colour)
 } // namespace
 
 EditSurface::EditSurface(QWidget *parent)
-    : QPlainTextEdit(parent),
-      m_text(document()),
-      m_formats(document(), [this](ColourValue colour) { return colourFor(colour); }),
+    : QAbstractScrollArea(parent),
+      m_view(m_text, m_looks, [this](ColourValue colour) { return colourFor(colour); }),
       m_margin(new LineMargin(this))
 {
+    SurfaceAccessible::install();
     m_darkGround = isOnDarkGround();
-    setUndoRedoEnabled(false);
-    setLineWrapMode(NoWrap);
-    setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_KeyCompression);
+    setAttribute(Qt::WA_InputMethodEnabled);
+    setAcceptDrops(true);
+    viewport()->setBackgroundRole(QPalette::Base);
+    viewport()->setCursor(Qt::IBeamCursor);
     viewport()->setMouseTracking(true); // the owner follows the pointer with no button down
-    connect(document(), &QTextDocument::contentsChange, this, &EditSurface::keepPastChange);
-    connect(this, &QPlainTextEdit::textChanged, this, &EditSurface::tellTextChange);
-    connect(this, &QPlainTextEdit::cursorPositionChanged, this, &EditSurface::tellSelection);
-    connect(this, &QPlainTextEdit::selectionChanged, this, &EditSurface::tellSelection);
-    connect(this, &QPlainTextEdit::blockCountChanged, this, &EditSurface::placeMargin);
-    connect(this, &QPlainTextEdit::blockCountChanged, this, &EditSurface::tellScrolling);
-    connect(this, &QPlainTextEdit::updateRequest, this, &EditSurface::moveMargin);
-    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &EditSurface::tellScrolling);
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     followFont();
     keepSelectionColours();
@@ -65,19 +59,25 @@ QString EditSurface::Text() const
 void EditSurface::setText(const QString &text)
 {
     const Step step(this);
-    setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    breakLongLines(text);
+    endComposing();
+    const bool told = SurfaceAccessible::isWatched();
+    const QString before = told ? m_text.text() : QString();
     m_text.load(withCrLf(text));
-    m_formats.forget();
+    m_looks.reset(m_text.length());
+    m_view.textLoaded();
     m_textChanged = true;
-    moveCursor(QTextCursor::Start);
-    verticalScrollBar()->setValue(0);
-    horizontalScrollBar()->setValue(0);
+    m_selection = {};
+    m_nextLook.reset();
+    m_goalX.reset();
+    updateAll();
+    followView();
+    if (told)
+        tellAccessibleChange(0, before, m_text.text());
 }
 
 QString EditSurface::textPart(qsizetype start, qsizetype length) const
 {
-    return start < 0 || length < 0 ? QString() : m_text.mid(start, length);
+    return start < 0 || length < 0 ? QString() : m_text.mid(std::min(start, m_text.length()), length);
 }
 
 qsizetype EditSurface::textLength() const
@@ -87,30 +87,29 @@ qsizetype EditSurface::textLength() const
 
 qsizetype EditSurface::SelStart() const
 {
-    return m_text.position(textCursor().selectionStart());
+    return m_selection.from();
 }
 
 bool EditSurface::setSelStart(qsizetype start)
 {
     if (start < 0)
         return false;
-    const int position = m_text.documentPosition(start);
+    const qsizetype position = m_text.snapped(start);
     select(position, position);
     return true;
 }
 
 qsizetype EditSurface::SelLength() const
 {
-    const QTextCursor cursor = textCursor();
-    return m_text.position(cursor.selectionEnd()) - m_text.position(cursor.selectionStart());
+    return m_selection.to() - m_selection.from();
 }
 
 bool EditSurface::setSelLength(qsizetype length)
 {
     if (length < 0)
         return false;
-    const QTextCursor cursor = cursorOver(SelStart(), length);
-    select(cursor.anchor(), cursor.position());
+    const qsizetype start = SelStart();
+    select(start, m_text.snapped(start + std::min(length, m_text.length() - start)));
     return true;
 }
 
@@ -128,26 +127,30 @@ void EditSurface::setSelText(const QString &text)
 
 TextFormat EditSurface::selectionFormat() const
 {
-    const QTextCursor cursor = textCursor();
-    return cursor.hasSelection() ? m_formats.read(cursor.selectionStart(), cursor.selectionEnd())
-                                 : m_formats.read(cursor.charFormat());
+    if (!m_selection.isEmpty())
+        return m_looks.common(m_selection.from(), m_selection.to());
+    const Look look = lookAtCaret();
+    return {look.colour, look.bold, look.underline};
 }
 
 void EditSurface::setSelectionFormat(const TextFormat &format)
 {
-    const QTextCursor cursor = textCursor();
-    if (cursor.hasSelection())
-        setFormat(SelStart(), SelLength(), format);
+    if (m_selection.isEmpty())
+        m_nextLook = merged(lookAtCaret(), format);
     else
-        setCurrentCharFormat(m_formats.changed(cursor.charFormat(), format));
+        setFormat(SelStart(), SelLength(), format);
 }
 
 TextFormat EditSurface::formatOf(qsizetype start, qsizetype length) const
 {
     if (start < 0 || length < 0)
         return {};
-    const QTextCursor cursor = cursorOver(start, length);
-    return m_formats.read(cursor.selectionStart(), cursor.selectionEnd());
+    const qsizetype from = m_text.snapped(start);
+    const qsizetype to = m_text.snapped(from + std::min(length, m_text.length() - from));
+    if (from < to)
+        return m_looks.common(from, to);
+    const Look look = lookForText(from);
+    return {look.colour, look.bold, look.underline};
 }
 
 bool EditSurface::setFormat(qsizetype start, qsizetype length, const TextFormat &format)
@@ -158,22 +161,27 @@ bool EditSurface::setFormat(qsizetype start, qsizetype length, const TextFormat 
 
 void EditSurface::setFormats(const QList<FormatRange> &ranges)
 {
-    QList<SurfaceFormats::Range> inDocument;
+    QList<FormatRange> snapped;
+    snapped.reserve(ranges.size());
     for (const FormatRange &range : ranges) {
         if (range.start < 0 || range.length < 0)
             continue;
-        const qsizetype end =
-            range.start + std::min(range.length, m_text.length() - std::min(range.start, m_text.length()));
-        inDocument.append({m_text.documentPosition(range.start), m_text.documentPosition(end), range.format});
+        const qsizetype from = m_text.snapped(range.start);
+        const qsizetype room = m_text.length() - std::min(range.start, m_text.length());
+        snapped.append({from, m_text.snapped(range.start + std::min(range.length, room)) - from, range.format});
     }
-    const QScopedValueRollback<bool> formatsOnly(m_formatsOnly, true);
-    m_formats.apply(inDocument);
+    const std::vector<TextStretch> changed = m_looks.apply(snapped);
+    if (!changed.empty() && m_view.layouts().forgetStretches(changed))
+        updateAll();
 }
 
 void EditSurface::setHideSelection(bool hide)
 {
+    if (hide == m_hideSelection)
+        return;
     m_hideSelection = hide;
-    viewport()->update();
+    if (!m_selection.isEmpty())
+        updateAll();
 }
 
 void EditSurface::setPaintingHeld(bool held)
@@ -183,43 +191,48 @@ void EditSurface::setPaintingHeld(bool held)
 
 qsizetype EditSurface::lineCount() const
 {
-    return m_text.lines().lineCount();
+    return m_text.lineCount();
 }
 
 qsizetype EditSurface::lineFromCharacter(qsizetype position) const
 {
-    return m_text.lines().lineAt(position);
+    return m_text.lineAt(position);
 }
 
 std::optional<qsizetype> EditSurface::characterFromLine(qsizetype line) const
 {
     if (line < 0 || line >= lineCount())
         return std::nullopt;
-    return m_text.lines().lineStart(line);
+    return m_text.lineStart(line);
 }
 
 qsizetype EditSurface::firstVisibleLine() const
 {
-    return firstVisibleBlock().blockNumber();
+    return m_view.top().line;
 }
 
 void EditSurface::scrollToLine(qsizetype line)
 {
-    const qsizetype cut = std::clamp(line, qsizetype(0), lineCount() - 1);
-    verticalScrollBar()->setValue(document()->findBlockByNumber(static_cast<int>(cut)).firstLineNumber());
+    const Step step(this);
+    m_view.scrollTo({std::clamp(line, qsizetype(0), lineCount() - 1), 0, 0});
+    updateAll();
+    followView();
 }
 
 void EditSurface::setWrapToWindow(bool wrap)
 {
+    if (wrap == m_wrap)
+        return;
     const Step step(this);
     const qsizetype top = firstVisibleLine();
-    setLineWrapMode(wrap ? WidgetWidth : NoWrap);
+    m_wrap = wrap;
+    followFont();
     scrollToLine(top);
 }
 
 bool EditSurface::wrapToWindow() const
 {
-    return lineWrapMode() == WidgetWidth;
+    return m_wrap;
 }
 
 void EditSurface::SetFocus()
@@ -238,77 +251,132 @@ void EditSurface::SetFocus()
 qsizetype EditSurface::characterFromPosition(const QPoint &point) const
 {
     const QPoint inViewport = viewport()->mapFrom(this, point);
-    const QTextBlock block = cursorForPosition(inViewport).block();
-    const QPointF inBlock = inViewport - blockBoundingGeometry(block).translated(contentOffset()).topLeft();
-    int row = 0;
-    while (row + 1 < block.layout()->lineCount() && block.layout()->lineAt(row).rect().bottom() <= inBlock.y())
-        ++row;
-    const int column = block.layout()->lineAt(row).xToCursor(inBlock.x(), QTextLine::CursorOnCharacter);
-    return m_text.position(block.position() + column);
+    return m_view.positionInRow(m_view.rowAt(inViewport.y()), inViewport.x(), QTextLine::CursorOnCharacter);
 }
 
 QRect EditSurface::positionOfCharacter(qsizetype position) const
 {
-    return cursorRect(cursorOver(position, 0)).translated(viewport()->pos());
+    return m_view.caretRect(m_text.snapped(position)).toRect().translated(viewport()->pos());
+}
+
+QColor EditSurface::drawnColour(qsizetype position) const
+{
+    return colourFor(m_looks.lookAt(position).colour);
 }
 
 QList<EditSurface::VisibleLine> EditSurface::visibleLines() const
 {
     QList<VisibleLine> lines;
-    qreal top = contentOffset().y();
-    for (QTextBlock block = firstVisibleBlock(); block.isValid() && top < viewport()->height(); block = block.next()) {
-        const qreal height = blockBoundingRect(block).height();
-        lines.append({block.blockNumber(), qRound(top), qRound(block.layout()->lineAt(0).height())});
-        top += height;
+    for (const ShownRow &row : m_view.rows()) {
+        if (lines.isEmpty() || lines.last().line != row.place.line) {
+            qreal top = row.top;
+            for (RowPlace above = row.place; lines.isEmpty() && (above.row > 0 || above.piece > 0);) {
+                m_view.previous(above);
+                top -= m_view.heightOf(above);
+                if (row.place.piece - above.piece > 1) // far above, it is not seen how far
+                    break;
+            }
+            lines.append({row.place.line, qRound(top), qRound(row.height)});
+        }
     }
     return lines;
 }
 
-/// A cursor over a range that is cut to the text; its position is the range's end.
-QTextCursor EditSurface::cursorOver(qsizetype start, qsizetype length) const
+/// Selects from one place to another, where the caret comes to stand.
+void EditSurface::select(qsizetype anchor, qsizetype caret)
 {
-    const qsizetype from = std::clamp(start, qsizetype(0), m_text.length());
-    QTextCursor cursor(document());
-    cursor.setPosition(m_text.documentPosition(from));
-    cursor.setPosition(m_text.documentPosition(from + std::min(length, m_text.length() - from)),
-                       QTextCursor::KeepAnchor);
-    return cursor;
-}
-
-void EditSurface::select(int anchor, int position)
-{
-    QTextCursor cursor = textCursor();
-    if (cursor.anchor() == anchor && cursor.position() == position)
-        return; // nor is the format lost that the next character is to take
+    const Selection selection{anchor, caret};
+    if (selection == m_selection)
+        return; // nor is the look lost that the next character is to take
     const Step step(this);
-    cursor.setPosition(anchor);
-    cursor.setPosition(position, QTextCursor::KeepAnchor);
-    setTextCursor(cursor);
+    endComposing();
+    const Selection before = std::exchange(m_selection, selection);
+    m_nextLook.reset();
+    m_goalX.reset();
+    m_goalY.reset();
+    if (before.isEmpty() && m_selection.isEmpty()) {
+        updateLines(m_text.lineAt(before.caret), m_text.lineAt(before.caret));
+        updateLines(m_text.lineAt(caret), m_text.lineAt(caret));
+    } else {
+        updateAll();
+    }
+    ensureCaretVisible();
 }
 
-/// In a line of half a million characters without a blank, looking for blanks takes more than ten seconds.
-void EditSurface::breakLongLines(const QString &text)
+/// Puts a text, whose breaks are CR LF, in the place of another one. Caret and anchor stay at their text; where that
+/// goes, they come to stand behind the new one.
+void EditSurface::putText(qsizetype from, qsizetype to, const QString &text, const Look &look)
 {
-    if (hasLongLines(lineExtremesOf(text)))
-        setWordWrapMode(QTextOption::WrapAnywhere);
+    if (from == to && text.isEmpty())
+        return;
+    const bool told = SurfaceAccessible::isWatched();
+    const QString gone = told ? m_text.mid(from, to - from) : QString();
+    const qsizetype line = m_text.lineAt(from);
+    const qsizetype removed = m_text.lineAt(to) - line + 1;
+    const RowPlace row{line, 0, 0};
+    const bool oneRow = removed == 1 && !m_wrap;
+    const qreal height = oneRow ? m_view.heightOf(row) : 0;
+    m_text.replace(from, to - from, text);
+    m_looks.replace(from, to - from, text.size(), look);
+    const qsizetype added = m_text.lineAt(from + text.size()) - line + 1;
+    m_view.linesReplaced(line, removed, added);
+    for (qsizetype *place : {&m_selection.anchor, &m_selection.caret}) {
+        if (*place > from)
+            *place = *place < to ? from + text.size() : *place + text.size() - (to - from);
+    }
+    m_nextLook.reset();
+    m_goalX.reset();
+    m_goalY.reset();
+    m_textChanged = true;
+    if (oneRow && added == 1 && m_view.heightOf(row) == height)
+        updateLines(line, line);
+    else
+        updateAll();
+    followView();
+    if (told)
+        tellAccessibleChange(from, gone, text);
 }
 
 void EditSurface::insertAtCaret(const QString &text)
 {
-    breakLongLines(text);
     const Step step(this);
-    QTextCursor cursor = textCursor();
-    QTextCharFormat format = cursor.charFormat();
-    if (cursor.hasSelection()) {
-        QTextCursor first(document());
-        first.setPosition(cursor.selectionStart() + 1);
-        format = first.charFormat();
-    }
-    cursor.beginEditBlock();
-    cursor.removeSelectedText();
-    m_text.insert(cursor, withCrLf(text), format);
-    cursor.endEditBlock();
-    setTextCursor(cursor);
+    endComposing();
+    const Look look = m_selection.isEmpty() ? lookAtCaret() : m_looks.lookAt(m_selection.from());
+    const qsizetype from = m_selection.from();
+    const QString put = withCrLf(text);
+    putText(from, m_selection.to(), put, look);
+    select(from + put.size(), from + put.size());
+    ensureCaretVisible();
+}
+
+/// As a key does it, whose character looks like the one in front of the caret.
+void EditSurface::typeAtCaret(const QString &text)
+{
+    const Look look = lookAtCaret();
+    const qsizetype from = m_selection.from();
+    putText(from, m_selection.to(), text, look);
+    select(from + text.size(), from + text.size());
+}
+
+void EditSurface::removeSelection()
+{
+    putText(m_selection.from(), m_selection.to(), QString(), {});
+}
+
+/// What a character that is put in at a position looks like: as the one in front of it, and at the start of a line as
+/// the one behind it.
+Look EditSurface::lookForText(qsizetype position) const
+{
+    const qsizetype line = m_text.lineAt(position);
+    const bool startsLine = position == m_text.lineStart(line) && m_text.lineLength(line) > 0;
+    if (startsLine)
+        return m_looks.lookAt(position);
+    return position > 0 ? m_looks.lookAt(position - 1) : Look();
+}
+
+Look EditSurface::lookAtCaret() const
+{
+    return m_nextLook ? *m_nextLook : lookForText(m_selection.caret);
 }
 
 void EditSurface::endStep()
@@ -332,8 +400,10 @@ void EditSurface::tellSelection()
     if (m_steps > 0)
         return;
     const std::pair selection(SelStart(), SelLength());
-    if (selection != std::exchange(m_toldSelection, selection))
-        Q_EMIT SelChange();
+    if (selection == std::exchange(m_told, selection))
+        return;
+    SurfaceAccessible::tellSelection(this);
+    Q_EMIT SelChange();
 }
 
 void EditSurface::tellScrolling()
@@ -345,13 +415,9 @@ void EditSurface::tellScrolling()
         Q_EMIT scrolled();
 }
 
-void EditSurface::keepPastChange(int from, int removed, int added)
+void EditSurface::tellAccessibleChange(qsizetype from, const QString &removed, const QString &inserted)
 {
-    // Formats are reported like text that gives way to as much text.
-    if (m_formatsOnly && removed == added)
-        return;
-    if (m_text.follow(from, removed, added))
-        m_textChanged = true;
+    SurfaceAccessible::tellChange(this, m_text.lines().toNarrow(from), removed, inserted);
 }
 
 bool EditSurface::isOnDarkGround() const
@@ -371,12 +437,9 @@ void EditSurface::keepSelectionColours()
 
 void EditSurface::followGround()
 {
-    const bool dark = isOnDarkGround();
-    if (dark == m_darkGround)
-        return;
-    m_darkGround = dark;
-    const QScopedValueRollback<bool> formatsOnly(m_formatsOnly, true);
-    m_formats.redraw();
+    m_darkGround = isOnDarkGround();
+    m_view.layouts().forgetAll(); // their formats hold colours
+    updateAll();
 }
 
 /// The colour that a value is drawn with.

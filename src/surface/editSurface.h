@@ -1,20 +1,23 @@
 #pragma once
 
 #include "common/textSurface.h"
-#include "surface/surfaceFormats.h"
+#include "surface/formatRuns.h"
 #include "surface/surfaceHooks.h"
 #include "surface/surfaceText.h"
+#include "surface/surfaceView.h"
 
-#include <QPlainTextEdit>
+#include <QAbstractScrollArea>
+#include <QBasicTimer>
+#include <QElapsedTimer>
+#include <QKeySequence>
 
 class LineMargin;
+class QMimeData;
 
 /// The edit surface of a document: a plain text widget with exactly the contract of TextSurface.
 ///
-/// What the user and the program do to the text is told by `Change`; the `textChanged` of the base class, which also
-/// tells of formats, is not to be used. Nor are the base class's operations on text (toPlainText, insertPlainText, the
-/// cursor's own), which lose characters that the surface keeps.
-class EditSurface : public QPlainTextEdit, public TextSurface
+/// The text is kept as it was put in, with the starts of its lines; only what is on view is laid out.
+class EditSurface : public QAbstractScrollArea, public TextSurface
 {
     Q_OBJECT
 public:
@@ -64,6 +67,10 @@ public:
     qsizetype characterFromPosition(const QPoint &point) const;
     /// Where the caret stands in front of a character, in the surface's own coordinates.
     QRect positionOfCharacter(qsizetype position) const;
+    /// The colour that a character is drawn with, which depends on the ground.
+    QColor drawnColour(qsizetype position) const;
+    /// How far apart the stops of the tabs are, in pixels.
+    qreal tabStopDistance() const;
 
     /// A source line as far as it is on view: its number from 0, its top in the viewport and its first row's height.
     struct VisibleLine {
@@ -86,26 +93,35 @@ Q_SIGNALS:
     void lostFocus();
 
 protected:
+    bool event(QEvent *event) override;
+    bool focusNextPrevChild(bool) override { return false; } // Tab goes into the text
     void changeEvent(QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void timerEvent(QTimerEvent *event) override;
+    void scrollContentsBy(int dx, int dy) override;
     void paintEvent(QPaintEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void inputMethodEvent(QInputMethodEvent *event) override;
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
-    bool canInsertFromMimeData(const QMimeData *source) const override;
-    void insertFromMimeData(const QMimeData *source) override;
-    QMimeData *createMimeDataFromSelection() const override;
 
 private:
+    friend class SurfaceAccessible;
+
     /// Keeps the signals back while a step is taken that is one to the outside, and tells its outcome at the end.
     class Step
     {
@@ -119,37 +135,102 @@ private:
         EditSurface *m_surface;
     };
 
+    /// The caret, and where the selection that ends at it was begun.
+    struct Selection {
+        qsizetype anchor = 0;
+        qsizetype caret = 0;
+        qsizetype from() const { return std::min(anchor, caret); }
+        qsizetype to() const { return std::max(anchor, caret); }
+        bool isEmpty() const { return anchor == caret; }
+        bool operator==(const Selection &) const = default;
+    };
+    /// What a drag of the mouse selects by.
+    enum class Unit { Character, Word, Line };
+
     void endStep();
-    QTextCursor cursorOver(qsizetype start, qsizetype length) const;
-    void select(int anchor, int position);
+    void select(qsizetype anchor, qsizetype caret);
+    void putText(qsizetype from, qsizetype to, const QString &text, const Look &look);
     void insertAtCaret(const QString &text);
-    void breakLongLines(const QString &text);
+    void typeAtCaret(const QString &text);
+    void removeSelection();
+    Look lookForText(qsizetype position) const;
+    Look lookAtCaret() const;
     void tellTextChange();
     void tellSelection();
     void tellScrolling();
-    void keepPastChange(int from, int removed, int added);
+    void tellAccessibleChange(qsizetype from, const QString &removed, const QString &inserted);
     QColor colourFor(ColourValue colour) const;
     bool isOnDarkGround() const;
     void followGround();
     void keepSelectionColours();
     void followFont();
+    void followView();
     void placeMargin();
-    void moveMargin(const QRect &rect, int dy);
-    void paintWithoutSelection(QPaintEvent *event);
+    void updateAll();
+    void updateLines(qsizetype first, qsizetype last);
+    void paintRow(QPainter &painter, const ShownRow &row, const QRect &clip);
+    QList<QTextLayout::FormatRange> selectedIn(qsizetype line, const LinePiece &piece) const;
+    void paintCaret(QPainter &painter, const ShownRow &row);
+    QRectF caretRect() const;
+
+    bool moves(const QKeyEvent &event);
+    bool edits(const QKeyEvent &event);
+    bool movesByPage(const QKeyEvent &event);
+    void moveTo(qsizetype position, bool keepAnchor);
+    void moveByRows(bool down, bool keepAnchor);
+    void moveByPage(bool down, bool keepAnchor);
+    qsizetype lineHome() const;
+    qsizetype rowEnd() const;
+    void deleteTo(qsizetype position);
+    void copySelection(bool primary) const;
+    void pasteFrom(bool primary);
+    void ensureCaretVisible();
+    void showBlink(bool on);
+
+    bool compose(const QInputMethodEvent &event, bool commits);
+    void endComposing();
+    qsizetype positionAt(const QPoint &point) const;
+    void selectUnits(qsizetype from, qsizetype to, Unit unit);
+    void dragTo(const QPoint &point);
+    void startDrag();
+    bool canInsertFromMimeData(const QMimeData *source) const;
+    void insertFromMimeData(const QMimeData *source);
+    QMimeData *createMimeDataFromSelection() const;
     bool ownerTakes(const QDropEvent &event) const;
+    void showDropPlace(std::optional<qsizetype> position);
     bool discarded(const std::function<void(SurfaceMouse &)> &hook, QMouseEvent *event);
 
     SurfaceHooks m_hooks;
     SurfaceText m_text;
-    SurfaceFormats m_formats;
+    FormatRuns m_looks;
+    mutable SurfaceView m_view; ///< laying out what is asked for is no change
     LineMargin *m_margin = nullptr;
-    std::pair<qsizetype, qsizetype> m_toldSelection; ///< SelStart and SelLength
+    Selection m_selection;
+    std::optional<Look> m_nextLook;         ///< set for the next character, until the caret moves
+    std::optional<qreal> m_goalX;           ///< where moves up and down keep to, in pixels of the rows
+    std::optional<qreal> m_goalY;           ///< where moves by pages keep to, in pixels of the view
+    std::pair<qsizetype, qsizetype> m_told; ///< SelStart and SelLength
     qsizetype m_toldTop = 0;
+    qsizetype m_toldLines = 1;
     int m_steps = 0;            ///< those being taken, one within another
-    bool m_formatsOnly = false; ///< what the document reports now changes no text
-    bool m_textChanged = false; ///< reported by the document and not yet told by Change
-    bool m_darkGround = false;  ///< the formats are drawn for a dark ground
+    bool m_textChanged = false; ///< and not yet told by Change
+    bool m_darkGround = false;  ///< the colours are drawn for a dark ground
+    bool m_following = false;   ///< the scroll bars are being set
     int m_tabWidth = 4;         ///< in characters
+    bool m_wrap = false;
     bool m_locked = false;
     bool m_hideSelection = false;
+    QBasicTimer m_blink;
+    bool m_caretShown = false;
+    qsizetype m_preeditCaret = 0;
+    bool m_preeditCaretHidden = false;
+    QPoint m_pressed; ///< where the mouse went down, in the viewport
+    bool m_selecting = false;
+    bool m_mayDrag = false; ///< the mouse went down on the selection
+    Unit m_unit = Unit::Character;
+    Selection m_unitStart; ///< what the press selected that a drag extends
+    QElapsedTimer m_doubleClick;
+    QBasicTimer m_autoScroll;
+    QPoint m_dragPoint;
+    std::optional<qsizetype> m_dropPlace;
 };

@@ -1,16 +1,21 @@
 // What the edit surface does with the events of its widget: the owner's handlers first, and nothing that would change
 // the text while it is locked.
 #include "surface/editSurface.h"
-#include "surface/lineMargin.h"
+#include "surface/surfaceMoves.h"
 
+#include "common/text.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDrag>
 #include <QDropEvent>
+#include <QInputMethod>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
-#include <QPainter>
-#include <QScopedValueRollback>
-#include <QTextBlock>
+#include <QPointer>
+#include <QStyleHints>
 #include <QUrl>
 #include <algorithm>
 
@@ -87,44 +92,6 @@ QStringList localFiles(const QMimeData &data)
 }
 } // namespace
 
-void EditSurface::changeEvent(QEvent *event)
-{
-    QPlainTextEdit::changeEvent(event);
-    if (event->type() == QEvent::FontChange)
-        followFont();
-    if (event->type() == QEvent::PaletteChange) {
-        keepSelectionColours();
-        followGround();
-    }
-}
-
-void EditSurface::resizeEvent(QResizeEvent *event)
-{
-    QPlainTextEdit::resizeEvent(event);
-    placeMargin();
-    tellScrolling();
-}
-
-void EditSurface::paintEvent(QPaintEvent *event)
-{
-    if (m_hideSelection && textCursor().hasSelection())
-        paintWithoutSelection(event);
-    else
-        QPlainTextEdit::paintEvent(event);
-}
-
-void EditSurface::focusInEvent(QFocusEvent *event)
-{
-    QPlainTextEdit::focusInEvent(event);
-    Q_EMIT gotFocus();
-}
-
-void EditSurface::focusOutEvent(QFocusEvent *event)
-{
-    QPlainTextEdit::focusOutEvent(event);
-    Q_EMIT lostFocus();
-}
-
 void EditSurface::keyPressEvent(QKeyEvent *event)
 {
     const QString character = characterOf(*event);
@@ -133,22 +100,18 @@ void EditSurface::keyPressEvent(QKeyEvent *event)
         return;
     if (!character.isEmpty() && discards(m_hooks.keyPress, {.text = character}))
         return;
-    const Step step(this); // a key over a selection is one change, though the widget makes it in two
+    const Step step(this); // a key over a selection is one change
     if (m_locked && !onlyReads(*event))
         event->setAccepted(!event->text().isEmpty());
-    else if (event->matches(QKeySequence::InsertLineSeparator))
-        insertAtCaret(QStringLiteral("\n")); // a page's source has one kind of line break
-    else if (SurfaceText::needsCare(event->text()))
-        insertAtCaret(event->text());
-    else
-        QPlainTextEdit::keyPressEvent(event);
+    else if (!moves(*event) && !edits(*event))
+        event->ignore();
 }
 
 void EditSurface::keyReleaseEvent(QKeyEvent *event)
 {
     event->accept();
     if (event->isAutoRepeat() || !discards(m_hooks.keyUp, keyOf(*event)))
-        QPlainTextEdit::keyReleaseEvent(event);
+        QAbstractScrollArea::keyReleaseEvent(event);
 }
 
 void EditSurface::inputMethodEvent(QInputMethodEvent *event)
@@ -156,53 +119,241 @@ void EditSurface::inputMethodEvent(QInputMethodEvent *event)
     const QString committed = event->commitString();
     if (m_locked)
         return event->ignore();
-    if (committed.isEmpty()) {
-        const Step step(this);
-        const QScopedValueRollback<bool> composing(m_formatsOnly, true); // reported as a change of the line
-        return QPlainTextEdit::inputMethodEvent(event);
-    }
-    const bool unwanted = discards(m_hooks.keyPress, {.text = committed, .committed = true});
+    bool commits = !committed.isEmpty();
+    if (commits && discards(m_hooks.keyPress, {.text = committed, .committed = true}))
+        commits = false;
     const Step step(this);
-    if (!unwanted && !SurfaceText::needsCare(committed))
-        return QPlainTextEdit::inputMethodEvent(event);
-    QInputMethodEvent rest(event->preeditString(), event->attributes());
-    rest.setCommitString(QString(), event->replacementStart(), event->replacementLength());
-    QPlainTextEdit::inputMethodEvent(&rest);
-    if (!unwanted)
-        insertAtCaret(committed);
+    event->setAccepted(compose(*event, commits));
+}
+
+/// Puts what an input method commits into the text, and what it composes at the caret, beside the text.
+bool EditSurface::compose(const QInputMethodEvent &event, bool commits)
+{
+    const bool replaces = !event.commitString().isEmpty() || event.replacementLength() > 0;
+    const bool hadPreedit = m_view.layouts().preedit().line >= 0;
+    if (replaces || event.preeditString() != m_view.layouts().preedit().text)
+        removeSelection();
+    m_view.layouts().setPreedit({});
+    if (replaces) {
+        const qsizetype from = m_text.snapped(m_selection.caret + event.replacementStart());
+        const qsizetype to = m_text.snapped(from + event.replacementLength());
+        const QString put = commits ? withCrLf(event.commitString()) : QString();
+        putText(from, to, put, lookAtCaret());
+        if (from <= m_selection.caret)
+            select(from + put.size(), from + put.size());
+    }
+    const qsizetype line = m_text.lineAt(m_selection.caret);
+    Preedit preedit{line, m_selection.caret - m_text.lineStart(line), event.preeditString(), {}};
+    m_preeditCaret = preedit.text.size();
+    m_preeditCaretHidden = false;
+    for (const QInputMethodEvent::Attribute &attribute : event.attributes()) {
+        if (attribute.type == QInputMethodEvent::TextFormat && !preedit.text.isEmpty()) {
+            const QTextCharFormat format = attribute.value.value<QTextFormat>().toCharFormat();
+            preedit.formats.append({attribute.start, attribute.length, format});
+        } else if (attribute.type == QInputMethodEvent::Cursor) {
+            m_preeditCaret = std::clamp(qsizetype(attribute.start), qsizetype(0), preedit.text.size());
+            m_preeditCaretHidden = attribute.length == 0 && !preedit.text.isEmpty();
+        } else if (attribute.type == QInputMethodEvent::Selection) {
+            const qsizetype start = m_text.snapped(m_text.lineStart(line) + attribute.start);
+            select(start, m_text.snapped(start + attribute.length));
+        }
+    }
+    if (!preedit.text.isEmpty())
+        m_view.layouts().setPreedit(preedit);
+    if (hadPreedit || !preedit.text.isEmpty())
+        updateAll();
+    ensureCaretVisible();
+    return true;
+}
+
+/// Forgets what an input method composes, which it is told of.
+void EditSurface::endComposing()
+{
+    if (m_view.layouts().preedit().line < 0)
+        return;
+    m_view.layouts().setPreedit({});
+    m_preeditCaret = 0;
+    m_preeditCaretHidden = false;
+    updateAll();
+    if (hasFocus())
+        QGuiApplication::inputMethod()->reset();
+}
+
+QVariant EditSurface::inputMethodQuery(Qt::InputMethodQuery query) const
+{
+    constexpr qsizetype reach = 2048; // characters around the caret that an input method is told of
+    const qsizetype caret = m_selection.caret;
+    const qsizetype line = m_text.lineAt(caret);
+    const qsizetype start = std::max(m_text.lineStart(line), caret - reach);
+    const qsizetype end = std::min(m_text.lineEnd(line), caret + reach);
+    switch (query) {
+    case Qt::ImEnabled:
+        return isEnabled() && !m_locked;
+    case Qt::ImReadOnly:
+        return m_locked;
+    case Qt::ImHints:
+        return int(inputMethodHints());
+    case Qt::ImFont:
+        return font();
+    case Qt::ImCursorRectangle:
+        return caretRect().translated(viewport()->pos()).toRect();
+    case Qt::ImAnchorRectangle:
+        return positionOfCharacter(m_selection.anchor);
+    case Qt::ImCursorPosition:
+        return static_cast<int>(caret - start);
+    case Qt::ImAnchorPosition:
+        return static_cast<int>(std::clamp(m_selection.anchor, start, end) - start);
+    case Qt::ImAbsolutePosition:
+        return static_cast<int>(caret);
+    case Qt::ImSurroundingText:
+        return m_text.mid(start, end - start);
+    case Qt::ImTextBeforeCursor:
+        return m_text.mid(start, caret - start);
+    case Qt::ImTextAfterCursor:
+        return m_text.mid(caret, end - caret);
+    case Qt::ImCurrentSelection:
+        return m_text.mid(SelStart(), std::min(SelLength(), reach));
+    default:
+        return QAbstractScrollArea::inputMethodQuery(query);
+    }
+}
+
+qsizetype EditSurface::positionAt(const QPoint &point) const
+{
+    return m_view.positionInRow(m_view.rowAt(point.y()), point.x());
+}
+
+/// Selects whole words or lines from one place to another, the caret at the second.
+void EditSurface::selectUnits(qsizetype from, qsizetype to, Unit unit)
+{
+    const auto startOf = [&](qsizetype place) {
+        return unit == Unit::Word ? surfaceMoves::startOfWord(m_text, place) : m_text.lineStart(m_text.lineAt(place));
+    };
+    const auto endOf = [&](qsizetype place) {
+        if (unit == Unit::Word)
+            return surfaceMoves::endOfWord(m_text, place);
+        const qsizetype line = m_text.lineAt(place);
+        return line + 1 < m_text.lineCount() ? m_text.lineStart(line + 1) : m_text.length();
+    };
+    if (unit == Unit::Character)
+        return select(from, to);
+    if (to < m_unitStart.from())
+        select(m_unitStart.to(), startOf(to));
+    else
+        select(m_unitStart.from(), std::max(endOf(to), m_unitStart.to()));
 }
 
 void EditSurface::mousePressEvent(QMouseEvent *event)
 {
-    if (!discarded(m_hooks.mouseDown, event))
-        QPlainTextEdit::mousePressEvent(event);
+    if (discarded(m_hooks.mouseDown, event))
+        return;
+    if (event->button() != Qt::LeftButton)
+        return event->ignore();
+    const qsizetype place = positionAt(event->position().toPoint());
+    const bool third = m_doubleClick.isValid() &&
+                       m_doubleClick.elapsed() < QGuiApplication::styleHints()->mouseDoubleClickInterval() &&
+                       (event->pos() - m_pressed).manhattanLength() < QApplication::startDragDistance();
+    m_doubleClick.invalidate();
+    m_pressed = event->pos();
+    m_mayDrag = false;
+    m_selecting = true;
+    m_unit = Unit::Character;
+    if (third) {
+        m_unit = Unit::Line;
+        const qsizetype line = m_text.lineAt(place);
+        const bool last = line + 1 == m_text.lineCount();
+        select(m_text.lineStart(line), last ? m_text.length() : m_text.lineStart(line + 1));
+        m_unitStart = m_selection;
+    } else if (event->modifiers() == Qt::ShiftModifier) {
+        select(m_selection.anchor, place);
+    } else if (!m_selection.isEmpty() && place >= m_selection.from() && place <= m_selection.to() && !m_hideSelection) {
+        m_mayDrag = true;
+        m_selecting = false;
+    } else {
+        select(place, place);
+        ensureCaretVisible();
+    }
+}
+
+void EditSurface::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton)
+        return event->ignore();
+    const qsizetype place = positionAt(event->pos());
+    m_unit = Unit::Word;
+    select(surfaceMoves::startOfWord(m_text, place),
+           surfaceMoves::endOfWord(m_text, surfaceMoves::startOfWord(m_text, place)));
+    m_unitStart = m_selection;
+    m_mayDrag = false;
+    m_selecting = true;
+    m_pressed = event->pos();
+    m_doubleClick.start();
 }
 
 void EditSurface::mouseMoveEvent(QMouseEvent *event)
 {
-    if (discarded(m_hooks.mouseMove, event))
+    if (discarded(m_hooks.mouseMove, event) || !(event->buttons() & Qt::LeftButton))
         return;
-    if (!m_locked || event->buttons() == Qt::NoButton)
-        return QPlainTextEdit::mouseMoveEvent(event);
-    // A drag that starts now may copy the selection, but not move it away.
-    const Qt::TextInteractionFlags flags = textInteractionFlags();
-    setTextInteractionFlags(flags & ~Qt::TextInteractionFlags(Qt::TextEditable));
-    QPlainTextEdit::mouseMoveEvent(event);
-    setTextInteractionFlags(flags);
+    if (m_mayDrag) {
+        if ((event->pos() - m_pressed).manhattanLength() > QApplication::startDragDistance())
+            startDrag();
+        return;
+    }
+    if (!m_selecting)
+        return;
+    m_dragPoint = event->pos();
+    if (viewport()->rect().contains(m_dragPoint))
+        m_autoScroll.stop();
+    else if (!m_autoScroll.isActive())
+        m_autoScroll.start(100, this);
+    dragTo(m_dragPoint);
+}
+
+void EditSurface::dragTo(const QPoint &point)
+{
+    const Step step(this);
+    selectUnits(m_selection.anchor, positionAt(point), m_unit);
 }
 
 void EditSurface::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (!discarded(m_hooks.mouseUp, event))
-        QPlainTextEdit::mouseReleaseEvent(event);
+    m_autoScroll.stop();
+    const bool wasSelecting = std::exchange(m_selecting, false);
+    const bool wasOnSelection = std::exchange(m_mayDrag, false);
+    if (discarded(m_hooks.mouseUp, event))
+        return;
+    const qsizetype place = positionAt(event->pos());
+    if (event->button() == Qt::LeftButton && wasOnSelection) {
+        select(place, place);
+    } else if (event->button() == Qt::LeftButton && wasSelecting) {
+        copySelection(true);
+    } else if (event->button() == Qt::MiddleButton && !m_locked && QGuiApplication::clipboard()->supportsSelection()) {
+        const Step step(this);
+        select(place, place);
+        pasteFrom(true);
+    } else {
+        event->ignore();
+    }
+}
+
+/// Lets the selection be dragged away. A locked surface gives copies only.
+void EditSurface::startDrag()
+{
+    m_mayDrag = false;
+    const QPointer<EditSurface> self(this); // whatever happens while the mouse is on its way
+    auto *drag = new QDrag(viewport());
+    drag->setMimeData(createMimeDataFromSelection());
+    const Qt::DropActions actions = m_locked ? Qt::CopyAction : Qt::CopyAction | Qt::MoveAction;
+    const Qt::DropAction action = drag->exec(actions, m_locked ? Qt::CopyAction : Qt::MoveAction);
+    if (!self || action != Qt::MoveAction || drag->target() == viewport() || drag->target() == this)
+        return;
+    const Step step(this);
+    removeSelection();
 }
 
 void EditSurface::contextMenuEvent(QContextMenuEvent *event)
 {
-    if (m_locked)
-        event->accept(); // most of the menu's commands change the text
-    else
-        QPlainTextEdit::contextMenuEvent(event);
+    event->setAccepted(m_locked); // the menu is the owner's
 }
 
 /// Whether a drop goes to the owner, as text or as files, and not to a place in the text.
@@ -215,26 +366,37 @@ bool EditSurface::ownerTakes(const QDropEvent &event) const
 
 void EditSurface::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (ownerTakes(*event))
+    event->setAccepted(false);
+    if (ownerTakes(*event) || canInsertFromMimeData(event->mimeData()))
         event->acceptProposedAction();
-    else
-        QPlainTextEdit::dragEnterEvent(event);
 }
 
 void EditSurface::dragMoveEvent(QDragMoveEvent *event)
 {
-    if (ownerTakes(*event))
-        event->acceptProposedAction(); // without the mark of a place
-    else
-        QPlainTextEdit::dragMoveEvent(event);
+    event->setAccepted(false);
+    if (!ownerTakes(*event) && !canInsertFromMimeData(event->mimeData()))
+        return;
+    event->acceptProposedAction();
+    if (!ownerTakes(*event)) // who takes it to a place of its own
+        showDropPlace(positionAt(event->position().toPoint()));
+}
+
+void EditSurface::dragLeaveEvent(QDragLeaveEvent *)
+{
+    showDropPlace({});
+}
+
+void EditSurface::showDropPlace(std::optional<qsizetype> position)
+{
+    if (position != std::exchange(m_dropPlace, position))
+        updateAll();
 }
 
 void EditSurface::dropEvent(QDropEvent *event)
 {
+    showDropPlace({});
     const QStringList files = localFiles(*event->mimeData());
     if (!files.isEmpty() && m_hooks.filesDropped) {
-        QDragLeaveEvent leave; // takes away the mark of the place to drop at
-        QPlainTextEdit::dragLeaveEvent(&leave);
         event->acceptProposedAction();
         m_hooks.filesDropped(files);
         return;
@@ -244,8 +406,22 @@ void EditSurface::dropEvent(QDropEvent *event)
         m_hooks.textDropped(event->mimeData()->text());
         return;
     }
+    event->setAccepted(false);
+    if (!canInsertFromMimeData(event->mimeData()))
+        return;
+    event->acceptProposedAction();
     const Step step(this); // the text that was dragged goes and comes in one
-    QPlainTextEdit::dropEvent(event);
+    qsizetype place = positionAt(event->position().toPoint());
+    const auto *source = qobject_cast<const QWidget *>(event->source());
+    if (event->dropAction() == Qt::MoveAction && source && (source == this || isAncestorOf(source))) {
+        const qsizetype from = m_selection.from();
+        const qsizetype gone = std::clamp(place - from, qsizetype(0), SelLength());
+        removeSelection();
+        place -= gone;
+    }
+    select(place, place);
+    insertFromMimeData(event->mimeData());
+    ensureCaretVisible();
     SetFocus();
 }
 
@@ -262,7 +438,6 @@ void EditSurface::insertFromMimeData(const QMimeData *source)
     if (m_locked || !localFiles(*source).isEmpty() || source->text().isEmpty())
         return;
     insertAtCaret(source->text());
-    ensureCursorVisible();
 }
 
 /// Plain text with the line ends of this desktop, since not every program takes others.
@@ -271,62 +446,6 @@ QMimeData *EditSurface::createMimeDataFromSelection() const
     auto *plain = new QMimeData;
     plain->setText(SelText().replace(QLatin1String("\r\n"), QLatin1String("\n")));
     return plain;
-}
-
-void EditSurface::followFont()
-{
-    setTabStopDistance(m_tabWidth * QFontMetricsF(font()).horizontalAdvance(u' '));
-    m_margin->setFont(font());
-    placeMargin();
-}
-
-void EditSurface::setTabWidth(int characters)
-{
-    m_tabWidth = characters;
-    followFont();
-}
-
-void EditSurface::setLineNumbers(bool shown)
-{
-    m_margin->setVisible(shown);
-    placeMargin();
-}
-
-bool EditSurface::lineNumbers() const
-{
-    return !m_margin->isHidden();
-}
-
-void EditSurface::placeMargin()
-{
-    const int width = lineNumbers() ? m_margin->widthNeeded() : 0;
-    if (viewportMargins().left() != width)
-        setViewportMargins(width, 0, 0, 0);
-    const QRect inside = contentsRect();
-    m_margin->setGeometry(QRect(inside.left(), inside.top(), width, viewport()->height()));
-}
-
-void EditSurface::moveMargin(const QRect &rect, int dy)
-{
-    if (dy != 0)
-        m_margin->scroll(0, dy);
-    else
-        m_margin->update(0, rect.y(), m_margin->width(), rect.height());
-}
-
-void EditSurface::paintWithoutSelection(QPaintEvent *event)
-{
-    QPainter painter(viewport());
-    const int caret = getPaintContext().cursorPosition; // below 0 while it is not to be seen
-    QPointF top = contentOffset();
-    for (QTextBlock block = firstVisibleBlock(); block.isValid() && top.y() <= event->rect().bottom();
-         block = block.next()) {
-        const qreal height = blockBoundingRect(block).height();
-        block.layout()->draw(&painter, top, {}, event->rect());
-        if (caret >= 0 && block.contains(caret))
-            block.layout()->drawCursor(&painter, top, caret - block.position(), cursorWidth());
-        top.ry() += height;
-    }
 }
 
 /// Shows a mouse event to the owner; true if it discards it.

@@ -70,10 +70,9 @@ ActionResult setLine(QWidget &control, const QLineEdit &edit, const QString &val
 }
 
 /// Enters the text in one go: typed keys would meet the surface's own ideas of indents and tabs.
-ActionResult setArea(QPlainTextEdit &area, const QString &value)
+ActionResult setArea(QWidget &area, bool locked, const QString &value)
 {
-    const auto *surface = dynamic_cast<const TextSurface *>(&area);
-    if (surface ? surface->Locked() : area.isReadOnly())
+    if (locked)
         return refused(QStringLiteral("%1 is locked").arg(nameOf(area)));
     if (ActionResult result = focus(area); !result.done)
         return result;
@@ -142,8 +141,10 @@ ActionResult setUsable(QWidget &control, const QString &value)
 {
     if (QLineEdit *edit = lineEditOf(control))
         return setLine(control, *edit, value);
+    if (const auto *surface = dynamic_cast<const TextSurface *>(&control))
+        return setArea(control, surface->Locked(), value);
     if (QPlainTextEdit *area = textAreaOf(control))
-        return setArea(*area, value);
+        return setArea(*area, area->isReadOnly(), value);
     if (const auto result = setKeyed(control, value))
         return *result;
     if (rowsOf(control))

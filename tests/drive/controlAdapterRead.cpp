@@ -65,9 +65,8 @@ QString number(qlonglong value)
 bool isCaretVisible(const QWidget &surface)
 {
     const auto *area = qobject_cast<const QAbstractScrollArea *>(&surface);
-    const auto *text = qobject_cast<const QPlainTextEdit *>(&surface);
-    const QRect caret = text ? text->cursorRect() : surface.inputMethodQuery(Qt::ImCursorRectangle).toRect();
-    return surface.isVisible() && (area ? area->viewport()->rect() : surface.rect()).intersects(caret);
+    const QRect caret = surface.inputMethodQuery(Qt::ImCursorRectangle).toRect();
+    return surface.isVisible() && (area ? area->viewport()->geometry() : surface.rect()).intersects(caret);
 }
 } // namespace
 

@@ -5,7 +5,6 @@
 
 #include <QElapsedTimer>
 #include <QScrollBar>
-#include <QTextBlock>
 
 namespace
 {
@@ -278,11 +277,7 @@ TEST_F(EditSurfaceView, DefaultColoursFollowTheGroundAndAnUsersOwnStay)
 {
     constexpr ColourValue Navy = 8388608;
     constexpr ColourValue Own = 255;
-    const auto drawn = [this](int position) {
-        QTextCursor cursor(surface.document());
-        cursor.setPosition(position + 1);
-        return cursor.charFormat().foreground().color();
-    };
+    const auto drawn = [this](int position) { return surface.drawnColour(position); };
     surface.setText(QStringLiteral("ab"));
     surface.setFormat(0, 1, {Navy, true, {}});
     surface.setFormat(1, 1, {Own, {}, {}});
@@ -301,6 +296,7 @@ TEST_F(EditSurfaceView, DefaultColoursFollowTheGroundAndAnUsersOwnStay)
     EXPECT_EQ(drawn(0), QColor(0, 0, 128));
     EXPECT_EQ(changes, 0);
 }
+
 TEST_F(EditSurfaceView, BreaksLinesWithoutBlanksAnywhere)
 {
     QElapsedTimer taken;
@@ -311,11 +307,8 @@ TEST_F(EditSurfaceView, BreaksLinesWithoutBlanksAnywhere)
     settle();
     surface.setSelText(QStringLiteral("x"));
     settle();
-    EXPECT_LT(taken.elapsed(), 6000) << "milliseconds; looking for blanks takes three times as long on a quick machine";
-    EXPECT_EQ(surface.wordWrapMode(), QTextOption::WrapAnywhere);
-    surface.setText(QStringLiteral("a few words"));
-    EXPECT_EQ(surface.wordWrapMode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
-    surface.setSelText(QString(10'001, u'x'));
-    EXPECT_EQ(surface.wordWrapMode(), QTextOption::WrapAnywhere);
+    EXPECT_LT(taken.elapsed(), 2000) << "milliseconds; a layout of the whole line takes several times as long";
+    EXPECT_GT(surface.visibleLines().size(), 0);
+    EXPECT_GT(surface.positionOfCharacter(300).top(), surface.positionOfCharacter(0).top());
 }
 } // namespace

@@ -1,0 +1,286 @@
+#include "surface/lineLayouts.h"
+
+#include <QFontMetricsF>
+#include <QTextBoundaryFinder>
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+constexpr qsizetype longestInOne = 2048;
+constexpr qsizetype pieceLength = 1024;
+constexpr qsizetype lookBack = 32;    // characters in which the start of what belongs together is looked for
+constexpr qreal unlimited = 16000000; // pixels: a layout counts in 64ths of them, with 32 bits
+
+/// Characters that a layout would take for its own marks or for the end of a row are drawn as a sign.
+bool isDrawnAsSign(QChar c)
+{
+    switch (c.unicode()) {
+    case QChar::LineSeparator:
+    case QChar::ParagraphSeparator:
+    case QChar::ObjectReplacementCharacter:
+    case 0xFDD0:
+    case 0xFDD1:
+        return true;
+    default:
+        return false;
+    }
+}
+
+QString drawnText(QString text)
+{
+    constexpr QChar sign = u'\u2424'; // for a line end: found in most fonts
+    if (std::any_of(text.cbegin(), text.cend(), isDrawnAsSign))
+        std::replace_if(text.begin(), text.end(), isDrawnAsSign, sign);
+    return text;
+}
+} // namespace
+
+int LinePiece::inLayout(qsizetype place) const
+{
+    const bool behind = preeditAt >= 0 && place > preeditAt;
+    return static_cast<int>(place + (behind ? layout->preeditAreaText().size() : 0));
+}
+
+qsizetype LinePiece::fromLayout(int place) const
+{
+    if (preeditAt < 0 || place <= preeditAt)
+        return place;
+    return std::max(place - layout->preeditAreaText().size(), preeditAt);
+}
+
+LineLayouts::LineLayouts(const SurfaceText &text, const FormatRuns &looks, std::function<QColor(ColourValue)> colour)
+    : m_text(text), m_looks(looks), m_colour(std::move(colour))
+{
+    setStyle(m_style);
+}
+
+void LineLayouts::setStyle(const LayoutStyle &style)
+{
+    m_style = style;
+    m_advance = std::max(QFontMetricsF(style.font).horizontalAdvance(u'x'), 1.0);
+    QTextLayout empty(QString(), style.font);
+    empty.beginLayout();
+    QTextLine row = empty.createLine();
+    row.setLineWidth(unlimited);
+    empty.endLayout();
+    m_rowHeight = std::max(row.height(), 1.0);
+    forgetAll();
+}
+
+int LineLayouts::pieceCount(qsizetype line) const
+{
+    const qsizetype length = m_text.lineLength(line);
+    return length <= longestInOne ? 1 : static_cast<int>((length + pieceLength / 2) / pieceLength);
+}
+
+qsizetype LineLayouts::pieceStart(qsizetype line, int piece) const
+{
+    if (piece <= 0)
+        return 0;
+    if (piece >= pieceCount(line))
+        return m_text.lineLength(line);
+    // Characters that are drawn as one stay together, unless they are more than anybody writes.
+    const qsizetype wanted = piece * pieceLength;
+    const QString around = m_text.mid(m_text.lineStart(line) + wanted - lookBack, lookBack + 2);
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, around);
+    finder.setPosition(lookBack);
+    const qsizetype found = finder.isAtBoundary() ? lookBack : finder.toPreviousBoundary();
+    const bool cutsPair = around[lookBack].isLowSurrogate() && around[lookBack - 1].isHighSurrogate();
+    return found > 0 ? wanted - lookBack + found : wanted - (cutsPair ? 1 : 0);
+}
+
+int LineLayouts::pieceOf(qsizetype line, qsizetype column) const
+{
+    int piece = std::clamp(static_cast<int>(column / pieceLength), 0, pieceCount(line) - 1);
+    while (piece + 1 < pieceCount(line) && pieceStart(line, piece + 1) <= column)
+        ++piece;
+    while (piece > 0 && pieceStart(line, piece) > column)
+        --piece;
+    return piece;
+}
+
+const LinePiece &LineLayouts::piece(qsizetype line, int piece)
+{
+    Line &kept = m_lines[line];
+    const auto found = kept.pieces.find(piece);
+    if (found != kept.pieces.end())
+        return found->second;
+    const LinePiece &made = kept.pieces.emplace(piece, laidOut(line, piece)).first->second;
+    kept.sizes[piece] = {made.length, made.width, made.rowCount()};
+    if (kept.advance <= 0 && made.length > 0)
+        kept.advance = made.width / static_cast<qreal>(made.length);
+    return made;
+}
+
+LinePiece LineLayouts::laidOut(qsizetype line, int number) const
+{
+    LinePiece piece;
+    piece.start = pieceStart(line, number);
+    piece.length = pieceStart(line, number + 1) - piece.start;
+    const QString text = drawnText(m_text.mid(m_text.lineStart(line) + piece.start, piece.length));
+    piece.layout = std::make_unique<QTextLayout>(text, m_style.font);
+    QTextLayout &layout = *piece.layout;
+    layout.setCacheEnabled(true);
+    QTextOption option;
+    option.setTabStopDistance(m_style.tabDistance);
+    option.setWrapMode(wraps() ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::NoWrap);
+    if (!wraps()) // a row that is as long as its line has no right side to stand at
+        option.setAlignment(Qt::AlignLeft | Qt::AlignAbsolute);
+    layout.setTextOption(option);
+    if (m_preedit.line == line && pieceOf(line, m_preedit.column) == number) {
+        piece.preeditAt = m_preedit.column - piece.start;
+        layout.setPreeditArea(static_cast<int>(piece.preeditAt), m_preedit.text);
+    }
+    layout.setFormats(formatsOf(line, piece));
+    layout.beginLayout();
+    for (QTextLine row = layout.createLine(); row.isValid(); row = layout.createLine()) {
+        row.setLineWidth(wraps() ? m_style.wrapWidth : unlimited);
+        row.setPosition({0, piece.height});
+        piece.height += row.height();
+        const int end = row.textStart() + row.textLength();
+        piece.width =
+            std::max({piece.width, row.naturalTextWidth(), row.cursorToX(end), row.cursorToX(row.textStart())});
+    }
+    layout.endLayout();
+    return piece;
+}
+
+QList<QTextLayout::FormatRange> LineLayouts::formatsOf(qsizetype line, const LinePiece &piece) const
+{
+    QList<QTextLayout::FormatRange> formats;
+    const qsizetype first = m_text.lineStart(line) + piece.start;
+    m_looks.forEachRun(first, first + piece.length, [&](qsizetype from, qsizetype to, const Look &look) {
+        if (look == Look())
+            return;
+        QTextCharFormat format;
+        if (look.colour != WindowTextColour)
+            format.setForeground(m_colour(look.colour));
+        if (look.bold)
+            format.setFontWeight(QFont::Bold);
+        if (look.underline)
+            format.setFontUnderline(true);
+        const int start = piece.inLayout(from - first + 1) - 1; // behind composed text, if it starts there
+        formats.append({start, piece.inLayout(to - first) - start, format});
+    });
+    for (QTextLayout::FormatRange composed : piece.preeditAt < 0 ? decltype(formats)() : m_preedit.formats) {
+        composed.start += static_cast<int>(piece.preeditAt);
+        formats.append(composed);
+    }
+    return formats;
+}
+
+const LineLayouts::Line *LineLayouts::known(qsizetype line) const
+{
+    const auto found = m_lines.find(line);
+    return found == m_lines.end() ? nullptr : &found->second;
+}
+
+qreal LineLayouts::pieceLeft(qsizetype line, int piece) const
+{
+    const Line *kept = known(line);
+    const qreal advance = kept && kept->advance > 0 ? kept->advance : m_advance;
+    qreal left = piece == 0 ? 0 : static_cast<qreal>(pieceStart(line, piece)) * advance;
+    if (kept) {
+        for (auto i = kept->sizes.begin(); i != kept->sizes.lower_bound(piece); ++i)
+            left += i->second.width - static_cast<qreal>(i->second.length) * advance;
+    }
+    return left;
+}
+
+int LineLayouts::pieceAtPixel(qsizetype line, qreal x)
+{
+    const int last = pieceCount(line) - 1;
+    if (last == 0)
+        return 0;
+    piece(line, 0); // which tells how wide a character is
+    const qreal advance = std::max(known(line)->advance, 0.1);
+    int number = std::clamp(static_cast<int>(x / advance / pieceLength), 0, last);
+    while (number > 0 && pieceLeft(line, number) > x)
+        --number;
+    while (number < last && pieceLeft(line, number) + piece(line, number).width <= x)
+        ++number;
+    return number;
+}
+
+qreal LineLayouts::lineWidth(qsizetype line) const
+{
+    return pieceLeft(line, pieceCount(line));
+}
+
+qreal LineLayouts::heightOf(qsizetype line)
+{
+    if (pieceCount(line) == 1)
+        return piece(line, 0).height;
+    qreal height = m_rowHeight;
+    if (const Line *kept = known(line)) {
+        for (const auto &[number, piece] : kept->pieces)
+            height = std::max(height, piece.height);
+    }
+    return height;
+}
+
+int LineLayouts::estimatedRows(qsizetype length) const
+{
+    const qsizetype columns = std::max(static_cast<qsizetype>(m_style.wrapWidth / m_advance), qsizetype(1));
+    if (length <= longestInOne)
+        return static_cast<int>(std::max((length + columns - 1) / columns, qsizetype(1)));
+    return static_cast<int>((length + pieceLength / 2) / pieceLength * ((pieceLength + columns - 1) / columns));
+}
+
+int LineLayouts::rowsBefore(qsizetype line, int piece) const
+{
+    const int count = pieceCount(line);
+    const int each = estimatedRows(count == 1 ? m_text.lineLength(line) : pieceLength);
+    int rows = piece * each;
+    if (const Line *kept = known(line)) {
+        for (auto i = kept->sizes.begin(); i != kept->sizes.lower_bound(piece); ++i)
+            rows += i->second.rows - each;
+    }
+    return rows;
+}
+
+int LineLayouts::rowsOf(qsizetype line) const
+{
+    return rowsBefore(line, pieceCount(line));
+}
+
+void LineLayouts::forgetAll()
+{
+    m_lines.clear();
+}
+
+void LineLayouts::replaceLines(qsizetype line, qsizetype removed, qsizetype added)
+{
+    std::unordered_map<qsizetype, Line> kept;
+    for (auto &[number, layouts] : m_lines) {
+        if (number < line)
+            kept.emplace(number, std::move(layouts));
+        else if (number >= line + removed)
+            kept.emplace(number + added - removed, std::move(layouts));
+    }
+    m_lines.swap(kept);
+}
+
+bool LineLayouts::forgetStretches(const std::vector<TextStretch> &stretches)
+{
+    return std::erase_if(m_lines, [&](const auto &line) {
+               const qsizetype start = m_text.lineStart(line.first);
+               const qsizetype end = m_text.lineEnd(line.first);
+               const auto first = std::partition_point(stretches.begin(), stretches.end(),
+                                                       [&](const TextStretch &part) { return part.to <= start; });
+               return first != stretches.end() && first->from < end;
+           }) > 0;
+}
+
+void LineLayouts::keepOnly(qsizetype firstLine, qsizetype lastLine)
+{
+    std::erase_if(m_lines, [&](const auto &line) { return line.first < firstLine || line.first > lastLine; });
+}
+
+void LineLayouts::setPreedit(const Preedit &preedit)
+{
+    m_lines.erase(m_preedit.line);
+    m_preedit = preedit;
+    m_lines.erase(m_preedit.line);
+}

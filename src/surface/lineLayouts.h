@@ -1,0 +1,108 @@
+#pragma once
+
+#include "surface/formatRuns.h"
+#include "surface/surfaceText.h"
+
+#include <QColor>
+#include <QFont>
+#include <QTextLayout>
+#include <functional>
+#include <map>
+#include <memory>
+#include <unordered_map>
+
+/// How lines are laid out.
+struct LayoutStyle {
+    QFont font;
+    qreal tabDistance = 80; ///< pixels
+    qreal wrapWidth = 0;    ///< pixels that a row may take; 0: a row is as long as its line
+    bool operator==(const LayoutStyle &) const = default;
+};
+
+/// Text that an input method composes at a place of a line, and which is not part of the text yet.
+struct Preedit {
+    qsizetype line = -1;
+    qsizetype column = 0;
+    QString text;
+    QList<QTextLayout::FormatRange> formats; ///< counted from the start of the composed text
+};
+
+/// A part of a line that is laid out in one: the whole line, if it is not a long one.
+struct LinePiece {
+    qsizetype start = 0; ///< in its line
+    qsizetype length = 0;
+    qsizetype preeditAt = -1; ///< where in the piece text is composed; -1: nowhere
+    std::unique_ptr<QTextLayout> layout;
+    qreal width = 0;  ///< of its widest row, in pixels
+    qreal height = 0; ///< of all its rows
+
+    int rowCount() const { return layout->lineCount(); }
+    /// The place in the layout of a place in the piece, and back. Both differ behind composed text.
+    int inLayout(qsizetype place) const;
+    qsizetype fromLayout(int place) const;
+};
+
+/// The layouts of the lines that somebody looks at. They are made when they are asked for and kept until they are
+/// forgotten; how much of a text lies between two lines costs nothing.
+///
+/// A line of more than two thousand characters is laid out in pieces of about a thousand, so that it costs what is seen
+/// of it. What pieces that were never laid out take is estimated by the width of a letter.
+class LineLayouts
+{
+public:
+    LineLayouts(const SurfaceText &text, const FormatRuns &looks, std::function<QColor(ColourValue)> colour);
+
+    const LayoutStyle &style() const { return m_style; }
+    void setStyle(const LayoutStyle &style); ///< forgets all layouts
+    bool wraps() const { return m_style.wrapWidth > 0; }
+    qreal rowHeight() const { return m_rowHeight; } ///< of a row in the style's own font, in pixels
+    qreal advance() const { return m_advance; }     ///< of a letter of the style's font, in pixels
+
+    int pieceCount(qsizetype line) const;
+    qsizetype pieceStart(qsizetype line, int piece) const; ///< in the line; for the count of pieces the line's length
+    int pieceOf(qsizetype line, qsizetype column) const;   ///< the last one that starts at or before the column
+    const LinePiece &piece(qsizetype line, int piece);     ///< laid out, if it is not yet
+    /// Where a piece of a row that is not wrapped starts, in pixels from the row's start.
+    qreal pieceLeft(qsizetype line, int piece) const;
+    /// The piece of a row that is not wrapped in which a place, counted in pixels, lies.
+    int pieceAtPixel(qsizetype line, qreal x);
+    qreal lineWidth(qsizetype line) const; ///< in pixels, as far as is known
+    qreal heightOf(qsizetype line);        ///< of a row that is not wrapped
+    int rowsOf(qsizetype line) const;      ///< of a wrapped line, as far as is known
+    int rowsBefore(qsizetype line, int piece) const;
+    int estimatedRows(qsizetype length) const; ///< of a line of that many characters
+
+    void forgetAll();
+    /// Forgets lines that gave way to others, and keeps those behind them under their new numbers.
+    void replaceLines(qsizetype line, qsizetype removed, qsizetype added);
+    /// Forgets the lines in which characters came to look different; true if there were any.
+    bool forgetStretches(const std::vector<TextStretch> &stretches);
+    void keepOnly(qsizetype firstLine, qsizetype lastLine); ///< forgets all others
+    void setPreedit(const Preedit &preedit);
+    const Preedit &preedit() const { return m_preedit; }
+
+private:
+    struct Size {
+        qsizetype length = 0;
+        qreal width = 0;
+        int rows = 0;
+    };
+    struct Line {
+        std::unordered_map<int, LinePiece> pieces;
+        std::map<int, Size> sizes; ///< of the pieces that were laid out once
+        qreal advance = 0;         ///< of a character, by the first piece that was laid out
+    };
+
+    LinePiece laidOut(qsizetype line, int piece) const;
+    QList<QTextLayout::FormatRange> formatsOf(qsizetype line, const LinePiece &piece) const;
+    const Line *known(qsizetype line) const;
+
+    const SurfaceText &m_text;
+    const FormatRuns &m_looks;
+    std::function<QColor(ColourValue)> m_colour;
+    LayoutStyle m_style;
+    Preedit m_preedit;
+    qreal m_rowHeight = 1;
+    qreal m_advance = 1;
+    std::unordered_map<qsizetype, Line> m_lines;
+};
