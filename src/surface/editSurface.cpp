@@ -286,14 +286,14 @@ QList<EditSurface::VisibleLine> EditSurface::visibleLines() const
 void EditSurface::select(qsizetype anchor, qsizetype caret)
 {
     const Selection selection{anchor, caret};
+    m_goalX.reset();
+    m_goalY.reset();
     if (selection == m_selection)
         return; // nor is the look lost that the next character is to take
     const Step step(this);
     endComposing();
     const Selection before = std::exchange(m_selection, selection);
     m_nextLook.reset();
-    m_goalX.reset();
-    m_goalY.reset();
     if (before.isEmpty() && m_selection.isEmpty()) {
         updateLines(m_text.lineAt(before.caret), m_text.lineAt(before.caret));
         updateLines(m_text.lineAt(caret), m_text.lineAt(caret));

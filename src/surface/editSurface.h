@@ -85,6 +85,8 @@ public:
     bool lineNumbers() const;
     LineMargin *margin() const { return m_margin; }
 
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+
 Q_SIGNALS:
     void Change();    ///< the text was changed, by the user or by the program; never for formats
     void SelChange(); ///< SelStart or SelLength is another
@@ -107,7 +109,6 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void inputMethodEvent(QInputMethodEvent *event) override;
-    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;

@@ -122,12 +122,13 @@ bool EditSurface::moves(const QKeyEvent &event)
     const qsizetype caret = m_selection.caret;
     const qsizetype line = m_text.lineAt(caret);
     const Move move = m_view.rightToLeft(caret) ? mirrored(found->move) : found->move;
+    const bool leaves = !keep && !m_selection.isEmpty(); // a selection, at the side that the key points to
     switch (move) {
     case Move::NextCharacter:
-        moveTo(surfaceMoves::nextCharacter(m_text, caret), keep);
+        moveTo(leaves ? m_selection.to() : surfaceMoves::nextCharacter(m_text, caret), keep);
         break;
     case Move::PreviousCharacter:
-        moveTo(surfaceMoves::previousCharacter(m_text, caret), keep);
+        moveTo(leaves ? m_selection.from() : surfaceMoves::previousCharacter(m_text, caret), keep);
         break;
     case Move::NextWord:
         moveTo(surfaceMoves::nextWord(m_text, caret), keep);
@@ -185,7 +186,10 @@ void EditSurface::moveByRows(bool down, bool keepAnchor)
     const qreal x = m_goalX.value_or(caretRect().left() + m_view.left());
     RowPlace row = m_view.rowOf(m_selection.caret);
     const bool moved = down ? m_view.next(row) : m_view.previous(row);
-    moveTo(moved ? m_view.positionInRow(row, x - m_view.left()) : m_selection.caret, keepAnchor);
+    if (!moved && keepAnchor) // the rest of the first or the last row
+        return moveTo(down ? m_text.length() : 0, true);
+    if (moved)
+        moveTo(m_view.positionInRow(row, x - m_view.left()), keepAnchor);
     m_goalX = x;
 }
 
@@ -230,6 +234,7 @@ void EditSurface::moveByPage(bool down, bool keepAnchor)
 
 void EditSurface::deleteTo(qsizetype position)
 {
+    m_goalX.reset();
     if (!m_selection.isEmpty())
         removeSelection();
     else
