@@ -44,6 +44,11 @@ public:
     bool setFormat(qsizetype start, qsizetype length, const TextFormat &format) override;
     void setFormats(const QList<FormatRange> &ranges) override;
 
+    /// Marks ranges, in the place of those that were marked as that kind; marks go with their text through edits. Of a
+    /// negative start or length, and of what is not in the text, there are none.
+    void setMarkedRanges(MarkKind kind, const QList<MarkedRange> &ranges);
+    QList<MarkedRange> markedRanges() const override { return m_marks; }
+
     bool Locked() const override { return m_locked; }
     void setLocked(bool locked) override { m_locked = locked; }
     bool HideSelection() const override { return m_hideSelection; }
@@ -170,7 +175,9 @@ private:
     void updateAll();
     void updateLines(qsizetype first, qsizetype last);
     void paintRow(QPainter &painter, const ShownRow &row, const QRect &clip);
-    QList<QTextLayout::FormatRange> selectedIn(qsizetype line, const LinePiece &piece) const;
+    QList<QTextLayout::FormatRange> drawnOver(qsizetype line, const LinePiece &piece) const;
+    QTextCharFormat formatOf(MarkKind kind) const;
+    void moveMarks(qsizetype from, qsizetype to, qsizetype added);
     void paintCaret(QPainter &painter, const ShownRow &row);
     QRectF caretRect() const;
 
@@ -206,6 +213,7 @@ private:
     FormatRuns m_looks;
     mutable SurfaceView m_view; ///< laying out what is asked for is no change
     LineMargin *m_margin = nullptr;
+    QList<MarkedRange> m_marks; ///< in order of their starts
     Selection m_selection;
     std::optional<Look> m_nextLook;         ///< set for the next character, until the caret moves
     std::optional<qreal> m_goalX;           ///< where moves up and down keep to, in pixels of the rows

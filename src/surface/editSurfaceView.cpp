@@ -187,7 +187,7 @@ void EditSurface::paintRow(QPainter &painter, const ShownRow &row, const QRect &
             break;
         const LinePiece &piece = layouts.piece(line, number);
         const QPointF origin(x, row.top - piece.layout->lineAt(row.place.row).y());
-        piece.layout->draw(&painter, origin, selectedIn(line, piece), clip);
+        piece.layout->draw(&painter, origin, drawnOver(line, piece), clip);
         const qsizetype caret = m_selection.caret - m_text.lineStart(line) - piece.start;
         const bool holdsCaret = caret >= 0 && caret <= piece.length && m_text.lineAt(m_selection.caret) == line &&
                                 layouts.pieceOf(line, caret + piece.start) == number;
@@ -200,19 +200,71 @@ void EditSurface::paintRow(QPainter &painter, const ShownRow &row, const QRect &
     }
 }
 
-/// What of a piece is selected, as it is drawn.
-QList<QTextLayout::FormatRange> EditSurface::selectedIn(qsizetype line, const LinePiece &piece) const
+/// What is drawn over a piece's own look: marks, and over them what is selected.
+QList<QTextLayout::FormatRange> EditSurface::drawnOver(qsizetype line, const LinePiece &piece) const
 {
+    QList<QTextLayout::FormatRange> drawn;
     const qsizetype first = m_text.lineStart(line) + piece.start;
-    const qsizetype from = std::clamp(m_selection.from() - first, qsizetype(0), piece.length);
-    const qsizetype to = std::clamp(m_selection.to() - first, qsizetype(0), piece.length);
-    if (m_hideSelection || from >= to)
-        return {};
+    const auto draw = [&](qsizetype rangeStart, qsizetype rangeEnd, const QTextCharFormat &format) {
+        const qsizetype from = std::clamp(rangeStart - first, qsizetype(0), piece.length);
+        const qsizetype to = std::clamp(rangeEnd - first, qsizetype(0), piece.length);
+        const int start = piece.inLayout(from);
+        if (from < to)
+            drawn.append({start, piece.inLayout(to) - start, format});
+    };
+    for (const MarkedRange &mark : m_marks)
+        draw(mark.start, mark.start + mark.length, formatOf(mark.kind));
+    QTextCharFormat selected;
+    selected.setBackground(palette().highlight());
+    selected.setForeground(palette().highlightedText());
+    if (!m_hideSelection)
+        draw(m_selection.from(), m_selection.to(), selected);
+    return drawn;
+}
+
+QTextCharFormat EditSurface::formatOf(MarkKind kind) const
+{
     QTextCharFormat format;
-    format.setBackground(palette().highlight());
-    format.setForeground(palette().highlightedText());
-    const int start = piece.inLayout(from);
-    return {{start, piece.inLayout(to) - start, format}};
+    if (kind == MarkKind::Error) {
+        format.setUnderlineStyle(QTextCharFormat::WaveUnderline);
+        format.setUnderlineColor(m_darkGround ? QColor(255, 110, 100) : QColor(224, 60, 49));
+        return format;
+    }
+    constexpr int strength = 70; // of 255: the text on it stays as readable as it is
+    QColor ground = kind == MarkKind::Match ? QColor(255, 200, 0) : palette().color(QPalette::Highlight);
+    ground.setAlpha(strength);
+    format.setBackground(ground);
+    return format;
+}
+
+void EditSurface::setMarkedRanges(MarkKind kind, const QList<MarkedRange> &ranges)
+{
+    const QList<MarkedRange> before = m_marks;
+    m_marks.removeIf([&](const MarkedRange &mark) { return mark.kind == kind; });
+    for (const MarkedRange &range : ranges) {
+        if (range.start >= 0 && range.length >= 0 && range.start <= m_text.length())
+            m_marks.append({range.start, std::min(range.length, m_text.length() - range.start), kind});
+    }
+    std::stable_sort(m_marks.begin(), m_marks.end(),
+                     [](const MarkedRange &one, const MarkedRange &other) { return one.start < other.start; });
+    if (m_marks != before)
+        updateAll();
+}
+
+/// Keeps the marks at their text; those that lost all of theirs go.
+void EditSurface::moveMarks(qsizetype from, qsizetype to, qsizetype added)
+{
+    const auto moved = [&](qsizetype place, bool isEnd) {
+        if (place < from || (isEnd && place == from))
+            return place;
+        return place >= to ? place + added - (to - from) : (isEnd ? from : from + added);
+    };
+    for (MarkedRange &mark : m_marks) {
+        const qsizetype end = moved(mark.start + mark.length, true);
+        mark.start = moved(mark.start, false);
+        mark.length = std::max(end - mark.start, qsizetype(0));
+    }
+    m_marks.removeIf([](const MarkedRange &mark) { return mark.length == 0; });
 }
 
 /// Shows the caret now, and lets it blink as the desktop has it; or hides it.
