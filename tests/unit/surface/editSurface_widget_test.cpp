@@ -207,7 +207,7 @@ TEST_F(EditSurfaceWidget, AHundredThousandMarksOnALetterAreShown)
         surface.setWrapToWindow(wrap);
         const auto [setting, key] = timesOf(u'e' + QString(100'000, QChar(0x301)), 50'000);
         EXPECT_LT(setting, 2000) << wrap;
-        EXPECT_LT(key, 500) << wrap;
+        EXPECT_LT(key, 3000) << wrap; // each piece is as narrow as nothing, so that all of them are on view
     }
 }
 } // namespace
