@@ -14,27 +14,19 @@
 #include "surface/editSurface.h"
 
 #include <QApplication>
-#include <QTextBlock>
-#include <QTextCursor>
 
 namespace drive
 {
 namespace
 {
-constexpr QChar Mark = u'\u2424'; ///< what the surface keeps such characters under
-
-/// The text that the widget holds, read block by block, with what it keeps under a mark in its place.
-QString textOfWidget(const QTextDocument &document)
+/// The text that the surface keeps, read line by line as it is laid out.
+QString textOfLines(const EditSurface &surface)
 {
     QString text;
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        if (block.blockNumber() > 0)
-            text += QStringLiteral("\r\n");
-        for (auto part = block.begin(); !part.atEnd(); ++part) {
-            const QTextFragment fragment = part.fragment();
-            const int hidden = fragment.charFormat().intProperty(HiddenCharacterProperty);
-            text += hidden ? fragment.text().replace(Mark, QChar(hidden)) : fragment.text();
-        }
+    for (qsizetype line = 0; line < surface.lineCount(); ++line) {
+        const qsizetype start = surface.characterFromLine(line).value_or(0);
+        const qsizetype end = surface.characterFromLine(line + 1).value_or(surface.textLength());
+        text += surface.textPart(start, end - start);
     }
     return text;
 }
@@ -42,7 +34,7 @@ QString textOfWidget(const QTextDocument &document)
 void checkSurface(Stage &stage, const QString &name, EditSurface &surface)
 {
     const QString text = surface.Text();
-    const QString held = textOfWidget(*surface.document());
+    const QString held = textOfLines(surface);
     if (held != text)
         stage.referee.fail(QStringLiteral("the surface of %1 to hold the text that it tells of").arg(name),
                            quotedAgainst(text, held));
