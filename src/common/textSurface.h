@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/colour.h"
+#include "common/markedRange.h"
 
 #include <QList>
 #include <QString>
@@ -20,19 +21,6 @@ struct FormatRange {
     qsizetype start = 0;
     qsizetype length = 0;
     TextFormat format;
-};
-
-/// A range that the surface marks for its user, in positions of TextSurface, and what as.
-enum class MarkKind {
-    Match, ///< one of the places that a search has found
-    Pair,  ///< the other end of what the caret stands at
-    Error, ///< a fault in the source
-};
-struct MarkedRange {
-    qsizetype start = 0;
-    qsizetype length = 0;
-    MarkKind kind = MarkKind::Match;
-    bool operator==(const MarkedRange &) const = default;
 };
 
 /// The text of a document with its selection and its colours.
@@ -87,7 +75,11 @@ public:
             setFormat(range.start, range.length, range.format);
     }
 
-    /// What is marked now, beside the colours and without a change of them; in order of their starts.
+    /// Marks ranges in the place of all that this owner has marked. Marks go with their text through edits, and go
+    /// where all of it goes. Those with a negative start or length, or behind the end, are left out.
+    /// A surface may have none.
+    virtual void setMarkedRanges(MarkOwner, const QList<MarkedRange> &) {}
+    /// What is marked now, by whomever; in order of their starts.
     virtual QList<MarkedRange> markedRanges() const { return {}; }
 
     virtual bool Locked() const = 0;

@@ -319,7 +319,7 @@ void EditSurface::putText(qsizetype from, qsizetype to, const QString &text, con
     const qreal height = oneRow ? m_view.heightOf(row) : 0;
     m_text.replace(from, to - from, text);
     m_looks.replace(from, to - from, text.size(), look);
-    moveMarks(from, to, text.size());
+    m_marks.move(from, to, text.size());
     const qsizetype added = m_text.lineAt(from + text.size()) - line + 1;
     m_view.linesReplaced(line, removed, added);
     for (qsizetype *place : {&m_selection.anchor, &m_selection.caret}) {

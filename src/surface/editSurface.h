@@ -5,6 +5,7 @@
 #include "surface/surfaceHooks.h"
 #include "surface/surfaceText.h"
 #include "surface/surfaceView.h"
+#include "surface/textMarks.h"
 
 #include <QAbstractScrollArea>
 #include <QBasicTimer>
@@ -44,10 +45,8 @@ public:
     bool setFormat(qsizetype start, qsizetype length, const TextFormat &format) override;
     void setFormats(const QList<FormatRange> &ranges) override;
 
-    /// Marks ranges, in the place of those that were marked as that kind; marks go with their text through edits. Of a
-    /// negative start or length, and of what is not in the text, there are none.
-    void setMarkedRanges(MarkKind kind, const QList<MarkedRange> &ranges);
-    QList<MarkedRange> markedRanges() const override { return m_marks; }
+    void setMarkedRanges(MarkOwner owner, const QList<MarkedRange> &ranges) override;
+    QList<MarkedRange> markedRanges() const override { return m_marks.all(); }
 
     bool Locked() const override { return m_locked; }
     void setLocked(bool locked) override { m_locked = locked; }
@@ -177,7 +176,7 @@ private:
     void paintRow(QPainter &painter, const ShownRow &row, const QRect &clip);
     QList<QTextLayout::FormatRange> drawnOver(qsizetype line, const LinePiece &piece) const;
     QTextCharFormat formatOf(MarkKind kind) const;
-    void moveMarks(qsizetype from, qsizetype to, qsizetype added);
+    QColor markColour(MarkKind kind) const;
     void paintCaret(QPainter &painter, const ShownRow &row);
     QRectF caretRect() const;
 
@@ -213,7 +212,7 @@ private:
     FormatRuns m_looks;
     mutable SurfaceView m_view; ///< laying out what is asked for is no change
     LineMargin *m_margin = nullptr;
-    QList<MarkedRange> m_marks; ///< in order of their starts
+    TextMarks m_marks;
     Selection m_selection;
     std::optional<Look> m_nextLook;         ///< set for the next character, until the caret moves
     std::optional<qreal> m_goalX;           ///< where moves up and down keep to, in pixels of the rows

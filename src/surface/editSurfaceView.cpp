@@ -212,8 +212,9 @@ QList<QTextLayout::FormatRange> EditSurface::drawnOver(qsizetype line, const Lin
         if (from < to)
             drawn.append({start, piece.inLayout(to) - start, format});
     };
-    for (const MarkedRange &mark : m_marks)
+    m_marks.forEachAt(first, first + piece.length, [&](const MarkedRange &mark) {
         draw(mark.start, mark.start + mark.length, formatOf(mark.kind));
+    });
     QTextCharFormat selected;
     selected.setBackground(palette().highlight());
     selected.setForeground(palette().highlightedText());
@@ -225,46 +226,47 @@ QList<QTextLayout::FormatRange> EditSurface::drawnOver(qsizetype line, const Lin
 QTextCharFormat EditSurface::formatOf(MarkKind kind) const
 {
     QTextCharFormat format;
-    if (kind == MarkKind::Error) {
+    switch (kind) {
+    case MarkKind::Error:
+    case MarkKind::Hint:
         format.setUnderlineStyle(QTextCharFormat::WaveUnderline);
-        format.setUnderlineColor(m_darkGround ? QColor(255, 110, 100) : QColor(224, 60, 49));
-        return format;
+        format.setUnderlineColor(markColour(kind));
+        break;
+    case MarkKind::Match:
+    case MarkKind::Pair:
+        format.setBackground(markColour(kind));
+        break;
+    default: // which is drawn elsewhere
+        break;
     }
-    constexpr int strength = 70; // of 255: the text on it stays as readable as it is
-    QColor ground = kind == MarkKind::Match ? QColor(255, 200, 0) : palette().color(QPalette::Highlight);
-    ground.setAlpha(strength);
-    format.setBackground(ground);
     return format;
 }
 
-void EditSurface::setMarkedRanges(MarkKind kind, const QList<MarkedRange> &ranges)
+/// The colour of a mark's line or ground; the text on a ground stays as readable as it is.
+QColor EditSurface::markColour(MarkKind kind) const
 {
-    const QList<MarkedRange> before = m_marks;
-    m_marks.removeIf([&](const MarkedRange &mark) { return mark.kind == kind; });
-    for (const MarkedRange &range : ranges) {
-        if (range.start >= 0 && range.length >= 0 && range.start <= m_text.length())
-            m_marks.append({range.start, std::min(range.length, m_text.length() - range.start), kind});
+    constexpr int strength = 70; // of 255
+    QColor colour;
+    switch (kind) {
+    case MarkKind::Error:
+        return m_darkGround ? QColor(255, 110, 100) : QColor(224, 60, 49);
+    case MarkKind::Hint:
+        return m_darkGround ? QColor(110, 170, 240) : QColor(76, 139, 217);
+    case MarkKind::Match:
+        colour = QColor(255, 200, 0);
+        break;
+    default:
+        colour = palette().color(QPalette::Highlight);
+        break;
     }
-    std::stable_sort(m_marks.begin(), m_marks.end(),
-                     [](const MarkedRange &one, const MarkedRange &other) { return one.start < other.start; });
-    if (m_marks != before)
-        updateAll();
+    colour.setAlpha(strength);
+    return colour;
 }
 
-/// Keeps the marks at their text; those that lost all of theirs go.
-void EditSurface::moveMarks(qsizetype from, qsizetype to, qsizetype added)
+void EditSurface::setMarkedRanges(MarkOwner owner, const QList<MarkedRange> &ranges)
 {
-    const auto moved = [&](qsizetype place, bool isEnd) {
-        if (place < from || (isEnd && place == from))
-            return place;
-        return place >= to ? place + added - (to - from) : (isEnd ? from : from + added);
-    };
-    for (MarkedRange &mark : m_marks) {
-        const qsizetype end = moved(mark.start + mark.length, true);
-        mark.start = moved(mark.start, false);
-        mark.length = std::max(end - mark.start, qsizetype(0));
-    }
-    m_marks.removeIf([](const MarkedRange &mark) { return mark.length == 0; });
+    for (const TextStretch &changed : m_marks.set(owner, ranges, m_text.length()))
+        updateLines(m_text.lineAt(changed.from), m_text.lineAt(changed.to));
 }
 
 /// Shows the caret now, and lets it blink as the desktop has it; or hides it.

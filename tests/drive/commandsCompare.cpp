@@ -13,6 +13,8 @@
 #include <QPixmap>
 #include <QWidget>
 
+#include <algorithm>
+
 namespace drive
 {
 namespace
@@ -72,41 +74,65 @@ qsizetype positionOf(Stage &stage, const QString &word)
     return position;
 }
 
-std::optional<MarkKind> markNamed(const QString &name)
+constexpr std::pair<const char *, MarkKind> markNames[] = {
+    {"match", MarkKind::Match},      {"pair", MarkKind::Pair},       {"error", MarkKind::Error},
+    {"hint", MarkKind::Hint},        {"changed", MarkKind::Changed}, {"colour", MarkKind::Colour},
+    {"line", MarkKind::CurrentLine},
+};
+
+QString toldAs(const MarkedRange &mark)
 {
-    static const QHash<QString, MarkKind> kinds = {{QStringLiteral("match"), MarkKind::Match},
-                                                   {QStringLiteral("pair"), MarkKind::Pair},
-                                                   {QStringLiteral("error"), MarkKind::Error}};
-    const auto found = kinds.find(name);
-    return found == kinds.end() ? std::nullopt : std::optional(*found);
+    const QString place = QStringLiteral("%1 of %2").arg(mark.start).arg(mark.length);
+    return mark.tip.isEmpty() ? place : place + QStringLiteral(" (%1)").arg(mark.tip);
 }
 
-QString told(const QList<MarkedRange> &marks, MarkKind kind)
+QString told(const QList<MarkedRange> &marks)
 {
     QStringList places;
     for (const MarkedRange &mark : marks)
-        if (mark.kind == kind)
-            places.append(QStringLiteral("%1 of %2").arg(mark.start).arg(mark.length));
+        places.append(toldAs(mark));
     return places.isEmpty() ? QStringLiteral("none") : places.join(QStringLiteral(", "));
+}
+
+/// The marks of the kind that a word names.
+QList<MarkedRange> marksNamed(Stage &stage, const QString &name)
+{
+    const auto *const kind = std::find_if(std::begin(markNames), std::end(markNames),
+                                          [&](const auto &known) { return name == QLatin1String(known.first); });
+    if (kind == std::end(markNames))
+        stage.referee.wrong(QStringLiteral("%1 is no kind of mark").arg(name));
+    QList<MarkedRange> marks = stage.activeDocument().txtEdit().markedRanges();
+    marks.removeIf([&](const MarkedRange &mark) { return mark.kind != kind->second; });
+    return marks;
 }
 
 void expectMarked(Stage &stage, const Line &line)
 {
-    const auto kind = markNamed(line.words[2]);
-    if (!kind)
-        stage.referee.wrong(QStringLiteral("%1 is none of match, pair and error").arg(line.words[2]));
-    const MarkedRange expected{positionOf(stage, line.words[0]), positionOf(stage, line.words[1]), *kind};
-    const QList<MarkedRange> marks = stage.activeDocument().txtEdit().markedRanges();
-    if (!marks.contains(expected))
+    const qsizetype start = positionOf(stage, line.words[0]);
+    const qsizetype length = positionOf(stage, line.words[1]);
+    const QList<MarkedRange> marks = marksNamed(stage, line.words[2]);
+    const bool found = std::any_of(marks.begin(), marks.end(), [&](const MarkedRange &mark) {
+        const bool hasTip = line.words.size() < 4 || mark.tip == line.words[3];
+        return mark.start == start && mark.length == length && hasTip;
+    });
+    if (!found)
         stage.referee.fail(QStringLiteral("%1 of %2 marked as %3").arg(line.words[0], line.words[1], line.words[2]),
-                           told(marks, *kind));
+                           told(marks));
+}
+
+void expectNotMarked(Stage &stage, const Line &line)
+{
+    const QList<MarkedRange> marks = marksNamed(stage, line.words[0]);
+    if (!marks.isEmpty())
+        stage.referee.fail(QStringLiteral("nothing marked as %1").arg(line.words[0]), told(marks));
 }
 
 constexpr Command commands[] = {
     {"expect-same", 4, 4, expectSame},
     {"expect-absent", 1, 1, expectAbsent},
     {"expect-pixel", 4, 4, expectPixel},
-    {"expect-marked", 3, 3, expectMarked},
+    {"expect-marked", 3, 4, expectMarked},
+    {"expect-not-marked", 1, 1, expectNotMarked},
 };
 } // namespace
 

@@ -149,18 +149,30 @@ TEST_F(EditSurfaceWidget, AssistiveTechnologyReadsAndWrites)
 TEST_F(EditSurfaceWidget, MarksGoWithTheirText)
 {
     surface.setText(QStringLiteral("one two three"));
-    surface.setMarkedRanges(MarkKind::Error, {{4, 3, MarkKind::Error}, {8, 100, MarkKind::Error}});
-    surface.setMarkedRanges(MarkKind::Pair, {{0, 3, MarkKind::Pair}, {-1, 3, MarkKind::Pair}});
+    surface.setMarkedRanges(MarkOwner::Check,
+                            {{4, 3, MarkKind::Error, QStringLiteral("why")}, {8, 100, MarkKind::Hint}});
+    surface.setMarkedRanges(MarkOwner::Tags, {{0, 3, MarkKind::Pair}, {-1, 3, MarkKind::Pair}});
     surface.setSelStart(0);
     surface.setSelText(QStringLiteral(">> "));
-    const QList<MarkedRange> moved = {{3, 3, MarkKind::Pair}, {7, 3, MarkKind::Error}, {11, 5, MarkKind::Error}};
-    EXPECT_EQ(surface.markedRanges(), moved);
+    const MarkedRange one{3, 3, MarkKind::Pair};
+    EXPECT_EQ(surface.markedRanges(),
+              QList<MarkedRange>({one, {7, 3, MarkKind::Error, QStringLiteral("why")}, {11, 5, MarkKind::Hint}}));
     select(6, 5);
     surface.setSelText(QString());
-    const QList<MarkedRange> left = {{3, 3, MarkKind::Pair}, {6, 5, MarkKind::Error}};
-    EXPECT_EQ(surface.markedRanges(), left);
-    surface.setMarkedRanges(MarkKind::Error, {});
-    EXPECT_EQ(surface.markedRanges().size(), 1);
+    EXPECT_EQ(surface.markedRanges(), QList<MarkedRange>({one, {6, 5, MarkKind::Hint}}));
+    surface.setMarkedRanges(MarkOwner::Structure, {{7, 1, MarkKind::Hint}});
+    surface.setMarkedRanges(MarkOwner::Check, {});
+    EXPECT_EQ(surface.markedRanges(), QList<MarkedRange>({one, {7, 1, MarkKind::Hint}}));
+    surface.setText(QStringLiteral("one"));
+    EXPECT_TRUE(surface.markedRanges().isEmpty());
+}
+
+TEST_F(EditSurfaceWidget, AMarkOfAPlaceGoesWithIt)
+{
+    surface.setText(QStringLiteral("ab"));
+    surface.setMarkedRanges(MarkOwner::Check, {{2, 0, MarkKind::Error}, {3, 0, MarkKind::Error}});
+    surface.setSelText(QStringLiteral("x"));
+    EXPECT_EQ(surface.markedRanges(), QList<MarkedRange>({{3, 0, MarkKind::Error}}));
 }
 
 TEST_F(EditSurfaceWidget, WrappingKeepsTheTopWhenRowsAboveTurnOutToBeOthers)
