@@ -4,6 +4,7 @@
 #include "common/darkGround.h"
 #include "common/text.h"
 #include "surface/lineMargin.h"
+#include "surface/signMargin.h"
 #include "surface/surfaceAccessible.h"
 
 #include <QFontDatabase>
@@ -32,10 +33,12 @@ QPalette::ColorRole roleOf(ColourValue colour)
 
 EditSurface::EditSurface(QWidget *parent)
     : QAbstractScrollArea(parent),
-      m_view(m_text, m_looks, [this](ColourValue colour) { return colourFor(colour); }),
-      m_margin(new LineMargin(this))
+      m_view(m_text, m_looks, m_marks, [this](ColourValue colour) { return colourFor(colour); }),
+      m_margin(new LineMargin(this)),
+      m_signs(new SignMargin(this))
 {
     SurfaceAccessible::install();
+    m_signs->hide();
     m_darkGround = isOnDarkGround();
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_KeyCompression);
@@ -314,9 +317,7 @@ void EditSurface::putText(qsizetype from, qsizetype to, const QString &text, con
     const QString gone = told ? m_text.mid(from, to - from) : QString();
     const qsizetype line = m_text.lineAt(from);
     const qsizetype removed = m_text.lineAt(to) - line + 1;
-    const RowPlace row{line, 0, 0};
-    const bool oneRow = removed == 1 && !m_wrap;
-    const qreal height = oneRow ? m_view.heightOf(row) : 0;
+    const std::optional<qreal> height = removed == 1 ? m_view.lineHeight(line) : std::nullopt;
     m_text.replace(from, to - from, text);
     m_looks.replace(from, to - from, text.size(), look);
     m_marks.move(from, to, text.size());
@@ -330,7 +331,7 @@ void EditSurface::putText(qsizetype from, qsizetype to, const QString &text, con
     m_goalX.reset();
     m_goalY.reset();
     m_textChanged = true;
-    if (oneRow && added == 1 && m_view.heightOf(row) == height)
+    if (height && added == 1 && m_view.lineHeight(line) == height)
         updateLines(line, line);
     else
         updateAll();

@@ -13,6 +13,8 @@
 #include <QKeySequence>
 
 class LineMargin;
+class SignMargin;
+class QHelpEvent;
 class QMimeData;
 
 /// The edit surface of a document: a plain text widget with exactly the contract of TextSurface.
@@ -47,6 +49,12 @@ public:
 
     void setMarkedRanges(MarkOwner owner, const QList<MarkedRange> &ranges) override;
     QList<MarkedRange> markedRanges() const override { return m_marks.all(); }
+    /// The marks that touch a source line, counted from 0, in order of their starts.
+    QList<MarkedRange> marksOfLine(qsizetype line) const;
+    /// The colour of a mark's line or ground on this ground; grounds let the text shine through.
+    QColor markColour(MarkKind kind) const;
+    /// Where the square of a Colour mark is drawn, in the surface's own coordinates.
+    QRect squareOf(const MarkedRange &mark) const;
 
     bool Locked() const override { return m_locked; }
     void setLocked(bool locked) override { m_locked = locked; }
@@ -85,9 +93,14 @@ public:
     QList<VisibleLine> visibleLines() const;
 
     void setTabWidth(int characters);
+    /// How many points the text is shown larger than its font, which it leaves alone; below 0 it is smaller. Ctrl and
+    /// the wheel change it, as the desktop's keys for it do.
+    int zoom() const { return m_zoom; }
+    void setZoom(int points);
     void setLineNumbers(bool shown);
     bool lineNumbers() const;
     LineMargin *margin() const { return m_margin; }
+    SignMargin *signs() const { return m_signs; } ///< hidden until the first mark that it shows
 
     QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
@@ -100,6 +113,7 @@ Q_SIGNALS:
 
 protected:
     bool event(QEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
     bool focusNextPrevChild(bool) override { return false; } // Tab goes into the text
     void changeEvent(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
@@ -169,6 +183,8 @@ private:
     void followGround();
     void keepSelectionColours();
     void followFont();
+    QFont shownFont() const;
+    void zoomByWheel(const QWheelEvent &event);
     void followView();
     void placeMargin();
     void updateAll();
@@ -176,13 +192,15 @@ private:
     void paintRow(QPainter &painter, const ShownRow &row, const QRect &clip);
     QList<QTextLayout::FormatRange> drawnOver(qsizetype line, const LinePiece &piece) const;
     QTextCharFormat formatOf(MarkKind kind) const;
-    QColor markColour(MarkKind kind) const;
-    void paintCaret(QPainter &painter, const ShownRow &row);
+    void paintGround(QPainter &painter, const ShownRow &row);
+    void paintSquares(QPainter &painter);
+    std::optional<MarkedRange> squareAt(const QPoint &point) const;
+    bool showTip(const QHelpEvent &event);
+    void pointAtSquare(const QPoint &point);
     QRectF caretRect() const;
 
     bool moves(const QKeyEvent &event);
     bool edits(const QKeyEvent &event);
-    bool movesByPage(const QKeyEvent &event);
     void moveTo(qsizetype position, bool keepAnchor);
     void moveByRows(bool down, bool keepAnchor);
     void moveByPage(bool down, bool keepAnchor);
@@ -210,9 +228,10 @@ private:
     SurfaceHooks m_hooks;
     SurfaceText m_text;
     FormatRuns m_looks;
+    TextMarks m_marks;
     mutable SurfaceView m_view; ///< laying out what is asked for is no change
     LineMargin *m_margin = nullptr;
-    TextMarks m_marks;
+    SignMargin *m_signs = nullptr;
     Selection m_selection;
     std::optional<Look> m_nextLook;         ///< set for the next character, until the caret moves
     std::optional<qreal> m_goalX;           ///< where moves up and down keep to, in pixels of the rows
@@ -225,6 +244,8 @@ private:
     bool m_darkGround = false;  ///< the colours are drawn for a dark ground
     bool m_following = false;   ///< the scroll bars are being set
     int m_tabWidth = 4;         ///< in characters
+    int m_zoom = 0;
+    int m_zoomTurned = 0; ///< what the wheel was turned since the last whole step, in eighths of a degree
     bool m_wrap = false;
     bool m_locked = false;
     bool m_hideSelection = false;
@@ -235,6 +256,8 @@ private:
     QPoint m_pressed; ///< where the mouse went down, in the viewport
     bool m_selecting = false;
     bool m_mayDrag = false; ///< the mouse went down on the selection
+    std::optional<MarkedRange> m_pressedSquare;
+    bool m_overSquare = false;
     Unit m_unit = Unit::Character;
     Selection m_unitStart; ///< what the press selected that a drag extends
     QElapsedTimer m_doubleClick;

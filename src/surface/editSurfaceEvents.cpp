@@ -53,6 +53,8 @@ constexpr QKeySequence::StandardKey readingKeys[] = {
     QKeySequence::SelectEndOfDocument,
     QKeySequence::SelectAll,
     QKeySequence::Copy,
+    QKeySequence::ZoomIn,
+    QKeySequence::ZoomOut,
     QKeySequence::Deselect,
 };
 
@@ -194,7 +196,7 @@ QVariant EditSurface::inputMethodQuery(Qt::InputMethodQuery query) const
     case Qt::ImHints:
         return int(inputMethodHints());
     case Qt::ImFont:
-        return font();
+        return shownFont();
     case Qt::ImCursorRectangle:
         return caretRect().translated(viewport()->pos()).toRect();
     case Qt::ImAnchorRectangle:
@@ -249,6 +251,9 @@ void EditSurface::mousePressEvent(QMouseEvent *event)
         return;
     if (event->button() != Qt::LeftButton)
         return event->ignore();
+    m_pressedSquare = m_hooks.squareClicked ? squareAt(event->pos()) : std::nullopt;
+    if (m_pressedSquare)
+        return;
     const qsizetype place = positionAt(event->position().toPoint());
     const bool third = m_doubleClick.isValid() &&
                        m_doubleClick.elapsed() < QGuiApplication::styleHints()->mouseDoubleClickInterval() &&
@@ -292,8 +297,12 @@ void EditSurface::mouseDoubleClickEvent(QMouseEvent *event)
 
 void EditSurface::mouseMoveEvent(QMouseEvent *event)
 {
-    if (discarded(m_hooks.mouseMove, event) || !(event->buttons() & Qt::LeftButton))
+    if (discarded(m_hooks.mouseMove, event))
         return;
+    if (!(event->buttons() & Qt::LeftButton)) {
+        pointAtSquare(event->pos());
+        return;
+    }
     if (m_mayDrag) {
         if ((event->pos() - m_pressed).manhattanLength() > QApplication::startDragDistance())
             startDrag();
@@ -318,6 +327,11 @@ void EditSurface::dragTo(const QPoint &point)
 void EditSurface::mouseReleaseEvent(QMouseEvent *event)
 {
     m_autoScroll.stop();
+    if (const auto square = std::exchange(m_pressedSquare, std::nullopt)) {
+        if (square == squareAt(event->pos()))
+            m_hooks.squareClicked(*square);
+        return;
+    }
     const bool wasSelecting = std::exchange(m_selecting, false);
     const bool wasOnSelection = std::exchange(m_mayDrag, false);
     if (discarded(m_hooks.mouseUp, event))

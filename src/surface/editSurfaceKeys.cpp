@@ -250,6 +250,8 @@ bool EditSurface::edits(const QKeyEvent &event)
     if (event.matches(Key::SelectAll)) {
         select(0, m_text.length());
         copySelection(true);
+    } else if (event.matches(Key::ZoomIn) || event.matches(Key::ZoomOut)) {
+        setZoom(m_zoom + (event.matches(Key::ZoomIn) ? 1 : -1));
     } else if (event.matches(Key::Copy)) {
         copySelection(false);
     } else if (plainBackspace || event.matches(Key::Backspace)) {

@@ -1,7 +1,9 @@
 // What of the edit surface is seen: painting, scrolling, the caret's blinking, the margin.
 #include "surface/editSurface.h"
 #include "surface/lineMargin.h"
+#include "surface/signMargin.h"
 
+#include <QFontInfo>
 #include <QGuiApplication>
 #include <QPaintEvent>
 #include <QPainter>
@@ -105,6 +107,10 @@ void EditSurface::scrollContentsBy(int, int)
 
 void EditSurface::wheelEvent(QWheelEvent *event)
 {
+    if (event->modifiers() == Qt::ControlModifier && event->angleDelta().y() != 0) {
+        event->accept();
+        return zoomByWheel(*event);
+    }
     const bool byPixels = event->device() && event->device()->type() == QInputDevice::DeviceType::TouchPad &&
                           event->pixelDelta().y() != 0 && event->modifiers() == Qt::NoModifier;
     if (!byPixels)
@@ -115,6 +121,35 @@ void EditSurface::wheelEvent(QWheelEvent *event)
     updateAll();
     followView();
     event->accept();
+}
+
+void EditSurface::zoomByWheel(const QWheelEvent &event)
+{
+    m_zoomTurned += event.angleDelta().y();
+    const int steps = m_zoomTurned / QWheelEvent::DefaultDeltasPerStep;
+    m_zoomTurned -= steps * QWheelEvent::DefaultDeltasPerStep;
+    if (steps != 0)
+        setZoom(m_zoom + steps);
+}
+
+void EditSurface::setZoom(int points)
+{
+    constexpr int smallest = 4; // points of a font that can still be read
+    constexpr int largest = 96;
+    const int size = qRound(QFontInfo(font()).pointSizeF());
+    points = std::clamp(points, std::min(smallest - size, 0), std::max(largest - size, 0));
+    if (points == std::exchange(m_zoom, points))
+        return;
+    const Step step(this);
+    followFont();
+}
+
+QFont EditSurface::shownFont() const
+{
+    QFont shown = font();
+    if (m_zoom != 0)
+        shown.setPointSizeF(std::max(QFontInfo(shown).pointSizeF() + m_zoom, 1.0));
+    return shown;
 }
 
 void EditSurface::ensureCaretVisible()
@@ -143,6 +178,7 @@ void EditSurface::updateAll()
 {
     viewport()->update();
     m_margin->update();
+    m_signs->update();
 }
 
 void EditSurface::updateLines(qsizetype first, qsizetype last)
@@ -158,6 +194,8 @@ void EditSurface::paintEvent(QPaintEvent *event)
     QPainter painter(viewport());
     painter.setPen(palette().color(QPalette::Text));
     const std::vector<ShownRow> rows = m_view.rows();
+    for (const ShownRow &row : rows)
+        paintGround(painter, row);
     RowPlace drawn{-1, 0, 0};
     for (const ShownRow &row : rows) {
         const bool sameLayout = row.place.line == drawn.line && row.place.piece == drawn.piece;
@@ -167,6 +205,7 @@ void EditSurface::paintEvent(QPaintEvent *event)
         paintRow(painter, row, event->rect());
         drawn = row.place;
     }
+    paintSquares(painter);
     m_view.layouts().keepOnly(rows.front().place.line - keptAround, rows.back().place.line + keptAround);
     if (m_dropPlace)
         painter.fillRect(m_view.caretRect(*m_dropPlace), palette().color(QPalette::Text));
@@ -223,52 +262,6 @@ QList<QTextLayout::FormatRange> EditSurface::drawnOver(qsizetype line, const Lin
     return drawn;
 }
 
-QTextCharFormat EditSurface::formatOf(MarkKind kind) const
-{
-    QTextCharFormat format;
-    switch (kind) {
-    case MarkKind::Error:
-    case MarkKind::Hint:
-        format.setUnderlineStyle(QTextCharFormat::WaveUnderline);
-        format.setUnderlineColor(markColour(kind));
-        break;
-    case MarkKind::Match:
-    case MarkKind::Pair:
-        format.setBackground(markColour(kind));
-        break;
-    default: // which is drawn elsewhere
-        break;
-    }
-    return format;
-}
-
-/// The colour of a mark's line or ground; the text on a ground stays as readable as it is.
-QColor EditSurface::markColour(MarkKind kind) const
-{
-    constexpr int strength = 70; // of 255
-    QColor colour;
-    switch (kind) {
-    case MarkKind::Error:
-        return m_darkGround ? QColor(255, 110, 100) : QColor(224, 60, 49);
-    case MarkKind::Hint:
-        return m_darkGround ? QColor(110, 170, 240) : QColor(76, 139, 217);
-    case MarkKind::Match:
-        colour = QColor(255, 200, 0);
-        break;
-    default:
-        colour = palette().color(QPalette::Highlight);
-        break;
-    }
-    colour.setAlpha(strength);
-    return colour;
-}
-
-void EditSurface::setMarkedRanges(MarkOwner owner, const QList<MarkedRange> &ranges)
-{
-    for (const TextStretch &changed : m_marks.set(owner, ranges, m_text.length()))
-        updateLines(m_text.lineAt(changed.from), m_text.lineAt(changed.to));
-}
-
 /// Shows the caret now, and lets it blink as the desktop has it; or hides it.
 void EditSurface::showBlink(bool on)
 {
@@ -313,8 +306,10 @@ void EditSurface::focusOutEvent(QFocusEvent *event)
 void EditSurface::followFont()
 {
     m_view.setSize(viewport()->size());
-    m_view.setStyle(font(), m_tabWidth * QFontMetricsF(font()).horizontalAdvance(u' '), m_wrap);
-    m_margin->setFont(font());
+    const QFont shown = shownFont();
+    m_view.setStyle(shown, m_tabWidth * QFontMetricsF(shown).horizontalAdvance(u' '), m_wrap);
+    m_margin->setFont(shown);
+    m_signs->setFont(shown);
     placeMargin();
     updateAll();
     followView();
@@ -344,9 +339,11 @@ bool EditSurface::lineNumbers() const
 
 void EditSurface::placeMargin()
 {
+    const int signs = m_signs->isHidden() ? 0 : m_signs->widthNeeded();
     const int width = lineNumbers() ? m_margin->widthNeeded() : 0;
-    if (viewportMargins().left() != width)
-        setViewportMargins(width, 0, 0, 0);
+    if (viewportMargins().left() != signs + width)
+        setViewportMargins(signs + width, 0, 0, 0);
     const QRect inside = contentsRect();
-    m_margin->setGeometry(QRect(inside.left(), inside.top(), width, viewport()->height()));
+    m_signs->setGeometry(QRect(inside.left(), inside.top(), signs, viewport()->height()));
+    m_margin->setGeometry(QRect(inside.left() + signs, inside.top(), width, viewport()->height()));
 }

@@ -10,6 +10,8 @@ namespace
 constexpr qsizetype longestInOne = 2048;
 constexpr qsizetype pieceLength = 1024;
 constexpr qsizetype lookBack = 32;    // characters in which the start of what belongs together is looked for
+constexpr qsizetype mostMarks = 64;   // that are drawn on a letter; writing has a few
+constexpr qreal narrowest = 256;      // pixels of a piece, whose characters may all have no width
 constexpr qreal unlimited = 16000000; // pixels: a layout counts in 64ths of them, with 32 bits
 
 /// Characters that a layout would take for its own marks or for the end of a row are drawn as a sign.
@@ -27,12 +29,31 @@ bool isDrawnAsSign(QChar c)
     }
 }
 
-QString drawnText(QString text)
+constexpr QChar sign = u'\u2424'; // for a line end: found in most fonts
+
+/// Marks that nobody could see any more are drawn as signs, each with a width of its own, so that a view holds a number
+/// of them that can be laid out.
+void replaceSurplusMarks(QString &text)
 {
-    constexpr QChar sign = u'\u2424'; // for a line end: found in most fonts
+    qsizetype marks = 0;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const bool pair = text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
+        const char32_t code = pair ? QChar::surrogateToUcs4(text[i], text[i + 1]) : text[i].unicode();
+        marks = QChar::isMark(code) ? marks + 1 : 0;
+        if (marks > mostMarks)
+            std::fill_n(text.begin() + i, pair ? 2 : 1, sign);
+        i += pair ? 1 : 0;
+    }
+}
+
+/// What is drawn of a text behind its first `skipped` characters.
+QString drawnText(QString text, qsizetype skipped)
+{
     if (std::any_of(text.cbegin(), text.cend(), isDrawnAsSign))
         std::replace_if(text.begin(), text.end(), isDrawnAsSign, sign);
-    return text;
+    if (std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c.isSurrogate() || c.isMark(); }))
+        replaceSurplusMarks(text);
+    return text.mid(skipped);
 }
 } // namespace
 
@@ -49,8 +70,9 @@ qsizetype LinePiece::fromLayout(int place) const
     return std::max(place - layout->preeditAreaText().size(), preeditAt);
 }
 
-LineLayouts::LineLayouts(const SurfaceText &text, const FormatRuns &looks, std::function<QColor(ColourValue)> colour)
-    : m_text(text), m_looks(looks), m_colour(std::move(colour))
+LineLayouts::LineLayouts(const SurfaceText &text, const FormatRuns &looks, const TextMarks &marks,
+                         std::function<QColor(ColourValue)> colour)
+    : m_text(text), m_looks(looks), m_marks(marks), m_colour(std::move(colour))
 {
     setStyle(m_style);
 }
@@ -118,15 +140,18 @@ LinePiece LineLayouts::laidOut(qsizetype line, int number) const
     LinePiece piece;
     piece.start = pieceStart(line, number);
     piece.length = pieceStart(line, number + 1) - piece.start;
-    const QString text = drawnText(m_text.mid(m_text.lineStart(line) + piece.start, piece.length));
+    const qsizetype before = std::min(piece.start, mostMarks);
+    const QString text =
+        drawnText(m_text.mid(m_text.lineStart(line) + piece.start - before, before + piece.length), before);
     piece.layout = std::make_unique<QTextLayout>(text, m_style.font);
     QTextLayout &layout = *piece.layout;
     layout.setCacheEnabled(true);
     QTextOption option;
     option.setTabStopDistance(m_style.tabDistance);
     option.setWrapMode(wraps() ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::NoWrap);
-    if (!wraps()) // a row that is as long as its line has no right side to stand at
-        option.setAlignment(Qt::AlignLeft | Qt::AlignAbsolute);
+    // A row that is as long as its line has no right side to stand at.
+    const bool atRight = wraps() && text.isRightToLeft();
+    option.setAlignment((atRight ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute);
     layout.setTextOption(option);
     if (m_preedit.line == line && pieceOf(line, m_preedit.column) == number) {
         piece.preeditAt = m_preedit.column - piece.start;
@@ -143,6 +168,8 @@ LinePiece LineLayouts::laidOut(qsizetype line, int number) const
             std::max({piece.width, row.naturalTextWidth(), row.cursorToX(end), row.cursorToX(row.textStart())});
     }
     layout.endLayout();
+    if (piece.length > longestInOne / 4 && pieceCount(line) > 1)
+        piece.width = std::max(piece.width, narrowest);
     return piece;
 }
 
@@ -162,6 +189,15 @@ QList<QTextLayout::FormatRange> LineLayouts::formatsOf(qsizetype line, const Lin
             format.setFontUnderline(true);
         const int start = piece.inLayout(from - first + 1) - 1; // behind composed text, if it starts there
         formats.append({start, piece.inLayout(to - first) - start, format});
+    });
+    m_marks.forEachAt(first, first + piece.length, [&](const MarkedRange &mark) {
+        const qsizetype last = mark.start + mark.length - 1;
+        if (mark.kind != MarkKind::Colour || mark.length == 0 || last < first || last >= first + piece.length)
+            return;
+        QTextCharFormat format;
+        format.setFontLetterSpacingType(QFont::AbsoluteSpacing);
+        format.setFontLetterSpacing(squareRoom());
+        formats.append({piece.inLayout(last - first), 1, format});
     });
     for (QTextLayout::FormatRange composed : piece.preeditAt < 0 ? decltype(formats)() : m_preedit.formats) {
         composed.start += static_cast<int>(piece.preeditAt);

@@ -2,10 +2,12 @@
 
 #include "surface/formatRuns.h"
 #include "surface/surfaceText.h"
+#include "surface/textMarks.h"
 
 #include <QColor>
 #include <QFont>
 #include <QTextLayout>
+#include <cmath>
 #include <functional>
 #include <map>
 #include <memory>
@@ -50,13 +52,17 @@ struct LinePiece {
 class LineLayouts
 {
 public:
-    LineLayouts(const SurfaceText &text, const FormatRuns &looks, std::function<QColor(ColourValue)> colour);
+    /// Behind values that are marked as colours, room is left for a square.
+    LineLayouts(const SurfaceText &text, const FormatRuns &looks, const TextMarks &marks,
+                std::function<QColor(ColourValue)> colour);
 
     const LayoutStyle &style() const { return m_style; }
     void setStyle(const LayoutStyle &style); ///< forgets all layouts
     bool wraps() const { return m_style.wrapWidth > 0; }
-    qreal rowHeight() const { return m_rowHeight; } ///< of a row in the style's own font, in pixels
-    qreal advance() const { return m_advance; }     ///< of a letter of the style's font, in pixels
+    qreal rowHeight() const { return m_rowHeight; }                    ///< of a row in the style's own font, in pixels
+    qreal advance() const { return m_advance; }                        ///< of a letter of the style's font, in pixels
+    qreal squareSide() const { return std::round(m_rowHeight * 0.6); } ///< of a colour's square, in pixels
+    qreal squareRoom() const { return squareSide() + 4; }              ///< what a row leaves for one
 
     int pieceCount(qsizetype line) const;
     qsizetype pieceStart(qsizetype line, int piece) const; ///< in the line; for the count of pieces the line's length
@@ -99,6 +105,7 @@ private:
 
     const SurfaceText &m_text;
     const FormatRuns &m_looks;
+    const TextMarks &m_marks;
     std::function<QColor(ColourValue)> m_colour;
     LayoutStyle m_style;
     Preedit m_preedit;

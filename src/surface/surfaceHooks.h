@@ -1,5 +1,7 @@
 #pragma once
 
+#include "common/markedRange.h"
+
 #include <QPoint>
 #include <QString>
 #include <QStringList>
@@ -39,4 +41,5 @@ struct SurfaceHooks {
     std::function<void(const QStringList &)> filesDropped; ///< native paths; without it files cannot be dropped
     /// Text from elsewhere than this surface; without it, it goes in where it is dropped.
     std::function<void(const QString &)> textDropped;
+    std::function<void(const MarkedRange &)> squareClicked; ///< the square of a Colour mark, with the left button
 };

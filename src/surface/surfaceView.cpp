@@ -3,8 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
-SurfaceView::SurfaceView(const SurfaceText &text, const FormatRuns &looks, std::function<QColor(ColourValue)> colour)
-    : m_text(text), m_layouts(text, looks, std::move(colour))
+SurfaceView::SurfaceView(const SurfaceText &text, const FormatRuns &looks, const TextMarks &marks,
+                         std::function<QColor(ColourValue)> colour)
+    : m_text(text), m_layouts(text, looks, marks, std::move(colour))
 {
 }
 
@@ -323,6 +324,28 @@ QRectF SurfaceView::caretRect(qsizetype position, qsizetype preeditCaret)
         place += static_cast<int>(preeditCaret);
     const QTextLine line = piece.layout->lineAt(row.row);
     return {x + line.cursorToX(place), topOf(row), 1, line.height()};
+}
+
+QRectF SurfaceView::squareOf(const MarkedRange &mark)
+{
+    const qsizetype last = mark.start + mark.length - 1;
+    const RowPlace row = rowOf(last);
+    const qsizetype column = last - m_text.lineStart(row.line);
+    const int number = wraps() ? row.piece : m_layouts.pieceOf(row.line, column);
+    const qreal left = pieceX(row.line, number);
+    const LinePiece &piece = pieceAt(row.line, number);
+    const QTextLine line = piece.layout->lineAt(row.row);
+    const qreal end = left + line.cursorToX(piece.inLayout(column - piece.start), QTextLine::Trailing);
+    const qreal side = m_layouts.squareSide();
+    const qreal gap = (m_layouts.squareRoom() - side) / 2;
+    return {std::round(end - gap - side), std::round(topOf(row) + (line.height() - side) / 2), side, side};
+}
+
+std::optional<qreal> SurfaceView::lineHeight(qsizetype line)
+{
+    if (!wraps())
+        return m_layouts.heightOf(line);
+    return m_layouts.pieceCount(line) == 1 ? std::optional(pieceAt(line, 0).height) : std::nullopt;
 }
 
 qsizetype SurfaceView::positionInRow(const RowPlace &row, qreal x, QTextLine::CursorPosition by)

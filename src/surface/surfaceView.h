@@ -31,7 +31,8 @@ class SurfaceView
 public:
     static constexpr qreal margin = 4; ///< left of the text, right of it where it wraps, above its first row
 
-    SurfaceView(const SurfaceText &text, const FormatRuns &looks, std::function<QColor(ColourValue)> colour);
+    SurfaceView(const SurfaceText &text, const FormatRuns &looks, const TextMarks &marks,
+                std::function<QColor(ColourValue)> colour);
 
     LineLayouts &layouts() { return m_layouts; }
     const LineLayouts &layouts() const { return m_layouts; }
@@ -72,6 +73,10 @@ public:
     /// The caret in front of a character, in pixels of the view. Outside of the view its height there is estimated.
     QRectF caretRect(qsizetype position, qsizetype preeditCaret = 0);
     qreal topOf(const RowPlace &row);
+    /// The square behind a marked colour, in pixels of the view.
+    QRectF squareOf(const MarkedRange &mark);
+    /// The height of all rows of a line that is laid out in one; nothing for a longer line that wraps.
+    std::optional<qreal> lineHeight(qsizetype line);
     /// The position in a row that a place of the view, in pixels, stands for.
     qsizetype positionInRow(const RowPlace &row, qreal x,
                             QTextLine::CursorPosition by = QTextLine::CursorBetweenCharacters);

@@ -1,5 +1,6 @@
 // What authors expect of a text widget beyond the contract: composing, reading aloud, gestures of the mouse, marks; and
 // lines that no widget likes.
+#include "surface/signMargin.h"
 #include "surfaceFixture.h"
 
 #include <QAccessible>
@@ -175,6 +176,114 @@ TEST_F(EditSurfaceWidget, AMarkOfAPlaceGoesWithIt)
     EXPECT_EQ(surface.markedRanges(), QList<MarkedRange>({{3, 0, MarkKind::Error}}));
 }
 
+TEST_F(EditSurfaceWidget, TheFirstErrorBringsTheSignsBesideTheText)
+{
+    surface.setText(QStringLiteral("one\r\ntwo"));
+    surface.setMarkedRanges(MarkOwner::Search, {{0, 3, MarkKind::Match}});
+    EXPECT_TRUE(surface.signs()->isHidden());
+    const int before = surface.viewport()->x();
+    surface.setMarkedRanges(MarkOwner::Check, {{5, 0, MarkKind::Error, QStringLiteral("why")}});
+    EXPECT_FALSE(surface.signs()->isHidden());
+    EXPECT_EQ(surface.viewport()->x(), before + surface.signs()->widthNeeded());
+    EXPECT_EQ(tipOf(surface.marksOfLine(1)), QStringLiteral("why"));
+    EXPECT_EQ(tipOf(surface.marksOfLine(0)), QString());
+    const int row = surface.positionOfCharacter(5).height();
+    QTest::mouseClick(surface.signs(), Qt::LeftButton, {}, QPoint(3, surface.positionOfCharacter(5).top() + row / 2));
+    EXPECT_EQ(surface.SelStart(), 5);
+    surface.setMarkedRanges(MarkOwner::Check, {});
+    EXPECT_FALSE(surface.signs()->isHidden()) << "the text would move to and fro";
+}
+
+TEST_F(EditSurfaceWidget, SignsTellErrorsFromHintsWithoutColours)
+{
+    surface.setText(QStringLiteral("one\r\ntwo\r\nthree"));
+    surface.setMarkedRanges(MarkOwner::Check, {{0, 3, MarkKind::Error}, {5, 3, MarkKind::Hint}});
+    settle();
+    const QImage picture = surface.signs()->grab().toImage();
+    const QColor ground = surface.palette().color(QPalette::Window);
+    const auto middle = [&](qsizetype position) {
+        return QPoint(surface.signs()->width() / 2, surface.positionOfCharacter(position).center().y());
+    };
+    EXPECT_EQ(picture.pixelColor(middle(0)), surface.markColour(MarkKind::Error));
+    EXPECT_EQ(picture.pixelColor(middle(5)), ground) << "a ring is empty";
+    EXPECT_EQ(picture.pixelColor(middle(10)), ground);
+}
+
+TEST_F(EditSurfaceWidget, AColourHasASquareBehindItThatCanBeClicked)
+{
+    surface.setText(QStringLiteral("color: #ff8000; x"));
+    const int before = surface.positionOfCharacter(14).left();
+    const MarkedRange mark{7, 7, MarkKind::Colour, {}, 0x0080FF};
+    QList<MarkedRange> clicked;
+    SurfaceHooks hooks;
+    hooks.squareClicked = [&](const MarkedRange &square) { clicked.append(square); };
+    surface.setHooks(hooks);
+    surface.setMarkedRanges(MarkOwner::Colours, {mark});
+    settle();
+    const QRect square = surface.squareOf(mark);
+    EXPECT_GT(surface.positionOfCharacter(14).left(), before);
+    EXPECT_GT(square.left(), before - 1);
+    EXPECT_LE(square.right(), surface.positionOfCharacter(14).left());
+    const QColor drawn = surface.grab().toImage().pixelColor(square.center());
+    EXPECT_EQ(drawn, QColor(0xFF, 0x80, 0x00));
+    surface.setSelStart(0);
+    QTest::mouseClick(surface.viewport(), Qt::LeftButton, {}, square.center() - surface.viewport()->pos());
+    EXPECT_EQ(clicked, QList<MarkedRange>({mark}));
+    EXPECT_EQ(surface.SelStart(), 0);
+    surface.setMarkedRanges(MarkOwner::Colours, {});
+    EXPECT_EQ(surface.positionOfCharacter(14).left(), before);
+}
+
+TEST_F(EditSurfaceWidget, TheGroundOfACurrentLineGoesFromSideToSide)
+{
+    surface.setText(QStringLiteral("one\r\ntwo"));
+    surface.setMarkedRanges(MarkOwner::Tags, {{6, 0, MarkKind::CurrentLine}});
+    settle();
+    const QImage picture = surface.viewport()->grab().toImage();
+    const int right = surface.viewport()->width() - 2;
+    const auto colourAt = [&](qsizetype position) {
+        return picture.pixelColor(right, surface.positionOfCharacter(position).center().y());
+    };
+    EXPECT_NE(colourAt(6), colourAt(0));
+    EXPECT_EQ(colourAt(0), surface.palette().color(QPalette::Base));
+}
+
+TEST_F(EditSurfaceWidget, CtrlAndTheWheelMakeTheTextLarger)
+{
+    surface.setText(QStringLiteral("one"));
+    const int before = surface.positionOfCharacter(3).left();
+    const QFont font = surface.font();
+    const auto turn = [&](int delta) {
+        const QPointF place(20, 20);
+        QWheelEvent wheel(place, surface.viewport()->mapToGlobal(place), {}, {0, delta}, Qt::NoButton,
+                          Qt::ControlModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(surface.viewport(), &wheel);
+    };
+    turn(60);
+    EXPECT_EQ(surface.zoom(), 0);
+    turn(60);
+    EXPECT_EQ(surface.zoom(), 1);
+    turn(480);
+    EXPECT_GT(surface.positionOfCharacter(3).left(), before);
+    EXPECT_EQ(surface.font(), font);
+    turn(-600);
+    EXPECT_EQ(surface.zoom(), 0);
+    EXPECT_EQ(surface.positionOfCharacter(3).left(), before);
+}
+
+TEST_F(EditSurfaceWidget, WrappedTextFromRightToLeftStandsAtTheRight)
+{
+    surface.setText(QStringLiteral("\u05D0\u05D1\u05D2\r\nabc"));
+    surface.setWrapToWindow(true);
+    settle();
+    const int middle = surface.viewport()->width() / 2 + surface.viewport()->x();
+    EXPECT_GT(surface.positionOfCharacter(0).left(), middle);
+    EXPECT_LT(surface.positionOfCharacter(0).left(), surface.viewport()->geometry().right());
+    EXPECT_LT(surface.positionOfCharacter(3).left(), surface.positionOfCharacter(0).left());
+    EXPECT_LT(surface.positionOfCharacter(5).left(), middle);
+    EXPECT_EQ(surface.characterFromPosition(surface.positionOfCharacter(1).center() - QPoint(3, 0)), 1);
+}
+
 TEST_F(EditSurfaceWidget, WrappingKeepsTheTopWhenRowsAboveTurnOutToBeOthers)
 {
     surface.setText(QStringLiteral("\u4E2D\u6587 some words \t\t\t more\r\n").repeated(400));
@@ -215,11 +324,23 @@ TEST_F(EditSurfaceWidget, ALineOfTwentyMillionCharactersIsShown)
 
 TEST_F(EditSurfaceWidget, AHundredThousandMarksOnALetterAreShown)
 {
-    for (const bool wrap : {false, true}) {
-        surface.setWrapToWindow(wrap);
-        const auto [setting, key] = timesOf(u'e' + QString(100'000, QChar(0x301)), 50'000);
-        EXPECT_LT(setting, 2000) << wrap;
-        EXPECT_LT(key, 3000) << wrap; // each piece is as narrow as nothing, so that all of them are on view
+    const QString wide = QStringLiteral("\U000E0101"); // a mark of two code units
+    for (const QString &mark : {QString(QChar(0x301)), wide, QString(QChar(0x200B))}) {
+        for (const bool wrap : {false, true}) {
+            surface.setWrapToWindow(wrap);
+            const auto [setting, key] = timesOf(u'e' + mark.repeated(100'000), 50'000);
+            EXPECT_LT(setting, 1000) << wrap;
+            EXPECT_LT(key, 200) << wrap << qPrintable(QString::number(mark[0].unicode(), 16));
+        }
     }
+}
+
+TEST_F(EditSurfaceWidget, AFewMarksStayOnTheirLetter)
+{
+    const QString letter = u'e' + QString(8, QChar(0x301));
+    surface.setText(letter + QStringLiteral("x"));
+    const int width = surface.positionOfCharacter(9).left() - surface.positionOfCharacter(0).left();
+    surface.setText(QStringLiteral("ex"));
+    EXPECT_EQ(width, surface.positionOfCharacter(1).left() - surface.positionOfCharacter(0).left());
 }
 } // namespace
