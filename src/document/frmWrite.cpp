@@ -4,8 +4,10 @@
 #include "common/fileFormatText.h"
 #include "common/mainWindow.h"
 #include "common/paths.h"
+#include "common/programState.h"
 #include "common/unsavedText.h"
 #include "document/documentHistory.h"
+#include "document/tagMarks.h"
 #include "document/viewingPanes.h"
 #include "services/editorSettings.h"
 #include "services/services.h"
@@ -62,6 +64,10 @@ void frmWrite::buildSurface()
     connect(m_edit, &EditSurface::gotFocus, this, &frmWrite::txtEdit_GotFocus);
     connect(m_edit, &EditSurface::lostFocus, this, &frmWrite::txtEdit_LostFocus);
     connect(m_edit, &EditSurface::SelChange, this, [this] { m_history->selectionMoved(); });
+    m_tagMarks =
+        std::make_unique<TagMarks>(*m_edit, services().timers, [this] { return context().state.habits.HandsMatch; });
+    connect(m_edit, &EditSurface::SelChange, this, [this] { m_tagMarks->follow(); });
+    connect(m_edit, &EditSurface::Change, this, [this] { m_tagMarks->textChanged(); });
     m_edit->setHooks(surfaceHooks());
     applyEditorSettings();
 }
@@ -131,6 +137,7 @@ void frmWrite::applyEditorSettings()
     m_edit->setFont(::editorFont(services().settings));
     m_edit->setTabWidth(tabWidth(services().settings));
     followHabits();
+    m_tagMarks->follow();
 }
 
 void frmWrite::CheckWordWrapSettings()

@@ -14,6 +14,7 @@ class EditSurface;
 class NoticeBar;
 class QPoint;
 class QUrl;
+class TagMarks;
 class Timer;
 class ViewingPanes;
 class WebBrowser;
@@ -155,6 +156,7 @@ private:
     Timer *tmrLineCount = nullptr;
     CodeAssistant *m_assistant = nullptr;
     std::unique_ptr<DocumentHistory> m_history;
+    std::unique_ptr<TagMarks> m_tagMarks;
     bool m_keepsEdits = false; ///< the history is one of edits
     bool m_tagEnds = false;    ///< the next change is a ">" that was typed
     TypedColouring m_typed;

@@ -114,6 +114,16 @@ void RemoveLines(ProgramContext &context)
     changeActive(context, removedLines);
 }
 
+void GoToPartner(ProgramContext &context)
+{
+    Document *document = context.mainWindow->activeDocument();
+    if (!document)
+        return;
+    TextSurface &edit = document->txtEdit();
+    if (const auto pair = tagPairAt(edit.Text(), edit.SelStart()))
+        edit.setSelStart(pair->partner.start);
+}
+
 void CloseElement(ProgramContext &context)
 {
     changeActive(context, [](const QString &text, TextSelection selection) {

@@ -13,6 +13,8 @@ void ToggleComment(ProgramContext &context);
 void MoveLines(ProgramContext &context, bool up);
 void DoubleLines(ProgramContext &context);
 void RemoveLines(ProgramContext &context);
+/// Moves the caret from a tag to its partner.
+void GoToPartner(ProgramContext &context);
 /// Writes the end tag of the innermost element that is open at the caret.
 void CloseElement(ProgramContext &context);
 /// Opens the abbreviation right before the caret. False where there is none, or text is selected.

@@ -231,6 +231,11 @@ void MainCommands::mnuRemoveLines_Click()
     RemoveLines(m_context);
 }
 
+void MainCommands::mnuGoToPartner_Click()
+{
+    GoToPartner(m_context);
+}
+
 void MainCommands::mnuCloseElement_Click()
 {
     CloseElement(m_context);

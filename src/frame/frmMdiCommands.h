@@ -72,6 +72,7 @@ public:
     void mnuMoveLinesDown_Click();
     void mnuDoubleLines_Click();
     void mnuRemoveLines_Click();
+    void mnuGoToPartner_Click();
     void mnuCloseElement_Click();
     void mnuExpandAbbreviation_Click();
     void mnuFollowLink_Click();

@@ -101,6 +101,7 @@ constexpr MenuCommand menuTable[] = {
     {"mnuDoubleLines", "mnuHands", "D&ouble Lines", "Ctrl+D", "", Any, runs(&C::mnuDoubleLines_Click), &Habits::HandsLines},
     {"mnuRemoveLines", "mnuHands", "&Remove Lines", "Ctrl+Shift+K", "", Any, runs(&C::mnuRemoveLines_Click), &Habits::HandsLines},
     {"mnuCloseElement", "mnuHands", "C&lose Element", "", "", Any, runs(&C::mnuCloseElement_Click), &Habits::HandsClose},
+    {"mnuGoToPartner", "mnuHands", "Go To &Partner", "Ctrl+M", "", Any, runs(&C::mnuGoToPartner_Click), &Habits::HandsMatch},
     {"mnuExpandAbbreviation", "mnuHands", "&Expand Abbreviation", "", "", Any, runs(&C::mnuExpandAbbreviation_Click), &Habits::HandsAbbreviations},
     {"mnuWrapAbbreviation", "mnuHands", "&Wrap With Abbreviation...", "Ctrl+Shift+A", "", Any, shows("frmWrapAbbreviation"), &Habits::HandsAbbreviations},
     {"mnuFollowLink", "mnuHands", "&Follow Link", "", "", Any, runs(&C::mnuFollowLink_Click), &Habits::HandsFollow},

@@ -16,6 +16,7 @@ constexpr HabitRule rules[] = {
     {&Habits::HabitDesktop, &settings::HabitDesktop, "The desktop learns of us on request only"},
     {&Habits::HabitNewPage, &settings::HabitNewPage, "A new page is one of today"},
     {&Habits::HandsClose, &settings::HandsClose, "An end tag writes itself behind its start tag"},
+    {&Habits::HandsMatch, &settings::HandsMatch, "The line, the tag and its partner at the caret are shown"},
     {&Habits::HandsComment, &settings::HandsComment, "Ctrl+/ makes comments of lines"},
     {&Habits::HandsLines, &settings::HandsLines, "Keys move, double and remove lines"},
     {&Habits::HandsAbbreviations, &settings::HandsAbbreviations, "Tab opens abbreviations into elements"},
