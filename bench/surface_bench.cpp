@@ -1,3 +1,4 @@
+#include "common/pageCharset.h"
 #include "figures.h"
 #include "pages.h"
 #include "surface/editSurface.h"
@@ -11,6 +12,7 @@
 namespace
 {
 constexpr qsizetype colouredSize = 63'900;
+constexpr int formatCount = 6748; // over one for all
 constexpr qsizetype largeSize = 1'000'000;
 constexpr qsizetype hugeSize = 10'000'000;
 constexpr quint32 seed = 7;
@@ -59,15 +61,15 @@ void mapPositions(Figures &figures)
                static_cast<double>(places.size());
     };
     figures.add(QStringLiteral("position to the document's counting, 10 MB"),
-                perPlace([&](qsizetype place) { sum += index.toNarrow(place); }), QStringLiteral("us"), 1);
+                perPlace([&](qsizetype place) { sum += index.toNarrow(place); }), QStringLiteral("us"), 0.5);
     figures.add(QStringLiteral("position from the document's counting, 10 MB"),
-                perPlace([&](qsizetype place) { sum += index.toWide(place); }), QStringLiteral("us"), 1);
+                perPlace([&](qsizetype place) { sum += index.toWide(place); }), QStringLiteral("us"), 0.5);
     figures.add(QStringLiteral("line from character, 10 MB"),
-                perPlace([&](qsizetype place) { sum += surface.lineFromCharacter(place); }), QStringLiteral("us"), 1);
+                perPlace([&](qsizetype place) { sum += surface.lineFromCharacter(place); }), QStringLiteral("us"), 0.5);
     figures.add(QStringLiteral("reading SelStart, 10 MB"), perPlace([&](qsizetype) { sum += surface.SelStart(); }),
                 QStringLiteral("us"));
     figures.add(QStringLiteral("Text of an unchanged document, 10 MB"),
-                perPlace([&](qsizetype) { sum += surface.Text().size(); }), QStringLiteral("us"), 1);
+                perPlace([&](qsizetype) { sum += surface.Text().size(); }), QStringLiteral("us"), 0.5);
     if (sum == 0)
         std::puts("nothing was mapped");
 }
@@ -91,13 +93,15 @@ void setting(Figures &figures, const QString &name, qsizetype size, double limit
 
 /// Letters typed at the start of the line at `place` and of lines behind it, a run in each, as a user writes who goes
 /// on to the next line before the line leaves the window.
-void typing(Figures &figures, const QString &name, const QString &text, qsizetype place, std::optional<double> limit)
+void typing(Figures &figures, const QString &name, const QString &text, qsizetype place, double limit,
+            bool wrapped = false)
 {
     EditSurface surface;
+    surface.setWrapToWindow(wrapped);
     surface.setLineNumbers(true);
     surface.setText(text);
     show(surface);
-    const int letters = limit ? 30 : 2;
+    constexpr int letters = 30;
     qsizetype line = surface.lineFromCharacter(place);
     const auto nextLine = [&] {
         surface.setSelStart(surface.characterFromLine(std::min(++line, surface.lineCount() - 1)).value_or(0));
@@ -143,24 +147,24 @@ void colour(Figures &figures)
         surface.setPaintingHeld(false);
         settle();
     };
-    const QList<FormatRange> ranges = manyRanges(colouredSize, 6500, 1);
+    const QList<FormatRange> ranges = manyRanges(colouredSize, formatCount, 1);
     const double fresh = medianTime(
         runs, [&] { layFormats(ranges); },
         [&] {
             surface.setText(page(colouredSize, seed));
             settle();
         });
-    figures.add(QStringLiteral("6,500 formats over 63,900 plain characters, painted"), fresh * milli,
-                QStringLiteral("ms"), 25);
+    figures.add(QStringLiteral("6,749 formats over 63,900 plain characters, painted"), fresh * milli,
+                QStringLiteral("ms"), 3);
     quint32 with = 1;
-    const double anew = medianTime(runs, [&] { layFormats(manyRanges(colouredSize, 6500, ++with)); });
-    figures.add(QStringLiteral("6,500 other formats over those"), anew * milli, QStringLiteral("ms"), 25);
-    const QList<FormatRange> again = manyRanges(colouredSize, 6500, with);
+    const double anew = medianTime(runs, [&] { layFormats(manyRanges(colouredSize, formatCount, ++with)); });
+    figures.add(QStringLiteral("6,749 other formats over those"), anew * milli, QStringLiteral("ms"), 3);
+    const QList<FormatRange> again = manyRanges(colouredSize, formatCount, with);
     const double same = medianTime(runs, [&] { layFormats(again); });
-    figures.add(QStringLiteral("the same 6,500 formats once more"), same * milli, QStringLiteral("ms"), 25);
+    figures.add(QStringLiteral("the same 6,749 formats once more"), same * milli, QStringLiteral("ms"), 3);
     typeLetter(surface);
     const double key = medianTime(runs, [&] { typeLetter(surface); });
-    figures.add(QStringLiteral("a typed letter, painted, among 6,500 formats"), key * milli, QStringLiteral("ms"), 0.6);
+    figures.add(QStringLiteral("a typed letter, painted, among 6,749 formats"), key * milli, QStringLiteral("ms"), 0.6);
 }
 
 double memoryPerCharacter(qsizetype characters)
@@ -191,8 +195,9 @@ void surfaceSetting(Figures &figures)
 {
     setting(figures, QStringLiteral("setting Text, 10 MB"), hugeSize, 900);
     setting(figures, QStringLiteral("setting Text, 1 MB"), largeSize, 80);
-    figures.add(QStringLiteral("memory of a character of Text, 10 MB"), memoryPerCharacter(hugeSize),
-                QStringLiteral("bytes"), 20);
+    constexpr double ofText = sizeof(QChar);
+    figures.add(QStringLiteral("memory beside the text, a character of 10 MB"), memoryPerCharacter(hugeSize) - ofText,
+                QStringLiteral("bytes"), 3);
 }
 
 void surfaceTyping(Figures &figures)
@@ -202,6 +207,8 @@ void surfaceTyping(Figures &figures)
     typing(figures, QStringLiteral("a typed letter, painted, 1 MB, in the middle"), page(largeSize, seed),
            largeSize / 2, 0.6);
     typing(figures, QStringLiteral("a typed letter, painted, 1 MB, at the start"), page(largeSize, seed), 10, 0.6);
+    typing(figures, QStringLiteral("a typed letter, painted, 1 MB, wrapped, in the middle"), page(largeSize, seed),
+           largeSize / 2, 0.6, true);
 }
 
 void surfaceColouring(Figures &figures)
@@ -211,13 +218,36 @@ void surfaceColouring(Figures &figures)
 
 void surfaceSingleLine(Figures &figures)
 {
-    const QString longLine = QStringLiteral("<td>cell</td>").repeated(largeSize / 13);
-    EditSurface surface;
-    show(surface);
-    const double time = medianTime(5, [&] {
-        surface.setText(longLine);
-        settle();
-    });
-    figures.add(QStringLiteral("setting Text, a single line of 1 MB"), time * milli, QStringLiteral("ms"));
-    typing(figures, QStringLiteral("a typed letter, painted, in a single line of 1 MB"), longLine, 10, std::nullopt);
+    const QString tag = QStringLiteral("<div>");
+    const struct {
+        const char *name;
+        QString text;
+        double opened; // ms
+    } lines[] = {
+        {"500 KB of <div>", tag.repeated(100'000), 200},
+        {"1 MB of cells", QStringLiteral("<td>cell</td>").repeated(largeSize / 13), 200},
+        {"100,000 marks on a letter", u'e' + QString(100'000, QChar(0x301)), 200},
+        {"200 MB of <div>", tag.repeated(40'000'000), 3000},
+    };
+    constexpr double key = 5; // ms
+    for (const auto &line : lines) {
+        const QByteArray bytes = line.text.toUtf8();
+        for (const bool wrapped : {false, true}) {
+            const QString name = QStringLiteral("%1 in a line%2").arg(
+                QLatin1String(line.name), wrapped ? QStringLiteral(", wrapped") : QString());
+            {
+                EditSurface surface;
+                surface.setWrapToWindow(wrapped);
+                show(surface);
+                const double time = medianTime(3, [&] {
+                    surface.setText(decodePage(bytes).text);
+                    settle();
+                });
+                figures.add(QStringLiteral("reading and showing ") + name, time * milli, QStringLiteral("ms"),
+                            line.opened);
+            }
+            if (line.text.size() < hugeSize)
+                typing(figures, QStringLiteral("a typed letter, painted, in ") + name, line.text, 10, key, wrapped);
+        }
+    }
 }

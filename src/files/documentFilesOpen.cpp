@@ -3,7 +3,6 @@
 
 #include "common/document.h"
 #include "common/fileFormatText.h"
-#include "common/longLines.h"
 #include "common/mainWindow.h"
 #include "common/pageCharset.h"
 #include "common/paths.h"
@@ -204,11 +203,9 @@ std::optional<DocumentFiles::Opened> DocumentFiles::readInto(Document &document,
     }
     try {
         Opened opened{&document, decodePage(file.bytes, unicode), stamp};
-        if (canBeShown(lineExtremesOf(opened.contents.text))) {
-            document.txtEdit().setText(opened.contents.text);
-            m_outside.noteBytes(document, file.bytes);
-            return opened;
-        }
+        document.txtEdit().setText(opened.contents.text);
+        m_outside.noteBytes(document, file.bytes);
+        return opened;
     } catch (const std::bad_alloc &) { // told below
     }
     failWith({.code = OutOfMemoryError, .systemError = 0, .description = {}});

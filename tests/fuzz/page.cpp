@@ -1,6 +1,5 @@
 // A page from the disk, in whatever encoding it is or says it is.
 #include "common/charsets.h"
-#include "common/longLines.h"
 #include "common/pageCharset.h"
 #include "files/metaElements.h"
 #include "files/textWithoutTags.h"
@@ -47,7 +46,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
     (void)metaContent(page.text, QStringLiteral("author"));
     (void)withoutTags(page.text);
     (void)linkTargets(page.text);
-    (void)lineExtremesOf(page.text);
     const QByteArray own = encodeOwnFile(page.text);
     HAS_TO_HOLD(decodeOwnFile(own) == page.text);
     return 0;
