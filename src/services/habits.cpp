@@ -14,6 +14,7 @@ constexpr HabitRule rules[] = {
     {&Habits::HabitPaths, &settings::HabitPaths, "Paths are truly relative"},
     {&Habits::HabitStart, &settings::HabitStart, "One program opens what it is given"},
     {&Habits::HabitDesktop, &settings::HabitDesktop, "The desktop learns of us on request only"},
+    {&Habits::HabitFind, &settings::HabitFind, "Find goes round, marks all matches and counts them"},
     {&Habits::HabitNewPage, &settings::HabitNewPage, "A new page is one of today"},
     {&Habits::HandsClose, &settings::HandsClose, "An end tag writes itself behind its start tag"},
     {&Habits::HandsMatch, &settings::HandsMatch, "The line, the tag and its partner at the caret are shown"},

@@ -2,6 +2,7 @@
 
 #include "common/document.h"
 #include "common/mainWindow.h"
+#include "common/programState.h"
 #include "common/text.h"
 #include "forms/programContext.h"
 #include "services/messageBoxes.h"
@@ -52,8 +53,7 @@ void apply(const ReplaceRun::Change &change, TextSurface &edit)
 }
 } // namespace
 
-DocumentSearch::DocumentSearch(ProgramContext &context, std::function<void()> becomeEntire)
-    : m_context(context), m_becomeEntire(std::move(becomeEntire))
+DocumentSearch::DocumentSearch(ProgramContext &context, Window window) : m_context(context), m_window(std::move(window))
 {
 }
 
@@ -61,6 +61,14 @@ void DocumentSearch::restart()
 {
     m_state.NextPosition = 0;
     SearchStarted = false;
+    clearMarks();
+}
+
+void DocumentSearch::clearMarks()
+{
+    for (Document *document : m_context.mainWindow->openDocuments())
+        document->txtEdit().setMarkedRanges(MarkOwner::Search, {});
+    m_window.showFound({});
 }
 
 void DocumentSearch::begin()
@@ -87,8 +95,13 @@ void DocumentSearch::ReplaceCurrent(SearchOrder &order, const QString &replaceme
     FindStep(order);
 }
 
-/// The document at which the search began may be closed or have another name by now, so the documents are counted, too.
 void DocumentSearch::FindStep(SearchOrder &order)
+{
+    m_context.state.habits.HabitFind ? findRound(order) : findToTheEnd(order);
+}
+
+/// The document at which the search began may be closed or have another name by now, so the documents are counted, too.
+void DocumentSearch::findToTheEnd(SearchOrder &order)
 {
     if (!m_context.mainWindow->activeDocument())
         return;
@@ -100,6 +113,66 @@ void DocumentSearch::FindStep(SearchOrder &order)
             break;
     }
     tellEnd();
+}
+
+/// The document at which it begins comes last, too: from its start, or for "Up" from its end.
+void DocumentSearch::findRound(const SearchOrder &order)
+{
+    const qsizetype others = order.openDocuments ? m_context.mainWindow->openDocuments().size() - 1 : 0;
+    const qsizetype turns = others > 0 ? others + 2 : 1;
+    const bool up = order.options.direction == SearchDirection::Up;
+    for (qsizetype turn = 0; turn < turns; ++turn) {
+        Document *document = m_context.mainWindow->activeDocument();
+        if (turn > 0 && document) {
+            document->sendToBack();
+            document = m_context.mainWindow->activeDocument();
+        }
+        if (!document)
+            return;
+        const TextSurface &edit = document->txtEdit();
+        const TextSelection from = turn == 0 ? selectionOf(edit) : TextSelection{up ? edit.textLength() : 0, 0};
+        const RoundTurn kind = turns == 1          ? RoundTurn::Round
+                               : turn == turns - 1 ? RoundTurn::BehindRound
+                                                   : RoundTurn::ToTheEnd;
+        if (searchOnward(*document, order.options, from, kind))
+            return;
+    }
+    m_state = {};
+    tellFound(QStringLiteral("Not found"));
+}
+
+/// Marks all matches of the document and selects the next one; false, with the selection as it was, without one.
+bool DocumentSearch::searchOnward(Document &document, const FindOptions &options, const TextSelection &from,
+                                  RoundTurn turn)
+{
+    TextSurface &edit = document.txtEdit();
+    const QList<qsizetype> matches = allMatches(edit.Text(), options);
+    QList<MarkedRange> marks;
+    marks.reserve(matches.size());
+    for (const qsizetype place : matches)
+        marks.append({place, options.find.size(), MarkKind::Match, {}, {}});
+    edit.setMarkedRanges(MarkOwner::Search, marks);
+    const std::optional<RoundStep> step = stepRound(matches, options, m_state, from);
+    if (!step || (step->wentRound && turn == RoundTurn::ToTheEnd))
+        return false;
+    const qsizetype place = matches[step->index];
+    m_state = {.ContinueSearch = false, .NextPosition = place + 2, .FoundMatch = true};
+    edit.setSelStart(place);
+    edit.setSelLength(options.find.size());
+    QString told = QStringLiteral("%1 of %2").arg(step->index + 1).arg(matches.size());
+    if (step->wentRound || turn == RoundTurn::BehindRound)
+        told += options.direction == SearchDirection::Up ? QStringLiteral(", from the end")
+                                                         : QStringLiteral(", from the start");
+    tellFound(told);
+    return true;
+}
+
+/// The window may be closed while its search is repeated, so the status bar tells it, too.
+void DocumentSearch::tellFound(const QString &text)
+{
+    m_window.showFound(text);
+    m_context.mainWindow->SetStatusText(text);
+    m_context.mainWindow->enableResetBar();
 }
 
 bool DocumentSearch::SearchDocument(Document &document, const FindOptions &options)
@@ -130,7 +203,7 @@ bool DocumentSearch::mayBeEntire(FindOptions &options)
         return false;
     }
     options.type = SearchType::EntireDocument;
-    m_becomeEntire();
+    m_window.becomeEntire();
     return true;
 }
 

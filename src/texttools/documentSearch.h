@@ -20,11 +20,18 @@ struct SearchOrder {
 class DocumentSearch
 {
 public:
-    /// `becomeEntire` runs where the user lets a search become one of the entire document, which the order then is.
-    DocumentSearch(ProgramContext &context, std::function<void()> becomeEntire);
+    /// What it wants of the window that orders it.
+    struct Window {
+        std::function<void()> becomeEntire; ///< the user lets a search become one of the entire document
+        /// Where a search that goes round stands: "2 of 5"; empty where that is not known any more.
+        std::function<void(const QString &)> showFound;
+    };
+    DocumentSearch(ProgramContext &context, Window window);
 
     /// Another text is searched for: the next search is a new one.
     void restart();
+    /// Takes the marks of what was found away.
+    void clearMarks();
     void FindNext(SearchOrder &order);
     /// Replaces the selection if it is what was found last, and finds the next match.
     void ReplaceCurrent(SearchOrder &order, const QString &replacement);
@@ -36,8 +43,15 @@ public:
     void cancelReplacing() { m_cancelled = true; }
 
 private:
+    /// What a turn to a document may do at its end, and whether the search went round to get there.
+    enum class RoundTurn { ToTheEnd, Round, BehindRound };
+
     void begin();
     void FindStep(SearchOrder &order);
+    void findToTheEnd(SearchOrder &order);
+    void findRound(const SearchOrder &order);
+    bool searchOnward(Document &document, const FindOptions &options, const TextSelection &from, RoundTurn turn);
+    void tellFound(const QString &text);
     bool SearchDocument(Document &document, const FindOptions &options);
     bool toNextDocument(Document &document);
     bool mayBeEntire(FindOptions &options);
@@ -51,7 +65,7 @@ private:
     bool isOpen(const Document *document) const;
 
     ProgramContext &m_context;
-    std::function<void()> m_becomeEntire;
+    Window m_window;
     FindState m_state;
     bool SearchStarted = false; ///< a search has begun since the find text changed
     QString StartCaption;       ///< of the document at which it began

@@ -27,6 +27,13 @@ qsizetype rawSearch(QStringView text, const FindOptions &options, qsizetype star
         return lastIndexOfText(text, options.find, start, options.matchCase);
     return indexOfText(text, options.find, std::max<qsizetype>(start, 1) - 1, options.matchCase);
 }
+
+bool passesFilters(QStringView text, const FindOptions &options, qsizetype place, TagPlaces &tags)
+{
+    const bool isWord =
+        !options.wholeWords || isWordEdge(characterAt(text, place - 1), characterAt(text, place + options.find.size()));
+    return isWord && (options.type == SearchType::EntireDocument || passesTagFilter(options.type, tags.at(place)));
+}
 } // namespace
 
 bool isSingleCharacterUpwards(const FindOptions &options)
@@ -60,7 +67,6 @@ qsizetype startBehindRejected(const FindOptions &options, qsizetype place)
 
 qsizetype SearchText(QStringView text, const FindOptions &options, qsizetype start, FindState &state)
 {
-    const qsizetype length = options.find.size();
     TagPlaces tags(text);
     while (true) {
         const qsizetype place = rawSearch(text, options, start);
@@ -68,16 +74,53 @@ qsizetype SearchText(QStringView text, const FindOptions &options, qsizetype sta
             state = {};
             return 0;
         }
-        const bool isWord =
-            !options.wholeWords || isWordEdge(characterAt(text, place - 1), characterAt(text, place + length));
-        const bool isSought =
-            isWord && (options.type == SearchType::EntireDocument || passesTagFilter(options.type, tags.at(place)));
-        if (isSought) {
+        if (passesFilters(text, options, place, tags)) {
             state = {.ContinueSearch = false, .NextPosition = place + 2, .FoundMatch = true};
             return place + 1;
         }
         start = startBehindRejected(options, place + 1);
     }
+}
+
+QList<qsizetype> allMatches(QStringView text, const FindOptions &options)
+{
+    QList<qsizetype> matches;
+    TagPlaces tags(text);
+    for (qsizetype from = 0;;) {
+        const qsizetype place = indexOfText(text, options.find, from, options.matchCase);
+        if (place < 0)
+            return matches;
+        if (passesFilters(text, options, place, tags))
+            matches.append(place);
+        from = place + 1;
+    }
+}
+
+std::optional<RoundStep> stepRound(const QList<qsizetype> &matches, const FindOptions &options, const FindState &state,
+                                   const TextSelection &selection)
+{
+    if (matches.isEmpty())
+        return std::nullopt;
+    const bool up = options.direction == SearchDirection::Up;
+    const bool isFresh = options.direction == SearchDirection::All && state.NextPosition == 0;
+    const qsizetype length = options.find.size();
+    const auto found = std::lower_bound(matches.begin(), matches.end(), selection.start);
+    const bool isSelected =
+        !isFresh && found != matches.end() && *found == selection.start && selection.length == length;
+    qsizetype index = found - matches.begin();
+    if (up)
+        index = isSelected
+                    ? index - 1
+                    : std::upper_bound(matches.begin(), matches.end(), selection.start - length) - matches.begin() - 1;
+    else
+        index = isSelected
+                    ? index + 1
+                    : std::lower_bound(matches.begin(), matches.end(), searchStart(options, state, selection) - 1) -
+                          matches.begin();
+    const bool wentRound = index < 0 || index >= matches.size();
+    if (wentRound)
+        index = up ? matches.size() - 1 : 0;
+    return RoundStep{index, wentRound};
 }
 
 bool passesTagFilter(SearchType type, TagEnd end)

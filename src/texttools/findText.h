@@ -2,6 +2,7 @@
 
 #include "common/textSelection.h"
 
+#include <QList>
 #include <QString>
 #include <optional>
 
@@ -43,6 +44,20 @@ qsizetype startBehindRejected(const FindOptions &options, qsizetype place);
 
 /// Searches from a start as `searchStart` gives it, passing over what the filters turn down, and notes the outcome.
 qsizetype SearchText(QStringView text, const FindOptions &options, qsizetype start, FindState &state);
+
+/// All places of a text that the filters let through, overlapping ones, too; in order, counted from 0.
+QList<qsizetype> allMatches(QStringView text, const FindOptions &options);
+
+/// The match that a search comes to which goes round at the text's ends.
+struct RoundStep {
+    qsizetype index = 0;    ///< in the list of all matches, from 0
+    bool wentRound = false; ///< it lies behind the end at which the search went round
+};
+/// The next one from a selection; nothing without any. If one of the matches is selected it is the one beside it,
+/// otherwise the nearest at or behind the start as `searchStart` gives it, or, for "Up", that ends in front of the
+/// selection.
+std::optional<RoundStep> stepRound(const QList<qsizetype> &matches, const FindOptions &options, const FindState &state,
+                                   const TextSelection &selection);
 
 /// Which side of a match's start the ">" lies on that belongs to the last "<" at or before it.
 enum class TagEnd { NoTag, Before, At, Behind, Missing };

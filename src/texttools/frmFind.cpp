@@ -2,6 +2,7 @@
 
 #include "common/document.h"
 #include "common/mainWindow.h"
+#include "common/programState.h"
 #include "forms/dialogForm.h"
 #include "forms/programContext.h"
 #include "services/services.h"
@@ -67,10 +68,17 @@ QStringList withHistory(const QStringList &rows, const QString &text)
 }
 
 frmFind::frmFind(ProgramContext &context)
-    : Form(context, QStringLiteral("frmFind")), m_search(context, [this] {
-          if (cboSearchType && isLoaded())
-              cboSearchType->setCurrentIndex(int(SearchType::EntireDocument));
-      })
+    : Form(context, QStringLiteral("frmFind")),
+      m_search(context, {.becomeEntire =
+                             [this] {
+                                 if (cboSearchType && isLoaded())
+                                     cboSearchType->setCurrentIndex(int(SearchType::EntireDocument));
+                             },
+                         .showFound =
+                             [this](const QString &found) {
+                                 if (lblFound)
+                                     lblFound->setText(found);
+                             }})
 {
 }
 
@@ -82,6 +90,9 @@ void frmFind::Form_Load()
     setDefaultButton(cmdOK);
     setCancelButton(cmdClose);
     addShortcuts();
+    lblFound->setVisible(context().state.habits.HabitFind);
+    if (context().state.habits.HabitFind)
+        fillAsLeft();
     fillFindString();
     enableButtons();
 }
@@ -120,10 +131,14 @@ ui::Node frmFind::options()
     optSearchCurrentDoc = ui::option(QStringLiteral("optSearchCurrentDoc"), QStringLiteral("Current &Document"));
     optSearchOpenDocs = ui::option(QStringLiteral("optSearchOpenDocs"), QStringLiteral("All &Open Documents"));
     optSearchCurrentDoc->setChecked(true);
-    return ui::line({
-        ui::column({chkCase, chkWholeWords}),
-        ui::options({optSearchCurrentDoc, optSearchOpenDocs}),
-        ui::space(),
+    lblFound = ui::label(QStringLiteral("lblFound"), QString());
+    return ui::column({
+        ui::line({
+            ui::column({chkCase, chkWholeWords}),
+            ui::options({optSearchCurrentDoc, optSearchOpenDocs}),
+            ui::space(),
+        }),
+        lblFound,
     });
 }
 
@@ -147,6 +162,16 @@ void frmFind::addShortcuts()
     shortcut(QKeySequence(Qt::SHIFT | Qt::Key_F3), true);
     for (const char *name : {"cboReplace", "lblReplace", "cmdReplaceAll"})
         window()->findChild<QWidget *>(QLatin1String(name))->hide();
+}
+
+void frmFind::fillAsLeft()
+{
+    const QSignalBlocker quiet(cboFindString);
+    cboFindString->addItems(m_lastTexts.find);
+    cboReplace->addItems(m_lastTexts.replace);
+    cboReplace->setEditText(m_lastTexts.replacement);
+    cboSearchDirection->setCurrentIndex(int(m_lastOrder.options.direction));
+    cboSearchType->setCurrentIndex(int(m_lastOrder.options.type));
 }
 
 /// A single selected character is hardly what is sought.
@@ -185,6 +210,8 @@ void frmFind::FindAgain(bool upwards)
     if (isLoaded())
         AddFindHistory();
     find(again);
+    if (!isLoaded()) // nobody could take them away
+        m_search.clearMarks();
 }
 
 void frmFind::find(SearchOrder order)
@@ -212,6 +239,9 @@ bool frmFind::Form_QueryUnload()
 void frmFind::Form_Unload()
 {
     m_lastOrder = order();
+    m_lastTexts = {rowsOf(*cboFindString), rowsOf(*cboReplace), cboReplace->currentText()};
+    lblFound = nullptr;
+    m_search.clearMarks();
     frmMdi().LastFindText = cboFindString->currentText();
     ReturnFromDialog(context());
 }

@@ -5,6 +5,7 @@
 
 class QCheckBox;
 class QComboBox;
+class QLabel;
 class QPushButton;
 class QRadioButton;
 
@@ -32,6 +33,7 @@ private:
     ui::Node options();
     ui::Node commands();
     void fillFindString();
+    void fillAsLeft();
     void addShortcuts();
 
     void cboFindString_Change();
@@ -51,7 +53,13 @@ private:
 
     DocumentSearch m_search;
     SearchOrder m_lastOrder; ///< as the window showed it when it was closed
-    bool m_closing = false;  ///< it is to close once the replacing has stopped
+    /// The other texts that it held then.
+    struct Texts {
+        QStringList find;
+        QStringList replace;
+        QString replacement;
+    } m_lastTexts;
+    bool m_closing = false; ///< it is to close once the replacing has stopped
     QComboBox *cboFindString = nullptr;
     QComboBox *cboReplace = nullptr;
     QComboBox *cboSearchDirection = nullptr;
@@ -60,6 +68,7 @@ private:
     QCheckBox *chkWholeWords = nullptr;
     QRadioButton *optSearchCurrentDoc = nullptr;
     QRadioButton *optSearchOpenDocs = nullptr;
+    QLabel *lblFound = nullptr; ///< nothing while the window is closed
     QPushButton *cmdOK = nullptr;
     QPushButton *cmdReplace = nullptr;
     QPushButton *cmdReplaceAll = nullptr;

@@ -28,7 +28,9 @@ protected:
     static QString unreplaced() { return QStringLiteral("<p class=\"thing\">thing and thing\r\n").repeated(Matches); }
 
     int asked = 0;
-    DocumentSearch search{context, [this] { ++asked; }};
+    QString found;
+    DocumentSearch search{
+        context, {.becomeEntire = [this] { ++asked; }, .showFound = [this](const QString &text) { found = text; }}};
 };
 
 TEST_F(DocumentSearchTest, ReplacesAllOfALargeDocument)

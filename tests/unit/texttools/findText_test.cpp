@@ -183,4 +183,59 @@ TEST(SearchText, DoesNotWalkBackForEveryMatch)
     EXPECT_EQ(SearchText(u'<' + text + u'>', in(SearchType::TextOnly, QStringLiteral("xy")), 1, state), 0);
     EXPECT_EQ(SearchText(u'<' + text + u'>', in(SearchType::TextOnly, QStringLiteral("x")), 1, state), 0);
 }
+struct MatchesRow {
+    const char *text;
+    FindOptions options;
+    QList<qsizetype> places;
+};
+
+TEST(AllMatches, HoldsWhatTheFiltersLetThroughAndWhatOverlaps)
+{
+    FindOptions text = options(QStringLiteral("b"));
+    text.type = SearchType::TextOnly;
+    FindOptions tags = options(QStringLiteral("b"), Up); // a single character upwards is no matter here
+    tags.type = SearchType::TagsOnly;
+    const MatchesRow rows[] = {
+        {"aaa", options(QStringLiteral("aa")), {0, 1}},
+        {"cat category cat", word(QStringLiteral("cat")), {0, 13}},
+        {"<b>ab</b>", text, {4}},
+        {"<b>ab</b>", tags, {1, 7}},
+        {"abc", options(QStringLiteral("x")), {}},
+        {"", options(QStringLiteral("x")), {}},
+    };
+    for (const MatchesRow &row : rows)
+        EXPECT_EQ(allMatches(QString::fromUtf8(row.text), row.options), row.places)
+            << row.text << " / " << row.options.find.toStdString();
+}
+
+struct RoundRow {
+    SearchDirection direction;
+    FindState state;
+    TextSelection selection;
+    qsizetype index;
+    bool wentRound;
+};
+
+TEST(StepRound, GoesOnAtTheOtherEnd)
+{
+    const FindState found{.NextPosition = 2, .FoundMatch = true};
+    const QList<qsizetype> places{4, 10, 11, 20}; // of a text that is sought by two characters
+    const RoundRow rows[] = {
+        {Down, {}, {0, 0}, 0, false},   {Down, {}, {4, 2}, 1, false}, // a match is selected: the next one
+        {Down, {}, {10, 2}, 2, false},                                // even if it overlaps
+        {Down, {}, {20, 2}, 0, true},   {Down, {}, {30, 0}, 0, true},
+        {Down, {}, {5, 0}, 0, false},                                 // the character in front of the caret, as ever
+        {Down, {}, {6, 0}, 1, false},   {All, {}, {20, 2}, 0, false}, // a new search of all begins at the start
+        {All, found, {20, 2}, 0, true}, {Up, {}, {4, 2}, 3, true},
+        {Up, {}, {11, 2}, 1, false},    {Up, {}, {12, 0}, 1, false}, // it has to end in front of the selection
+        {Up, {}, {13, 0}, 2, false},    {Up, {}, {0, 0}, 3, true},
+    };
+    for (const RoundRow &row : rows) {
+        const auto step = stepRound(places, options(QStringLiteral("xx"), row.direction), row.state, row.selection);
+        ASSERT_TRUE(step);
+        EXPECT_EQ(step->index, row.index) << int(row.direction) << ' ' << row.selection.start;
+        EXPECT_EQ(step->wentRound, row.wentRound) << int(row.direction) << ' ' << row.selection.start;
+    }
+    EXPECT_FALSE(stepRound({}, options(QStringLiteral("xx")), {}, {0, 0}));
+}
 } // namespace
