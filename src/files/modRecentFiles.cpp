@@ -102,6 +102,15 @@ QStringList withRecentFile(QStringList paths, const QString &path)
     return paths;
 }
 
+QStringList recentFiles(SettingsStore &store)
+{
+    QStringList paths = readSlots(store, settings::RecentFile, RecentFileCount) +
+                        readSlots(store, settings::RecentWelcome, WelcomeFileCount);
+    paths.removeAll(QString());
+    paths.removeDuplicates();
+    return paths;
+}
+
 void LoadRecentFilesMenu(ProgramContext &context)
 {
     QStringList captions;

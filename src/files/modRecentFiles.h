@@ -19,6 +19,8 @@ QString recentFileCaption(const QString &path);
 /// The list with the path in front; the last one falls off where the path is new. Slots may be empty.
 QStringList withRecentFile(QStringList paths, const QString &path);
 
+/// The files that either list holds, the newest ones first, each once.
+QStringList recentFiles(SettingsStore &store);
 /// Fills the four entries of the File menu.
 void LoadRecentFilesMenu(ProgramContext &context);
 /// Puts the path in front of both lists and shows the File menu's again.

@@ -13,6 +13,7 @@ class QMainWindow;
 class QMenu;
 class QToolBar;
 class frmMdi;
+struct PaletteEntry;
 
 /// The commands of the main window: makes its menus and toolbars from the tables, keeps each enabled as its rules say,
 /// and runs what the user chooses. A handler that finds no document does nothing.
@@ -76,6 +77,8 @@ public:
     void mnuCloseElement_Click();
     void mnuExpandAbbreviation_Click();
     void mnuFollowLink_Click();
+    void mnuGoToFile_Click();
+    void mnuRunCommand_Click();
     // View
     void mnuShowbar_Click();
     void mnuShowPrjWindow_Click();
@@ -129,6 +132,7 @@ private:
     void addDropEntry(const ToolCommand &command);
     void addDropLists(QMainWindow &window);
     QString shortcutOf(const ToolCommand &command) const;
+    QString toolTipOf(const ToolCommand &command) const;
     void makeCheckable();
     void followMenus();
     bool isMet(Needs needs) const;
@@ -144,6 +148,7 @@ private:
     void mnuPopup_Open();
 
     void openRecentFile(int index);
+    QList<PaletteEntry> commandEntries();
     void indent(bool further);
     void focusEditor();
     Document *document() const;

@@ -113,6 +113,13 @@ QString MainCommands::shortcutOf(const ToolCommand &command) const
     return entry ? entry->shortcut().toString(QKeySequence::NativeText) : QString();
 }
 
+QString MainCommands::toolTipOf(const ToolCommand &command) const
+{
+    const QString caption = QString::fromUtf8(command.toolTip);
+    const QString shortcut = shortcutOf(command);
+    return shortcut.isEmpty() ? caption : QStringLiteral("%1 (%2)").arg(caption, shortcut);
+}
+
 void MainCommands::addToolButton(QMainWindow &window, const ToolCommand &command)
 {
     QToolBar *&bar = m_toolBars[QLatin1String(command.bar)];
@@ -123,14 +130,13 @@ void MainCommands::addToolButton(QMainWindow &window, const ToolCommand &command
         return;
     }
     const QString caption = QString::fromUtf8(command.toolTip);
-    const QString shortcut = shortcutOf(command);
     QAction *button = bar->addAction(programIcon(QLatin1String(command.icon)), caption);
     button->setObjectName(toolName(command));
     button->setData(QLatin1String(command.key));
-    button->setToolTip(shortcut.isEmpty() ? caption : QStringLiteral("%1 (%2)").arg(caption, shortcut));
+    button->setToolTip(toolTipOf(command));
     button->setWhatsThis(caption);
     if (*command.twin == '(')
-        button->setShortcut(QKeySequence(shortcut));
+        button->setShortcut(QKeySequence(shortcutOf(command)));
     QObject::connect(button, &QAction::triggered, &window, [this, &action = command.action] { run(action); });
     m_actions.insert(button->objectName(), button);
 }
@@ -189,17 +195,29 @@ void MainCommands::enableSelectionEntries()
         action(QLatin1String(name))->setEnabled(selected);
 }
 
-/// What is hidden has no key either.
+/// What is hidden has no key either. A key that a command of a rule shares with another one is the rule's as long as
+/// that holds.
 void MainCommands::followHabits()
 {
     bool any = false;
+    QSet<QKeySequence> taken;
     for (const MenuCommand &command : menuCommands())
         if (command.hand) {
             const bool shown = m_context.state.habits.*command.hand;
             action(QLatin1String(command.name))->setVisible(shown);
+            if (shown)
+                taken.insert(QKeySequence(QLatin1String(command.shortcut)));
             any = any || shown;
         }
     action(QStringLiteral("mnuHands"))->setVisible(any);
+    for (const MenuCommand &command : menuCommands())
+        if (*command.shortcut && !command.hand) {
+            const QKeySequence key(QLatin1String(command.shortcut));
+            action(QLatin1String(command.name))->setShortcut(taken.contains(key) ? QKeySequence() : key);
+        }
+    for (const ToolCommand &command : toolCommands())
+        if (QAction *button = action(toolName(command)))
+            button->setToolTip(toolTipOf(command));
 }
 
 bool MainCommands::isMet(Needs needs) const

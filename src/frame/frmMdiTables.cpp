@@ -105,6 +105,8 @@ constexpr MenuCommand menuTable[] = {
     {"mnuExpandAbbreviation", "mnuHands", "&Expand Abbreviation", "", "", Any, runs(&C::mnuExpandAbbreviation_Click), &Habits::HandsAbbreviations},
     {"mnuWrapAbbreviation", "mnuHands", "&Wrap With Abbreviation...", "Ctrl+Shift+A", "", Any, shows("frmWrapAbbreviation"), &Habits::HandsAbbreviations},
     {"mnuFollowLink", "mnuHands", "&Follow Link", "", "", Any, runs(&C::mnuFollowLink_Click), &Habits::HandsFollow},
+    {"mnuGoToFile", "mnuHands", "&Go To File...", "Ctrl+P", "", Any, runs(&C::mnuGoToFile_Click), &Habits::HandsPalette},
+    {"mnuRunCommand", "mnuHands", "Ru&n Command...", "Ctrl+Shift+P", "", Any, runs(&C::mnuRunCommand_Click), &Habits::HandsPalette},
 
     {"mnuView", "bar", "&View", "", "", Any, head()},
     {"mnuShowbar", "mnuView", "&Address Bar", "", "", Any, runs(&C::mnuShowbar_Click)},

@@ -22,6 +22,7 @@ constexpr HabitRule rules[] = {
     {&Habits::HandsLines, &settings::HandsLines, "Keys move, double and remove lines"},
     {&Habits::HandsAbbreviations, &settings::HandsAbbreviations, "Tab opens abbreviations into elements"},
     {&Habits::HandsFollow, &settings::HandsFollow, "Ctrl and a click follow href and src"},
+    {&Habits::HandsPalette, &settings::HandsPalette, "Ctrl+P finds files, Ctrl+Shift+P commands"},
 };
 } // namespace
 

@@ -4,6 +4,7 @@
 #include "shell/frmMoreOptions.h"
 #include "shell/frmNew.h"
 #include "shell/frmOptions.h"
+#include "shell/frmPalette.h"
 #include "shell/frmSysInfo.h"
 #include "shell/frmWelcome.h"
 
@@ -20,5 +21,5 @@ std::vector<std::unique_ptr<Form>> made(ProgramContext &context)
 
 std::vector<std::unique_ptr<Form>> shellForms(ProgramContext &context)
 {
-    return made<frmWelcome, frmNew, frmOptions, frmMoreOptions, frmAbout, frmSysInfo>(context);
+    return made<frmWelcome, frmNew, frmOptions, frmMoreOptions, frmAbout, frmSysInfo, frmPalette>(context);
 }
