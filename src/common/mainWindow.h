@@ -2,6 +2,7 @@
 
 #include "common/colouringOptions.h"
 #include "common/document.h"
+#include "common/treeNode.h"
 
 #include <QList>
 #include <QMap>
@@ -96,4 +97,7 @@ public:
     virtual bool structurePageShown() const = 0;
     /// Adds a node at the end: `parent` is a node's index in the order of adding, -1 for a root.
     virtual void addStructureNode(qsizetype parent, const QString &key, const QString &text, const QString &image) = 0;
+    /// Shows these in the place of all its nodes; what of the tree is closed, and what is selected, stays so as far as
+    /// it is there still.
+    virtual void showStructure(const QList<TreeNode> &) {}
 };

@@ -12,6 +12,8 @@
 #include <QKeyEvent>
 #include <QLabel>
 
+#include <utility>
+
 namespace
 {
 void sendKey(QWidget &widget, int key, const QString &text)
@@ -23,8 +25,8 @@ void sendKey(QWidget &widget, int key, const QString &text)
 }
 } // namespace
 
-CodeAssistant::CodeAssistant(QWidget &area, EditSurface &edit, const ProgramContext &context)
-    : QObject(&area), m_area(area), m_edit(edit), m_context(context)
+CodeAssistant::CodeAssistant(QWidget &area, EditSurface &edit, const Document &document, const ProgramContext &context)
+    : QObject(&area), m_area(area), m_edit(edit), m_document(document), m_context(context)
 {
     buildList();
     buildTip();
@@ -32,6 +34,13 @@ CodeAssistant::CodeAssistant(QWidget &area, EditSurface &edit, const ProgramCont
 
 void CodeAssistant::followWord()
 {
+    offersWhatFits() ? offerAtCaret() : followName();
+}
+
+void CodeAssistant::followName()
+{
+    if (std::exchange(m_showsOffers, false) && m_context.codeElements)
+        treCodeAssistantElements->showNodesOf(m_context.codeElements);
     if (AssistantInserting) {
         AssistantInserting = AssistantHold;
         return;
@@ -77,6 +86,8 @@ void CodeAssistant::followCaret()
     if (line != LastCaretLine)
         hideAll();
     LastCaretLine = line;
+    if (offersWhatFits())
+        followOffers();
 }
 
 bool CodeAssistant::CommitAssistant(int key)
@@ -85,7 +96,7 @@ bool CodeAssistant::CommitAssistant(int key)
         hideTip();
         return false;
     }
-    if (AssistantMatch.isEmpty())
+    if (AssistantMatch.isEmpty() || offersWhatFits())
         return false;
     completeWord();
     showTip();
@@ -103,7 +114,7 @@ void CodeAssistant::completeWord()
 
 bool CodeAssistant::moveIntoList(int key)
 {
-    if (!isListShown())
+    if (!isListShown() || offersWhatFits())
         return false;
     treCodeAssistantElements->setFocus(Qt::OtherFocusReason);
     sendKey(*treCodeAssistantElements, key, QString());
@@ -138,6 +149,10 @@ void CodeAssistant::pick(int node)
 {
     if (!isListShown() || m_edit.Locked())
         return;
+    if (offersWhatFits()) {
+        takeOffer(node);
+        return;
+    }
     AssistantMatch = treCodeAssistantElements->nodeAt(node).text;
     InsertAssistantElement();
 }

@@ -1,10 +1,16 @@
 #pragma once
 
+#include "document/assistantOffers.h"
+
 #include <QObject>
 #include <QString>
 
+#include <memory>
+
+class Document;
 class EditSurface;
 class NodeTree;
+class PageRules;
 class QFrame;
 class QLabel;
 class QWidget;
@@ -12,16 +18,20 @@ class SyntaxTip;
 struct AssistantGround;
 struct ProgramContext;
 
-/// The code assistant of a document window: a list of elements that follows the word being typed, and a tip with the
-/// syntax of the element that was completed. Neither takes the focus from typing; an arrow key moves into the list.
+/// The code assistant of a document window: a list that follows what is typed, and a tip with the syntax of the element
+/// that was completed. Neither takes the focus from typing. The list has the elements whose names begin with the word,
+/// and an arrow key moves into it; by the rules of today it has what fits at the caret.
 class CodeAssistant final : public QObject
 {
     Q_OBJECT
 public:
     /// `area` is the window's inside, which the surface lies in; the list and the tip are made in it, over the surface,
     /// and belong to it like the assistant itself.
-    CodeAssistant(QWidget &area, EditSurface &edit, const ProgramContext &context);
+    CodeAssistant(QWidget &area, EditSurface &edit, const Document &document, const ProgramContext &context);
 
+    void keyGoesDown() { m_keyed = false; }
+    /// A key is about to put a character in, or to take one.
+    void keyGoesIn() { m_keyed = true; }
     /// The text was changed: looks at the word at the caret and shows the list, or hides it.
     void followWord();
     /// The caret may be in another line: the list and the tip stay only with their line.
@@ -32,6 +42,11 @@ public:
     /// For the keys Up and Down: moves the focus into the list, where the key goes on. False, and nothing done, if the
     /// list is not on show.
     bool moveIntoList(int key);
+
+    /// By the rules of today: a key goes down that the list may know. True if it is used up.
+    bool takeKey(int key);
+    /// Whether those hold; then neither CommitAssistant nor moveIntoList do anything.
+    bool offersWhatFits() const;
 
     bool isListShown() const;
     void hideTip();
@@ -47,7 +62,19 @@ private:
     void InsertAssistantElement();
     void sendBlank();
     void completeWord();
+    void followName();
     void showTip();
+    void showTipOf(const QString &syntax);
+
+    const Vocabulary *vocabulary();
+    OfferSources sources();
+    void offerAtCaret();
+    void showOffers();
+    void moveInOffers(int rows);
+    void takeOffer(int row);
+    void showOwnSyntax(const QString &element);
+    void followOffers();
+
     void matchRow(int row);
     int rowOf(const QString &word) const;
     bool popupsWanted() const;
@@ -60,6 +87,7 @@ private:
 
     QWidget &m_area;
     EditSurface &m_edit;
+    const Document &m_document;
     const ProgramContext &m_context;
     QFrame *picCodeAsssitantBack = nullptr;
     NodeTree *treCodeAssistantElements = nullptr;
@@ -72,4 +100,10 @@ private:
     bool AssistantInserting = false; ///< the next change is the assistant's own
     bool AssistantHold = false;      ///< so are the changes behind that one
     qsizetype LastCaretLine = 0;
+
+    std::shared_ptr<const PageRules> m_rules; ///< read at the first offer
+    Offers m_offers;                          ///< those on show
+    qsizetype m_offeredAt = 0;                ///< the caret at their showing
+    bool m_showsOffers = false;               ///< the list has them, and not the elements of the other way
+    bool m_keyed = false;                     ///< the next change is a key's
 };

@@ -97,8 +97,11 @@ void CodeAssistant::hideAll()
 
 void CodeAssistant::showTip()
 {
-    const QString syntax =
-        m_context.codes ? m_context.codes->lstCodeAssistantSyntax(AssistantIndex) : QString();
+    showTipOf(m_context.codes ? m_context.codes->lstCodeAssistantSyntax(AssistantIndex) : QString());
+}
+
+void CodeAssistant::showTipOf(const QString &syntax)
+{
     lblCodeAssistantTextSize->setText(syntax);
     txtCodeAssistantSyntax->setSyntax(syntax);
     placeTip();

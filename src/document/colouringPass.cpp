@@ -44,7 +44,8 @@ void ColouringPass::begin()
     m_context.mainWindow->SetStatusText(
         QStringLiteral("Updating document's syntax colouring... [press any key to cancel]"));
     m_form->CancelColouring = false;
-    m_context.mainWindow->clearStructureTree();
+    if (fillsTree())
+        m_context.mainWindow->clearStructureTree();
     m_context.screenPointer.setMousePointer(ArrowHourglassPointer);
     m_edit->setPaintingHeld(true);
     if (!m_context.state.habits.HabitFocus && m_context.mainWindow->activeDocument() == m_form)
@@ -61,10 +62,15 @@ void ColouringPass::begin()
     }
 }
 
+bool ColouringPass::fillsTree() const
+{
+    return !m_context.state.habits.HabitStructure;
+}
+
 bool ColouringPass::scan()
 {
     m_context.services.yielder.beginPass();
-    m_scanner.setStructureShown(m_context.mainWindow->structurePageShown());
+    m_scanner.setStructureShown(fillsTree() && m_context.mainWindow->structurePageShown());
     while (m_scanner.advance()) {
         addNewNodes();
         m_context.services.yielder.yield();
@@ -74,7 +80,7 @@ bool ColouringPass::scan()
             return true;
         if (m_form->CancelColouring)
             m_scanner.cancel();
-        m_scanner.setStructureShown(m_context.mainWindow->structurePageShown());
+        m_scanner.setStructureShown(fillsTree() && m_context.mainWindow->structurePageShown());
     }
     addNewNodes();
     return true;

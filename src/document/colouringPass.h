@@ -23,6 +23,7 @@ public:
 private:
     void begin();
     bool scan();
+    bool fillsTree() const;
     void addNewNodes();
     void paint();
     void restoreView();

@@ -72,6 +72,7 @@ public:
         settle();
     }
     void setTyping(bool typing) override { m_typing = typing; }
+    void setLinked(bool linked) override { m_linked = linked; }
     void changed(bool clean) override;
     void selectionMoved() override;
     std::optional<bool> undo(bool clean) override
@@ -102,6 +103,7 @@ private:
     UndoHistory m_between; ///< a pass is one step: nobody asks for what was in between
     QObject m_turn;        ///< takes the step's end at the end of the event with it
     bool m_typing = false;
+    bool m_linked = false;
     bool m_restoring = false;
     bool m_wasLocked = false; ///< at the last change
     bool m_settling = false;  ///< at the end of the event
@@ -125,8 +127,10 @@ void EditStepHistory::changed(bool clean)
     if (std::exchange(m_wasLocked, locked) && !locked)
         m_history.settle();
     const bool typed = m_typing && !locked;
-    m_history.changed(m_edit.Text(), selectionOf(m_edit), typed ? EditHistory::Kind::Typed : EditHistory::Kind::Other,
-                      m_clock.now().toMSecsSinceEpoch());
+    const EditHistory::Kind kind = !typed     ? EditHistory::Kind::Other
+                                   : m_linked ? EditHistory::Kind::Linked
+                                              : EditHistory::Kind::Typed;
+    m_history.changed(m_edit.Text(), selectionOf(m_edit), kind, m_clock.now().toMSecsSinceEpoch());
     settleSoon();
 }
 

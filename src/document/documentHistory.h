@@ -25,6 +25,8 @@ public:
     virtual void take(const TextSelection &selection) = 0;
     /// A key that gives or takes a character is about to change the text; false: it has had its time.
     virtual void setTyping(bool) {}
+    /// The next change to be told is one of two places that go together.
+    virtual void setLinked(bool) {}
     /// The text was changed. `clean`: it was the saved one before.
     virtual void changed(bool /*clean*/) {}
     virtual void selectionMoved() {}

@@ -1,6 +1,7 @@
 #include "document/editHistory.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace
 {
@@ -112,6 +113,8 @@ bool EditHistory::joins(const Edit &edit, Kind kind, qint64 now) const
         return true;
     if (now - m_lastTime >= Pause || now < m_lastTime)
         return false;
+    if (kind == Kind::Linked)
+        return std::abs(edit.start - m_last.start) <= 1;
     const bool added = edit.removed.isEmpty() && edit.added.size() == 1;
     const bool removed = edit.added.isEmpty() && edit.removed.size() == 1;
     if (added)
@@ -128,7 +131,7 @@ void EditHistory::selectionMoved(TextSelection selection)
 {
     if (m_following && m_position > 0)
         m_steps[m_position - 1].after = selection;
-    else if (selection != m_selection && m_kind == Kind::Typed)
+    else if (selection != m_selection && m_kind != Kind::Other)
         m_open = false; // what is typed elsewhere is another step, even if the caret comes back
     m_selection = selection;
 }

@@ -17,7 +17,8 @@ public:
 
     /// How a change came about.
     enum class Kind {
-        Typed, ///< by a key that gives or takes a character
+        Typed,  ///< by a key that gives or takes a character
+        Linked, ///< by such a key, at two places at once
         Other,
     };
 

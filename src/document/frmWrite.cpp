@@ -7,6 +7,7 @@
 #include "common/programState.h"
 #include "common/unsavedText.h"
 #include "document/documentHistory.h"
+#include "document/documentStructure.h"
 #include "document/tagMarks.h"
 #include "document/viewingPanes.h"
 #include "services/editorSettings.h"
@@ -69,6 +70,8 @@ void frmWrite::buildSurface()
     connect(m_edit, &EditSurface::SelChange, this, [this] { m_tagMarks->follow(); });
     connect(m_edit, &EditSurface::Change, this, [this] { m_tagMarks->textChanged(); });
     m_edit->setHooks(surfaceHooks());
+    m_structure = new DocumentStructure(*this, *m_edit, context());
+    m_structure->setParent(m_edit);
     applyEditorSettings();
 }
 
@@ -138,6 +141,7 @@ void frmWrite::applyEditorSettings()
     m_edit->setTabWidth(tabWidth(services().settings));
     followHabits();
     m_tagMarks->follow();
+    m_structure->bringUp();
 }
 
 void frmWrite::CheckWordWrapSettings()
@@ -177,6 +181,7 @@ void frmWrite::Form_Activate()
     frmMdi().selectDocumentTab(DocKeyDescription);
     frmMdi().showFileFormat(fileFormatText(*this));
     frmMdi().documentInFront();
+    m_structure->bringUp();
     CheckWordWrapSettings();
     UpdateLineInformation();
     SplitEditingPreviewWindows();

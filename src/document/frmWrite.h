@@ -2,6 +2,7 @@
 
 #include "common/document.h"
 #include "common/textSelection.h"
+#include "document/pairedNames.h"
 #include "document/typedColouring.h"
 #include "forms/mdiForm.h"
 
@@ -10,6 +11,7 @@
 
 class CodeAssistant;
 class DocumentHistory;
+class DocumentStructure;
 class EditSurface;
 class NoticeBar;
 class QPoint;
@@ -144,6 +146,8 @@ private:
     void indentLines(bool indent);
     bool openAbbreviation();
     void writeEndTag();
+    void expectName();
+    bool followName();
 
     NoticeBar *m_noticeBar = nullptr;
     ViewingPanes *m_panes = nullptr;
@@ -157,9 +161,12 @@ private:
     CodeAssistant *m_assistant = nullptr;
     std::unique_ptr<DocumentHistory> m_history;
     std::unique_ptr<TagMarks> m_tagMarks;
+    DocumentStructure *m_structure = nullptr;
     bool m_keepsEdits = false; ///< the history is one of edits
     bool m_tagEnds = false;    ///< the next change is a ">" that was typed
     TypedColouring m_typed;
+    PairedNames m_pairedNames;
+    bool m_followsName = false; ///< a tag's partner is taking its name: one change with the key's
     QString HoverLink;              ///< the address under the pointer while Ctrl is held; empty otherwise
     bool m_followsTarget = false;   ///< it is the target of a link, which may be a page of this machine
     qsizetype FirstVisibleLine = 0; ///< when the line information was last brought up to date

@@ -7,6 +7,7 @@
 #include "common/unsavedText.h"
 #include "document/codeAssistant.h"
 #include "document/documentHistory.h"
+#include "document/documentStructure.h"
 #include "document/frmWrite.h"
 #include "document/handCommands.h"
 #include "document/lineHands.h"
@@ -70,8 +71,9 @@ bool endsAStep(const SurfaceKey &key)
 
 void frmWrite::txtEdit_Change()
 {
-    if (ColouringActive)
+    if (ColouringActive || m_followsName)
         return;
+    m_history->setLinked(followName());
     tmrRefresh->setEnabled(false);
     tmrRefresh->setEnabled(true);
     tmrUpdateLiveSplitPreview->setEnabled(false);
@@ -87,6 +89,20 @@ void frmWrite::txtEdit_Change()
     m_assistant->followWord();
     if (std::exchange(m_tagEnds, false))
         writeEndTag();
+}
+
+void frmWrite::expectName()
+{
+    if (context().state.habits.HandsPair && commentSignsAt({}, 0, DocSavePath) == CommentSigns::Html)
+        m_pairedNames.beforeKey(*m_edit);
+}
+
+bool frmWrite::followName()
+{
+    m_followsName = true;
+    const bool followed = m_pairedNames.follow(*m_edit);
+    m_followsName = false;
+    return followed;
 }
 
 /// The end tag goes in behind the caret. Who writes it by hand takes the place of the one that is there.
@@ -110,6 +126,7 @@ void frmWrite::txtEdit_KeyDown(SurfaceKey &key)
 {
     UpdateLineInformation();
     m_history->keyDown();
+    m_assistant->keyGoesDown();
     if (key.key != Qt::Key_Delete)
         SkipLineUpdate = true;
     stopColouring(key);
@@ -139,6 +156,12 @@ void frmWrite::assist(SurfaceKey &key)
 {
     if (heldKeys(key) != Qt::NoModifier)
         return;
+    if (m_assistant->takeKey(key.key)) {
+        useUp(key);
+        return;
+    }
+    if (key.key == Qt::Key_Delete)
+        m_assistant->keyGoesIn();
     if (key.key == Qt::Key_Space || key.key == Qt::Key_Delete || isEnter(key.key)) {
         if (m_assistant->CommitAssistant(key.key))
             key.key = 0; // its character still goes in behind the name
@@ -224,6 +247,8 @@ void frmWrite::recordStep(const SurfaceKey &key)
     if (endsAStep(key))
         m_history->takeAtKey(selection());
     m_history->setTyping(key.key == Qt::Key_Delete); // it gives no character
+    if (key.key == Qt::Key_Delete)
+        expectName();
 }
 
 void frmWrite::leaveForPane(SurfaceKey &key)
@@ -293,6 +318,8 @@ void frmWrite::txtEdit_KeyPress(SurfaceCharacter &character)
     else if (character.text == u" " && character.committed)
         m_assistant->CommitAssistant(Qt::Key_Space); // an input method's blank comes without a key
     m_history->setTyping(!character.committed);
+    expectName();
+    m_assistant->keyGoesIn();
     m_tagEnds = character.text == u">" && context().state.habits.HandsClose;
     const auto part = [this](qsizetype start, qsizetype length) { return m_edit->textPart(start, length); };
     const TypedResult result = m_typed.keyPress(character.text, m_edit->SelStart(), part, frmMdi().colouring);
@@ -344,7 +371,7 @@ void frmWrite::txtEdit_LostFocus()
             return;
         const Document *active = frmMdi().activeDocument();
         if (active && active->DocNumber != DocNumber)
-            frmMdi().clearStructureTree();
+            m_structure->leave();
     };
     QMetaObject::invokeMethod(this, clearForAnother, Qt::QueuedConnection);
 }

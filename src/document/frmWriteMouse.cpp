@@ -41,7 +41,7 @@ SurfaceHooks frmWrite::surfaceHooks()
 
 void frmWrite::buildAssistant()
 {
-    m_assistant = new CodeAssistant(*m_panes->pane(0), *m_edit, context());
+    m_assistant = new CodeAssistant(*m_panes->pane(0), *m_edit, *this, context());
     m_edit->margin()->setObjectName(QStringLiteral("picLineInformation"));
     // Scrolling is told by the surface, so that an idle window need not look for it.
     StillTimerSource still;

@@ -134,6 +134,22 @@ void CloseElement(ProgramContext &context)
     });
 }
 
+void SelectElementName(ProgramContext &context)
+{
+    Document *document = context.mainWindow->activeDocument();
+    if (!document)
+        return;
+    TextSurface &edit = document->txtEdit();
+    const QString text = edit.Text();
+    const std::optional<TagPair> atCaret = tagPairAt(text, edit.SelStart());
+    const std::optional<TagPair> pair = atCaret ? atCaret : elementAround(text, edit.SelStart());
+    if (!pair)
+        return;
+    edit.setSelStart(pair->tag.nameStart);
+    edit.setSelLength(pair->tag.name.size());
+    edit.SetFocus();
+}
+
 bool ExpandAbbreviation(ProgramContext &context, Document &document)
 {
     const TextSurface &edit = document.txtEdit();

@@ -17,6 +17,8 @@ void RemoveLines(ProgramContext &context);
 void GoToPartner(ProgramContext &context);
 /// Writes the end tag of the innermost element that is open at the caret.
 void CloseElement(ProgramContext &context);
+/// Selects the name in the tag at the caret, or else in the start tag of the innermost element that holds the caret.
+void SelectElementName(ProgramContext &context);
 /// Opens the abbreviation right before the caret. False where there is none, or text is selected.
 bool ExpandAbbreviation(ProgramContext &context, Document &document);
 /// Puts the elements of an abbreviation around the selection. False, and nothing changed, where it cannot be read.

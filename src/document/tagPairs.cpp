@@ -6,17 +6,6 @@
 
 namespace
 {
-bool isVoid(const QString &name)
-{
-    static const QSet<QString> names{QStringLiteral("area"),    QStringLiteral("base"),  QStringLiteral("basefont"),
-                                     QStringLiteral("bgsound"), QStringLiteral("br"),    QStringLiteral("col"),
-                                     QStringLiteral("embed"),   QStringLiteral("frame"), QStringLiteral("hr"),
-                                     QStringLiteral("img"),     QStringLiteral("input"), QStringLiteral("isindex"),
-                                     QStringLiteral("link"),    QStringLiteral("meta"),  QStringLiteral("param"),
-                                     QStringLiteral("source"),  QStringLiteral("track"), QStringLiteral("wbr")};
-    return names.contains(name);
-}
-
 bool holdsText(const QString &name)
 {
     return name == u"script" || name == u"style" || name == u"textarea" || name == u"title";
@@ -73,7 +62,7 @@ private:
         tag.end = end;
         if (closes)
             tag.kind = PageTag::Kind::Close;
-        else if (isVoid(tag.name) || m_text[end - 2] == u'/')
+        else if (isVoidElement(tag.name) || m_text[end - 2] == u'/')
             tag.kind = PageTag::Kind::Alone;
         m_tags.append(tag);
         m_at = end;
@@ -147,6 +136,17 @@ Pairing pairingOf(const QList<PageTag> &tags, qsizetype count)
 }
 } // namespace
 
+bool isVoidElement(const QString &name)
+{
+    static const QSet<QString> names{QStringLiteral("area"),    QStringLiteral("base"),  QStringLiteral("basefont"),
+                                     QStringLiteral("bgsound"), QStringLiteral("br"),    QStringLiteral("col"),
+                                     QStringLiteral("embed"),   QStringLiteral("frame"), QStringLiteral("hr"),
+                                     QStringLiteral("img"),     QStringLiteral("input"), QStringLiteral("isindex"),
+                                     QStringLiteral("link"),    QStringLiteral("meta"),  QStringLiteral("param"),
+                                     QStringLiteral("source"),  QStringLiteral("track"), QStringLiteral("wbr")};
+    return names.contains(name);
+}
+
 QList<PageTag> tagsOf(QStringView text)
 {
     return TagWalk(text).tags();
@@ -163,6 +163,17 @@ std::optional<TagPair> tagPairAt(QStringView text, qsizetype position)
             if (position < tags[i].end)
                 break; // between two tags, the one that begins there is meant
         }
+    return found;
+}
+
+std::optional<TagPair> elementAround(QStringView text, qsizetype position)
+{
+    const QList<PageTag> tags = tagsOf(text);
+    const QList<qsizetype> partners = pairingOf(tags, tags.size()).partners;
+    std::optional<TagPair> found;
+    for (qsizetype i = 0; i < tags.size() && tags[i].start <= position; ++i)
+        if (tags[i].kind == PageTag::Kind::Open && partners[i] >= 0 && position <= tags[partners[i]].end)
+            found = TagPair{tags[i], tags[partners[i]]};
     return found;
 }
 

@@ -16,6 +16,9 @@ struct PageTag {
     bool operator==(const PageTag &) const = default;
 };
 
+/// Whether an element of that name, in lower case, has neither contents nor an end tag.
+bool isVoidElement(const QString &name);
+
 /// All tags, in their order. Comments, declarations, and what stands in quotes or in scripts, styles, text areas and
 /// titles hold none; neither does a tag without its ">".
 QList<PageTag> tagsOf(QStringView text);
@@ -27,6 +30,10 @@ struct TagPair {
 
 /// The tag at a position, from in front of its "<" to behind its ">", and its partner; nothing for a tag without one.
 std::optional<TagPair> tagPairAt(QStringView text, qsizetype position);
+
+/// The tags of the innermost element that holds a position, its tags included; nothing where no element with both tags
+/// does.
+std::optional<TagPair> elementAround(QStringView text, qsizetype position);
 
 /// The end tag that belongs behind the start tag whose ">" stands right before the position; empty for none, where the
 /// element has no end tag, and where it stands in the text already.

@@ -63,6 +63,7 @@ public:
     void clearStructureTree() override;
     bool structurePageShown() const override;
     void addStructureNode(qsizetype parent, const QString &key, const QString &text, const QString &image) override;
+    void showStructure(const QList<TreeNode> &nodes) override;
 
     QPoint insertBarDrop() const override;
     void setInsertBarPressed(bool pressed) override;

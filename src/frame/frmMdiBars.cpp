@@ -206,6 +206,11 @@ void frmMdi::addStructureNode(qsizetype parent, const QString &key, const QStrin
     m_pane->treStructure->addNode({.text = text, .key = key, .imageKey = image, .parent = static_cast<int>(parent)});
 }
 
+void frmMdi::showStructure(const QList<TreeNode> &nodes)
+{
+    m_pane->treStructure->showNodes(nodes);
+}
+
 void frmMdi::treStructure_NodeClick(int node)
 {
     Document *document = activeDocument();

@@ -241,6 +241,11 @@ void MainCommands::mnuCloseElement_Click()
     CloseElement(m_context);
 }
 
+void MainCommands::mnuRenameElement_Click()
+{
+    SelectElementName(m_context);
+}
+
 void MainCommands::mnuExpandAbbreviation_Click()
 {
     if (Document *active = document())

@@ -75,6 +75,7 @@ public:
     void mnuRemoveLines_Click();
     void mnuGoToPartner_Click();
     void mnuCloseElement_Click();
+    void mnuRenameElement_Click();
     void mnuExpandAbbreviation_Click();
     void mnuFollowLink_Click();
     void mnuGoToFile_Click();

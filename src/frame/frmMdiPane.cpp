@@ -63,6 +63,8 @@ QHash<QString, QIcon> imlDocStructure()
     QHash<QString, QIcon> images;
     for (const auto &[key, drawing] : pictures)
         images.insert(QLatin1String(key), programIcon(QLatin1String(drawing)));
+    images.insert(QStringLiteral("Error"),
+                  programIcon(QStringLiteral("circle-alert"), QColor(0xC6, 0x28, 0x28), QColor(0xFF, 0x6E, 0x64)));
     return images;
 }
 

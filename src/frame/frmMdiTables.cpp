@@ -102,6 +102,7 @@ constexpr MenuCommand menuTable[] = {
     {"mnuRemoveLines", "mnuHands", "&Remove Lines", "Ctrl+Shift+K", "", Any, runs(&C::mnuRemoveLines_Click), &Habits::HandsLines},
     {"mnuCloseElement", "mnuHands", "C&lose Element", "", "", Any, runs(&C::mnuCloseElement_Click), &Habits::HandsClose},
     {"mnuGoToPartner", "mnuHands", "Go To &Partner", "Ctrl+M", "", Any, runs(&C::mnuGoToPartner_Click), &Habits::HandsMatch},
+    {"mnuRenameElement", "mnuHands", "Rena&me Element", "", "", Any, runs(&C::mnuRenameElement_Click), &Habits::HandsPair},
     {"mnuExpandAbbreviation", "mnuHands", "&Expand Abbreviation", "", "", Any, runs(&C::mnuExpandAbbreviation_Click), &Habits::HandsAbbreviations},
     {"mnuWrapAbbreviation", "mnuHands", "&Wrap With Abbreviation...", "Ctrl+Shift+A", "", Any, shows("frmWrapAbbreviation"), &Habits::HandsAbbreviations},
     {"mnuFollowLink", "mnuHands", "&Follow Link", "", "", Any, runs(&C::mnuFollowLink_Click), &Habits::HandsFollow},

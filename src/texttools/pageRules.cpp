@@ -1,5 +1,6 @@
 #include "texttools/pageRules.h"
 
+#include <algorithm>
 #include <array>
 
 namespace
@@ -280,6 +281,26 @@ const AttributeRule *Vocabulary::attributeOf(int element, int attribute) const
     if (found == m_attributeRules.constEnd())
         found = m_attributeRules.constFind(keyOf(0, attribute));
     return found == m_attributeRules.constEnd() ? nullptr : &*found;
+}
+
+QList<int> Vocabulary::attributesKept(int element) const
+{
+    QList<int> attributes;
+    for (int attribute = 1; attribute <= m_attributes.count(); ++attribute)
+        if (m_attributeRules.contains(keyOf(element, attribute)))
+            attributes.append(attribute);
+    return attributes;
+}
+
+QList<int> Vocabulary::ownAttributes(int element) const
+{
+    QList<int> attributes = attributesKept(element);
+    const QList<AttributeDemand> &demands = rule(element).demands;
+    std::stable_partition(attributes.begin(), attributes.end(), [&demands](int attribute) {
+        return std::any_of(demands.begin(), demands.end(),
+                           [attribute](const AttributeDemand &demand) { return demand.anyOf.contains(attribute); });
+    });
+    return attributes;
 }
 
 std::shared_ptr<const PageRules> PageRules::read(const QByteArray &bytes)

@@ -92,10 +92,15 @@ public:
     QString attributeName(int attribute) const { return m_attributes.name(attribute); }
     /// Nothing where the element does not have that attribute.
     const AttributeRule *attributeOf(int element, int attribute) const;
+    /// The attributes that this element has by itself, those that it must have first; and those that every element has.
+    QList<int> ownAttributes(int element) const;
+    QList<int> commonAttributes() const { return attributesKept(0); }
     NameSet group(const QString &name) const { return m_groups.value(name); }
     bool today() const { return m_today; } ///< the language of today
 
 private:
+    QList<int> attributesKept(int element) const;
+
     friend class PageRulesReader;
     NameTable m_elements;
     NameTable m_attributes;

@@ -3,6 +3,8 @@
 #include <QMetaObject>
 #include <QSet>
 
+#include <algorithm>
+
 void KeptNodes::setImages(const QHash<QString, QIcon> &images)
 {
     m_images = images;
@@ -44,6 +46,28 @@ void KeptNodes::clear()
     m_byKey.clear();
     m_published = 0;
     endResetModel();
+}
+
+bool KeptNodes::update(const QList<TreeNode> &nodes)
+{
+    const bool isAlike = std::equal(m_nodes.begin(), m_nodes.end(), nodes.begin(), nodes.end(),
+                                    [](const Entry &entry, const TreeNode &node) {
+                                        return entry.item.text == node.text && entry.item.parent == node.parent;
+                                    });
+    if (!isAlike)
+        return false;
+    m_byKey.clear();
+    for (int number = 0; number < size(); ++number) {
+        TreeNode &item = entry(number).item;
+        const TreeNode &node = nodes[number];
+        const bool looksOther = item.imageKey != node.imageKey || item.tip != node.tip;
+        item = node;
+        if (!node.key.isEmpty())
+            m_byKey.insert(node.key, number);
+        if (looksOther && number < m_published)
+            Q_EMIT dataChanged(indexOf(number), indexOf(number));
+    }
+    return true;
 }
 
 void KeptNodes::schedulePublishing()
@@ -124,5 +148,7 @@ QVariant KeptNodes::data(const QModelIndex &index, int role) const
         return node.text;
     if (role == Qt::DecorationRole && !node.imageKey.isEmpty())
         return m_images.value(node.imageKey);
+    if (role == Qt::ToolTipRole && !node.tip.isEmpty())
+        return node.tip;
     return {};
 }

@@ -17,6 +17,9 @@ public:
     std::optional<int> add(TreeNode node);
     void reserve(int nodes); ///< room for so many in all
     void clear();
+    /// Takes these over for those that it has, of which only keys, images and tips may be others; the views keep what
+    /// they show. False, and nothing changed, if there is more to it.
+    bool update(const QList<TreeNode> &nodes);
     void publish() override;
 
     int size() const override { return static_cast<int>(m_nodes.size()); }

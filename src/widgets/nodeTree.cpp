@@ -4,6 +4,7 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <algorithm>
 #include <utility>
 
 NodeTree::NodeTree(QWidget *parent) : QTreeView(parent), m_own(std::make_shared<KeptNodes>()), m_model(m_own)
@@ -69,6 +70,43 @@ void NodeTree::clearNodes()
 {
     if (m_own)
         m_own->clear();
+}
+
+void NodeTree::showNodes(const QList<TreeNode> &nodes)
+{
+    constexpr qsizetype OpenedWhole = 3000;
+    constexpr int OuterLevels = 3;
+    if (!m_own || m_own->update(nodes))
+        return;
+    const int before = nodeCount();
+    QList<TreeNode> old;
+    QList<bool> closed;
+    for (int node = 0; node < before; ++node) {
+        old.append(nodeAt(node));
+        closed.append(m_model->rowCount(indexOf(node)) > 0 && !isNodeExpanded(node));
+    }
+    const auto isSame = [](const TreeNode &one, const TreeNode &other) { return one.text == other.text; };
+    const qsizetype most = std::min(old.size(), nodes.size());
+    const qsizetype head = std::mismatch(old.begin(), old.begin() + most, nodes.begin(), isSame).first - old.begin();
+    const qsizetype tail =
+        std::mismatch(old.rbegin(), old.rbegin() + (most - head), nodes.rbegin(), isSame).first - old.rbegin();
+    const auto nowAt = [&](qsizetype node) {
+        if (node < head)
+            return std::optional(static_cast<int>(node));
+        return node >= before - tail ? std::optional(static_cast<int>(node - before + nodes.size())) : std::nullopt;
+    };
+    const std::optional<int> selected = selectedNode();
+    clearNodes();
+    m_own->reserve(static_cast<int>(nodes.size()));
+    for (const TreeNode &node : nodes)
+        addNode(node);
+    m_own->publish();
+    nodes.size() <= OpenedWhole ? expandAll() : expandToDepth(OuterLevels);
+    for (qsizetype node = 0; node < before; ++node)
+        if (const std::optional<int> now = closed[node] ? nowAt(node) : std::nullopt; now && before <= OpenedWhole)
+            expandNode(*now, false);
+    if (const std::optional<int> now = selected ? nowAt(*selected) : std::nullopt)
+        selectionModel()->setCurrentIndex(indexOf(*now), QItemSelectionModel::ClearAndSelect);
 }
 
 int NodeTree::nodeCount() const

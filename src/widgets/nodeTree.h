@@ -31,6 +31,10 @@ public:
     /// already, the image key is unknown or the parent is not there.
     std::optional<int> addNode(const TreeNode &node);
     void clearNodes();
+    /// Shows these in the place of all nodes, opened but for those that were closed before; nodes that stand at the
+    /// start or at the end of both lists, with the same texts, count as the same. Of a large tree, only the outer
+    /// levels are opened.
+    void showNodes(const QList<TreeNode> &nodes);
 
     int nodeCount() const;
     TreeNode nodeAt(int node) const;

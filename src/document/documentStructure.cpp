@@ -1,0 +1,106 @@
+#include "document/documentStructure.h"
+
+#include "common/document.h"
+#include "common/mainWindow.h"
+#include "common/programState.h"
+#include "document/lineHands.h"
+#include "document/pageOutline.h"
+#include "document/structureTree.h"
+#include "forms/programContext.h"
+#include "surface/editSurface.h"
+
+#include <utility>
+
+namespace
+{
+/// Up to this length a page is read anew at each key, beyond it in a pause.
+constexpr qsizetype ReadAtOnce = 65536;
+constexpr int PauseMilliseconds = 150;
+
+QString imageOf(const QString &name)
+{
+    static const QHash<QString, QString> images = {
+        {QStringLiteral("a"), QStringLiteral("Hyperlink")},
+        {QStringLiteral("img"), QStringLiteral("Image")},
+        {QStringLiteral("br"), QStringLiteral("LineBreak")},
+        {QStringLiteral("p"), QStringLiteral("Paragraph")},
+        {QStringLiteral("hr"), QStringLiteral("HorizontalRule")},
+        {QStringLiteral("form"), QStringLiteral("FormObject")},
+        {QStringLiteral("applet"), QStringLiteral("Applet")},
+        {QStringLiteral("b"), QStringLiteral("FontBold")},
+        {QStringLiteral("i"), QStringLiteral("FontItalic")},
+        {QStringLiteral("u"), QStringLiteral("FontUnderline")},
+        {QStringLiteral("table"), QStringLiteral("Table")},
+        {QStringLiteral("h1"), QStringLiteral("Heading")},
+        {QStringLiteral("h2"), QStringLiteral("Heading")},
+        {QStringLiteral("h3"), QStringLiteral("Heading")},
+        {QStringLiteral("h4"), QStringLiteral("Heading")},
+        {QStringLiteral("h5"), QStringLiteral("Heading")},
+        {QStringLiteral("h6"), QStringLiteral("Heading")},
+    };
+    return images.value(name, QStringLiteral("Element"));
+}
+
+TreeNode treeNode(const OutlineNode &node)
+{
+    return {.text = node.name,
+            .key = StructureNode{node.start, node.length, {}, {}, -1}.key(),
+            .imageKey = node.fault.isEmpty() ? imageOf(node.name) : QStringLiteral("Error"),
+            .parent = static_cast<int>(node.parent),
+            .tip = node.fault};
+}
+} // namespace
+
+DocumentStructure::DocumentStructure(Document &document, EditSurface &edit, ProgramContext &context)
+    : m_document(document), m_edit(edit), m_context(context)
+{
+    m_soon.setSingleShot(true);
+    connect(&m_soon, &QTimer::timeout, this, [this] { show(); });
+    connect(&edit, &EditSurface::Change, this, [this] { noteChange(); });
+}
+
+void DocumentStructure::noteChange()
+{
+    if (m_edit.textLength() <= ReadAtOnce)
+        bringUp();
+    else
+        m_soon.start(PauseMilliseconds);
+}
+
+void DocumentStructure::bringUp()
+{
+    m_soon.stop();
+    if (!std::exchange(m_queued, true))
+        QMetaObject::invokeMethod(
+            this, [this] { show(); }, Qt::QueuedConnection);
+}
+
+void DocumentStructure::leave()
+{
+    if (!m_context.state.habits.HabitStructure)
+        m_context.mainWindow->clearStructureTree();
+}
+
+void DocumentStructure::show()
+{
+    m_queued = false;
+    const bool holds = m_context.state.habits.HabitStructure;
+    if (!holds && !m_marked)
+        return;
+    std::vector<OutlineNode> nodes;
+    if (holds && commentSignsAt({}, 0, m_document.DocSavePath) == CommentSigns::Html)
+        nodes = pageOutline(m_edit.Text());
+    QList<MarkedRange> marks;
+    for (const OutlineNode &node : nodes)
+        if (!node.fault.isEmpty())
+            marks.append({node.start, node.length, MarkKind::Error, node.fault, {}});
+    m_marked = holds;
+    m_edit.setMarkedRanges(MarkOwner::Structure, marks);
+    if (m_context.mainWindow->activeDocument() != &m_document)
+        return;
+    QList<TreeNode> tree;
+    tree.reserve(static_cast<qsizetype>(nodes.size()));
+    for (const OutlineNode &node : nodes)
+        tree.append(treeNode(node));
+    m_context.mainWindow->showStructure(tree);
+}
