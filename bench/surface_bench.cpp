@@ -233,8 +233,8 @@ void surfaceSingleLine(Figures &figures)
     for (const auto &line : lines) {
         const QByteArray bytes = line.text.toUtf8();
         for (const bool wrapped : {false, true}) {
-            const QString name = QStringLiteral("%1 in a line%2").arg(
-                QLatin1String(line.name), wrapped ? QStringLiteral(", wrapped") : QString());
+            const QString name = QStringLiteral("%1 in a line%2")
+                                     .arg(QLatin1String(line.name), wrapped ? QStringLiteral(", wrapped") : QString());
             {
                 EditSurface surface;
                 surface.setWrapToWindow(wrapped);

@@ -9,9 +9,9 @@
 
 namespace
 {
-constexpr qsizetype largestAtOnce = 200'000; // characters, whose tags are found in a millisecond or two
-constexpr qsizetype reach = 4096;            // characters in which the start of the caret's tag is looked for
-constexpr int restFirst = 150;               // milliseconds
+constexpr qsizetype largestAtOnce = 50'000; // characters, whose tags are found in less than a millisecond
+constexpr qsizetype reach = 4096;           // characters in which the start of the caret's tag is looked for
+constexpr int restFirst = 150;              // milliseconds
 
 /// Whether a tag may stand at a position, by what is near it: so a caret in plain text looks for none.
 bool mayBeAtTag(const TextSurface &surface, qsizetype position)

@@ -251,6 +251,7 @@ private:
     bool m_hideSelection = false;
     QBasicTimer m_blink;
     bool m_caretShown = false;
+    int m_blinksLeft = 0; ///< until the caret stays, so that a desktop at rest is not woken
     qsizetype m_preeditCaret = 0;
     bool m_preeditCaretHidden = false;
     QPoint m_pressed; ///< where the mouse went down, in the viewport

@@ -25,7 +25,8 @@ int inBar(double value)
     return static_cast<int>(std::clamp(value, 0.0, double(INT_MAX)));
 }
 
-constexpr qsizetype keptAround = 60; // lines above and below the view whose layouts stay
+constexpr int longestBlinking = 10'000; // milliseconds behind the last key
+constexpr qsizetype keptAround = 60;    // lines above and below the view whose layouts stay
 } // namespace
 
 void EditSurface::changeEvent(QEvent *event)
@@ -266,10 +267,12 @@ QList<QTextLayout::FormatRange> EditSurface::drawnOver(qsizetype line, const Lin
 void EditSurface::showBlink(bool on)
 {
     const int flash = QGuiApplication::styleHints()->cursorFlashTime();
-    if (on && flash >= 2)
+    if (on && flash >= 2) {
+        m_blinksLeft = longestBlinking / (flash / 2);
         m_blink.start(flash / 2, this);
-    else
+    } else {
         m_blink.stop();
+    }
     if (m_caretShown != std::exchange(m_caretShown, on))
         viewport()->update(caretRect().toAlignedRect().adjusted(-3, 0, 3, 0));
 }
@@ -278,6 +281,8 @@ void EditSurface::timerEvent(QTimerEvent *event)
 {
     if (event->timerId() == m_blink.timerId()) {
         m_caretShown = !m_caretShown;
+        if (--m_blinksLeft <= 0 && m_caretShown)
+            m_blink.stop();
         viewport()->update(caretRect().toAlignedRect().adjusted(-3, 0, 3, 0));
     } else if (event->timerId() == m_autoScroll.timerId()) {
         const int beyond = m_dragPoint.y() < 0 ? m_dragPoint.y() : std::max(m_dragPoint.y() - viewport()->height(), 0);

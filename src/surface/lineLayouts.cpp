@@ -128,6 +128,7 @@ const LinePiece &LineLayouts::piece(qsizetype line, int piece)
     const auto found = kept.pieces.find(piece);
     if (found != kept.pieces.end())
         return found->second;
+    ++m_laidOut;
     const LinePiece &made = kept.pieces.emplace(piece, laidOut(line, piece)).first->second;
     kept.sizes[piece] = {made.length, made.width, made.rowCount()};
     if (kept.advance <= 0 && made.length > 0)
@@ -288,6 +289,11 @@ void LineLayouts::forgetAll()
 
 void LineLayouts::replaceLines(qsizetype line, qsizetype removed, qsizetype added)
 {
+    if (removed == added) { // as nearly every key does it
+        for (qsizetype i = line; i < line + removed; ++i)
+            m_lines.erase(i);
+        return;
+    }
     std::unordered_map<qsizetype, Line> kept;
     for (auto &[number, layouts] : m_lines) {
         if (number < line)

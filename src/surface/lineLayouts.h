@@ -68,6 +68,7 @@ public:
     qsizetype pieceStart(qsizetype line, int piece) const; ///< in the line; for the count of pieces the line's length
     int pieceOf(qsizetype line, qsizetype column) const;   ///< the last one that starts at or before the column
     const LinePiece &piece(qsizetype line, int piece);     ///< laid out, if it is not yet
+    quint64 laidOutCount() const { return m_laidOut; }     ///< of pieces, ever
     /// Where a piece of a row that is not wrapped starts, in pixels from the row's start.
     qreal pieceLeft(qsizetype line, int piece) const;
     /// The piece of a row that is not wrapped in which a place, counted in pixels, lies.
@@ -109,6 +110,7 @@ private:
     std::function<QColor(ColourValue)> m_colour;
     LayoutStyle m_style;
     Preedit m_preedit;
+    quint64 m_laidOut = 0;
     qreal m_rowHeight = 1;
     qreal m_advance = 1;
     std::unordered_map<qsizetype, Line> m_lines;

@@ -234,7 +234,17 @@ QString SurfaceAccessible::attributes(int at, int *start, int *end) const
             attributes += look.bold ? QStringLiteral("font-weight:bold;") : QString();
             attributes += look.underline ? QStringLiteral("text-underline-style:solid;") : QString();
         });
-    return attributes;
+    qsizetype last = position(*end);
+    bool isWrong = false;
+    edit.m_marks.forEachAt(place, last, [&](const MarkedRange &mark) {
+        const qsizetype behind = mark.start + mark.length;
+        if (mark.kind != MarkKind::Error || behind <= place)
+            return;
+        isWrong = isWrong || mark.start <= place;
+        last = std::min(last, mark.start > place ? mark.start : behind);
+    });
+    *end = offset(last);
+    return isWrong ? attributes + QStringLiteral("invalid:true;") : attributes;
 }
 
 void SurfaceAccessible::deleteText(int start, int end)

@@ -18,6 +18,7 @@ void SurfaceView::setStyle(const QFont &font, qreal tabDistance, bool wrap)
     if (style == m_layouts.style())
         return;
     m_layouts.setStyle(style);
+    m_bottomTop.reset();
     countRows();
     estimateWidth();
     m_top = rowOf(anchor);
@@ -28,6 +29,7 @@ void SurfaceView::setStyle(const QFont &font, qreal tabDistance, bool wrap)
 void SurfaceView::setSize(const QSizeF &size)
 {
     m_size = size;
+    m_bottomTop.reset();
     if (m_wrap)
         setStyle(m_layouts.style().font, m_layouts.style().tabDistance, true);
     keepInText();
@@ -36,6 +38,7 @@ void SurfaceView::setSize(const QSizeF &size)
 void SurfaceView::textLoaded()
 {
     m_layouts.forgetAll();
+    m_bottomTop.reset();
     countRows();
     m_widest = 0;
     estimateWidth();
@@ -76,7 +79,11 @@ void SurfaceView::estimateWidth()
 void SurfaceView::linesReplaced(qsizetype line, qsizetype removed, qsizetype added)
 {
     m_layouts.replaceLines(line, removed, added);
-    if (wraps())
+    const bool one = removed == 1 && added == 1 && (!wraps() || m_layouts.pieceCount(line) == 1);
+    const quint32 rowsBefore = one && wraps() ? m_rows.rowsOf(line) : 0;
+    if (one && wraps())
+        pieceAt(line, 0); // which counts its rows
+    else if (wraps())
         m_rows.replace(line, removed, estimatedRows(line, added));
     else
         for (qsizetype i = line; i < line + added; ++i)
@@ -85,17 +92,26 @@ void SurfaceView::linesReplaced(qsizetype line, qsizetype removed, qsizetype add
         m_top.piece = std::min(m_top.piece, m_layouts.pieceCount(m_top.line) - 1);
         m_top.row = std::min(m_top.row, pieceAt(m_top.line, m_top.piece).rowCount() - 1);
     }
+    const bool atBottomTop = m_bottomTop && m_bottomTop->line == line;
+    if (one && !atBottomTop && (!wraps() || m_rows.rowsOf(line) == rowsBefore)) // the text's end stays where it is
+        return;
+    m_bottomTop.reset();
     keepInText();
 }
 
 /// Lays a piece out, and takes notice of how many rows it turns out to have.
 const LinePiece &SurfaceView::pieceAt(qsizetype line, int number)
 {
+    const quint64 before = m_layouts.laidOutCount();
     const LinePiece &piece = m_layouts.piece(line, number);
+    if (wraps() && m_layouts.laidOutCount() == before)
+        return piece;
     if (!wraps())
         m_widest = std::max(m_widest, m_layouts.lineWidth(line));
-    else if (const auto rows = static_cast<quint32>(std::max(m_layouts.rowsOf(line), 1)); rows != m_rows.rowsOf(line))
+    else if (const auto rows = static_cast<quint32>(std::max(m_layouts.rowsOf(line), 1)); rows != m_rows.rowsOf(line)) {
         m_rows.set(line, rows);
+        m_bottomTop.reset();
+    }
     return piece;
 }
 
@@ -160,7 +176,20 @@ int SurfaceView::rowsOnView() const
 }
 
 /// The top row where the text is scrolled to its end.
-RowPlace SurfaceView::bottomTop()
+const RowPlace &SurfaceView::bottomTop()
+{
+    if (const std::optional<RowPlace> known = m_bottomTop; known && wraps()) {
+        if (known->row >= pieceAt(known->line, known->piece).rowCount()) // laid out anew since, with other rows
+            m_bottomTop.reset();
+    }
+    if (!m_bottomTop) {
+        const RowPlace found = foundBottomTop(); // which may learn of rows
+        m_bottomTop = found;
+    }
+    return *m_bottomTop;
+}
+
+RowPlace SurfaceView::foundBottomTop()
 {
     RowPlace row = lastRow();
     if (!m_shown)

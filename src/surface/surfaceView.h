@@ -43,7 +43,12 @@ public:
     void setStyle(const QFont &font, qreal tabDistance, bool wrap);
     void setSize(const QSizeF &size);
     const QSizeF &size() const { return m_size; }
-    void setShown(bool shown) { m_shown = shown; } ///< a view that nobody sees can be scrolled to any row
+    /// A view that nobody sees can be scrolled to any row.
+    void setShown(bool shown)
+    {
+        m_shown = shown;
+        m_bottomTop.reset();
+    }
 
     void textLoaded();
     /// `removed` lines from `line` on have given way to `added` ones. The view stays at the number of its top line.
@@ -90,7 +95,8 @@ private:
     QTextLine textLine(const RowPlace &row);
     qreal topMargin(const RowPlace &row) const { return row.line == 0 ? margin : 0; }
     RowPlace lastRow();
-    RowPlace bottomTop();
+    const RowPlace &bottomTop();
+    RowPlace foundBottomTop();
     void keepInText();
     void countRows();
     std::vector<quint32> estimatedRows(qsizetype line, qsizetype count) const;
@@ -98,7 +104,8 @@ private:
 
     const SurfaceText &m_text;
     LineLayouts m_layouts;
-    RowCounts m_rows; ///< of the lines, where they wrap
+    RowCounts m_rows;                    ///< of the lines, where they wrap
+    std::optional<RowPlace> m_bottomTop; ///< nothing while lines, their rows or the size may have changed
     QSizeF m_size;
     RowPlace m_top;
     qreal m_hidden = 0; ///< pixels of the top row above the view

@@ -147,6 +147,24 @@ TEST_F(EditSurfaceWidget, AssistiveTechnologyReadsAndWrites)
     EXPECT_EQ(surface.Text(), QStringLiteral("one two\r\nfour\r\n"));
 }
 
+TEST_F(EditSurfaceWidget, AssistiveTechnologyIsToldWhatIsWrong)
+{
+    surface.setText(QStringLiteral("a\r\nfour more"));
+    surface.setMarkedRanges(MarkOwner::Check, {{3, 4, MarkKind::Error}});
+    const QAccessibleTextInterface &text = *QAccessible::queryAccessibleInterface(&surface)->textInterface();
+    const struct {
+        int offset;
+        int end;
+        bool wrong;
+    } rows[] = {{0, 2, false}, {2, 6, true}, {4, 6, true}, {6, 11, false}};
+    for (const auto &row : rows) {
+        int start = 0;
+        int end = 0;
+        EXPECT_EQ(text.attributes(row.offset, &start, &end).contains(QLatin1String("invalid:true;")), row.wrong);
+        EXPECT_EQ(end, row.end) << row.offset;
+    }
+}
+
 TEST_F(EditSurfaceWidget, MarksGoWithTheirText)
 {
     surface.setText(QStringLiteral("one two three"));
