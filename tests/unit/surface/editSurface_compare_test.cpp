@@ -149,6 +149,9 @@ protected:
         int kind = below(14);
         if (kind == 9 && below(8) != 0) // seldom everything
             kind = 0;
+        // A key that this desktop has no use for leaves the column alone, which forgetColumn() could not tell.
+        if (kind == 8 && QKeySequence::keyBindings(QKeySequence::DeleteEndOfLine).isEmpty())
+            kind = 0;
         if (kind < 11)
             return press(strokes[kind]);
         const QString text = piece();
