@@ -2,6 +2,7 @@
 
 #include "common/paths.h"
 
+#include <QRegularExpression>
 #include <QUrl>
 
 namespace
@@ -17,7 +18,9 @@ struct Authority {
 Authority authorityOf(const QString &address)
 {
     const qsizetype scheme = address.indexOf(QStringLiteral(":/"));
-    qsizetype start = scheme < 0 ? 0 : scheme + 1;
+    // Behind the host, ":/" is an empty port, or some of the path.
+    const bool hasScheme = scheme >= 0 && !address.first(scheme).contains(QRegularExpression(QStringLiteral("[/?#@]")));
+    qsizetype start = hasScheme ? scheme + 1 : 0;
     while (start < address.size() && address[start] == u'/') // one or three of them are taken for two by who goes there
         ++start;
     qsizetype end = start;
