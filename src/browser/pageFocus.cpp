@@ -42,6 +42,8 @@ bool PageFocus::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::KeyPress)
         m_tabPressed = isTab(*static_cast<QKeyEvent *>(event));
+    if (event->type() == QEvent::KeyRelease)
+        m_tabPressed = false;
     if (event->type() == QEvent::FocusIn) {
         const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
         if (isInView(watched))

@@ -32,6 +32,6 @@ private:
     void focusCame(Qt::FocusReason reason);
 
     bool m_handedOn = false;   ///< the part that has the keyboard outside the view got it from a window on its way back
-    bool m_tabPressed = false; ///< the last key was a Tab
+    bool m_tabPressed = false; ///< a Tab is down
     bool m_held = false;       ///< the user has put the keyboard into the page, where it comes back to with the window
 };

@@ -3,6 +3,7 @@
 #include "browser/pageFocus.h"
 #include "services/pageViews.h"
 
+#include <QApplication>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -196,16 +197,25 @@ bool WebBrowser::makeView()
     m_view = engine->makeView(*this, this);
     showView(false); // until its first page there would be only a white sheet to see
     m_layout->insertWidget(1, m_view->widget(), 1);
-    setFocusProxy(m_view->widget());
     m_focus = new PageFocus(*m_view->widget());
     connect(m_focus, &PageFocus::taken, this, &WebBrowser::focusTaken);
     return true;
 }
 
+/// The keyboard goes on to the view only where there is one to see: a proxy gets it, hidden or not.
 void WebBrowser::showView(bool shown)
 {
-    if (QWidget *widget = m_view->widget())
-        widget->setVisible(shown);
+    QWidget *widget = m_view->widget();
+    if (!widget)
+        return;
+    const bool waits = shown && QApplication::focusWidget() == this;
+    if (!shown)
+        setFocusProxy(nullptr);
+    widget->setVisible(shown);
+    if (waits) // where the keyboard has been put here, it was for the page
+        widget->setFocus(Qt::ShortcutFocusReason);
+    if (shown)
+        setFocusProxy(widget);
 }
 
 void WebBrowser::load(const QUrl &address)

@@ -20,6 +20,7 @@
 #include "widgets/sidePane.h"
 #include "widgets/tabStrip.h"
 
+#include <QApplication>
 #include <QAction>
 #include <QComboBox>
 #include <QLabel>
@@ -79,6 +80,9 @@ void frmMdi::setBarShown(const QString &entry, bool shown)
     else if (entry == u"mnuShowStatusBar")
         StatusBar1->setVisible(shown);
     m_commands->action(entry)->setChecked(shown);
+    // What is hidden hands the keyboard on, but keeps it where nothing else would take it.
+    if (QWidget *focused = QApplication::focusWidget(); focused && !focused->isVisible())
+        focused->clearFocus();
 }
 
 void frmMdi::showBar(const QString &entry, bool shown)
