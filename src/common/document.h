@@ -75,6 +75,9 @@ public:
 
     /// Takes the text and its selection into the document's history.
     virtual void UndoRedoChange() = 0;
+    /// The same where the document stands in its history, unless the text is there already. Called in front of a change
+    /// and behind it, it makes that change one step: one Undo brings back the text that stood there before.
+    virtual void UndoRedoStep() { UndoRedoChange(); }
     /// The text as it stands is the one that the document was opened with.
     virtual void beginHistory() {}
     /// Go one step through the history; nothing at its ends.

@@ -41,12 +41,12 @@ void replaceText(Document &document, const QString &text)
     const qsizetype start = txtEdit.SelStart();
     const qsizetype end = start + txtEdit.SelLength();
     const qsizetype top = txtEdit.firstVisibleLine();
-    document.UndoRedoChange();
+    document.UndoRedoStep();
     txtEdit.setText(text);
     const qsizetype newStart = placeAfterReplacing(before, text, start);
     txtEdit.setSelStart(newStart);
     txtEdit.setSelLength(std::max<qsizetype>(placeAfterReplacing(before, text, end) - newStart, 0));
     txtEdit.scrollToLine(top);
-    document.UndoRedoChange();
+    document.UndoRedoStep();
     document.ExternalCallColourCode();
 }

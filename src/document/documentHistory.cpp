@@ -20,6 +20,7 @@ public:
 
     void take(const TextSelection &selection) override { m_history.UndoRedoChange({m_edit.Text(), selection}); }
     void takeAtKey(const TextSelection &selection) override { take(selection); }
+    void takeStep(const TextSelection &selection) override { m_history.insertHere({m_edit.Text(), selection}); }
     std::optional<bool> undo(bool) override
     {
         restore(m_history.Undo());

@@ -23,6 +23,8 @@ public:
     virtual void begin(bool /*clean*/) {}
     /// Takes the text with that selection, or ends the step that is being made.
     virtual void take(const TextSelection &selection) = 0;
+    /// The same where the history stands, unless the text is there already.
+    virtual void takeStep(const TextSelection &selection) { take(selection); }
     /// A key that gives or takes a character is about to change the text; false: it has had its time.
     virtual void setTyping(bool) {}
     /// The next change to be told is one of two places that go together.

@@ -53,6 +53,7 @@ public:
     void RepositionEditingandPreviewWindows() override;
 
     void UndoRedoChange() override;
+    void UndoRedoStep() override;
     void Undo() override;
     void Redo() override;
     UndoRedo IsUndoRedoPossible() const override;

@@ -85,6 +85,11 @@ void frmWrite::UndoRedoChange()
     m_history->take(selection());
 }
 
+void frmWrite::UndoRedoStep()
+{
+    m_history->takeStep(selection());
+}
+
 void frmWrite::Undo()
 {
     noteClean(m_history->undo(!boolDirty));

@@ -31,9 +31,9 @@ void change(Document &document, const LineChange &change)
 {
     if (!change.replacement || document.txtEdit().Locked())
         return;
-    document.UndoRedoChange();
+    document.UndoRedoStep();
     applyChange(document.txtEdit(), change);
-    document.UndoRedoChange();
+    document.UndoRedoStep();
 }
 
 /// Runs what makes a change of the active document's text and selection.

@@ -14,6 +14,23 @@ void UndoHistory::UndoRedoChange(const UndoSnapshot &snapshot)
         --m_position;
 }
 
+void UndoHistory::insertHere(const UndoSnapshot &snapshot)
+{
+    UndoSnapshot &standing = m_entries.at(static_cast<std::size_t>(m_position));
+    if (standing.text == snapshot.text) {
+        standing.selection = snapshot.selection;
+        return;
+    }
+    auto *const newest = m_entries.begin() + 1;
+    if (m_position == Oldest) { // the newest gives way, for the one stood at has to stay
+        std::move(newest + 1, m_entries.end(), newest);
+        --m_position;
+    }
+    auto *const here = m_entries.begin() + m_position;
+    std::move_backward(here, m_entries.end() - 1, m_entries.end());
+    *here = snapshot;
+}
+
 UndoHistory::Possible UndoHistory::IsUndoRedoPossible() const
 {
     const auto isThere = [this](int position) {

@@ -21,6 +21,9 @@ class UndoHistory
 {
 public:
     void UndoRedoChange(const UndoSnapshot &snapshot);
+    /// Puts the snapshot in front of the entry that is stood at, so that one Undo leads from the one to the other; what
+    /// could be redone stays in front of both. An entry with the same text only gets the selection.
+    void insertHere(const UndoSnapshot &snapshot);
 
     /// What is to be written back, text first, then the selection; nothing at the end of the history.
     std::optional<UndoSnapshot> Undo() { return moveTo(m_position + 1); }

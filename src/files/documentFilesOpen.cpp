@@ -224,7 +224,7 @@ void DocumentFiles::finishOpened(Document &document)
 bool DocumentFiles::LoadAgain(Document &document)
 {
     begin();
-    document.UndoRedoChange(); // what stands there is a step that can be gone back to
+    document.UndoRedoStep(); // what stands there is a step that can be gone back to
     const qsizetype caret = document.txtEdit().SelStart();
     const std::optional<Opened> opened = readInto(document, document.DocSavePath, document.IsInUnicode);
     if (!opened)
@@ -232,7 +232,7 @@ bool DocumentFiles::LoadAgain(Document &document)
     document.fileStamp = opened->stamp;
     noteOpened(document, opened->contents, document.IsInUnicode);
     document.txtEdit().setSelStart(std::min(caret, opened->contents.text.size()));
-    document.UndoRedoChange();
+    document.UndoRedoStep();
     finishOpened(document);
     if (m_context.unsavedText)
         m_context.unsavedText->forget(document);

@@ -50,6 +50,34 @@ TEST(UndoHistory, StepsBackAndForth)
     EXPECT_EQ(history.UndoPosition(), 1);
 }
 
+TEST(UndoHistory, TakesAStepWhereItStands)
+{
+    UndoHistory history = historyOf(5);
+    for (int i = 0; i < 3; ++i)
+        history.Undo();
+    history.insertHere({snapshot(2).text, {2, 0}}); // stands there already
+    history.insertHere(snapshot(6));
+    EXPECT_EQ(history.UndoPosition(), 4);
+    EXPECT_EQ(numberOf(history.Undo()), 2);
+    EXPECT_EQ(numberOf(history.Undo()), 1);
+    EXPECT_EQ(numberOf(history.Redo()), 2);
+    EXPECT_EQ(numberOf(history.Redo()), 6);
+    EXPECT_EQ(numberOf(history.Redo()), 3); // what could be redone before
+}
+
+TEST(UndoHistory, KeepsWhatAStepBeganWithWhenItIsFull)
+{
+    UndoHistory history = historyOf(30);
+    for (int i = 0; i < 29; ++i)
+        history.Undo();
+    EXPECT_EQ(history.UndoPosition(), 30);
+    history.insertHere(snapshot(31));
+    EXPECT_EQ(history.UndoPosition(), 29);
+    EXPECT_EQ(numberOf(history.Undo()), 1);
+    EXPECT_EQ(numberOf(history.Redo()), 31);
+    EXPECT_EQ(numberOf(history.Redo()), 2);
+}
+
 TEST(UndoHistory, CountsAnEmptyTextAsNoSnapshot)
 {
     UndoHistory history;
