@@ -145,8 +145,7 @@ void frmPageCheck::follow(EditSurface *surface)
     m_surface = surface;
     if (!m_keys)
         addKeys(surface->window());
-    m_problems.clear();
-    m_checked.clear();
+    forgetProblems();
     m_change = connect(surface, &EditSurface::Change, this, &frmPageCheck::txtEdit_Change);
     m_closing = connect(surface, &QObject::destroyed, this, &frmPageCheck::forget);
     surface->viewport()->installEventFilter(this);
@@ -155,12 +154,20 @@ void frmPageCheck::follow(EditSurface *surface)
 /// The page is closed, and its list with it.
 void frmPageCheck::forget()
 {
+    tmrPageCheck->setEnabled(false);
+    forgetProblems();
+}
+
+/// A row of the list stands for one of the problems, so they go together.
+void frmPageCheck::forgetProblems()
+{
     m_problems.clear();
     m_checked.clear();
-    tmrPageCheck->setEnabled(false);
     tell(QString());
-    if (lstProblems)
-        lstProblems->clearRows();
+    if (!lstProblems)
+        return;
+    lstProblems->clearRows();
+    lstProblems_Click();
 }
 
 /// F4 and Shift+F4 go round, in the page and in the list.
@@ -232,7 +239,7 @@ void frmPageCheck::check(Document &document)
     follow(surface);
     m_checked = surface->Text();
     if (!readRules()) {
-        m_problems.clear();
+        forgetProblems();
         tell(QStringLiteral("The file Page.rules, by which pages are checked, cannot be read."));
         return;
     }

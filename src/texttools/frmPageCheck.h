@@ -37,6 +37,7 @@ private:
     void followFocus(QWidget *now);
     void follow(EditSurface *surface);
     void forget();
+    void forgetProblems();
     void addKeys(QWidget *mainWindow);
     void txtEdit_Change();
     void tmrPageCheck_Timer();
