@@ -10,6 +10,7 @@
 #include "frame/application.h"
 
 #include <QApplication>
+#include <QCursor>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QScreen>
@@ -20,6 +21,7 @@ namespace drive
 namespace
 {
 constexpr int SmallestSurface = 30;   ///< logical pixels in height: less is no place to write in
+constexpr int RoomForSurface = 120;   ///< the height of a window that has such a place; a lower one was made so
 constexpr int Frame = 40;             ///< what a window manager may add around a window
 constexpr int SmallestOfWindow = 100; ///< of the main window on the screen: less can't be dragged back
 
@@ -59,6 +61,12 @@ QWidget *ancestorPreview(QWidget *widget)
     return widget;
 }
 
+/// Whether the mouse stands over the preview, whatever control the line has named: what lies on top takes the click.
+bool isUnderMouse(const QWidget &preview)
+{
+    return preview.rect().contains(preview.mapFromGlobal(QCursor::pos()));
+}
+
 /// Whether the source of the document that the preview belongs to is on show.
 bool isSourceShown(const QWidget &preview)
 {
@@ -91,6 +99,7 @@ void StandingRules::enter(Stage &, const Line &line)
 {
     m_arranges = arranges(line);
     m_pointsAtPreview = pointsAtPreview(line);
+    m_usesMouse = line.command == QStringLiteral("mouse");
 }
 
 void StandingRules::check(Stage &stage)
@@ -140,7 +149,8 @@ void StandingRules::checkDocument(Stage &stage, QMdiSubWindow &window)
         stage.referee.fail(what + QStringLiteral(" on show"), QStringLiteral("it hidden"));
     const QRect place = surface->geometry();
     // What the program has to tell of the document stands above its text, nothing beside or below.
-    if (place.width() != pane->width() || place.bottom() != pane->height() - 1 || place.height() < SmallestSurface)
+    const bool low = place.height() < SmallestSurface && window.height() >= RoomForSurface;
+    if (place.width() != pane->width() || place.bottom() != pane->height() - 1 || low)
         stage.referee.fail(what + QStringLiteral(" filling its pane, %1").arg(told(pane->rect())), told(place));
     const QRect inside = placeIn(window, *surface);
     if (!window.rect().contains(inside))
@@ -175,7 +185,8 @@ void StandingRules::checkPreviewFocus(Stage &stage, QWidget &focused)
     if (!preview || m_previews.contains(preview))
         return;
     // In the place of the source, the preview is what the keyboard goes on to.
-    if (!m_pointsAtPreview && isSourceShown(*preview))
+    const bool pointsAtIt = m_pointsAtPreview || (m_usesMouse && isUnderMouse(*preview));
+    if (!pointsAtIt && isSourceShown(*preview))
         stage.referee.fail(QStringLiteral("the keyboard outside the preview, where no command has put it"),
                            QStringLiteral("it in the preview"));
     m_previews.append(preview);

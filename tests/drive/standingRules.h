@@ -36,6 +36,7 @@ private:
 
     bool m_arranges = false;             ///< the command is one that may change the windows' places
     bool m_pointsAtPreview = false;      ///< the command may move the keyboard into a preview
+    bool m_usesMouse = false;            ///< the line moves or presses the mouse
     bool m_filled = false;               ///< the active document filled the area after the command before
     QList<QPointer<QWidget>> m_previews; ///< those that the script has put the keyboard into
 };
