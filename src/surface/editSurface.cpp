@@ -167,12 +167,23 @@ void EditSurface::setFormats(const QList<FormatRange> &ranges)
 {
     QList<FormatRange> snapped;
     snapped.reserve(ranges.size());
+    // Most ranges lie in the line of the one before, whose bounds need not be looked for again.
+    const auto snap = [this, from = qsizetype(0), to = qsizetype(-1)](qsizetype position) mutable {
+        if (position < from || position > to) {
+            const qsizetype line = m_text.lineAt(position);
+            from = m_text.lineStart(line);
+            to = m_text.lineEnd(line);
+        }
+        return std::min(position, to);
+    };
+    auto snapStart = snap;
+    auto snapEnd = snap;
     for (const FormatRange &range : ranges) {
         if (range.start < 0 || range.length < 0)
             continue;
-        const qsizetype from = m_text.snapped(range.start);
+        const qsizetype from = snapStart(range.start);
         const qsizetype room = m_text.length() - std::min(range.start, m_text.length());
-        snapped.append({from, m_text.snapped(range.start + std::min(range.length, room)) - from, range.format});
+        snapped.append({from, snapEnd(range.start + std::min(range.length, room)) - from, range.format});
     }
     const std::vector<TextStretch> changed = m_looks.apply(snapped);
     if (!changed.empty() && m_view.layouts().forgetStretches(changed))

@@ -118,23 +118,44 @@ TextFormat FormatRuns::common(qsizetype from, qsizetype to) const
 std::vector<FormatRuns::Segment> FormatRuns::flattened(const QList<FormatRange> &ranges, qsizetype length)
 {
     std::vector<Segment> cut;
-    std::vector<qsizetype> edges;
+    std::vector<qsizetype> edges; // first those where ranges start, which mostly come in their order
+    std::vector<qsizetype> ends;
+    const auto count = static_cast<size_t>(ranges.size());
+    cut.reserve(count);
+    edges.reserve(2 * count);
+    ends.reserve(count);
     for (const FormatRange &range : ranges) {
         if (range.start < 0 || range.length <= 0 || range.start >= length)
             continue;
         cut.push_back({range.start, range.start + std::min(range.length, length - range.start), range.format});
         edges.push_back(cut.back().from);
-        edges.push_back(cut.back().to);
+        ends.push_back(cut.back().to);
     }
-    std::sort(edges.begin(), edges.end());
+    for (std::vector<qsizetype> *places : {&edges, &ends}) {
+        if (!std::is_sorted(places->begin(), places->end()))
+            std::sort(places->begin(), places->end());
+    }
+    const auto starts = static_cast<std::ptrdiff_t>(edges.size());
+    edges.insert(edges.end(), ends.begin(), ends.end());
+    std::inplace_merge(edges.begin(), edges.begin() + starts, edges.end());
     edges.erase(std::unique(edges.begin(), edges.end()), edges.end());
     std::vector<Segment> segments;
     segments.reserve(edges.size());
     for (size_t i = 0; i + 1 < edges.size(); ++i)
         segments.push_back({edges[i], edges[i + 1], {}});
+    size_t first = 0;
     for (const Segment &range : cut) {
-        auto i = static_cast<size_t>(std::lower_bound(edges.begin(), edges.end(), range.from) - edges.begin());
-        for (; i < segments.size() && segments[i].from < range.to; ++i)
+        if (edges[first] > range.from)
+            first = 0;
+        constexpr size_t near = 8; // edges that are looked at one by one, from the range before on
+        for (size_t steps = 0; edges[first] < range.from; ++first) {
+            if (++steps > near) {
+                const auto rest = edges.begin() + static_cast<std::ptrdiff_t>(first);
+                first = static_cast<size_t>(std::lower_bound(rest, edges.end(), range.from) - edges.begin());
+                break;
+            }
+        }
+        for (size_t i = first; i < segments.size() && segments[i].from < range.to; ++i)
             lay(segments[i].format, range.format);
     }
     return segments;
