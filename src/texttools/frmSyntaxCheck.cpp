@@ -4,6 +4,7 @@
 #include "common/document.h"
 #include "common/mainWindow.h"
 #include "common/paths.h"
+#include "common/programState.h"
 #include "forms/formRuntime.h"
 #include "forms/modLaunchHTMLHelp.h"
 #include "forms/programContext.h"
@@ -12,6 +13,8 @@
 #include "services/services.h"
 #include "services/yielder.h"
 #include "texttools/cornerPlace.h"
+#include "texttools/pageScan.h"
+#include "texttools/syntaxScan.h"
 #include "widgets/layout.h"
 #include "widgets/screenPointer.h"
 
@@ -78,7 +81,10 @@ void frmSyntaxCheck::Form_Load()
     }
     followDocument();
     m_words = std::make_unique<CodeWords>(*context().codes);
-    m_scan = std::make_shared<SyntaxScan>(*m_words, m_dictionary);
+    if (context().state.habits.HabitChecker)
+        m_scan = std::make_shared<PageScan>(*m_words, m_dictionary);
+    else
+        m_scan = std::make_shared<SyntaxScan>(*m_words, m_dictionary);
     InitializeSyntaxCheck(false);
     if (!m_stands)
         Unload();
@@ -199,35 +205,35 @@ void frmSyntaxCheck::InitializeSyntaxCheck(bool resume)
     showBusy(true);
     services().yielder.beginPass();
     m_scan->begin(resume);
-    const std::shared_ptr<SyntaxScan> own = m_scan;
-    const SyntaxScan::Result result = scan(*own);
+    const std::shared_ptr<CheckScan> own = m_scan;
+    const CheckScan::Result result = scan(*own);
     showBusy(false);
     if (m_scan != own) // closed while it checked, and perhaps opened again
         return;
     m_checking = false;
     if (!m_document)
         Unload();
-    else if (result == SyntaxScan::Result::Stopped)
+    else if (result == CheckScan::Result::Stopped)
         showWord();
-    else if (result == SyntaxScan::Result::Finished)
+    else if (result == CheckScan::Result::Finished)
         finish();
 }
 
 /// To the next stop, or the end; "Failed" also if the window or the document is closed meanwhile.
-SyntaxScan::Result frmSyntaxCheck::scan(SyntaxScan &own)
+CheckScan::Result frmSyntaxCheck::scan(CheckScan &own)
 {
     while (m_document && m_scan.get() == &own) {
-        const SyntaxScan::Result result = own.advance(m_document->txtEdit().Text());
-        if (result != SyntaxScan::Result::Yield)
+        const CheckScan::Result result = own.advance(m_document->txtEdit().Text());
+        if (result != CheckScan::Result::Yield)
             return result;
         services().yielder.yield();
     }
-    return SyntaxScan::Result::Failed;
+    return CheckScan::Result::Failed;
 }
 
 void frmSyntaxCheck::showWord()
 {
-    const SyntaxScan::Stop &stop = m_scan->stop();
+    const CheckScan::Stop &stop = m_scan->stop();
     m_stands = true;
     txtSyntax->setText(stop.word);
     TextSurface &edit = m_document->txtEdit();
@@ -335,12 +341,28 @@ void frmSyntaxCheck::cmdAlwaysExclude_Click()
 
 void frmSyntaxCheck::cmdChange_Click()
 {
+    const QString text = m_document->txtEdit().Text();
+    if (m_scan->findsWord(text)) {
+        const CheckScan::Place place = m_scan->Change(text, txtSyntax->text(), txtChangeTo->text());
+        context().state.habits.HabitChecker ? changeAsStep(place) : changeOnly(place);
+    }
+    goOn();
+}
+
+void frmSyntaxCheck::changeOnly(const CheckScan::Place &place)
+{
     TextSurface &edit = m_document->txtEdit();
-    const SyntaxScan::Place place = m_scan->Change(edit.Text(), txtSyntax->text(), txtChangeTo->text());
     edit.setSelStart(place.selStart);
     edit.setSelLength(place.selLength);
     edit.setSelText(txtChangeTo->text());
-    goOn();
+}
+
+/// What stood there before is a step of the document's history, and so is what stands there now.
+void frmSyntaxCheck::changeAsStep(const CheckScan::Place &place)
+{
+    m_document->UndoRedoChange();
+    changeOnly(place);
+    m_document->UndoRedoChange();
 }
 
 void frmSyntaxCheck::txtChangeTo_Change()

@@ -2,8 +2,8 @@
 
 #include "forms/form.h"
 #include "texttools/checkDictionary.h"
+#include "texttools/checkScan.h"
 #include "texttools/codeWords.h"
-#include "texttools/syntaxScan.h"
 
 #include <memory>
 
@@ -37,7 +37,7 @@ private:
     void addRow(const QString &row);
 
     void InitializeSyntaxCheck(bool resume);
-    SyntaxScan::Result scan(SyntaxScan &own);
+    CheckScan::Result scan(CheckScan &own);
     void showWord();
     void showSuggestions(const QStringList &names);
     void finish();
@@ -50,6 +50,8 @@ private:
     void cmdAdd_Click();
     void cmdAlwaysExclude_Click();
     void cmdChange_Click();
+    void changeOnly(const CheckScan::Place &place);
+    void changeAsStep(const CheckScan::Place &place);
     void txtChangeTo_Change();
     void lstSuggestions_Click();
 
@@ -57,7 +59,7 @@ private:
     QMetaObject::Connection m_closing;
     std::unique_ptr<CodeWords> m_words;
     CheckDictionary m_dictionary;
-    std::shared_ptr<SyntaxScan> m_scan; ///< of this load
+    std::shared_ptr<CheckScan> m_scan; ///< of this load
     bool m_checking = false;
     bool m_stands = false; ///< at a word
     QString DicPath;
