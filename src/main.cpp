@@ -1,9 +1,12 @@
 #include "browser/pageTrial.h"
+#include "common/fileHabits.h"
 #include "desktop/desktopServices.h"
 #include "desktop/programStart.h"
 #include "desktop/sessionEnd.h"
 #include "frame/application.h"
 #include "pictures/pictureReader.h"
+#include "services/habits.h"
+#include "services/services.h"
 #include "shell/commandLine.h"
 #include "widgets/programIcon.h"
 #include "widgets/readableStyle.h"
@@ -39,7 +42,8 @@ int main(int argc, char **argv)
     const SessionEnd end(desktop, program);
     const QStringList given = QApplication::arguments().mid(1); // without what the desktop has taken
     const bool alone = !given.isEmpty() && given.constFirst() == NewInstanceOption;
-    const QString line = commandLineText(alone ? given.mid(1) : given);
+    const bool several = takesSeveralFiles(readHabits(services.services().settings));
+    const QString line = (several ? commandLineOfFiles : commandLineText)(alone ? given.mid(1) : given);
     ProgramStart start;
     if (!start.begin(program, services.services(), alone ? QString(NewInstanceOption + u' ' + line).trimmed() : line))
         return 0;

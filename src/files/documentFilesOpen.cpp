@@ -3,9 +3,11 @@
 
 #include "common/document.h"
 #include "common/fileFormatText.h"
+#include "common/fileHabits.h"
 #include "common/mainWindow.h"
 #include "common/pageCharset.h"
 #include "common/paths.h"
+#include "common/programState.h"
 #include "common/siteProject.h"
 #include "common/unsavedText.h"
 #include "files/fileDialogRows.h"
@@ -80,9 +82,14 @@ void DocumentFiles::ShowOpenDialog()
                                                    .FilterIndex = PreselectedRow,
                                                    .InitDir = workingFolder(m_context.services),
                                                    .FileName = {},
+                                                   .severalFiles = takesSeveralFiles(m_context.state.habits),
                                                    .NearDir = folderInFront()});
-    if (chosen && !chosen->fileName.isEmpty())
-        openAsChosen(*chosen);
+    if (!chosen)
+        return;
+    for (const QString &fileName : chosen->allFileNames()) {
+        if (!fileName.isEmpty() && !m_context.state.ProgramEnded) // opening lets events run
+            openAsChosen({fileName, chosen->filterIndex});
+    }
 }
 
 /// Where the page in front lies; empty for none.

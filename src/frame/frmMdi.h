@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 
+struct CommandLineFile;
 class CodeLibraries;
 class CoolBar;
 class DocumentSwitch;
@@ -122,7 +123,10 @@ private:
     void fillCodeLists();
     void picAddress_Resize();
     /// False where there is none, or it could not be opened.
-    bool openCommandLineFile(const QString &commandLine);
+    bool openCommandLine(const QString &commandLine);
+    bool openEach(const QString &commandLine);
+    bool openCommandLineFile(const CommandLineFile &file);
+    void goToLine(const CommandLineFile &file);
     void openWaiting();
     void goOnWithFile();
     /// What the status bar tells, whatever says "Ready" meanwhile, until a few seconds after the window takes input.

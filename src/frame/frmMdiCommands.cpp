@@ -17,6 +17,7 @@
 #include "insertion/modCode.h"
 #include "insertion/modColourProcesses.h"
 #include "insertion/modExcludePath.h"
+#include "insertion/writtenMarkup.h"
 #include "internet/modViewInBrowser.h"
 #include "project/modProjectFileCtrl.h"
 #include "services/commonDialogs.h"
@@ -351,7 +352,8 @@ void MainCommands::mnuInsExternalCSS_Click()
     if (!cdlInsExternalCSS || !active)
         return;
     const QString name = ExcludePath(m_context, cdlInsExternalCSS->fileName);
-    active->txtEdit().setSelText(QStringLiteral("<LINK REL=\"stylesheet\" TYPE=\"text/css\" HREF=\"%1\">").arg(name));
+    const QString link = QStringLiteral("<LINK REL=\"stylesheet\" TYPE=\"text/css\" HREF=\"%1\">").arg(name);
+    active->txtEdit().setSelText(writtenMarkup(m_context, link));
     active->txtEdit().SetFocus();
 }
 

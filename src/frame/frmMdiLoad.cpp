@@ -2,6 +2,7 @@
 #include "frame/frmMdi.h"
 
 #include "common/fileCommands.h"
+#include "common/fileHabits.h"
 #include "common/programState.h"
 #include "common/unsavedText.h"
 #include "document/modDocument.h"
@@ -53,7 +54,7 @@ void frmMdi::Form_Load()
     restoreState();
     loadCodes();
     FillAddInMenu(context());
-    const bool opened = openCommandLineFile(m_commandLine);
+    const bool opened = openCommandLine(m_commandLine);
     if (context().state.ProgramEnded) // opening lets events run, and one of them was the end
         return;
     picAddress_Resize();
@@ -185,19 +186,55 @@ void frmMdi::picAddress_Resize()
     picAddress->layout()->activate();
 }
 
-bool frmMdi::openCommandLineFile(const QString &commandLine)
+bool frmMdi::openCommandLine(const QString &commandLine)
+{
+    if (commandLine.isEmpty())
+        return false;
+    return takesSeveralFiles(context().state.habits) ? openEach(commandLine)
+                                                     : openCommandLineFile(commandLineFile(commandLine));
+}
+
+/// True if one of them at least is open.
+bool frmMdi::openEach(const QString &commandLine)
+{
+    const auto exists = [this](const QString &path) { return services().files.exists(path); };
+    bool opened = false;
+    for (const CommandLineFile &file : commandLineFiles(commandLine, exists)) {
+        if (context().state.ProgramEnded) // opening lets events run
+            break;
+        if (!openCommandLineFile(file))
+            continue;
+        opened = true;
+        if (file.line > 0)
+            goToLine(file);
+    }
+    return opened;
+}
+
+/// A line behind the last one is the last one.
+void frmMdi::goToLine(const CommandLineFile &file)
+{
+    Document *document = activeDocument();
+    if (!document || document->DocSavePath != file.path)
+        return;
+    TextSurface &edit = document->txtEdit();
+    const qsizetype line = std::min<qsizetype>(file.line, edit.lineCount()) - 1;
+    if (const std::optional<qsizetype> start = edit.characterFromLine(line))
+        edit.setSelStart(*start);
+}
+
+bool frmMdi::openCommandLineFile(const CommandLineFile &file)
 {
     FileCommands *files = context().files;
-    if (commandLine.isEmpty() || !files)
+    if (!files)
         return false;
-    const CommandLineFile file = commandLineFile(commandLine);
     const bool missing = !services().files.exists(file.path);
     if (missing) { // what is told of it belongs over the main window
         if (Form *splash = context().forms.find(QStringLiteral("frmSplash")))
             splash->Hide();
         presentWindow();
     }
-    OpenCommandLineFile(*files, commandLine);
+    OpenCommandLineFile(*files, file);
     const bool opened = file.action == CommandLineAction::Project || activeDocument();
     if (missing || !opened)
         keepStatus(QStringLiteral("The file \"%1\" could not be opened.").arg(file.path));
@@ -227,7 +264,7 @@ void frmMdi::openWaiting()
         return;
     const QStringList lines = std::exchange(m_waiting, {});
     for (const QString &line : lines)
-        openCommandLineFile(line);
+        openCommandLine(line);
     if (lines.isEmpty())
         return;
     window()->setWindowState(window()->windowState() & ~Qt::WindowMinimized);

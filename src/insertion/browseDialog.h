@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 struct ProgramContext;
 
@@ -13,8 +14,8 @@ public:
     explicit BrowseDialog(const QString &filter) : m_filter(filter) {}
 
     /// Shows the dialog. The full path chosen; when it is left without a choice, the name chosen before, empty at
-    /// first.
-    QString browse(ProgramContext &context);
+    /// first, or nothing where the field is to stay as it is.
+    std::optional<QString> browse(ProgramContext &context);
 
 private:
     QString m_filter;

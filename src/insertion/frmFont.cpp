@@ -167,8 +167,6 @@ void frmFont::showSample()
 
 std::optional<QString> frmFont::markup()
 {
-    const FontTags tags = fontTags(fields());
-    m_closing = tags.closing.size();
-    const Document *document = frmMdi().activeDocument();
-    return tags.opening + (document ? document->txtEdit().SelText() : QString()) + tags.closing;
+    m_tags = fontTags(fields());
+    return m_tags.opening;
 }

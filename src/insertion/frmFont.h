@@ -37,7 +37,7 @@ public:
 protected:
     void Form_Load() override;
     std::optional<QString> markup() override;
-    qsizetype caretBack() const override { return m_closing; }
+    std::optional<QString> closing() const override { return m_tags.closing; }
 
 private:
     ui::Node fontLists();
@@ -57,5 +57,5 @@ private:
     QCheckBox *chkStrike = nullptr;
     QCheckBox *chkType = nullptr;
     QLabel *lblSample = nullptr;
-    qsizetype m_closing = 0; ///< the length of what stands behind the selection
+    FontTags m_tags; ///< that are being written
 };

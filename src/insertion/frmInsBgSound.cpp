@@ -54,7 +54,8 @@ void frmInsBgSound::txtBgSound_Change()
 
 void frmInsBgSound::Command4_Click()
 {
-    txtBgSound->setText(cdlSound.browse(context()));
+    if (const std::optional<QString> chosen = cdlSound.browse(context()))
+        txtBgSound->setText(*chosen);
 }
 
 std::optional<QString> frmInsBgSound::markup()

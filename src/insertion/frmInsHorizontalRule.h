@@ -30,6 +30,7 @@ public:
 protected:
     void Form_Load() override;
     std::optional<QString> markup() override;
+    void forgetLastUse() override { m_colourPicked = false; }
 
 private:
     ui::Node sizeGroup();

@@ -2,6 +2,7 @@
 
 #include "insertion/attributeText.h"
 #include "insertion/imageFilter.h"
+#include "insertion/writtenMarkup.h"
 #include "project/modProjectFileCtrl.h"
 #include "services/settings.h"
 
@@ -70,7 +71,7 @@ void frmInsHyperlink::Form_Load()
     Label3 = window()->findChild<QLabel *>(QStringLiteral("Label3"));
     Label4 = window()->findChild<QLabel *>(QStringLiteral("Label4"));
     cdlGeneralFile = BrowseDialog(QStringLiteral("All Files (*.*)|*.*"));
-    cdlImageFile = BrowseDialog(imageFilter(QStringLiteral("All Supported Images")));
+    cdlImageFile = BrowseDialog(imageFilter(context(), QStringLiteral("All Supported Images")));
     cboLinkType->setCurrentText(Other);
     setFromImage(false);
     FillProjectFileList(context(), ProjectFiles::Pages, *cboUrl);
@@ -152,16 +153,20 @@ void frmInsHyperlink::setFromImage(bool fromImage)
 
 void frmInsHyperlink::cmdFilePath_Click()
 {
-    cboUrl->setEditText(cdlGeneralFile.browse(context()));
+    if (const std::optional<QString> chosen = cdlGeneralFile.browse(context()))
+        cboUrl->setEditText(*chosen);
 }
 
 void frmInsHyperlink::Command3_Click()
 {
-    txtImagePath->setText(cdlImageFile.browse(context()));
+    if (const std::optional<QString> chosen = cdlImageFile.browse(context()))
+        txtImagePath->setText(*chosen);
 }
 
 std::optional<QString> frmInsHyperlink::markup()
 {
+    if (imagesNeedSource(context()) && Option2->isChecked() && txtImagePath->text().isEmpty())
+        return refused(QStringLiteral("No image path has been specified"), txtImagePath);
     cboUrl->setEditText(m_pathRules.applied(cboUrl->currentText()));
     return hyperlinkMarkup({.kind = cboLinkType->currentText(),
                             .prefix = txtPre->text(),

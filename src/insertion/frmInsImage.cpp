@@ -4,6 +4,7 @@
 #include "common/numbers.h"
 #include "insertion/imageFilter.h"
 #include "insertion/tagValues.h"
+#include "insertion/writtenMarkup.h"
 #include "project/modProjectFileCtrl.h"
 #include "services/settings.h"
 #include "widgets/controlWatch.h"
@@ -41,7 +42,7 @@ void frmInsImage::Form_Load()
         dialogButtons(),
     }));
     m_knownSrc.clear();
-    cdlImageFile = BrowseDialog(imageFilter(QStringLiteral("All Supported Image Files")));
+    cdlImageFile = BrowseDialog(imageFilter(context(), QStringLiteral("All Supported Image Files")));
     showNoPicture();
     FillProjectFileList(context(), ProjectFiles::Images, *cboSrc);
     readTag();
@@ -121,7 +122,9 @@ void frmInsImage::readTag()
     if (!tag)
         return;
     LeftoverAttributes = tag->leftoverAttributes;
-    showFields(imageFields(*tag));
+    if (writesToday())
+        LeftoverAttributes.remove(QLatin1String(" alt=\"\"")); // the field has it
+    showFields(writesToday() ? imageFieldsWithTheirUnits(*tag) : imageFields(*tag));
     m_knownSrc = cboSrc->currentText();
     previewOnceShown();
 }
@@ -159,6 +162,8 @@ ImageFields frmInsImage::fields() const
 
 std::optional<QString> frmInsImage::markup()
 {
+    if (imagesNeedSource(context()) && cboSrc->currentText().isEmpty())
+        return refused(QStringLiteral("No image path has been specified"), cboSrc);
     cboSrc->setEditText(m_pathRules.applied(cboSrc->currentText()));
     return imageMarkup(fields());
 }
@@ -171,7 +176,10 @@ void frmInsImage::cboSrc_LostFocus()
 
 void frmInsImage::cmdBrowseSrc_Click()
 {
-    cboSrc->setEditText(cdlImageFile.browse(context()));
+    const std::optional<QString> chosen = cdlImageFile.browse(context());
+    if (!chosen)
+        return;
+    cboSrc->setEditText(*chosen);
     preview();
 }
 
@@ -184,7 +192,8 @@ void frmInsImage::cmdUseActual_Click()
 
 void frmInsImage::leaveSize(NumberField *field)
 {
-    if (!field->text().isEmpty())
+    const bool hasItsUnit = writesToday() && field->text().endsWith(u'%');
+    if (!field->text().isEmpty() && !hasItsUnit)
         field->setText(QString::number(wholeNumber(field->text())));
 }
 

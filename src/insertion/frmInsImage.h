@@ -22,6 +22,7 @@ public:
 protected:
     void Form_Load() override;
     std::optional<QString> markup() override;
+    void forgetLastUse() override { LeftoverAttributes.clear(); }
 
 private:
     ui::Node imageRows();

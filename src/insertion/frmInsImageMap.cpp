@@ -99,7 +99,7 @@ void frmInsImageMap::Form_Load()
     window()->resize(UsualWindow.boundedTo(window()->screen()->availableSize()));
     m_drawing.begin();
     makeFigures();
-    cdlImageFile = BrowseDialog(imageFilter(QStringLiteral("All Supported Images")));
+    cdlImageFile = BrowseDialog(imageFilter(context(), QStringLiteral("All Supported Images")));
     LoadedImage.clear(); // the controls are new: whatever was loaded is to be loaded again
     enableDrawing(false);
     showAreas();
@@ -261,11 +261,11 @@ void frmInsImageMap::listImages()
 void frmInsImageMap::cmdBrowseSrc_Click()
 {
     presentWindow();
-    const QString chosen = cdlImageFile.browse(context());
-    if (!isLoaded())
+    const std::optional<QString> chosen = cdlImageFile.browse(context());
+    if (!isLoaded() || !chosen)
         return;
-    cboSrc->setEditText(chosen);
-    enableDrawing(!chosen.isEmpty());
+    cboSrc->setEditText(*chosen);
+    enableDrawing(!chosen->isEmpty());
     takeSource();
 }
 

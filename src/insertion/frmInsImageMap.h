@@ -20,7 +20,7 @@ class QToolBar;
 /// Writes an image map, whose areas are drawn over the picture.
 ///
 /// The areas outlive a dialog that is left without inserting them: they go into the next map, in which they are not
-/// seen.
+/// seen, unless each use is to begin anew.
 class frmInsImageMap final : public InsertionForm
 {
     Q_OBJECT
@@ -30,6 +30,7 @@ public:
 protected:
     void Form_Load() override;
     std::optional<QString> markup() override;
+    void forgetLastUse() override { m_drawing.clear(); }
 
 private:
     ui::Node sourceRows();

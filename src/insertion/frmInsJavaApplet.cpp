@@ -69,6 +69,12 @@ ui::Node frmInsJavaApplet::placeRows()
     });
 }
 
+void frmInsJavaApplet::forgetLastUse()
+{
+    LeftoverAttributes.clear();
+    m_edited = false;
+}
+
 void frmInsJavaApplet::readTag()
 {
     const std::optional<TagUnderCaret> tag = takeTag(readAppletTag);

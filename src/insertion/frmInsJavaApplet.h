@@ -18,6 +18,7 @@ public:
 protected:
     void Form_Load() override;
     std::optional<QString> markup() override;
+    void forgetLastUse() override;
 
 private:
     ui::Node sourceRows();

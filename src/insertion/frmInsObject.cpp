@@ -85,6 +85,12 @@ ui::Node frmInsObject::placeRows()
     });
 }
 
+void frmInsObject::forgetLastUse()
+{
+    LeftoverAttributes.clear();
+    m_edited = false;
+}
+
 void frmInsObject::readTag()
 {
     const std::optional<TagUnderCaret> tag = takeTag(readObjectTag);

@@ -1,4 +1,5 @@
 #include "insertion/frmInsSpecChar.h"
+#include "insertion/writtenMarkup.h"
 
 #include "common/mainWindow.h"
 #include "forms/modLaunchHTMLHelp.h"
@@ -49,6 +50,15 @@ QString characterEntity(QChar character)
     return QStringLiteral("&#%1").arg(code) + (code < FirstUnclosed ? QStringLiteral(";") : QString());
 }
 
+QString rightCharacterEntity(QChar character)
+{
+    if (!hasEntity(character.unicode()))
+        return {};
+    if (character == u' ')
+        return QStringLiteral("&nbsp;");
+    return QStringLiteral("&#%1;").arg(character.unicode());
+}
+
 frmInsSpecChar::frmInsSpecChar(ProgramContext &context) : DialogForm(context, QStringLiteral("frmInsSpecChar"))
 {
     setCaption(QStringLiteral("Insert Character Entity"));
@@ -81,7 +91,8 @@ void frmInsSpecChar::grdCharacters_Click()
 {
     const QString character = grdCharacters->selectedCharacter();
     lblCharacter->setText(character);
-    lblDecChr->setText(character.isEmpty() ? QString() : characterEntity(character[0]));
+    const auto entity = writesTodaysMarkup(context()) ? rightCharacterEntity : characterEntity;
+    lblDecChr->setText(character.isEmpty() ? QString() : entity(character[0]));
 }
 
 /// A cell without an entity inserts nothing: what is selected in the document stays.

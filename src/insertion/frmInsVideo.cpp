@@ -35,6 +35,8 @@ QString startAttribute(const VideoFields &fields)
         return attributeText(name, QStringLiteral("fileopen, mouseover"));
     if (fields.startsOnOpen)
         return attributeText(name, QStringLiteral("fileopen"));
+    if (fields.startsOnMouseOver && fields.closesStart)
+        return attributeText(name, QStringLiteral("mouseover"));
     // Long written like this, the value is never closed: what takes pages apart again knows it by these words.
     return fields.startsOnMouseOver ? QStringLiteral(" start=\"mouseover & Chr(34)") : QString();
 }
@@ -166,7 +168,8 @@ void frmInsVideo::chkRptEver_Click()
 
 void frmInsVideo::Command4_Click()
 {
-    txtPath->setText(cdlVideo.browse(context()));
+    if (const std::optional<QString> chosen = cdlVideo.browse(context()))
+        txtPath->setText(*chosen);
 }
 
 std::optional<QString> frmInsVideo::markup()
@@ -185,6 +188,7 @@ std::optional<QString> frmInsVideo::markup()
                         .verticalSpacing = txtVrtSpace->text(),
                         .startsOnOpen = chkFileOpen->isChecked(),
                         .startsOnMouseOver = chkMouseOver->isChecked(),
+                        .closesStart = writesToday(),
                         .controls = chkControls->isChecked(),
                         .repeatsForever = chkRptEver->isChecked(),
                         .loop = txtLoop->text(),

@@ -24,6 +24,7 @@ struct VideoFields {
     QString verticalSpacing;
     bool startsOnOpen = true;
     bool startsOnMouseOver = false;
+    bool closesStart = false; ///< whether the value that starts it under the mouse alone is closed
     bool controls = false;
     bool repeatsForever = false;
     QString loop = QStringLiteral("1");

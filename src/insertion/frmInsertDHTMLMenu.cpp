@@ -6,6 +6,7 @@
 #include "common/textSurface.h"
 #include "insertion/menuPreview.h"
 #include "insertion/readableColour.h"
+#include "insertion/writtenMarkup.h"
 #include "services/commonDialogs.h"
 #include "services/messageBoxes.h"
 #include "services/services.h"
@@ -437,7 +438,7 @@ std::optional<QString> frmInsertDHTMLMenu::markup()
 void frmInsertDHTMLMenu::afterInsertion(TextSurface &edit)
 {
     edit.setSelStart(headPlace(edit.Text()));
-    edit.setSelText(m_head);
+    edit.setSelText(writtenMarkup(context(), m_head));
 }
 
 bool frmInsertDHTMLMenu::agreesToClose()

@@ -62,3 +62,18 @@ ImageFields imageFields(const TagUnderCaret &tag)
             .vSpace = value("vspace"),
             .leftoverAttributes = tag.leftoverAttributes};
 }
+
+ImageFields imageFieldsWithTheirUnits(const TagUnderCaret &tag)
+{
+    ImageFields fields = imageFields(tag);
+    fields.width = tag.value(QStringLiteral("width"));
+    fields.height = tag.value(QStringLiteral("height"));
+    const auto canBePercent = [](const QString &size) { return size.isEmpty() || size.endsWith(u'%'); };
+    fields.inPercent = canBePercent(fields.width) && canBePercent(fields.height) &&
+                       !(fields.width.isEmpty() && fields.height.isEmpty());
+    if (fields.inPercent) {
+        fields.width.chop(1);
+        fields.height.chop(1);
+    }
+    return fields;
+}

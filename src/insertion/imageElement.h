@@ -26,3 +26,6 @@ std::optional<TagUnderCaret> readImageTag(const QString &text, qsizetype selStar
 /// The fields that a tag fills. The unit of the size is the other one than the tag has, by intent: confirming an image
 /// as it was read makes pixels of a percentage, and the reverse. Width and height share the unit; the height decides.
 ImageFields imageFields(const TagUnderCaret &tag);
+/// The same with the units that the tag has. Where width and height have a unit each, the one in percent keeps its sign
+/// and the unit of both is pixels.
+ImageFields imageFieldsWithTheirUnits(const TagUnderCaret &tag);

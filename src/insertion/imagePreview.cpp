@@ -79,8 +79,8 @@ QSize ImagePreview::actualSize() const
 
 void ImagePreview::resize(const QString &width, const QString &height, bool inPercent)
 {
-    if (const std::optional<int> length = sideLength(width, inPercent, actualSize().width()))
+    if (const std::optional<int> length = sideLength(width, inPercent || width.endsWith(u'%'), actualSize().width()))
         imgPreview->setFixedWidth(*length);
-    if (const std::optional<int> length = sideLength(height, inPercent, actualSize().height()))
+    if (const std::optional<int> length = sideLength(height, inPercent || height.endsWith(u'%'), actualSize().height()))
         imgPreview->setFixedHeight(*length);
 }

@@ -3,6 +3,7 @@
 #include "common/mainWindow.h"
 #include "common/paths.h"
 #include "forms/modLaunchHTMLHelp.h"
+#include "insertion/writtenMarkup.h"
 #include "services/messageBoxes.h"
 #include "services/services.h"
 #include "widgets/layout.h"
@@ -16,6 +17,16 @@ namespace
 constexpr int DefaultPointer = 0;
 constexpr int BusyPointer = 13;
 constexpr int CharactersOfAPath = 40;
+
+/// The same tag as it is once it is put right: values without quotes, or in single ones, are known then, too.
+TagUnderCaret rightTag(InsertionForm::TagReader read, const TagUnderCaret &tag, const QString &text)
+{
+    const QString right = rightMarkup(text.sliced(tag.start, tag.length), MarkupLanguage::Html);
+    TagUnderCaret again = read(right, 1, 0).value_or(tag);
+    again.start = tag.start;
+    again.length = tag.length;
+    return again;
+}
 } // namespace
 
 InsertionForm::InsertionForm(ProgramContext &context, const Design &design)
@@ -28,6 +39,13 @@ void InsertionForm::prepareLoad()
 {
     DialogForm::prepareLoad();
     setCaption(m_design.caption);
+    if (writesToday())
+        forgetLastUse();
+}
+
+bool InsertionForm::writesToday() const
+{
+    return writesTodaysMarkup(context());
 }
 
 ui::Node InsertionForm::dialogButtons()
@@ -48,17 +66,19 @@ void InsertionForm::confirm()
 {
     showBusy(true);
     if (const std::optional<QString> text = markup())
-        insert(*text, caretBack());
+        insert(*text);
     showBusy(false);
 }
 
-void InsertionForm::insert(const QString &text, qsizetype caretBack)
+void InsertionForm::insert(const QString &text)
 {
     if (Document *document = frmMdi().activeDocument()) {
         TextSurface &edit = document->txtEdit();
-        edit.setSelText(text);
-        if (caretBack > 0)
-            edit.setSelStart(edit.SelStart() - caretBack);
+        const std::optional<QString> behind = closing();
+        const auto [front, back] = writtenAround(context(), {.opening = text, .closing = behind.value_or(QString())});
+        edit.setSelText(front + (behind ? edit.SelText() : QString()) + back);
+        if (!back.isEmpty())
+            edit.setSelStart(edit.SelStart() - back.size());
         afterInsertion(edit);
     }
     Unload();
@@ -73,6 +93,8 @@ std::optional<TagUnderCaret> InsertionForm::takeTag(TagReader read)
         return std::nullopt;
     TextSurface &edit = document->txtEdit();
     std::optional<TagUnderCaret> tag = read(edit.Text(), edit.SelStart(), edit.SelLength());
+    if (tag && writesToday())
+        tag = rightTag(read, *tag, edit.Text());
     if (tag) {
         edit.setSelStart(tag->start);
         edit.setSelLength(tag->length);

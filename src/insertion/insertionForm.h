@@ -41,14 +41,22 @@ public:
 
     InsertionForm(ProgramContext &context, const Design &design);
 
+    /// How a dialog that edits what it finds reads the element around the caret of a text: see ReadTagUnderCaret.
+    using TagReader = std::optional<TagUnderCaret> (*)(const QString &text, qsizetype selStart, qsizetype selLength);
+
 protected:
     void prepareLoad() override;
 
     /// Applies the path rules where the dialog has them and builds the markup from the fields. Nothing keeps the dialog
     /// open, as where a field is missing; then the user has been told.
     virtual std::optional<QString> markup() = 0;
-    /// How many characters before the markup's end the caret is to stand; asked once the markup is made.
-    virtual qsizetype caretBack() const { return 0; }
+    /// For a dialog whose markup goes in front of the selection: what goes behind it, where the caret then stands.
+    /// Asked once the markup is made; nothing where the markup takes the selection's place.
+    virtual std::optional<QString> closing() const { return std::nullopt; }
+    /// Drops what outlives the dialog and would go into what it writes next, where each use is to begin anew.
+    virtual void forgetLastUse() {}
+    /// Whether the dialog is to write, and read, by today's HTML.
+    bool writesToday() const;
 
     /// Runs once the markup stands in the document, for a dialog that writes at another place, too.
     virtual void afterInsertion(TextSurface &) {}
@@ -57,8 +65,6 @@ protected:
     ui::Node dialogButtons();
     QPushButton *okButton() const { return m_ok; }
 
-    /// How a dialog that edits what it finds reads the element around the caret of a text: see ReadTagUnderCaret.
-    using TagReader = std::optional<TagUnderCaret> (*)(const QString &text, qsizetype selStart, qsizetype selLength);
     /// The element around the document's caret, which is selected from now on, so that the markup takes its place.
     /// Nothing, and nothing selected, where there is none.
     std::optional<TagUnderCaret> takeTag(TagReader read);
@@ -78,9 +84,9 @@ protected:
 
     /// What OK does: the markup goes in place of the selection, the dialog is unloaded and the document has the focus.
     void confirm();
-    /// The end of every insertion: `text` in place of the selection, then the dialog goes and the document takes the
-    /// focus. The caret stands behind the text, or `caretBack` characters before its end.
-    void insert(const QString &text, qsizetype caretBack = 0);
+    /// The end of every insertion: `text` in place of the selection, or in front of it, then the dialog goes and the
+    /// document takes the focus. The caret stands behind the text, or behind what was selected.
+    void insert(const QString &text);
 
 private:
     Design m_design;

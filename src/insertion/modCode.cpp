@@ -2,6 +2,7 @@
 
 #include "common/mainWindow.h"
 #include "forms/programContext.h"
+#include "insertion/writtenMarkup.h"
 
 void wrapPlainly(ProgramContext &context, const QString &openText, const QString &closeText)
 {
@@ -9,9 +10,10 @@ void wrapPlainly(ProgramContext &context, const QString &openText, const QString
     if (!document)
         return;
     TextSurface &edit = document->txtEdit();
-    edit.setSelText(openText + edit.SelText() + closeText);
-    if (!closeText.isEmpty())
-        edit.setSelStart(edit.SelStart() - closeText.size());
+    const MarkupPair written = writtenAround(context, {.opening = openText, .closing = closeText});
+    edit.setSelText(written.opening + edit.SelText() + written.closing);
+    if (!written.closing.isEmpty())
+        edit.setSelStart(edit.SelStart() - written.closing.size());
     edit.SetFocus();
 }
 

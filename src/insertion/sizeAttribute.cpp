@@ -4,5 +4,5 @@
 
 QString sizeAttribute(const QString &name, const QString &size, bool inPercent)
 {
-    return size.isEmpty() ? QString() : attributeText(name, inPercent ? size + u'%' : size);
+    return size.isEmpty() ? QString() : attributeText(name, inPercent && !size.endsWith(u'%') ? size + u'%' : size);
 }

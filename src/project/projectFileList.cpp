@@ -2,6 +2,7 @@
 #include "project/modProjectFileCtrl.h"
 
 #include "common/addressText.h"
+#include "common/fileHabits.h"
 #include "common/paths.h"
 #include "common/programState.h"
 #include "common/siteProject.h"
@@ -12,12 +13,12 @@
 
 namespace
 {
-QStringList extensionsOf(ProjectFiles kind)
+QStringList extensionsOf(ProjectFiles kind, const Habits &habits)
 {
     if (kind == ProjectFiles::Pages)
         return {QStringLiteral("htm"), QStringLiteral("html")};
-    return {QStringLiteral("gif"), QStringLiteral("jpg"), QStringLiteral("jpeg"), QStringLiteral("bmp"),
-            QStringLiteral("dib"), QStringLiteral("ico"), QStringLiteral("cur")};
+    const QString everyKind = knowsEveryPicture(habits) ? QStringLiteral(" png svg webp avif apng") : QString();
+    return (QStringLiteral("gif jpg jpeg bmp dib ico cur") + everyKind).split(u' ');
 }
 
 /// The same files as addresses from the root of the site, which the project's folder is; those elsewhere have none.
@@ -36,7 +37,7 @@ void FillProjectFileList(ProgramContext &context, ProjectFiles kind, QComboBox &
 {
     if (!context.project)
         return;
-    const QStringList extensions = extensionsOf(kind);
+    const QStringList extensions = extensionsOf(kind, context.state.habits);
     const QList<ProjectItem> items =
         kind == ProjectFiles::Pages ? context.project->editorFiles() : context.project->otherFiles();
     QStringList paths;

@@ -4,6 +4,9 @@
 #include "common/paths.h"
 
 #include <QDir>
+#include <QRegularExpression>
+#include <algorithm>
+#include <utility>
 
 std::optional<QString> answerToCommandLine(const QStringList &arguments, const QString &version)
 {
@@ -13,11 +16,16 @@ std::optional<QString> answerToCommandLine(const QStringList &arguments, const Q
     if (option == u"--version")
         return QStringLiteral("Tagwrighter %1\n").arg(version);
     if (option == u"--help" || option == u"-h")
-        return QStringLiteral("Usage: tagwrighter [FILE]\n"
-                              "An editor of web pages for those who write HTML by hand.\n\n"
-                              "FILE is a page or any other text, a template (.tpl, .ctp) or a site project (.tsp).\n\n"
-                              "  --help     tells this\n"
-                              "  --version  tells the version\n");
+        return QStringLiteral(
+            "Usage: tagwrighter [FILE]\n"
+            "   or: tagwrighter [--new-instance] [[+LINE] FILE[:LINE]]...\n"
+            "An editor of web pages for those who write HTML by hand.\n\n"
+            "FILE is a page or any other text, a template (.tpl, .ctp) or a site project (.tsp).\n\n"
+            "The second form holds where you edit as today's editors do: several files open, each with\n"
+            "the caret in its LINE, and in the program that runs already if there is one.\n\n"
+            "  --new-instance  starts another program\n"
+            "  --help, -h      tells this\n"
+            "  --version       tells the version\n");
     return std::nullopt;
 }
 
@@ -47,9 +55,110 @@ CommandLineFile commandLineFile(const QString &text)
     return {path, CommandLineAction::Document};
 }
 
-void OpenCommandLineFile(FileCommands &files, const QString &text)
+namespace
 {
-    const CommandLineFile file = commandLineFile(text);
+struct LineWord {
+    QString text;
+    bool quoted = false;
+};
+
+QList<LineWord> wordsOf(const QString &line)
+{
+    QList<LineWord> words;
+    for (qsizetype at = 0; at < line.size();) {
+        if (line[at] == u' ') {
+            ++at;
+            continue;
+        }
+        const bool quoted = line[at] == u'"';
+        const qsizetype start = quoted ? at + 1 : at;
+        qsizetype end = line.indexOf(quoted ? u'"' : u' ', start);
+        end = end < 0 ? line.size() : end;
+        at = quoted ? end + 1 : end;
+        if (quoted && at < line.size() && line[at] == u':') // "a b.htm":12
+            end = at = std::max(at, line.indexOf(u' ', at) < 0 ? line.size() : line.indexOf(u' ', at));
+        words.append({line.sliced(start, end - start).remove(u'"'), quoted});
+    }
+    return words;
+}
+
+std::optional<int> lineBefore(const QString &word)
+{
+    bool isNumber = false;
+    const int line = word.mid(1).toInt(&isNumber);
+    return word.startsWith(u'+') && isNumber && line > 0 ? std::optional(line) : std::nullopt;
+}
+
+/// A path with the place behind it taken apart; nothing if there is no such file.
+std::optional<CommandLineFile> fileOfWord(const QString &word, const std::function<bool(const QString &)> &exists)
+{
+    static const QRegularExpression place(QStringLiteral("^(.+?):([0-9]{1,9})(:[0-9]+)?$"));
+    if (exists(word))
+        return commandLineFile(word);
+    const QRegularExpressionMatch match = place.match(word);
+    if (!match.hasMatch() || !exists(match.captured(1)))
+        return std::nullopt;
+    CommandLineFile file = commandLineFile(match.captured(1));
+    file.line = match.captured(2).toInt();
+    return file;
+}
+
+/// The file that the words from there on name, and how many of them do: as many as make up a path that is there.
+std::pair<CommandLineFile, qsizetype> fileAt(const QList<LineWord> &words, qsizetype at,
+                                             const std::function<bool(const QString &)> &exists)
+{
+    constexpr qsizetype mostWords = 32;
+    const auto isPlain = [](const LineWord &word) { return !word.quoted; };
+    const auto plainEnd = std::find_if_not(words.begin() + at, words.end(), isPlain);
+    const qsizetype most = std::clamp<qsizetype>(plainEnd - (words.begin() + at), 1, mostWords);
+    for (qsizetype count = most; count > 0; --count) {
+        QStringList path;
+        for (const LineWord &word : words.sliced(at, count))
+            path.append(word.text);
+        if (const auto file = fileOfWord(path.join(u' '), exists))
+            return {*file, count};
+    }
+    return {commandLineFile(words[at].text), 1};
+}
+} // namespace
+
+QString commandLineOfFiles(const QStringList &arguments)
+{
+    QStringList words;
+    for (const QString &argument : arguments) {
+        const bool isPath = !argument.isEmpty() && !lineBefore(argument);
+        const QString word = isPath && QDir::isRelativePath(argument)
+                                 ? QDir::cleanPath(QDir::current().absoluteFilePath(argument))
+                                 : argument;
+        words.append(word.contains(u' ') ? u'"' + word + u'"' : word);
+    }
+    return words.join(u' ');
+}
+
+QList<CommandLineFile> commandLineFiles(const QString &text, const std::function<bool(const QString &)> &exists)
+{
+    if (const CommandLineFile whole = commandLineFile(text); exists(whole.path))
+        return {whole};
+    const QList<LineWord> words = wordsOf(text);
+    QList<CommandLineFile> files;
+    int line = 0;
+    for (qsizetype at = 0; at < words.size();) {
+        const bool mayBeLine = !words[at].quoted && at + 1 < words.size();
+        if (const auto before = mayBeLine ? lineBefore(words[at].text) : std::nullopt) {
+            line = *before;
+            ++at;
+            continue;
+        }
+        auto [file, count] = fileAt(words, at, exists);
+        file.line = file.line > 0 ? file.line : std::exchange(line, 0);
+        files.append(file);
+        at += count;
+    }
+    return files;
+}
+
+void OpenCommandLineFile(FileCommands &files, const CommandLineFile &file)
+{
     switch (file.action) {
     case CommandLineAction::Template:
         files.OpenTemplateFile(file.path, true);

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QStringList>
+#include <functional>
 #include <optional>
 
 /// What the program prints for a command line that only asks about the program, which is one of "--help", "-h" and
@@ -18,6 +20,7 @@ enum class CommandLineAction { Template, Project, CombinedTemplate, Document };
 struct CommandLineFile {
     QString path;
     CommandLineAction action = CommandLineAction::Document;
+    int line = 0; ///< that the caret is to go to, from 1; 0 for none
     bool operator==(const CommandLineFile &) const = default;
 };
 
@@ -25,6 +28,15 @@ struct CommandLineFile {
 /// nothing is split at blanks. The extension decides in any case of its letters.
 CommandLineFile commandLineFile(const QString &text);
 
+/// The same line where it may name several files: each path that is relative is made absolute and stands in double
+/// quotes if it holds a blank.
+QString commandLineOfFiles(const QStringList &arguments);
+
+/// All files that such a line names. A path may stand in double quotes; behind it may be ":LINE" or ":LINE:COLUMN", and
+/// in front of it a word "+LINE". A path that is there counts as it stands, blanks and colons included, be it several
+/// words or the whole line.
+QList<CommandLineFile> commandLineFiles(const QString &text, const std::function<bool(const QString &)> &exists);
+
 class FileCommands;
-/// Opens what the command line's text names.
-void OpenCommandLineFile(FileCommands &files, const QString &text);
+/// Opens a file that the command line names.
+void OpenCommandLineFile(FileCommands &files, const CommandLineFile &file);
