@@ -1,4 +1,6 @@
 #include "document/frmWrite.h"
+#include "document/pageColours.h"
+#include "document/slicedColouring.h"
 #include "document/syntaxScanner.h"
 #include "figures.h"
 #include "pages.h"
@@ -109,6 +111,26 @@ double optimiseTime(RunningProgram &program)
     return medianTime(
         5, [&] { program.document()->OptimiseSyntax(); }, [&] { program.document()->txtEdit().setText(text); });
 }
+
+/// The reading of what a screen shows behind a jump into a page that nothing has coloured yet.
+double screenTime()
+{
+    constexpr qsizetype screen = 6000;
+    const QString text = page(10'000'000, 1);
+    qsizetype at = 0;
+    return medianTime(Runs, [&] {
+        at = (at + 3'333'333) % (text.size() - screen);
+        PageColours colours(text, ColouringOptions(), true);
+        colours.startNear(at);
+        colours.advance(at + screen);
+    });
+}
+
+double sliceTime()
+{
+    PageColours colours(page(1'000'000, 1), ColouringOptions(), true);
+    return medianTime(Runs, [&] { colours.advance(colours.place() + SlicedColouring::SliceLength); });
+}
 } // namespace
 
 void documentFigures(Figures &figures)
@@ -119,6 +141,9 @@ void documentFigures(Figures &figures)
     figures.add(QStringLiteral("scanning, 63,900 against 8,000 characters, a character"),
                 scanTime(LargestColoured) / scanTime(8000) * 8000 / double(LargestColoured), QStringLiteral("times"),
                 1.2);
+    figures.add(QStringLiteral("colours of a screen behind a jump, 10 MB"), screenTime() * Milli, QStringLiteral("ms"),
+                5);
+    figures.add(QStringLiteral("colours of a slice"), sliceTime() * Milli, QStringLiteral("ms"), 5);
     RunningProgram program;
     const double pass = passTime(program, LargestColoured);
     figures.add(QStringLiteral("colouring pass to painted, 63,900 characters"), pass * Milli, QStringLiteral("ms"), 30);

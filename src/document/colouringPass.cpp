@@ -3,6 +3,8 @@
 #include "common/mainWindow.h"
 #include "common/programState.h"
 #include "document/frmWrite.h"
+#include "document/pageColours.h"
+#include "document/slicedColouring.h"
 #include "services/services.h"
 #include "services/timer.h"
 #include "services/yielder.h"
@@ -37,6 +39,17 @@ void ColouringPass::run()
         m_context.screenPointer.setMousePointer(DefaultPointer);
         m_context.mainWindow->SetStatusReady();
     }
+}
+
+void ColouringPass::fillTree()
+{
+    m_context.mainWindow->clearStructureTree();
+    if (!m_context.mainWindow->structurePageShown() || m_edit->textLength() >= UncolouredLength)
+        return;
+    m_scanner.setStructureShown(true);
+    while (m_scanner.advance()) {
+    }
+    addNewNodes();
 }
 
 void ColouringPass::begin()
@@ -97,8 +110,15 @@ void ColouringPass::addNewNodes()
 
 void ColouringPass::paint()
 {
-    m_edit->setFormats(m_scanner.paints().formats(m_context.mainWindow->colouring));
+    m_edit->setFormats(formats());
     restoreView();
+}
+
+QList<FormatRange> ColouringPass::formats() const
+{
+    const ColouringOptions &options = m_context.mainWindow->colouring;
+    const bool asPage = readsScripts(m_context) && m_edit->textLength() < UncolouredLength && !m_form->CancelColouring;
+    return asPage ? pageFormats(m_edit->Text(), options) : m_scanner.paints().formats(options);
 }
 
 void ColouringPass::restoreView()

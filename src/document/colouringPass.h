@@ -1,7 +1,7 @@
 #pragma once
 
-#include "document/syntaxScanner.h"
 #include "common/textSelection.h"
+#include "document/syntaxScanner.h"
 
 #include <QPointer>
 
@@ -19,6 +19,8 @@ class ColouringPass
 public:
     ColouringPass(frmWrite &form, ProgramContext &context);
     void run();
+    /// The structure tree alone, at once; the window is left as it is.
+    void fillTree();
 
 private:
     void begin();
@@ -26,6 +28,7 @@ private:
     bool fillsTree() const;
     void addNewNodes();
     void paint();
+    QList<FormatRange> formats() const;
     void restoreView();
     void end();
 

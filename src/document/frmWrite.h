@@ -6,6 +6,7 @@
 #include "document/typedColouring.h"
 #include "forms/mdiForm.h"
 
+#include <QPointer>
 #include <memory>
 #include <optional>
 
@@ -13,6 +14,7 @@ class CodeAssistant;
 class DocumentHistory;
 class DocumentStructure;
 class EditSurface;
+class SlicedColouring;
 class NoticeBar;
 class QPoint;
 class QUrl;
@@ -128,6 +130,7 @@ private:
 
     // The steps of a key that goes down, in their order. A key that a step has used up has the code 0 from there on.
     void stopColouring(const SurfaceKey &key);
+    void colourInSlices();
     void assist(SurfaceKey &key);
     void closeAssistant(const SurfaceKey &key);
     void indentByTab(SurfaceKey &key);
@@ -153,6 +156,7 @@ private:
     NoticeBar *m_noticeBar = nullptr;
     ViewingPanes *m_panes = nullptr;
     EditSurface *m_edit = nullptr;
+    QPointer<SlicedColouring> m_slices; ///< of the surface that is there
     WebBrowser *m_browser = nullptr;
     std::optional<bool> m_otherHostsTold; ///< what the line above the text has told of them last
     Timer *tmrRefresh = nullptr;

@@ -1,4 +1,5 @@
 // What a document window does to its whole text: colouring, history, indentation and the optimiser.
+#include "common/mainWindow.h"
 #include "common/programState.h"
 #include "common/unsavedText.h"
 #include "document/codeAssistant.h"
@@ -8,6 +9,7 @@
 #include "document/handCommands.h"
 #include "document/indentation.h"
 #include "document/lineIndent.h"
+#include "document/slicedColouring.h"
 #include "document/syntaxOptimiser.h"
 #include "services/services.h"
 #include "services/timer.h"
@@ -27,7 +29,21 @@ void frmWrite::RecolourDocument()
 {
     if (ColouringActive) // a pass brought on by what runs inside a pass would find the window held already
         return;
-    ColouringPass(*this, context()).run();
+    context().state.habits.HabitColouring ? colourInSlices() : ColouringPass(*this, context()).run();
+}
+
+void frmWrite::colourInSlices()
+{
+    if (!m_edit)
+        return;
+    if (const auto interval = refreshInterval(frmMdi().colouring.ColourCodeUpdateTime))
+        tmrRefresh->setInterval(*interval);
+    tmrRefresh->setEnabled(false);
+    if (frmMdi().activeDocument() == this)
+        ColouringPass(*this, context()).fillTree();
+    if (!m_slices)
+        m_slices = new SlicedColouring(*m_edit, context());
+    m_slices->begin();
 }
 
 void frmWrite::ExternalCallColourCode()

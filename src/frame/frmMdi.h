@@ -170,6 +170,10 @@ private:
     TaskManagerPane *m_pane = nullptr;
     QBoxLayout *m_middle = nullptr; ///< the pane beside the documents
     TabStrip *tabDocSel = nullptr;
+    struct {
+        QString key;
+        int place = 0;
+    } m_removedTab; ///< the one that was taken away last: it is a save's, if it comes back
     QWidget *picDocSelector = nullptr;
     QFrame *fmeDocSelDiv = nullptr;
     QStatusBar *StatusBar1 = nullptr;

@@ -1,4 +1,5 @@
 // The main window's bars: showing and hiding them, the status bar, the document selector and the lists.
+#include "common/programState.h"
 #include "frame/frmMdi.h"
 
 #include "document/structureTree.h"
@@ -159,13 +160,18 @@ void frmMdi::showRecentFiles(const QStringList &captions)
 
 void frmMdi::addDocumentTab(const QString &key, const QString &caption)
 {
-    if (tabDocSel->addKeyedTab(key, caption, programIcon(QStringLiteral("file-code"))))
+    if (tabDocSel->addKeyedTab(key, caption, programIcon(QStringLiteral("file-code")))) {
         tabDocSel->setTabToolTip(tabDocSel->count() - 1, caption);
+        if (context().state.habits.HabitScripts && key == m_removedTab.key)
+            tabDocSel->moveTab(tabDocSel->count() - 1, m_removedTab.place);
+    }
     m_documentSwitch->list();
 }
 
 void frmMdi::removeDocumentTab(const QString &key)
 {
+    if (const std::optional<int> place = tabDocSel->find(key))
+        m_removedTab = {.key = key, .place = *place};
     tabDocSel->removeKeyedTab(key);
     m_documentSwitch->list();
 }

@@ -7,6 +7,7 @@ namespace
 // A rule comes in here once it works.
 constexpr HabitRule rules[] = {
     {&Habits::HabitUndo, &settings::HabitUndo, "Undo and redo go by edits"},
+    {&Habits::HabitColouring, &settings::HabitColouring, "Pages of any size are coloured"},
     {&Habits::HabitFocus, &settings::HabitFocus, "Only you move the keyboard's focus"},
     {&Habits::HabitPreview, &settings::HabitPreview, "The preview finds what stands beside a page"},
     {&Habits::HabitSave, &settings::HabitSave, "A save adds nothing to the page"},
@@ -21,6 +22,7 @@ constexpr HabitRule rules[] = {
     {&Habits::HabitAssistant, &settings::HabitAssistant, "The assistant offers what fits at the caret"},
     {&Habits::HabitNewPage, &settings::HabitNewPage, "A new page is one of today"},
     {&Habits::HabitDialogs, &settings::HabitDialogs, "Several files, every kind of picture"},
+    {&Habits::HabitScripts, &settings::HabitScripts, "Scripts and styles have their own colours"},
     {&Habits::HandsClose, &settings::HandsClose, "An end tag writes itself behind its start tag"},
     {&Habits::HandsMatch, &settings::HandsMatch, "The line, the tag and its partner at the caret are shown"},
     {&Habits::HandsPair, &settings::HandsPair, "A tag's partner follows when its name is changed"},

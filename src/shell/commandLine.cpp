@@ -92,15 +92,19 @@ std::optional<int> lineBefore(const QString &word)
 /// A path with the place behind it taken apart; nothing if there is no such file.
 std::optional<CommandLineFile> fileOfWord(const QString &word, const std::function<bool(const QString &)> &exists)
 {
-    static const QRegularExpression place(QStringLiteral("^(.+?):([0-9]{1,9})(:[0-9]+)?$"));
+    static const QRegularExpression line(QStringLiteral("^(.+):([0-9]{1,9})$"));
+    static const QRegularExpression lineAndColumn(QStringLiteral("^(.+):([0-9]{1,9}):[0-9]+$"));
     if (exists(word))
         return commandLineFile(word);
-    const QRegularExpressionMatch match = place.match(word);
-    if (!match.hasMatch() || !exists(match.captured(1)))
-        return std::nullopt;
-    CommandLineFile file = commandLineFile(match.captured(1));
-    file.line = match.captured(2).toInt();
-    return file;
+    for (const QRegularExpression *place : {&line, &lineAndColumn}) {
+        const QRegularExpressionMatch match = place->match(word);
+        if (!match.hasMatch() || !exists(match.captured(1)))
+            continue;
+        CommandLineFile file = commandLineFile(match.captured(1));
+        file.line = match.captured(2).toInt();
+        return file;
+    }
+    return std::nullopt;
 }
 
 /// The file that the words from there on name, and how many of them do: as many as make up a path that is there.

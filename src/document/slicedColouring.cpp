@@ -1,0 +1,98 @@
+#include "document/slicedColouring.h"
+
+#include "common/mainWindow.h"
+#include "common/programState.h"
+#include "document/pageColours.h"
+#include "forms/programContext.h"
+#include "surface/editSurface.h"
+
+#include <algorithm>
+
+namespace
+{
+constexpr qsizetype AtOnce = 128 * 1024; ///< of a text this long, more is not worth a second look
+
+/// Only what stands between the two places.
+QList<FormatRange> within(const QList<FormatRange> &formats, qsizetype from, qsizetype to)
+{
+    QList<FormatRange> inside;
+    for (const FormatRange &range : formats) {
+        const qsizetype start = std::max(range.start, from);
+        const qsizetype end = std::min(range.start + range.length, to);
+        if (end > start)
+            inside.append({start, end - start, range.format});
+    }
+    return inside;
+}
+} // namespace
+
+bool readsScripts(const ProgramContext &context)
+{
+    return context.state.habits.HabitScripts;
+}
+
+SlicedColouring::SlicedColouring(EditSurface &edit, ProgramContext &context)
+    : QObject(&edit), m_edit(&edit), m_context(context)
+{
+    connect(&edit, &EditSurface::Change, this, &SlicedColouring::stop);
+    connect(&edit, &EditSurface::scrolled, this, &SlicedColouring::colourView);
+}
+
+SlicedColouring::~SlicedColouring() = default;
+
+void SlicedColouring::begin()
+{
+    stop();
+    if (!m_edit)
+        return;
+    m_page = std::make_unique<PageColours>(m_edit->Text(), m_context.mainWindow->colouring, readsScripts(m_context));
+    if (m_page->text().size() <= AtOnce) {
+        m_edit->setFormats(m_page->advance(AtOnce));
+        m_page.reset();
+        return;
+    }
+    colourView();
+    nextSlice();
+}
+
+void SlicedColouring::stop()
+{
+    ++m_round;
+    m_page.reset();
+}
+
+void SlicedColouring::nextSlice()
+{
+    QMetaObject::invokeMethod(
+        this, [this, round = m_round] { slice(round); }, Qt::QueuedConnection);
+}
+
+void SlicedColouring::slice(int round)
+{
+    if (round != m_round || !m_page || !m_edit)
+        return;
+    m_edit->setFormats(m_page->advance(m_page->place() + SliceLength));
+    if (m_page->isAtEnd())
+        m_page.reset();
+    else
+        nextSlice();
+}
+
+/// What the slices have not come to yet is read from nearby; they put right what that can not tell.
+void SlicedColouring::colourView()
+{
+    if (!m_page || !m_edit)
+        return;
+    const QList<EditSurface::VisibleLine> lines = m_edit->visibleLines();
+    if (lines.isEmpty())
+        return;
+    const qsizetype from = m_edit->characterFromLine(lines.constFirst().line).value_or(0);
+    const qsizetype longest = 16 * 1024; // of a page without line breaks, no more is on show
+    const qsizetype to =
+        std::min(from + longest, m_edit->characterFromLine(lines.constLast().line + 1).value_or(m_page->text().size()));
+    if (to <= m_page->place())
+        return;
+    PageColours view(m_page->text(), m_context.mainWindow->colouring, readsScripts(m_context));
+    view.startNear(from);
+    m_edit->setFormats(within(view.advance(to), from, to));
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <memory>
+
+class EditSurface;
+class PageColours;
+struct FormatRange;
+struct ProgramContext;
+
+/// Whether scripts and styles are coloured as what they are.
+bool readsScripts(const ProgramContext &context);
+
+/// Colours a document of any size without holding anything up: what is on show at once, and the rest in slices, between
+/// which events run. It touches nothing but colours. A change of the text ends it; whoever began it begins it again.
+class SlicedColouring final : public QObject
+{
+    Q_OBJECT
+public:
+    static constexpr qsizetype SliceLength = 32 * 1024; ///< in characters
+
+    SlicedColouring(EditSurface &edit, ProgramContext &context);
+    ~SlicedColouring() override;
+
+    /// Begins anew with the text as it stands.
+    void begin();
+
+private:
+    void stop();
+    void nextSlice();
+    void colourView();
+    void slice(int round);
+
+    QPointer<EditSurface> m_edit;
+    ProgramContext &m_context;
+    std::unique_ptr<PageColours> m_page; ///< nothing once all is coloured, or the text is another
+    int m_round = 0;                     ///< of the slices that are on their way
+};
