@@ -43,6 +43,8 @@ void ColouringPass::run()
 
 void ColouringPass::fillTree()
 {
+    if (!fillsTree())
+        return;
     m_context.mainWindow->clearStructureTree();
     if (!m_context.mainWindow->structurePageShown() || m_edit->textLength() >= UncolouredLength)
         return;
