@@ -76,6 +76,7 @@ void CodeAssistant::showOffers()
     m_showsOffers = true;
     treCodeAssistantElements->selectNode(0);
     m_offeredAt = m_edit.SelStart();
+    LastCaretLine = m_edit.lineFromCharacter(m_offeredAt); // which a click may have chosen
     hideTip();
     placeList();
     setListShown(true);

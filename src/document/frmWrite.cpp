@@ -6,6 +6,7 @@
 #include "common/paths.h"
 #include "common/programState.h"
 #include "common/unsavedText.h"
+#include "document/colourSquares.h"
 #include "document/documentHistory.h"
 #include "document/documentStructure.h"
 #include "document/tagMarks.h"
@@ -72,6 +73,8 @@ void frmWrite::buildSurface()
     m_edit->setHooks(surfaceHooks());
     m_structure = new DocumentStructure(*this, *m_edit, context());
     m_structure->setParent(m_edit);
+    m_colourSquares = new ColourSquares(*this, *m_edit, context());
+    m_colourSquares->setParent(m_edit);
     applyEditorSettings();
 }
 
@@ -142,6 +145,7 @@ void frmWrite::applyEditorSettings()
     followHabits();
     m_tagMarks->follow();
     m_structure->bringUp();
+    m_colourSquares->bringUp();
 }
 
 void frmWrite::CheckWordWrapSettings()

@@ -11,6 +11,7 @@
 #include <optional>
 
 class CodeAssistant;
+class ColourSquares;
 class DocumentHistory;
 class DocumentStructure;
 class EditSurface;
@@ -167,11 +168,12 @@ private:
     std::unique_ptr<DocumentHistory> m_history;
     std::unique_ptr<TagMarks> m_tagMarks;
     DocumentStructure *m_structure = nullptr;
+    ColourSquares *m_colourSquares = nullptr;
     bool m_keepsEdits = false; ///< the history is one of edits
     bool m_tagEnds = false;    ///< the next change is a ">" that was typed
     TypedColouring m_typed;
     PairedNames m_pairedNames;
-    bool m_followsName = false; ///< a tag's partner is taking its name: one change with the key's
+    bool m_followsName = false;     ///< a tag's partner is taking its name: one change with the key's
     QString HoverLink;              ///< the address under the pointer while Ctrl is held; empty otherwise
     bool m_followsTarget = false;   ///< it is the target of a link, which may be a page of this machine
     qsizetype FirstVisibleLine = 0; ///< when the line information was last brought up to date

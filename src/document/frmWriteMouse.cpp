@@ -4,6 +4,7 @@
 #include "common/programState.h"
 #include "document/assistantWords.h"
 #include "document/codeAssistant.h"
+#include "document/colourSquares.h"
 #include "document/frmWrite.h"
 #include "document/handCommands.h"
 #include "document/linkTarget.h"
@@ -36,6 +37,7 @@ SurfaceHooks frmWrite::surfaceHooks()
     hooks.mouseUp = [this](SurfaceMouse &mouse) { txtEdit_MouseUp(mouse); };
     hooks.textDropped = [this](const QString &text) { txtEdit_TextDropped(text); };
     hooks.filesDropped = [this](const QStringList &paths) { txtEdit_FilesDropped(paths); };
+    hooks.squareClicked = [this](const MarkedRange &square) { m_colourSquares->click(square); };
     return hooks;
 }
 

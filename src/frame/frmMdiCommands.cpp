@@ -2,6 +2,7 @@
 #include "frame/frmMdiCommands.h"
 
 #include "common/fileCommands.h"
+#include "document/colourSquares.h"
 #include "document/elementSteps.h"
 #include "document/handCommands.h"
 #include "document/modBrowserControl.h"
@@ -245,6 +246,11 @@ void MainCommands::mnuCloseElement_Click()
 void MainCommands::mnuRenameElement_Click()
 {
     SelectElementName(m_context);
+}
+
+void MainCommands::mnuChangeColour_Click()
+{
+    ChangeColourAtCaret(m_context);
 }
 
 void MainCommands::mnuExpandAbbreviation_Click()

@@ -76,6 +76,7 @@ public:
     void mnuGoToPartner_Click();
     void mnuCloseElement_Click();
     void mnuRenameElement_Click();
+    void mnuChangeColour_Click();
     void mnuExpandAbbreviation_Click();
     void mnuFollowLink_Click();
     void mnuGoToFile_Click();

@@ -1,0 +1,100 @@
+#include "document/colourSquares.h"
+
+#include "common/document.h"
+#include "common/mainWindow.h"
+#include "common/programState.h"
+#include "document/colourPlaces.h"
+#include "document/lineHands.h"
+#include "forms/programContext.h"
+#include "services/commonDialogs.h"
+#include "services/services.h"
+#include "surface/editSurface.h"
+
+#include <utility>
+
+namespace
+{
+/// Up to this length the colours are looked for at each key, beyond it in a pause.
+constexpr qsizetype ReadAtOnce = 65536;
+constexpr int PauseMilliseconds = 150;
+
+QList<ColourPlace> placesIn(const Document &document)
+{
+    const CommentSigns kind = commentSignsAt({}, 0, document.DocSavePath);
+    if (kind == CommentSigns::Script)
+        return {};
+    return colourPlaces(document.txtEdit().Text(), kind == CommentSigns::Css);
+}
+
+void changeColour(const ProgramContext &context, Document &document, const ColourPlace &place)
+{
+    TextSurface &edit = document.txtEdit();
+    if (edit.Locked())
+        return;
+    const QString old = edit.textPart(place.start, place.length);
+    const std::optional<ColourValue> chosen = context.services.commonDialogs.showColour(place.colour);
+    if (!chosen || edit.textPart(place.start, place.length) != old)
+        return;
+    edit.setSelStart(place.start);
+    edit.setSelLength(place.length);
+    edit.setSelText(recoloured(old, *chosen));
+    document.UndoRedoChange();
+}
+} // namespace
+
+ColourSquares::ColourSquares(Document &document, EditSurface &edit, ProgramContext &context)
+    : m_document(document), m_edit(edit), m_context(context)
+{
+    m_soon.setSingleShot(true);
+    connect(&m_soon, &QTimer::timeout, this, [this] { show(); });
+    connect(&edit, &EditSurface::Change, this, [this] { noteChange(); });
+}
+
+void ColourSquares::noteChange()
+{
+    if (m_edit.textLength() <= ReadAtOnce)
+        bringUp();
+    else
+        m_soon.start(PauseMilliseconds);
+}
+
+void ColourSquares::bringUp()
+{
+    m_soon.stop();
+    if (!std::exchange(m_queued, true))
+        QMetaObject::invokeMethod(
+            this, [this] { show(); }, Qt::QueuedConnection);
+}
+
+void ColourSquares::show()
+{
+    m_queued = false;
+    const bool wanted = m_context.state.habits.HandsColours;
+    if (!wanted && !m_shown)
+        return;
+    QList<MarkedRange> marks;
+    if (wanted)
+        for (const ColourPlace &place : placesIn(m_document))
+            marks.append({place.start, place.length, MarkKind::Colour, {}, place.colour});
+    m_shown = wanted;
+    m_edit.setMarkedRanges(MarkOwner::Colours, marks);
+}
+
+void ColourSquares::click(const MarkedRange &square)
+{
+    if (square.colour)
+        changeColour(m_context, m_document, {square.start, square.length, *square.colour});
+}
+
+void ChangeColourAtCaret(ProgramContext &context)
+{
+    Document *document = context.mainWindow->activeDocument();
+    if (!document)
+        return;
+    const qsizetype caret = document->txtEdit().SelStart();
+    for (const ColourPlace &place : placesIn(*document))
+        if (place.start <= caret && caret <= place.start + place.length) {
+            changeColour(context, *document, place);
+            return;
+        }
+}
