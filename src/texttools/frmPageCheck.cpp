@@ -87,8 +87,9 @@ void frmPageCheck::build()
     QPushButton *cmdHelp = ui::button(QStringLiteral("cmdHelp"), QStringLiteral("Help"), [this] {
         OpenHelpTopic(context(), QStringLiteral("::/topics/using/PageCheck.htm"));
     });
-    setContent(ui::beside({ui::column({ui::under(QStringLiteral("&Problems:"), lstProblems).stretched(), lblFound}),
-                           ui::buttons({cmdGoTo, cmdPutRight, cmdCheck, cmdClose, cmdHelp})}));
+    setContent(ui::beside(
+        {ui::column({ui::under(QStringLiteral("&Problems:"), lstProblems.data()).stretched(), lblFound.data()}),
+         ui::buttons({cmdGoTo, cmdPutRight, cmdCheck, cmdClose, cmdHelp})}));
     setDefaultButton(cmdGoTo);
     setCancelButton(cmdClose);
 }

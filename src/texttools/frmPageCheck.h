@@ -65,8 +65,9 @@ private:
     QMetaObject::Connection m_change;
     QMetaObject::Connection m_closing;
     QPointer<QObject> m_keys; ///< there while the main window has the keys that go round
-    ListView *lstProblems = nullptr;
-    QLabel *lblFound = nullptr;
+    // At the program's end the window may go before the pages do, which then tell that they have gone.
+    QPointer<ListView> lstProblems;
+    QPointer<QLabel> lblFound;
     QPushButton *cmdGoTo = nullptr;
     QPushButton *cmdPutRight = nullptr;
 };
