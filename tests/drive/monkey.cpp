@@ -237,10 +237,7 @@ QStringList Monkey::inDocument(Stage &stage)
         return m_words.onceIn(count > 4 ? 1 : 4) ? words({QStringLiteral("close"), any})
                                                  : words({QStringLiteral("expect-undo-leads-back")});
     case 5:
-        return {QStringLiteral("mouse"), QStringLiteral("doc.txtEdit"),
-                m_words.oneOf({QStringLiteral("click"), QStringLiteral("dblclick"), QStringLiteral("press"),
-                               QStringLiteral("release"), QStringLiteral("move")}),
-                QString::number(m_words.below(300)), QString::number(m_words.below(200))};
+        return inText();
     case 6:
         return {QStringLiteral("clipboard"), m_words.text()};
     case 7:
@@ -252,6 +249,18 @@ QStringList Monkey::inDocument(Stage &stage)
     default:
         return {QStringLiteral("expect-undo-leads-back")};
     }
+}
+
+/// The mouse in the text, with and without what extends a selection.
+QStringList Monkey::inText()
+{
+    static const QStringList acts = {QStringLiteral("click"),   QStringLiteral("dblclick"), QStringLiteral("press"),
+                                     QStringLiteral("release"), QStringLiteral("move"),     QStringLiteral("rclick")};
+    QStringList line{QStringLiteral("mouse"), QStringLiteral("doc.txtEdit"), m_words.oneOf(acts),
+                     QString::number(m_words.below(500)), QString::number(m_words.below(400))};
+    if (m_words.onceIn(4))
+        line.append(m_words.oneOf({QStringLiteral("Shift"), QStringLiteral("Ctrl"), QStringLiteral("Alt")}));
+    return line;
 }
 
 QStringList Monkey::inTime(Stage &stage)

@@ -26,6 +26,7 @@ private:
     QStringList byMenu(Stage &stage);
     QStringList byTool(Stage &stage);
     QStringList inDocument(Stage &stage);
+    QStringList inText();
     QStringList inTime(Stage &stage);
     QStringList inSomeForm(Stage &stage);
     QStringList inForm(Stage &stage, Form &form);

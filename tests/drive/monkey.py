@@ -1,10 +1,11 @@
 """Lets a user who does anything loose on the program, and cuts what fails down to a short script.
 
-monkey.py DRIVER SEED STEPS [--cut SECONDS] [--found FOLDER]
+monkey.py DRIVER SEED STEPS [--cut SECONDS] [--found FOLDER] [--warn]
 
-SEED "new" takes one from the clock. What fails is told, and its lines are left out as long as what is left still fails in
-the same way, each try a process of its own. The short script stands in FOLDER, where the next run tries it first: so a
-finding goes on failing until it is mended. The exit status is 0 if all held.
+SEED is a number, "new" for one from the clock, or several with commas between them, each of which plays so many steps. What
+fails is told, and its lines are left out as long as what is left still fails in the same way, each try a process of its
+own. The short script stands in FOLDER, where the next run tries it first: so a finding goes on failing until it is mended.
+The exit status is 0 if all held, or if "--warn" says that it is only to be told.
 """
 import argparse
 import pathlib
@@ -15,7 +16,8 @@ import tempfile
 import time
 
 HERE = pathlib.Path(__file__).parent
-PREPARED = (HERE / "monkeyWorld.txt").read_text(encoding="utf-8")
+WORLD = (HERE / "monkeyWorld.txt").read_text(encoding="utf-8")
+TODAY = "setting QWRK77XE Settings EditingHabits today\n"
 
 
 def signature(errors: str, status: int) -> str:
@@ -51,8 +53,13 @@ class Player:
         return signature(errors, done.returncode), errors
 
 
-def repeated(steps: list[str]) -> str:
-    return PREPARED + "freely\n" + "".join(steps) + "end\n"
+def prepared(seed: int) -> str:
+    """The world of a play: by turns that of somebody with the classic habits and of somebody with today's."""
+    return (TODAY if seed % 2 else "") + WORLD
+
+
+def repeated(world: str, steps: list[str]) -> str:
+    return world + "freely\n" + "".join(steps) + "end\n"
 
 
 def steps_of(lines: list[str]) -> list[str]:
@@ -87,10 +94,13 @@ def still_failing(player: Player, found: pathlib.Path) -> list[pathlib.Path]:
     return [script for script in sorted(found.glob("*.drive")) if player.play(script.read_text(encoding="utf-8"))[0]]
 
 
-def run(arguments: argparse.Namespace) -> int:
+def seeds_of(text: str) -> list[int]:
+    return [int(time.time()) % 2**31 if seed == "new" else int(seed) for seed in text.split(",")]
+
+
+def run(arguments: argparse.Namespace, seed: int) -> int:
     found = pathlib.Path(arguments.found)
     found.mkdir(parents=True, exist_ok=True)
-    seed = int(time.time()) % 2**31 if arguments.seed == "new" else int(arguments.seed)
     with tempfile.TemporaryDirectory() as name:
         folder = pathlib.Path(name)
         player = Player(arguments.driver, folder)
@@ -99,19 +109,20 @@ def run(arguments: argparse.Namespace) -> int:
             return 1
         print(f"monkey: seed {seed}, {arguments.steps} steps", flush=True)
         lines = folder / "lines"
-        failed, errors = player.play(f'{PREPARED}monkey {seed} {arguments.steps} "{lines}"\n')
+        world = prepared(seed)
+        failed, errors = player.play(f'{world}monkey {seed} {arguments.steps} "{lines}"\n')
         if not failed:
             return 0
         print(errors, flush=True)
         steps = steps_of(lines.read_text(encoding="utf-8").splitlines(keepends=True))
         until = time.monotonic() + arguments.cut
-        same = player.play(repeated(steps))[0] == failed
+        same = player.play(repeated(world, steps))[0] == failed
         if same:
-            steps = shortened(steps, lambda rest: player.play(repeated(rest))[0] == failed, until)
+            steps = shortened(steps, lambda rest: player.play(repeated(world, rest))[0] == failed, until)
         else:
             print("Its lines alone do not fail in the same way; these are all of them.")
         script = found / f"seed{seed}.drive"
-        script.write_text(f"# {failed}\n{repeated(steps)}", encoding="utf-8", newline="\n")
+        script.write_text(f"# {failed}\n{repeated(world, steps)}", encoding="utf-8", newline="\n")
         print(f"{script}, {len(steps)} steps:\n\n{''.join(steps)}")
     return 1
 
@@ -119,11 +130,16 @@ def run(arguments: argparse.Namespace) -> int:
 def main() -> int:
     parser = argparse.ArgumentParser()
     parser.add_argument("driver")
-    parser.add_argument("seed")
+    parser.add_argument("seeds", type=seeds_of)
     parser.add_argument("steps", type=int)
     parser.add_argument("--cut", type=int, default=900)
     parser.add_argument("--found", default="found")
-    return run(parser.parse_args())
+    parser.add_argument("--warn", action="store_true")
+    arguments = parser.parse_args()
+    failed = max(run(arguments, seed) for seed in arguments.seeds)
+    if failed and arguments.warn:
+        print("WARNING: the monkey has found something; see above.", flush=True)
+    return 0 if arguments.warn else failed
 
 
 if __name__ == "__main__":

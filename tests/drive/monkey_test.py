@@ -20,6 +20,14 @@ class Cutting(unittest.TestCase):
         self.assertEqual(monkey.steps_of(lines), ["menu mnuOpen\nchoose %SITE%/a.htm\nanswer No\n", "key F1\n"])
 
 
+class Seeds(unittest.TestCase):
+    def test_are_numbers_or_new_ones(self):
+        self.assertEqual(monkey.seeds_of("7"), [7])
+        fixed, new = monkey.seeds_of("3,new")
+        self.assertEqual(fixed, 3)
+        self.assertGreater(new, 1_000_000_000)
+
+
 class Signatures(unittest.TestCase):
     def test_tell_one_failure_from_another_but_not_one_try_from_the_next(self):
         first = monkey.signature('/tmp/a/play.drive:12: expected 3 lines, got "x"\n', 1)
