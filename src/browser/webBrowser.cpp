@@ -143,7 +143,9 @@ void WebBrowser::Stop()
 void WebBrowser::Refresh()
 {
     m_hasSaidNo = false;
-    if (m_view && !m_gone)
+    if (m_engineGone)
+        Q_EMIT startAnewWanted();
+    else if (m_view && !m_gone)
         m_view->reload();
     else if (m_view || m_location != u"about:blank")
         load(m_address);
@@ -311,6 +313,8 @@ void WebBrowser::pageEnded()
 void WebBrowser::engineEnded()
 {
     m_waiting.reset();
+    m_engineGone = true;
+    m_again->setText(QStringLiteral("&Start Anew"));
     m_whyStopped =
         QStringLiteral("The preview has come to an end, and shows pages again when Tagwrighter is started anew.");
     pageEnded();

@@ -64,6 +64,8 @@ public:
 Q_SIGNALS:
     void navigationStarted();
     void navigationFinished();
+    /// The user wants the page again, and none can be shown any more before the program is started anew.
+    void startAnewWanted();
     void focusTaken(); ///< the engine has taken the keyboard by itself; whoever had it is to take it back
     /// The page names pictures, styles or scripts of other hosts, which are shown, or not allowed.
     void otherHostsNamed(bool shown);
@@ -112,6 +114,7 @@ private:
     std::optional<QUrl> m_waiting; ///< to be loaded when the load under way has ended
     bool m_loading = false;
     bool m_gone = false; ///< the page has ended, the view shows nothing
+    bool m_engineGone = false; ///< and so has what makes the processes of pages
 
     QTimer m_watch;             ///< ticks while a page is being loaded
     QElapsedTimer m_sinceStart; ///< of the load under way

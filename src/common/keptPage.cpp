@@ -6,7 +6,9 @@
 
 namespace
 {
-constexpr QByteArrayView Mark("Tagwrighter kept page 1\n");
+constexpr QByteArrayView Mark("Tagwrighter kept page 2\n");
+constexpr QByteArrayView EarlierMark("Tagwrighter kept page 1\n"); ///< without the two that were added last
+static_assert(Mark.size() == EarlierMark.size());
 constexpr qsizetype DigestSize = 32; ///< bytes of SHA-256
 constexpr QDataStream::Version StreamVersion = QDataStream::Qt_6_0;
 
@@ -32,13 +34,15 @@ QByteArray keptPageBytes(const KeptPage &page)
     stream << page.order << page.path << page.newDoc << page.unicode << static_cast<quint8>(page.format.encoding)
            << static_cast<quint8>(page.format.lineEnd) << page.format.charset << static_cast<quint8>(page.plainEncoding)
            << page.mixedLineEnds << page.internetOrigin << page.selStart << page.selLength << page.stamp.has_value()
-           << stamp.size << stamp.modifiedNanoseconds << stamp.inode << page.fileDigest << page.text;
+           << stamp.size << stamp.modifiedNanoseconds << stamp.inode << page.fileDigest << page.text << page.changed
+           << page.startsAnew;
     return Mark.toByteArray() + digestOf(body) + body;
 }
 
 std::optional<KeptPage> keptPageOf(const QByteArray &bytes)
 {
-    if (!bytes.startsWith(Mark))
+    const bool isEarlier = bytes.startsWith(EarlierMark);
+    if (!isEarlier && !bytes.startsWith(Mark))
         return std::nullopt;
     const QByteArray digest = bytes.mid(Mark.size(), DigestSize);
     const QByteArray body = bytes.mid(Mark.size() + DigestSize);
@@ -55,6 +59,8 @@ std::optional<KeptPage> keptPageOf(const QByteArray &bytes)
     stream >> page.order >> page.path >> page.newDoc >> page.unicode >> encoding >> lineEnd >> page.format.charset >>
         plainEncoding >> page.mixedLineEnds >> page.internetOrigin >> page.selStart >> page.selLength >> stamped >>
         stamp.size >> stamp.modifiedNanoseconds >> stamp.inode >> page.fileDigest >> page.text;
+    if (!isEarlier)
+        stream >> page.changed >> page.startsAnew;
     const auto read = choiceOf(encoding, Encoding::Other);
     const auto ends = choiceOf(lineEnd, LineEnd::Cr);
     const auto plain = choiceOf(plainEncoding, Encoding::Other);

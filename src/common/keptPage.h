@@ -22,6 +22,8 @@ struct KeptPage {
     qint64 selLength = 0;
     std::optional<FileStamp> stamp; ///< of the file as the text was read from it or written to it
     QByteArray fileDigest = {};     ///< digestOf() its bytes; empty where they could not be looked at
+    bool changed = true;            ///< it is dirty: its file, if any, does not hold its text
+    bool startsAnew = false;        ///< the program was started anew on purpose, which is no news to the user
 };
 
 /// The page as bytes that tell whether they are whole.

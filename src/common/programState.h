@@ -10,6 +10,7 @@
 /// The variables that the whole program shares for one session, owned by the application object.
 struct ProgramState {
     bool AlreadyStarted = false;           ///< the main window has been loaded once
+    bool StartedAnew = false;              ///< this start goes on where the one before it has just ended by itself
     bool FormUnloadHandled = false;        ///< the exit list has dealt with this exit: documents close without asking
     bool NoUnsavedDocuments = false;       ///< the exit list found nothing to ask about
     bool DialogCancelled = false;          ///< a dialog's Cancel was pressed; ReturnFromDialog reads and clears it

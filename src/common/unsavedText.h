@@ -25,4 +25,7 @@ public:
     virtual QString restore(Document *opened) = 0;
     /// Keeps all unsaved text now, and returns when it is on the disk.
     virtual void keepNow() = 0;
+    /// Keeps every open document, those without changes as well, for a start of the program that follows at once and
+    /// brings them back without a word. False where one could not be kept; the program then goes on as it was.
+    virtual bool keepForStartAnew() = 0;
 };

@@ -109,6 +109,7 @@ private:
     void brwWebBrowser_Navigation();
     bool maySendForm(const QUrl &where);
     void brwWebBrowser_OtherHosts(bool shown);
+    void brwWebBrowser_StartAnew();
     void showOtherHosts(bool shown);
     void followHabits();
     void noteClean(std::optional<bool> clean);

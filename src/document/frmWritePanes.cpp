@@ -46,6 +46,7 @@ void frmWrite::buildBrowser()
     connect(m_browser, &WebBrowser::navigationStarted, this, &frmWrite::brwWebBrowser_Navigation);
     connect(m_browser, &WebBrowser::navigationFinished, this, &frmWrite::brwWebBrowser_Navigation);
     connect(m_browser, &WebBrowser::otherHostsNamed, this, &frmWrite::brwWebBrowser_OtherHosts);
+    connect(m_browser, &WebBrowser::startAnewWanted, this, &frmWrite::brwWebBrowser_StartAnew, Qt::QueuedConnection);
     connect(m_browser, &WebBrowser::focusTaken, m_edit, &EditSurface::SetFocus);
 }
 
@@ -71,6 +72,21 @@ bool frmWrite::maySendForm(const QUrl &where)
                          .buttons = MessageButtons::YesNo,
                          .byEnter = MessageAnswer::No};
     return services().messageBoxes.show(box) == MessageAnswer::Yes;
+}
+
+void frmWrite::brwWebBrowser_StartAnew()
+{
+    if (m_unloading)
+        return;
+    const MessageBox box{.title = QStringLiteral("Preview"),
+                         .text = QStringLiteral("The preview shows pages again once Tagwrighter is started anew. Your "
+                                                "documents come back as they are, with what is not saved; only what "
+                                                "can be undone is forgotten. Start it anew now?"),
+                         .icon = MessageIcon::Question,
+                         .buttons = MessageButtons::YesNo,
+                         .byEnter = MessageAnswer::No};
+    if (services().messageBoxes.show(box) == MessageAnswer::Yes)
+        context().startAnew();
 }
 
 /// Told once in a window, and once more when it has changed.

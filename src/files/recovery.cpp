@@ -85,6 +85,34 @@ void Recovery::keepNow()
     m_context.services.worker.finish();
 }
 
+bool Recovery::keepForStartAnew()
+{
+    std::vector<std::shared_ptr<Job>> jobs;
+    const QList<Document *> documents = m_context.mainWindow->openDocuments();
+    for (Document *document : documents)
+        jobs.push_back(keep(*document, m_kept[document], true));
+    keepActive();
+    m_context.services.worker.finish();
+    const auto isKept = [](const std::shared_ptr<Job> &job) { return !job->error; };
+    if (std::all_of(jobs.begin(), jobs.end(), isKept))
+        return true;
+    for (Document *document : documents)
+        keepAsBefore(*document);
+    return false;
+}
+
+/// What is kept of the document goes if it has no changes, and is written anew, as what it is, if it has.
+void Recovery::keepAsBefore(Document &document)
+{
+    if (document.boolDirty) {
+        noteChange(document);
+        return;
+    }
+    const auto kept = m_kept.extract(&document);
+    if (!kept.empty())
+        m_context.services.worker.run([this, file = kept.mapped().file] { m_folder.remove(file); }, [] {});
+}
+
 void Recovery::keepChanged()
 {
     for (Document *document : m_context.mainWindow->openDocuments()) {
@@ -92,7 +120,7 @@ void Recovery::keepChanged()
         if (found == m_kept.end() || !std::exchange(found->second.changed, false))
             continue;
         if (document->boolDirty)
-            keep(*document, found->second);
+            keep(*document, found->second, false);
         else
             forget(*document);
     }
@@ -114,16 +142,18 @@ KeptPage Recovery::pageOf(Document &document, const Kept &kept) const
     page.selStart = document.txtEdit().SelStart();
     page.selLength = document.txtEdit().SelLength();
     page.stamp = document.fileStamp;
+    page.changed = document.boolDirty;
     if (kept.stamp == document.fileStamp)
         page.fileDigest = kept.digest;
     return page;
 }
 
-void Recovery::keep(Document &document, Kept &kept)
+std::shared_ptr<Recovery::Job> Recovery::keep(Document &document, Kept &kept, bool startsAnew)
 {
     if (kept.file.isEmpty())
         kept.file = m_folder.newFile();
     const auto job = std::make_shared<Job>(Job{&document, kept.file, pageOf(document, kept)});
+    job->page.startsAnew = startsAnew;
     m_context.services.worker.run(
         [this, job] {
             // What the file held is looked at here, so that no opening has to wait for it.
@@ -136,6 +166,7 @@ void Recovery::keep(Document &document, Kept &kept)
             if (!alive.expired())
                 noteResult(*job);
         });
+    return job;
 }
 
 void Recovery::noteResult(const Job &job)
@@ -183,16 +214,20 @@ QString Recovery::restore(Document *opened)
         Document *document = bringBack(found);
         if (!document)
             continue; // there is no memory for it: it stays on the disk for the next start
+        if (found.active && !opened)
+            active = document;
+        if (found.page.startsAnew) {
+            keepAsBefore(*document);
+            continue;
+        }
         m_recovered << document;
         m_context.files->noteFileTold(*document);
         texts.insert(document,
                      QStringLiteral("Recovered after an unexpected end.") + fileRemark(found.page, *document));
-        if (found.active && !opened)
-            active = document;
     }
     for (Document *document : std::as_const(m_recovered))
         tell(*document, texts.value(document), document == m_recovered.constFirst());
-    if (active && !m_recovered.isEmpty())
+    if (active && !finds.pages.isEmpty())
         active->activate();
     return remarkOn(finds.unreadable);
 }
@@ -214,7 +249,7 @@ QString Recovery::remarkOn(const QString &unreadable) const
     return sentences.join(u' ');
 }
 
-/// The document with the kept text in it, dirty; nothing if there is no memory for one.
+/// The document with the kept text in it, as dirty as it was; nothing if there is no memory for one.
 Document *Recovery::bringBack(const RecoveryFolder::Found &found)
 {
     const KeptPage &page = found.page;
@@ -243,7 +278,7 @@ Document *Recovery::bringBack(const RecoveryFolder::Found &found)
     document->UndoRedoChange();
     document->txtEdit().setSelStart(page.selStart);
     document->txtEdit().setSelLength(page.selLength);
-    document->boolDirty = true;
+    document->boolDirty = page.changed;
     document->beginHistory();
     // It is kept as it stands: nothing is written before something changes.
     m_kept[document] = {.file = found.file, .changed = false, .stamp = page.stamp, .digest = page.fileDigest};

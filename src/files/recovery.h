@@ -24,6 +24,7 @@ public:
     void forget(Document &document) override;
     QString restore(Document *opened) override;
     void keepNow() override;
+    bool keepForStartAnew() override;
 
 private:
     struct Kept {
@@ -36,12 +37,13 @@ private:
 
     void tick();
     void keepChanged();
-    void keep(Document &document, Kept &kept);
+    std::shared_ptr<Job> keep(Document &document, Kept &kept, bool startsAnew);
     void noteResult(const Job &job);
     KeptPage pageOf(Document &document, const Kept &kept) const;
     void keepActive();
 
     Document *bringBack(const RecoveryFolder::Found &found);
+    void keepAsBefore(Document &document);
     QString fileRemark(const KeptPage &page, Document &document) const;
     void tell(Document &document, const QString &text, bool first);
     void showWhatChanged(Document &document);

@@ -33,5 +33,8 @@ struct ProgramContext {
     QString makerSite = {};                            ///< the address of the maker's web site
     std::function<Document *()> newBlankDocument = {}; ///< shows a new, empty document; nothing if memory ran out
     Uploads *uploads = nullptr;                        ///< the pages on their way to servers
-    std::function<void()> end = {};                     ///< ends the program at once; no further handler of a form runs
+    std::function<void()> end = {};                    ///< ends the program at once; no further handler of a form runs
+    /// Ends the program and starts it anew with all documents as they are. Where the user or a full disk is against
+    /// that, it goes on.
+    std::function<void()> startAnew = {};
 };

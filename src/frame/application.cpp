@@ -17,8 +17,10 @@
 #include "insertion/insertionForms.h"
 #include "internet/internetForms.h"
 #include "internet/uploads.h"
+#include "project/modProjectFileCtrl.h"
 #include "project/projectForms.h"
 #include "services/habits.h"
+#include "services/messageBoxes.h"
 #include "services/modalLoop.h"
 #include "services/services.h"
 #include "services/settings.h"
@@ -35,6 +37,7 @@ Application::Application(Services &services)
     m_context.makerSite = QStringLiteral(TAGWRIGHTER_MAKER_SITE);
     m_context.newBlankDocument = [this] { return NewBlankDocument(m_context); };
     m_context.end = [this] { End(); };
+    m_context.startAnew = [this] { startAnew(); };
     m_mdi = &own<frmMdi>(m_context, m_commandLine);
     m_splash = &own<frmSplash>(m_context, *m_mdi);
     for (std::unique_ptr<Form> &form : shellForms(m_context))
@@ -150,6 +153,21 @@ bool Application::mayEndSession(bool mayAsk)
     if (!m_ended && list.isLoaded())
         m_context.services.modalLoop.run(list);
     return m_ended;
+}
+
+void Application::startAnew()
+{
+    if (m_ended || !m_mdi->mayStartAnew())
+        return;
+    if (!m_unsavedText->keepForStartAnew()) {
+        m_context.services.messageBoxes.show(
+            {.title = QStringLiteral("Start Anew"),
+             .text = QStringLiteral("The documents could not be kept on the disk, so Tagwrighter goes on as it is."),
+             .icon = MessageIcon::Exclamation});
+        return;
+    }
+    m_startedAnewWith = m_mdi->project().isOpen() ? m_mdi->project().path() : QString();
+    End();
 }
 
 void Application::End()

@@ -7,6 +7,7 @@
 
 #include <QObject>
 #include <memory>
+#include <optional>
 
 class FileCommands;
 class UnsavedText;
@@ -40,6 +41,8 @@ public:
     /// the user stays: the session is not to end.
     bool mayEndSession(bool mayAsk);
     bool hasEnded() const { return m_ended; }
+    /// It has ended in order to be started anew, with this text as its command line; nothing where it has not.
+    const std::optional<QString> &startedAnewWith() const { return m_startedAnewWith; }
 
     const QString &commandLine() const { return m_commandLine; }
     ProgramContext &context() { return m_context; }
@@ -56,6 +59,7 @@ private:
     void addFiles();
     void requireForms() const;
     bool hasUnsavedWork() const;
+    void startAnew();
 
     ProgramState m_state;
     FormRuntime m_forms;
@@ -63,6 +67,7 @@ private:
     ProgramContext m_context;
     QString m_commandLine;
     bool m_ended = false;
+    std::optional<QString> m_startedAnewWith;
     std::unique_ptr<FileCommands> m_files;
     std::unique_ptr<UnsavedText> m_unsavedText;
     std::unique_ptr<Uploads> m_uploads;

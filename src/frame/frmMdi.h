@@ -85,6 +85,8 @@ public:
     bool ProjectChanged() const; ///< its lists hold changes that its file does not
     bool ProjectOpen() const;
 
+    /// What an end asks about, but for the documents; their places are kept. False where the user stays.
+    bool mayStartAnew();
     /// Comes to the front and opens what the line names, as soon as the window takes input.
     void takeOver(const QString &commandLine);
 
@@ -137,7 +139,7 @@ private:
     void restoreUnsavedText(Document *opened);
 
     void savePlacement();
-    void saveBands();
+    void savePaneAndBands();
     bool projectMayClose();
     bool documentsMayClose();
 

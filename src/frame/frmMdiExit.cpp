@@ -42,6 +42,16 @@ bool frmMdi::Form_QueryUnload()
     return documentsMayClose();
 }
 
+bool frmMdi::mayStartAnew()
+{
+    if (!projectMayClose() || !context().uploads->mayBeCut())
+        return false;
+    if (settings::isOn(services().settings, settings::SaveSettingsOnExit))
+        savePlacement();
+    savePaneAndBands();
+    return true;
+}
+
 bool frmMdi::projectMayClose()
 {
     ProjectState &project = context().state.project;
@@ -82,14 +92,14 @@ void frmMdi::Form_Unload()
     for (Form *form : context().forms.loaded())
         if (form->MDIChild())
             form->unloadAgreed();
-    settings::write(services().settings, settings::CodebarWidth,
-                    QString::number(m_pane->picProject()->paneWidth() * TwipsPerPixel));
-    saveBands();
+    savePaneAndBands();
 }
 
-void frmMdi::saveBands()
+void frmMdi::savePaneAndBands()
 {
     SettingsStore &store = services().settings;
+    settings::write(store, settings::CodebarWidth,
+                    QString::number(m_pane->picProject()->paneWidth() * TwipsPerPixel));
     for (int band = 1; band <= bands::Kept; ++band) {
         settings::write(store, settings::BarNewRow, bands::flagText(cbrMain->NewRow(band)), band);
         settings::write(store, settings::BarWidth, bands::widthText(cbrMain->Width(band)), band);

@@ -58,7 +58,7 @@ void frmMdi::Form_Load()
     if (context().state.ProgramEnded) // opening lets events run, and one of them was the end
         return;
     picAddress_Resize();
-    if (opened && context().state.habits.HabitStart)
+    if (context().state.StartedAnew || (opened && context().state.habits.HabitStart))
         goOnWithFile();
     else
         decideWelcome();
@@ -241,7 +241,7 @@ bool frmMdi::openCommandLineFile(const CommandLineFile &file)
     return !missing && opened;
 }
 
-/// What was asked for is there: neither a blank page nor the Welcome screen gets in front of it.
+/// What was asked for is there, or about to come back: neither a blank page nor the Welcome screen gets in front of it.
 void frmMdi::goOnWithFile()
 {
     Document *opened = activeDocument();

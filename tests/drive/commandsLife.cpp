@@ -133,8 +133,9 @@ void pass(Stage &stage, const Line &line)
 
 void killProgram(Stage &stage, const Line &)
 {
-    stage.program();
-    stage.killProgram();
+    if (!stage.hasStarted())
+        stage.program(); // which tells that there is none
+    stage.killProgram(); // one that has ended leaves its process, which goes here
 }
 
 void startSecond(Stage &stage, const Line &line)

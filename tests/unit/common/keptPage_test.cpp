@@ -57,6 +57,30 @@ TEST(KeptPage, KnowsAPageWithoutAFile)
     EXPECT_FALSE(read->stamp);
 }
 
+TEST(KeptPage, KnowsWhyItWasKept)
+{
+    KeptPage page = samplePage();
+    EXPECT_TRUE(keptPageOf(keptPageBytes(page))->changed);
+    EXPECT_FALSE(keptPageOf(keptPageBytes(page))->startsAnew);
+    page.changed = false;
+    page.startsAnew = true;
+    EXPECT_FALSE(keptPageOf(keptPageBytes(page))->changed);
+    EXPECT_TRUE(keptPageOf(keptPageBytes(page))->startsAnew);
+}
+
+TEST(KeptPage, ReadsWhatAnEarlierVersionKept)
+{
+    const QByteArray mark("Tagwrighter kept page 2\n");
+    const QByteArray now = keptPageBytes(samplePage());
+    const QByteArray body = now.mid(mark.size() + 32).chopped(2); // the two Booleans came with the second version
+    const std::optional<KeptPage> read = keptPageOf("Tagwrighter kept page 1\n" + digestOf(body) + body);
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->text, samplePage().text);
+    EXPECT_TRUE(read->changed);
+    EXPECT_FALSE(read->startsAnew);
+    EXPECT_FALSE(keptPageOf(mark + digestOf(body) + body));
+}
+
 TEST(KeptPage, RefusesWhatIsCutShortOrChanged)
 {
     const QByteArray bytes = keptPageBytes(samplePage());
