@@ -5,11 +5,15 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
 NodeTree::NodeTree(QWidget *parent) : QTreeView(parent), m_own(std::make_shared<KeptNodes>()), m_model(m_own)
 {
+    forgetWidestWith(*m_model); // in front of the view, which asks as soon as it hears of a change
     setModel(m_model.get());
+    connect(this, &QTreeView::expanded, this, [this] { m_widest.reset(); });
+    connect(this, &QTreeView::collapsed, this, [this] { m_widest.reset(); });
     setHeaderHidden(true);
     setUniformRowHeights(true);
     setEditTriggers(NoEditTriggers);
@@ -29,6 +33,7 @@ void NodeTree::showNodesOf(std::shared_ptr<NodeTreeModel> model)
 {
     QItemSelectionModel *oldSelection = selectionModel();
     model->publish();
+    forgetWidestWith(*model);
     setModel(model.get());
     delete oldSelection;
     m_model = std::move(model);
@@ -58,6 +63,7 @@ void NodeTree::setImages(const QHash<QString, QIcon> &images)
 {
     if (m_own)
         m_own->setImages(images);
+    m_widest.reset();
     viewport()->update();
 }
 
@@ -165,6 +171,77 @@ int NodeTree::nodeOf(const QModelIndex &index) const
 QSize NodeTree::sizeHint() const
 {
     return QSize(fontMetrics().averageCharWidth() * 36, fontMetrics().lineSpacing() * 12);
+}
+
+/// All rows on show, so far as there are not too many.
+void NodeTree::collectWide(const QModelIndex &parent, int depth, std::vector<Wide> &rows) const
+{
+    constexpr size_t Most = 3000;
+    const int count = model()->rowCount(parent);
+    for (int row = 0; row < count && rows.size() < Most; ++row) {
+        const QModelIndex index = model()->index(row, 0, parent);
+        rows.push_back({roughWidth(index.data().toString()) + depth * indentation(), depth, index});
+        if (isExpanded(index))
+            collectWide(index, depth + 1, rows);
+    }
+}
+
+/// The width of a text character by character, without the laying out that takes a hundred times as long.
+int NodeTree::roughWidth(const QString &text) const
+{
+    return std::accumulate(text.begin(), text.end(), 0, [this](int width, QChar character) {
+        const QChar known = character.unicode() < m_widths.size() ? character : u'W';
+        int &own = m_widths[known.unicode()];
+        if (own == 0)
+            own = fontMetrics().horizontalAdvance(known);
+        return width + own;
+    });
+}
+
+/// The view's own way lays out a thousand rows each time. Here those are that seem the widest.
+int NodeTree::sizeHintForColumn(int column) const
+{
+    if (!isVisible()) // nobody has looked at the nodes yet
+        return QTreeView::sizeHintForColumn(column);
+    if (!m_widest)
+        m_widest = widest();
+    return *m_widest;
+}
+
+int NodeTree::widest() const
+{
+    constexpr std::ptrdiff_t Measured = 12;
+    std::vector<Wide> rows;
+    collectWide(rootIndex(), rootIsDecorated() ? 1 : 0, rows);
+    const auto end = rows.begin() + std::min(Measured, std::ssize(rows));
+    std::partial_sort(rows.begin(), end, rows.end(),
+                      [](const Wide &one, const Wide &other) { return one.width > other.width; });
+    int widest = rows.empty() ? -1 : 0;
+    std::for_each(rows.begin(), end, [&](const Wide &row) {
+        widest = std::max(widest, sizeHintForIndex(row.index).width() + row.depth * indentation());
+    });
+    return widest;
+}
+
+/// Whatever may change how wide a row is, or which of them are on show.
+void NodeTree::forgetWidestWith(const QAbstractItemModel &model)
+{
+    const auto forget = [this] { m_widest.reset(); };
+    connect(&model, &QAbstractItemModel::dataChanged, this, forget);
+    connect(&model, &QAbstractItemModel::rowsInserted, this, forget);
+    connect(&model, &QAbstractItemModel::rowsRemoved, this, forget);
+    connect(&model, &QAbstractItemModel::layoutChanged, this, forget);
+    connect(&model, &QAbstractItemModel::modelReset, this, forget);
+    forget();
+}
+
+void NodeTree::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        m_widest.reset();
+        m_widths = {};
+    }
+    QTreeView::changeEvent(event);
 }
 
 void NodeTree::keyPressEvent(QKeyEvent *event)

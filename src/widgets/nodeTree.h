@@ -4,9 +4,11 @@
 
 #include <QIcon>
 #include <QTreeView>
+#include <array>
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 class NodeTreeModel;
 class KeptNodes;
@@ -57,11 +59,26 @@ Q_SIGNALS:
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    int sizeHintForColumn(int column) const override;
 
 private:
+    /// A node whose row may be the widest.
+    struct Wide {
+        int width = 0; ///< of its text and what it is set in by, as far as can be told without laying it out
+        int depth = 0;
+        QModelIndex index;
+    };
+
     void look() const;
+    int roughWidth(const QString &text) const;
+    void collectWide(const QModelIndex &parent, int depth, std::vector<Wide> &rows) const;
+    int widest() const;
+    void forgetWidestWith(const QAbstractItemModel &model);
 
     std::shared_ptr<KeptNodes> m_own; ///< what can be added to; none while another model is shown
     std::shared_ptr<NodeTreeModel> m_model;
     mutable std::function<void()> m_atFirstLook;
+    mutable std::optional<int> m_widest;        ///< of the rows on show; nothing if that may have changed
+    mutable std::array<int, 128> m_widths = {}; ///< of the characters of ASCII, those that were asked for
 };

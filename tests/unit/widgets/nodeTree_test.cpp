@@ -97,6 +97,36 @@ TEST_F(NodeTreeTest, BringsASelectedNodeIntoView)
     EXPECT_EQ(tree.selectedNode(), std::nullopt);
 }
 
+TEST_F(NodeTreeTest, IsAsWideAsItsWidestRowOnShow)
+{
+    const auto width = [this] {
+        tree.doItemsLayout();
+        QCoreApplication::processEvents();
+        return tree.columnWidth(0);
+    };
+    const int folded = width();
+    for (int i = 0; i < 100; ++i)
+        tree.addNode({QString(30, u'i'), {}, {}, 0});
+    const auto wide = tree.addNode({QString(30, u'W'), {}, {}, 0});
+    EXPECT_EQ(width(), folded) << "what is folded away takes no room";
+    tree.expandNode(0);
+    const QRect row = tree.visualRect(tree.indexOf(*wide));
+    EXPECT_GE(width(), row.left() + tree.fontMetrics().horizontalAdvance(QString(30, u'W')));
+    tree.expandNode(0, false);
+    EXPECT_EQ(width(), folded);
+}
+
+TEST_F(NodeTreeTest, IsWiderInALargerFont)
+{
+    tree.doItemsLayout();
+    const int before = tree.columnWidth(0);
+    QFont larger = tree.font();
+    larger.setPointSizeF(larger.pointSizeF() * 2);
+    tree.setFont(larger);
+    tree.doItemsLayout();
+    EXPECT_GT(tree.columnWidth(0), before * 3 / 2);
+}
+
 TEST_F(NodeTreeTest, ForgetsEverythingWhenCleared)
 {
     tree.selectNode(2);
