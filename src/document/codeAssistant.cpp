@@ -71,7 +71,8 @@ void CodeAssistant::matchRow(int row)
 /// The first row that starts with the word, in any case; -1 for none.
 int CodeAssistant::rowOf(const QString &word) const
 {
-    if (!m_context.codes || word.isEmpty() || word == u"<") // every row would match
+    // Rows are "<" and a name; a bracket alone would match each of them. No other word is worth reading the codes.
+    if (!m_context.codes || !word.startsWith(u'<') || word == u"<" || word.startsWith(u"</"))
         return -1;
     const QStringList &rows = m_context.codes->elements().lstCodeAssistantElements;
     for (int row = 0; row < rows.size(); ++row)
