@@ -1,9 +1,11 @@
 #include "widgets/readableStyle.h"
 
 #include "widgets/contrast.h"
+#include "widgets/lateIcon.h"
 
 #include <QApplication>
 #include <QPainter>
+#include <QPointer>
 #include <QStyleFactory>
 #include <QStyleOption>
 
@@ -116,6 +118,17 @@ QSize ReadableStyle::sizeFromContents(ContentsType type, const QStyleOption *opt
     if (type != CT_PushButton || !button || button->text.isEmpty())
         return size;
     return size.expandedTo(QSize(contents.width() + 2 * RoomBesideCaption, 0));
+}
+
+QIcon ReadableStyle::standardIcon(StandardPixmap icon, const QStyleOption *option, const QWidget *widget) const
+{
+    const Qt::LayoutDirection direction = option ? option->direction : QApplication::layoutDirection();
+    return lateIcon([style = QPointer(this), icon, direction, widget = QPointer(widget)] {
+        QStyleOption kept;
+        kept.direction = direction;
+        return style ? style->QProxyStyle::standardIcon(icon, &kept, widget)
+                     : QApplication::style()->standardIcon(icon, &kept, widget);
+    });
 }
 
 void useReadableStyle()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QIcon>
 #include <QProxyStyle>
 
 class QPalette;
@@ -28,6 +29,9 @@ public:
                             const QWidget *widget = nullptr) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
                            const QWidget *widget = nullptr) const override;
+    /// Every menu and tool bar asks for an icon of the button behind which its last entries go where the room is short.
+    QIcon standardIcon(StandardPixmap icon, const QStyleOption *option = nullptr,
+                       const QWidget *widget = nullptr) const override;
 };
 
 /// Takes that style for the program where the desktop has none of its own.
