@@ -29,5 +29,7 @@ PEERS = (
 
 
 def ours(program: str, name: str = "ours") -> Editor:
-    """Without the Welcome screen, which stands in front of a page."""
-    return Editor(name, (program,), settings=((".config/tagwrighter/QWRK77XE.settings", "Settings/WelcomeScreen=false\n"),))
+    """By the classic rules, but without the Welcome screen and with the file that it is given in front."""
+    lines = ("WelcomeScreen=false", "EditingHabits=classic", "HabitStart=True")
+    return Editor(name, (program,), settings=((".config/tagwrighter/QWRK77XE.settings",
+                                               "".join(f"Settings/{line}\n" for line in lines)),))
