@@ -1,6 +1,7 @@
 #include "common/encodings.h"
 
 #include "common/charsets.h"
+#include "common/lineBreaks.h"
 #include "common/text.h"
 #include "common/utf8.h"
 #include "common/windows1252.h"
@@ -80,44 +81,21 @@ RawText fromPlainBytes(const QByteArray &bytes)
     return {fromUtf8WithHalves(QByteArrayView(bytes).sliced(start)), *encoding};
 }
 
-struct Breaks {
-    qsizetype crLf = 0;
-    qsizetype lf = 0;
-    qsizetype cr = 0;
-};
-
-Breaks breaksOf(QStringView text)
-{
-    Breaks breaks;
-    const QChar *const end = text.end();
-    for (const QChar *c = text.begin(); c != end; ++c) {
-        if (*c == u'\n') {
-            ++breaks.lf;
-        } else if (*c == u'\r' && c + 1 != end && c[1] == u'\n') {
-            ++breaks.crLf;
-            ++c;
-        } else if (*c == u'\r') {
-            ++breaks.cr;
-        }
-    }
-    return breaks;
-}
-
-LineEnd lineEndOf(const Breaks &breaks)
+LineEnd lineEndOf(const LineBreaks &breaks)
 {
     if (breaks.cr > 0 && breaks.lf == 0 && breaks.crLf == 0)
         return LineEnd::Cr;
     return breaks.lf > breaks.crLf ? LineEnd::Lf : LineEnd::CrLf;
 }
 
-QString withOnlyCrLf(const QString &text, const Breaks &breaks)
+QString withOnlyCrLf(const QString &text, const LineBreaks &breaks)
 {
-    return breaks.lf == 0 && breaks.cr == 0 ? text : withCrLf(text);
+    return breaks.areAllCrLf() ? text : withCrLf(text);
 }
 
 QString withLineEnd(const QString &text, LineEnd lineEnd)
 {
-    QString normal = withOnlyCrLf(text, breaksOf(text));
+    QString normal = withOnlyCrLf(text, lineBreaksOf(text));
     if (lineEnd != LineEnd::CrLf)
         normal.remove(lineEnd == LineEnd::Lf ? u'\r' : u'\n');
     return normal;
@@ -125,7 +103,7 @@ QString withLineEnd(const QString &text, LineEnd lineEnd)
 
 DecodedText withBreaksCounted(const QString &raw, Encoding encoding)
 {
-    const Breaks breaks = breaksOf(raw);
+    const LineBreaks breaks = lineBreaksOf(raw);
     const int kinds = (breaks.crLf > 0 ? 1 : 0) + (breaks.lf > 0 ? 1 : 0) + (breaks.cr > 0 ? 1 : 0);
     return {withOnlyCrLf(raw, breaks), {encoding, lineEndOf(breaks), {}}, kinds > 1};
 }

@@ -1,6 +1,21 @@
 #include "common/text.h"
 
+#include "common/lineBreaks.h"
+
 #include <algorithm>
+
+namespace
+{
+/// As indexOf does, which looks at each place by itself: a single character is sought many places at a time.
+qsizetype indexOfTwo(QStringView text, QStringView two, qsizetype from)
+{
+    for (qsizetype second = text.indexOf(two[1], from + 1); second >= 0; second = text.indexOf(two[1], second + 1)) {
+        if (text[second - 1] == two[0])
+            return second - 1;
+    }
+    return -1;
+}
+} // namespace
 
 std::optional<qsizetype> Find(QStringView text, QStringView what, qsizetype start)
 {
@@ -8,7 +23,7 @@ std::optional<qsizetype> Find(QStringView text, QStringView what, qsizetype star
         return std::nullopt;
     if (start > text.size())
         return 0;
-    return text.indexOf(what, start - 1) + 1;
+    return (what.size() == 2 ? indexOfTwo(text, what, start - 1) : text.indexOf(what, start - 1)) + 1;
 }
 
 std::optional<qsizetype> FindBack(QStringView text, QStringView what, std::optional<qsizetype> start)
@@ -35,23 +50,9 @@ std::optional<QString> Mid(QStringView text, qsizetype start, std::optional<qsiz
     return text.mid(start - 1, length.value_or(-1)).toString();
 }
 
-namespace
-{
-bool hasLoneBreak(QStringView text)
-{
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        if (text[i] == u'\n' || (text[i] == u'\r' && (i + 1 == text.size() || text[i + 1] != u'\n')))
-            return true;
-        if (text[i] == u'\r')
-            ++i;
-    }
-    return false;
-}
-} // namespace
-
 QString withCrLf(const QString &text)
 {
-    if (!hasLoneBreak(text))
+    if (lineBreaksOf(text).areAllCrLf())
         return text; // shared, not copied: the text may be a large file's
     QString result;
     result.reserve(text.size() + text.size() / 32);

@@ -14,8 +14,11 @@ struct FindRow {
 TEST(Find, CountsFromOneAndFailsBelowIt)
 {
     const FindRow rows[] = {
-        {"abcabc", "b", 1, 2}, {"abcabc", "b", 3, 5}, {"abcabc", "b", 6, 0}, {"abc", "c", 3, 3}, {"abc", "c", 4, 0},
-        {"abc", "a", 0, {}},   {"abc", "a", -1, {}},  {"", "a", 1, 0},       {"abc", "", 2, 2},  {"abc", "B", 1, 0},
+        {"abcabc", "b", 1, 2},  {"abcabc", "b", 3, 5},  {"abcabc", "b", 6, 0},  {"abc", "c", 3, 3},
+        {"abc", "c", 4, 0},     {"abc", "a", 0, {}},    {"abc", "a", -1, {}},   {"", "a", 1, 0},
+        {"abc", "", 2, 2},      {"abc", "B", 1, 0},     {"abcabc", "bc", 1, 2}, {"abcabc", "bc", 3, 5},
+        {"abcabc", "ab", 4, 4}, {"abcabc", "ca", 4, 0}, {"aab", "ab", 1, 2},    {"aaa", "aa", 2, 2},
+        {"aaa", "aa", 3, 0},    {"a", "aa", 1, 0},      {"ab", "ab", 1, 1},
     };
     for (const FindRow &row : rows)
         EXPECT_EQ(Find(QString::fromUtf8(row.text), QString::fromUtf8(row.what), row.start), row.result)

@@ -1,0 +1,46 @@
+#include "common/lineBreaks.h"
+
+#include <QString>
+#include <gtest/gtest.h>
+
+namespace
+{
+struct Row {
+    QString text;
+    qsizetype crLf;
+    qsizetype lf;
+    qsizetype cr;
+};
+} // namespace
+
+TEST(LineBreaks, AreCountedByTheirKinds)
+{
+    const Row rows[] = {
+        {QString(), 0, 0, 0},
+        {QStringLiteral("none"), 0, 0, 0},
+        {QStringLiteral("\n"), 0, 1, 0},
+        {QStringLiteral("\r"), 0, 0, 1},
+        {QStringLiteral("\r\n"), 1, 0, 0},
+        {QStringLiteral("\n\r"), 0, 1, 1},
+        {QStringLiteral("\r\r\n\n"), 1, 1, 1},
+        {QStringLiteral("a\r\nb\nc\rd\r\n"), 2, 1, 1},
+    };
+    for (const Row &row : rows) {
+        const LineBreaks breaks = lineBreaksOf(row.text);
+        EXPECT_EQ(breaks.crLf, row.crLf) << row.text.toUtf8().toPercentEncoding().constData();
+        EXPECT_EQ(breaks.lf, row.lf) << row.text.toUtf8().toPercentEncoding().constData();
+        EXPECT_EQ(breaks.cr, row.cr) << row.text.toUtf8().toPercentEncoding().constData();
+        EXPECT_EQ(breaks.areAllCrLf(), row.lf + row.cr == 0);
+    }
+}
+
+TEST(LineBreaks, AreCountedInLongTexts)
+{
+    const LineBreaks feeds = lineBreaksOf(QString(200'000, u'\n'));
+    EXPECT_EQ(feeds.lf, 200'000);
+    EXPECT_EQ(feeds.crLf + feeds.cr, 0);
+    // Pairs that stand across the places at which the counting starts anew, whatever those are.
+    const LineBreaks pairs = lineBreaksOf(u'x' + QStringLiteral("\r\n").repeated(100'000));
+    EXPECT_EQ(pairs.crLf, 100'000);
+    EXPECT_TRUE(pairs.areAllCrLf());
+}
