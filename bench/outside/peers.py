@@ -7,29 +7,14 @@ and --files name editors and files of the table, parted by ";"; --beside measure
 --starts leaves out the keys and the rest.
 """
 import argparse
-import dataclasses
-import pathlib
-import statistics
 import sys
-import tempfile
 
 import editors
-import texts
-import xdisplay
-from measuring import Figures, measure, prepare
-from watched import adopt_orphans
+from rounds import Measured, Wish, can_measure, measure_all, median_of
 
 ROWS = (("wall", "ms to rest"), ("processor", "ms of processor"), ("memory", "MiB"), ("key", "ms of processor a key"),
         ("paint", "ms from key to paint"), ("all_of_key", "ms a key and what follows"),
         ("wakings", "wakings a second at rest"))
-
-
-@dataclasses.dataclass
-class Wish:
-    editors: list[editors.Editor]
-    files: list[str]
-    rounds: int
-    only_starts: bool
 
 
 def wish_of(arguments: argparse.Namespace) -> Wish:
@@ -43,32 +28,7 @@ def wish_of(arguments: argparse.Namespace) -> Wish:
                 arguments.starts)
 
 
-def measure_all(wish: Wish, folder: pathlib.Path) -> dict[tuple[str, str], list[Figures]]:
-    """The figures of each file and editor."""
-    files = texts.write_all(folder)
-    measured: dict[tuple[str, str], list[Figures]] = {}
-    with xdisplay.Display(folder) as display:
-        for editor in wish.editors:
-            prepare(editor, folder / editor.name, display)
-        for number in range(wish.rounds):
-            for name, file in files.items():
-                if wish.files and name not in wish.files:
-                    continue
-                for editor in wish.editors:
-                    at_rest = file is None and number == 0 and not wish.only_starts
-                    figures = measure(editor, file, folder / editor.name, display, keys=not wish.only_starts,
-                                      at_rest=at_rest)
-                    measured.setdefault((name, editor.name), []).append(figures)
-            print(f"round {number + 1} of {wish.rounds}", file=sys.stderr)
-    return measured
-
-
-def median_of(measured: list[Figures], field: str) -> float | None:
-    values = [value for figures in measured if (value := getattr(figures, field)) is not None]
-    return statistics.median(values) if values else None
-
-
-def print_table(wish: Wish, measured: dict[tuple[str, str], list[Figures]]):
+def print_table(wish: Wish, measured: Measured):
     print(f"{'':45}" + "".join(f"{editor.name:>12}" for editor in wish.editors))
     for name in dict.fromkeys(file for file, _ in measured):
         for field, unit in ROWS:
@@ -88,17 +48,13 @@ def main() -> int:
     parser.add_argument("--beside", action="append", default=[])
     parser.add_argument("--starts", action="store_true")
     wish = wish_of(parser.parse_args())
-    lacking = xdisplay.missing()
-    if lacking:
-        print(f"Nothing can be measured without {', '.join(lacking)}.", file=sys.stderr)
+    if not can_measure():
         return 2
     missing = [editor for editor in wish.editors if not editor.is_there()]
     wish.editors = [editor for editor in wish.editors if editor.is_there()]
     for editor in missing:
         print(f"{editor.name} is not installed (Debian's package {editor.package}).")
-    adopt_orphans()
-    with tempfile.TemporaryDirectory(prefix="tagwrighter-peers-") as folder:
-        print_table(wish, measure_all(wish, pathlib.Path(folder)))
+    print_table(wish, measure_all(wish))
     return 0
 
 
