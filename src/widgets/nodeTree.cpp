@@ -107,6 +107,7 @@ void NodeTree::showNodes(const QList<TreeNode> &nodes)
     for (const TreeNode &node : nodes)
         addNode(node);
     m_own->publish();
+    m_widest.reset(); // the view tells of no node that it opens together with others
     nodes.size() <= OpenedWhole ? expandAll() : expandToDepth(OuterLevels);
     for (qsizetype node = 0; node < before; ++node)
         if (const std::optional<int> now = closed[node] ? nowAt(node) : std::nullopt; now && before <= OpenedWhole)
@@ -247,8 +248,10 @@ void NodeTree::changeEvent(QEvent *event)
 void NodeTree::keyPressEvent(QKeyEvent *event)
 {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (enter && currentIndex().isValid())
+    if (enter && currentIndex().isValid()) {
         Q_EMIT nodeEntered(nodeOf(currentIndex()));
-    else
+    } else {
+        m_widest.reset(); // an asterisk opens nodes of which the view does not tell
         QTreeView::keyPressEvent(event);
+    }
 }

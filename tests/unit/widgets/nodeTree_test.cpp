@@ -116,6 +116,27 @@ TEST_F(NodeTreeTest, IsAsWideAsItsWidestRowOnShow)
     EXPECT_EQ(width(), folded);
 }
 
+TEST_F(NodeTreeTest, IsAsWideAsNodesThatOpenByThemselves)
+{
+    tree.doItemsLayout();
+    const QString wide(40, u'W');
+    tree.showNodes({{str("root"), {}, {}, -1}, {str("child"), {}, {}, 0}, {wide, {}, {}, 1}});
+    tree.doItemsLayout();
+    EXPECT_GE(tree.columnWidth(0), tree.fontMetrics().horizontalAdvance(wide));
+}
+
+TEST_F(NodeTreeTest, IsAsWideAsNodesThatAnAsteriskOpens)
+{
+    tree.setFocus();
+    const auto wide = tree.addNode({QString(40, u'W'), {}, {}, 2});
+    tree.selectNode(0);
+    tree.doItemsLayout();
+    QTest::keyClick(&tree, Qt::Key_Asterisk);
+    QCoreApplication::processEvents();
+    ASSERT_TRUE(tree.isNodeExpanded(2));
+    EXPECT_GE(tree.columnWidth(0), tree.fontMetrics().horizontalAdvance(tree.nodeAt(*wide).text));
+}
+
 TEST_F(NodeTreeTest, IsWiderInALargerFont)
 {
     tree.doItemsLayout();
