@@ -54,8 +54,10 @@ void CodeBranch::placeHtml()
     for (int number = 1; number <= m_lines.size(); ++number) {
         const int depth = m_lines.count(number - 1, codeMark, deprecatedCodeMark);
         if (depth == HtmlLine::ElementDepth) {
-            m_parents.push_back(0);
+            const int entry = entryOf(number);
+            m_parents.push_back(entry);
             m_levels[0].push_back(number);
+            (entry ? m_inner : m_outer).push_back(number);
             attribute = 0;
         } else if (depth == HtmlLine::AttributeDepth && !m_levels[0].empty()) {
             m_parents.push_back(m_levels[0].back());
@@ -64,9 +66,23 @@ void CodeBranch::placeHtml()
         } else if (depth != HtmlLine::AttributeDepth && attribute) {
             m_parents.push_back(attribute);
         } else {
-            return;
+            break;
         }
     }
+    for (std::vector<int> *nodes : {&m_levels[0], &m_levels[1], &m_outer, &m_inner})
+        nodes->shrink_to_fit();
+    std::stable_sort(m_inner.begin(), m_inner.end(), [this](int a, int b) { return parentOf(a) < parentOf(b); });
+}
+
+/// The element under which that of a line stands, which has been read by then; the root if it names none.
+int CodeBranch::entryOf(int number) const
+{
+    const QString entry = elementText(htmlLine(lineOf(number)).text).entry;
+    if (entry.isEmpty())
+        return 0;
+    const auto found =
+        std::find_if(m_outer.begin(), m_outer.end(), [&](int outer) { return htmlLine(lineOf(outer)).text == entry; });
+    return found == m_outer.end() ? 0 : *found;
 }
 
 void CodeBranch::placeCss()
@@ -88,15 +104,41 @@ void CodeBranch::placeCss()
         property = name.isEmpty() ? 0 : number;
         m_parents.push_back(0);
         m_levels[0].push_back(number);
+        m_outer.push_back(number);
     }
+}
+
+bool CodeBranch::isElement(int number) const
+{
+    return m_html && std::binary_search(m_levels[0].begin(), m_levels[0].end(), number);
 }
 
 int CodeBranch::depthOf(int number) const
 {
     int depth = 0;
-    for (; number > 0; number = parentOf(number))
+    for (; number > 0; number = parentOf(number)) {
         ++depth;
+        if (isElement(number))
+            break;
+    }
     return depth;
+}
+
+/// Where in m_inner those that stand under an element begin, and behind the last one.
+std::pair<int, int> CodeBranch::innerOf(int number) const
+{
+    const auto first =
+        std::partition_point(m_inner.begin(), m_inner.end(), [&](int one) { return parentOf(one) < number; });
+    const auto last = std::partition_point(first, m_inner.end(), [&](int one) { return parentOf(one) == number; });
+    return {static_cast<int>(first - m_inner.begin()), static_cast<int>(last - m_inner.begin())};
+}
+
+std::vector<int> CodeBranch::attributesOf(int element) const
+{
+    std::vector<int> found;
+    for (int row = innerOf(element).second - innerOf(element).first; row < childCount(element); ++row)
+        found.push_back(child(element, row));
+    return found;
 }
 
 /// The first node behind a node of that depth which is not below it.
@@ -111,9 +153,12 @@ int CodeBranch::behind(int number, int depth) const
     return first;
 }
 
+/// What stands below a node, but for the elements of other languages.
 CodeBranch::Below CodeBranch::below(int number) const
 {
     const int depth = depthOf(number);
+    if (depth == 0)
+        return {&m_outer, 0, static_cast<int>(m_outer.size())};
     if (depth == lastDepth())
         return {};
     const int end = behind(number, depth);
@@ -125,8 +170,18 @@ CodeBranch::Below CodeBranch::below(int number) const
     return {&level, static_cast<int>(first - level.begin()), static_cast<int>(last - first)};
 }
 
+int CodeBranch::childCount(int number) const
+{
+    const auto [first, last] = innerOf(number);
+    return last - first + below(number).count;
+}
+
 int CodeBranch::child(int number, int row) const
 {
+    const auto [first, last] = innerOf(number);
+    if (row < last - first)
+        return m_inner[static_cast<size_t>(first) + static_cast<size_t>(row)];
+    row -= last - first;
     const Below children = below(number);
     return children.level ? (*children.level)[static_cast<size_t>(children.first) + static_cast<size_t>(row)]
                           : children.first + row;
@@ -136,11 +191,16 @@ int CodeBranch::rowOf(int number) const
 {
     if (number == 0)
         return 0;
+    const auto [first, last] = innerOf(parentOf(number));
+    if (isInner(number))
+        return static_cast<int>(std::lower_bound(m_inner.begin() + first, m_inner.begin() + last, number) -
+                                m_inner.begin()) -
+               first;
     const Below siblings = below(parentOf(number));
     if (!siblings.level)
-        return number - siblings.first;
+        return last - first + number - siblings.first;
     const auto place = std::lower_bound(siblings.level->begin() + siblings.first, siblings.level->end(), number);
-    return static_cast<int>(place - siblings.level->begin()) - siblings.first;
+    return last - first + static_cast<int>(place - siblings.level->begin()) - siblings.first;
 }
 
 TreeNode CodeBranch::node(int number) const
@@ -155,7 +215,9 @@ TreeNode CodeBranch::node(int number) const
 TreeNode CodeBranch::htmlNode(int number) const
 {
     const HtmlLine line = htmlLine(lineOf(number));
-    const QString text = line.kind() == HtmlLine::Attribute ? attributeText(line.text).name : line.text;
+    const QString text = line.kind() == HtmlLine::Attribute ? attributeText(line.text).name
+                         : isInner(number)                  ? elementText(line.text).name
+                                                            : line.text;
     return {text, {}, imageOf(line), parentOf(number)};
 }
 

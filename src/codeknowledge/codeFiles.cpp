@@ -23,6 +23,14 @@ HtmlLine htmlLine(QStringView line)
     return result;
 }
 
+ElementText elementText(const QString &text)
+{
+    const qsizetype mark = text.indexOf(u'>');
+    if (mark <= 0 || mark == text.size() - 1)
+        return {{}, text};
+    return {text.first(mark), text.sliced(mark + 1)};
+}
+
 AttributeText attributeText(const QString &text)
 {
     const qsizetype behindEquals = text.indexOf(u'=') + 1;

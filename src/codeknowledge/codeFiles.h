@@ -18,6 +18,14 @@ struct HtmlLine {
 };
 HtmlLine htmlLine(QStringView line);
 
+/// The text of the line of an element of another language, which stands under the one of HTML that it is entered by:
+/// that one's name, ">" and its own. Any other element's text is its name; the entry then is empty.
+struct ElementText {
+    QString entry;
+    QString name;
+};
+ElementText elementText(const QString &text);
+
 /// The text of an attribute's line: the name with its "=", if it takes a value, and what stands behind the first "=".
 struct AttributeText {
     QString name;

@@ -6,11 +6,6 @@
 
 namespace
 {
-bool isElement(const CodeKnowledge &codes, const TreeNode &node)
-{
-    return node.parent >= 0 && codes.node(node.parent).key == u"html";
-}
-
 std::optional<QChar> characterBeforeCaret(const TextSurface &edit)
 {
     const QString character = edit.textPart(edit.SelStart() - 1, 1);
@@ -23,7 +18,7 @@ std::optional<QString> chosenCode(const CodeKnowledge &codes, int number, std::o
     const TreeNode node = codes.node(number);
     if (node.text == u"HyperText Markup Language" || node.text == u"Cascading Style Sheets")
         return std::nullopt;
-    if (isElement(codes, node))
+    if (codes.isElement(number))
         return u'<' + node.text;      // the code assistant goes on from here
     if (node.imageKey == u"ImgNode4") // a deprecated value has another picture, and goes in without quotes
         return u'"' + node.text + u'"';

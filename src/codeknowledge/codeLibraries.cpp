@@ -22,12 +22,14 @@ std::optional<QByteArray> bytesOf(FileSystem &files, const QString &path)
 CodeElements elementsOf(const CodeBranch &html)
 {
     CodeElements elements;
-    const int count = html.size() > 0 ? html.childCount(0) : 0;
-    for (int row = 0; row < count; ++row) {
-        const HtmlLine line = htmlLine(html.lineOf(html.child(0, row)));
-        const QString name = u'<' + line.text;
+    for (int row = 0; row < html.elementCount(); ++row) {
+        const int element = html.element(row);
+        const QString name = u'<' + html.node(element).text;
+        const bool deprecated = htmlLine(html.lineOf(element)).deprecated;
         elements.lstCodeAssistantElements.append(name);
-        elements.lstCodeAssistantElementsFull.append((line.deprecated ? u'd' : u'e') + name);
+        if (html.parentOf(element) == 0)
+            elements.htmlNames.append(name.sliced(1));
+        elements.lstCodeAssistantElementsFull.append((deprecated ? u'd' : u'e') + name);
     }
     return elements;
 }
@@ -122,7 +124,7 @@ int CodeLibraries::HtmlCodeNodeCount() const
 int CodeLibraries::syntaxCount() const
 {
     const CodeBranch &html = codes().html();
-    const int elements = html.size() > 0 ? html.childCount(0) : 0;
+    const int elements = html.elementCount();
     return html.isComplete() ? elements : std::max(elements - 1, 0); // written once the next element comes, or the end
 }
 
@@ -131,11 +133,10 @@ QString CodeLibraries::lstCodeAssistantSyntax(int row) const
     if (row < 0 || row >= syntaxCount())
         return {};
     const CodeBranch &html = codes().html();
-    const int element = html.child(0, row);
+    const int element = html.element(row);
     QString syntax = u'<' + html.node(element).text;
-    const int attributes = html.childCount(element);
-    for (int i = 0; i < attributes; ++i) {
-        const AttributeText attribute = attributeText(htmlLine(html.lineOf(html.child(element, i))).text);
+    for (const int number : html.attributesOf(element)) {
+        const AttributeText attribute = attributeText(htmlLine(html.lineOf(number)).text);
         syntax.append(u' ').append(attribute.name);
         if (!attribute.hint.isEmpty())
             syntax.append(u'[').append(attribute.hint).append(u']');

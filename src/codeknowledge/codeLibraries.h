@@ -33,6 +33,7 @@ public:
     int nodeCount() const override { return codes().size(); }
     TreeNode node(int number) const override { return codes().node(number); }
     int parentOf(int number) const override { return codes().parentOf(number); }
+    bool isElement(int number) const override { return codes().isElement(number); }
 
     /// The nodes of the code tree.
     std::shared_ptr<NodeTreeModel> tree() const { return m_tree; }

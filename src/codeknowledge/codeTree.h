@@ -16,6 +16,7 @@ public:
 
     int size() const { return m_html.size() + m_css.size(); }
     TreeNode node(int number) const;
+    bool isElement(int number) const { return isHtml(number) && m_html.isElement(number); }
     int parentOf(int number) const;                    ///< -1 for a root
     int rowOf(int number) const;                       ///< among its siblings, from 0
     int childCount(int number) const;                  ///< -1 is what the roots stand under

@@ -4,11 +4,12 @@
 
 #include <QStringList>
 
-/// The elements of HTML as the code assistant and the context help use them: row n of each list speaks of the same
+/// The elements as the code assistant and the context help use them: row n of each list speaks of the same
 /// element, in the order of the data file.
 struct CodeElements {
     QStringList lstCodeAssistantElements;     ///< "<" and the name
     QStringList lstCodeAssistantElementsFull; ///< "e<" and the name, "d<" for a deprecated element
+    QStringList htmlNames;                    ///< those of HTML alone, not those of drawings and formulas
     bool operator==(const CodeElements &) const = default;
 };
 
@@ -35,4 +36,7 @@ public:
     virtual TreeNode node(int number) const = 0;
     /// The parent of a node, without the making of its texts; -1 for a root.
     virtual int parentOf(int number) const = 0;
+    /// Whether a node is an element: one of HTML right under the root, or one of another language, such as that of
+    /// drawings, under the one of HTML that it is entered by.
+    virtual bool isElement(int number) const { return parentOf(number) >= 0 && node(parentOf(number)).key == u"html"; }
 };

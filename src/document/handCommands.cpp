@@ -45,9 +45,10 @@ void changeActive(ProgramContext &context, const std::function<LineChange(const 
     }
 }
 
+/// Whether it is one of HTML: those of drawings bear the names of everyday words, such as text and line.
 bool isElement(const ProgramContext &context, const QString &name)
 {
-    return context.codes && context.codes->elements().lstCodeAssistantElements.contains(u'<' + name.toLower());
+    return context.codes && context.codes->elements().htmlNames.contains(name.toLower());
 }
 
 /// The elements in place of a stretch of the text, each of their lines as far in as the first.

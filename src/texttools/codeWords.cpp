@@ -5,13 +5,11 @@
 
 CodeWords::CodeWords(const CodeKnowledge &codes) : m_codes(codes)
 {
-    const QString html = QStringLiteral("html");
     int parent = -1; // that of the node before, since children mostly follow one another
-    bool underRoot = false;
     QList<int> siblings;
     const auto store = [&] {
         if (parent >= 0)
-            m_children[m_codes.node(parent).text] += siblings;
+            m_children[nameOfTag(parent)] += siblings;
         siblings.clear();
     };
     for (int number = 1; number < codes.HtmlCodeNodeCount(); ++number) {
@@ -19,14 +17,23 @@ CodeWords::CodeWords(const CodeKnowledge &codes) : m_codes(codes)
         if (above != parent) {
             store();
             parent = above;
-            underRoot = above >= 0 && codes.node(above).key == html;
         }
-        siblings += number;
-        if (underRoot)
+        const bool element = codes.isElement(number);
+        if (element)
             m_elements += number;
+        if (!element || above == 0) // an element of drawings is no attribute of what it stands under
+            siblings += number;
     }
     store();
     m_elementNames = lowerTextsOf(m_elements);
+}
+
+/// The text of a node, as the tags that are looked for are written: in lower case those of drawings, whose names have
+/// capitals.
+QString CodeWords::nameOfTag(int number) const
+{
+    const QString text = m_codes.node(number).text;
+    return m_codes.isElement(number) && m_codes.parentOf(number) > 0 ? LCase(text) : text;
 }
 
 bool CodeWords::isElement(const QString &word) const

@@ -23,6 +23,7 @@ public:
     QStringList attributesOf(const QString &tag) const { return textsOf(m_children.value(tag)); }
 
 private:
+    QString nameOfTag(int number) const;
     QStringList textsOf(const QList<int> &nodes) const;
     QSet<QString> lowerTextsOf(const QList<int> &nodes) const;
 

@@ -2,7 +2,7 @@
 
 import re
 
-from knowledge import ARIA, EVENTS, GLOBAL
+from knowledge import ARIA, EVENTS, GLOBAL, LANGUAGE
 from markup import code, codes, example, heading, link, page, paragraph, table, text
 
 INDEX = "ReferenceIndex.htm"
@@ -19,7 +19,15 @@ _OF_COMMON = {
 }
 
 
+LANGUAGES = {
+    "math": ("FormulaAttributes.htm", "Attributes of formulas", "attributes of formulas", "formulas"),
+    "svg": ("DrawingAttributes.htm", "Attributes of drawings", "attributes of drawings", "drawings"),
+}  # by the element under which those of the language stand
+
+
 def title(element):
+    if element.under:
+        return f"{element.name} element of {LANGUAGES[element.under][3]}"
     return f"{element.name} element" if element.name != "!doctype" else "!doctype declaration"
 
 
@@ -31,11 +39,51 @@ def tag(name):
     return f"<{name}>"
 
 
-def pages(elements):
-    """{file name: page} of all elements."""
+def language_pages(elements):
+    """{file name: (title, page)} of the attributes that the elements of drawings have in common, and those of formulas."""
+    found = {}
+    for entry in (element for element in elements if element.name in LANGUAGES):
+        name, caption, _, things = LANGUAGES[entry.name]
+        opening = f"These attributes can stand on nearly every element of {things}, and on {_link_to(entry)} itself."
+        attributes = [attribute for attribute in entry.attributes if attribute.group == LANGUAGE]
+        found[name] = (caption, page(caption, caption, [paragraph(opening), *_tables(attributes), way_back()]))
+    return found
+
+
+def inner_pages(elements, inner):
+    """{file name: page} of the elements of other languages; what HTML has under the same name stands there."""
     known = {element.name: element for element in elements}
+    common = _of_every_element(known)
+    return {file_name(element): _inner_page(element, known, common) for element in inner if element.name not in known}
+
+
+def _inner_page(element, known, common):
+    name, _, words, things = LANGUAGES[element.under]
+    stands = f"It stands in {things}, inside {_link_to(known[element.under])}."
+    old = "This element is deprecated. Browsers may still know it, but new pages do better without it."
+    parts = [
+        paragraph(text(element.sentence)),
+        paragraph(stands),
+        paragraph(old, "deprecated") if element.deprecated else "",
+        heading("Syntax"),
+        paragraph(code(syntax_line(element)), "syntax"),
+        paragraph(f"It also takes the {link(name, words)}."),
+        _common_attributes(element, common),
+        *_tables(element.own()),
+        way_back(),
+    ]
+    return page(title(element), tag(element.name), parts)
+
+
+def _of_every_element(known):
     most = known["div"].attributes  # as many as an element can have in common with others
-    common = {group: {attribute.name for attribute in most if attribute.group == group} for group in _COMMON}
+    return {group: {attribute.name for attribute in most if attribute.group == group} for group in _COMMON}
+
+
+def pages(elements):
+    """{file name: page} of all elements of HTML."""
+    known = {element.name: element for element in elements}
+    common = _of_every_element(known)
     return {file_name(element): _page(element, known, common) for element in elements}
 
 
@@ -87,6 +135,7 @@ def _page(element, known, common):
         example(element.example),
         heading("Syntax"),
         paragraph(code(syntax_line(element)), "syntax"),
+        _language_attributes(element),
         _common_attributes(element, common),
         *_model(element, known),
         *_tables(element.own()),
@@ -152,6 +201,13 @@ def _values(attribute):
     if deprecated:
         told.append(f"Deprecated: {deprecated}")
     return "<br>".join(part for part in told if part) or ("none" if attribute.bare else "&nbsp;")
+
+
+def _language_attributes(element):
+    if element.name not in LANGUAGES:
+        return ""
+    name, _, words, things = LANGUAGES[element.name]
+    return paragraph(f"It also takes the {link(name, words)}. {link(f'{INDEX}#{things}', f'The elements of {things}')}.")
 
 
 def _common_attributes(element, common):

@@ -9,6 +9,7 @@ import sys
 from pathlib import Path
 
 import helpPages
+import innerElements
 import pageRules
 import tcb
 from knowledge import Joiner
@@ -28,11 +29,13 @@ _NOTICED = {
 
 def files():
     """{path below data/: bytes} of all that is generated."""
-    elements = Joiner().elements()
+    html = Joiner().elements()
+    elements, inner = innerElements.entered(html), innerElements.elements(html)
     styles = Styles()
-    found = {"Html.tcb": tcb.html(elements), "Css.tcb": tcb.css(styles.properties()), NOTICES: _notices()}
+    codes = sorted(elements + inner, key=lambda element: element.deprecated)
+    found = {"Html.tcb": tcb.html(codes), "Css.tcb": tcb.css(styles.properties()), NOTICES: _notices()}
     found["Page.rules"] = pageRules.text().encode("utf-8")
-    for name, html in helpPages.files(elements, styles).items():
+    for name, html in helpPages.files(elements, inner, styles).items():
         found["help/" + name] = html.encode("utf-8")
     return found
 

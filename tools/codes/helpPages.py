@@ -8,14 +8,16 @@ TOPICS = "topics/reference/"
 _TITLE = "HTML and CSS reference"
 
 
-def files(elements, styles):
-    """{path below the help's folder: text} of all pages and of the list of topics."""
-    titled = {elementPages.INDEX: (_TITLE, _index(elements, styles))}
-    titled |= elementPages.common_pages(elements)
+def files(elements, inner, styles):
+    """{path below the help's folder: text} of all pages and of the list of topics, `elements` being those of HTML and
+    `inner` those of drawings and formulas."""
+    titled = {elementPages.INDEX: (_TITLE, _index(elements, inner, styles))}
+    titled |= elementPages.common_pages(elements) | elementPages.language_pages(elements)
     titled |= stylePages.pages(styles)
-    pages = {name: html for name, (_, html) in titled.items()} | elementPages.pages(elements)
+    pages = {name: html for name, (_, html) in titled.items()}
+    pages |= elementPages.inner_pages(elements, inner) | elementPages.pages(elements)
     titles = {name: title for name, (title, _) in titled.items()}
-    titles |= {elementPages.file_name(element): elementPages.title(element) for element in elements}
+    titles |= {elementPages.file_name(element): elementPages.title(element) for element in inner + elements}
     pages["Information_KeywordNotFound.htm"] = _not_found()
     return {TOPICS + name: html for name, html in pages.items()} | {"index-reference.txt": _topics(titles)}
 
@@ -25,12 +27,24 @@ def _topics(titles):
     return "".join(sorted(f"{title}\t{TOPICS}{name}\n" for name, title in titles.items()))
 
 
-def _index(elements, styles):
+def _index(elements, inner, styles):
     parts = [paragraph(_OPENING), _letters(elements), *_common_links(), heading("Elements of HTML", "html")]
     for letter, group in _by_letter(elements).items():
         rows = [(_element_link(element), _sentence(element)) for element in group]
         parts += [f'<h3><a name="{letter}"></a>{letter}</h3>', table(("Element", "What it is for"), rows)]
-    return page(_TITLE, _TITLE, parts + stylePages.index(styles))
+    return page(_TITLE, _TITLE, parts + _inner_index(elements, inner) + stylePages.index(styles))
+
+
+def _inner_index(elements, inner):
+    """The elements of drawings and of formulas; of those that HTML has as well, its own sentence tells."""
+    sentences = {element.name: element.sentence for element in elements}
+    parts = []
+    for entry, (*_, things) in sorted(elementPages.LANGUAGES.items(), key=lambda language: language[1][3]):
+        group = sorted((element for element in inner if element.under == entry), key=lambda element: element.name.lower())
+        rows = [(_element_link(element), _sentence(element) if element.sentence else text(sentences[element.name]))
+                for element in group]  # fmt: skip
+        parts += [heading(f"Elements of {things}", things), table(("Element", "What it is for"), rows)]
+    return parts
 
 
 _OPENING = (
@@ -41,7 +55,9 @@ _OPENING = (
 
 def _letters(elements):
     links = [link(f"#{letter}", letter) for letter in _by_letter(elements)]
-    return paragraph(" ".join(links) + " &nbsp; " + link("#css", "CSS properties"))
+    below = {"drawings": "Elements of drawings", "formulas": "of formulas", "css": "CSS properties"}
+    links_below = [link(f"#{anchor}", words) for anchor, words in below.items()]
+    return paragraph(" ".join(links) + " &nbsp; " + " &nbsp; ".join(links_below))
 
 
 def _common_links():

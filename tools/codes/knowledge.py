@@ -6,7 +6,8 @@ from dataclasses import dataclass, field
 from dtd import Definition
 from tables import FOLDER, MARK, names, rows, source, unmarked
 
-OWN, GLOBAL, ARIA, EVENTS = range(4)  # the groups of attributes, in the order in which they are listed
+# The groups of attributes, in the order in which they are listed. LANGUAGE: what all elements of drawings have, or of formulas.
+OWN, LANGUAGE, GLOBAL, ARIA, EVENTS = range(5)
 ONLY = "="  # stands among values of ours: there are no others
 
 
@@ -26,6 +27,7 @@ class Attribute:
 @dataclass
 class Element:
     name: str
+    under: str = ""  # the element of HTML that those of its language stand under; empty for those of HTML
     deprecated: bool = False
     void: bool = False  # has no end tag
     attributes: list = field(default_factory=list)
@@ -61,7 +63,7 @@ class Sources:
 
     def elements(self):
         found = set(self.checked) | set(self.loose)
-        found |= {name for name, feature in self.browsers["elements"].items() if _settled(feature)}
+        found |= {name for name, feature in self.browsers["elements"].items() if settled(feature)}
         return [name for name in found if [] not in self._omitted.get(name, [])]
 
     def deprecated(self, element):
@@ -85,7 +87,7 @@ class Sources:
             name: feature
             for name, feature in features.items()
             # The names with "_" are habits of browsers, not attributes.
-            if "_" not in name and (_settled(feature) or self._is_checked(element, name))
+            if "_" not in name and (settled(feature) or self._is_checked(element, name))
         }
 
     def _is_checked(self, element, attribute):
@@ -94,7 +96,7 @@ class Sources:
     def global_attributes(self):
         left_out = {name for omitted in self._omitted["*"] for name in omitted}
         checked = self.checked["*"]["attributes"]
-        found = {name for name, feature in self.browsers["globalAttributes"].items() if _settled(feature)}
+        found = {name for name, feature in self.browsers["globalAttributes"].items() if settled(feature)}
         found = {name for name in found | set(checked) if not name.startswith("aria-")}  # a table of ours has these
         return {name: checked.get(name, {}) for name in sorted(found - left_out)}
 
@@ -105,7 +107,7 @@ class Sources:
         return sorted(name for name in found if not name.startswith("onwebkit"))
 
 
-def _settled(feature):
+def settled(feature):
     """A trial is none of the standard's, unless it was one and is on its way out."""
     return feature.get("deprecated", False) or not (feature.get("experimental") or feature.get("nonstandard"))
 

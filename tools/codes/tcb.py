@@ -2,13 +2,17 @@
 
 _LEVEL = "»"
 _DEPRECATED = "«"
+_UNDER = ">"  # which no name can hold
 
 
 def html(elements):
-    """Html.tcb: an element at depth 1, its attributes at depth 2, their values at depth 3."""
+    """Html.tcb: an element at depth 1, its attributes at depth 2, their values at depth 3. An element that stands under
+    another one has that one's name and ">" in front of its own."""
     lines = []
     for element in elements:
-        lines.append(_line(1, element.deprecated, element.name))
+        assert _UNDER not in element.name, element.name
+        name = element.under + _UNDER + element.name if element.under else element.name
+        lines.append(_line(1, element.deprecated, name))
         for attribute in element.attributes:
             lines += _attribute(attribute)
     return _file(lines)

@@ -1,5 +1,6 @@
 #include "codeknowledge/codeBranch.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace
@@ -21,14 +22,15 @@ QStringList told(const CodeBranch &branch)
 }
 
 /// A fault in how the nodes hang together; empty if the children of each are those that name it as their parent, in
-/// order.
+/// order, elements in front.
 QString faultIn(const CodeBranch &branch)
 {
     std::vector<std::vector<int>> children(static_cast<size_t>(branch.size()));
     for (int number = 1; number < branch.size(); ++number)
         children[static_cast<size_t>(branch.parentOf(number))].push_back(number);
     for (int number = 0; number < branch.size(); ++number) {
-        const std::vector<int> &expected = children[static_cast<size_t>(number)];
+        std::vector<int> &expected = children[static_cast<size_t>(number)];
+        std::stable_partition(expected.begin(), expected.end(), [&](int child) { return branch.isElement(child); });
         if (branch.childCount(number) != static_cast<int>(expected.size()))
             return QStringLiteral("%1 has %2 children").arg(number).arg(branch.childCount(number));
         for (int row = 0; row < branch.childCount(number); ++row)
@@ -53,6 +55,42 @@ TEST(HtmlBranch, IsMadeLineByLine)
                            QStringLiteral("alt=||ImgNode3|1"), QStringLiteral("ismap||ImgDepr|3"),
                            QStringLiteral("align=||ImgDepr|3"), QStringLiteral("left||ImgDepr|3"),
                            QStringLiteral("top||ImgNode4|3"), QStringLiteral("font||ImgDepr|0")}));
+    EXPECT_EQ(faultIn(branch), QString());
+}
+
+// The lines of drawings stand anywhere behind that of the element that enters them, which may be told of before others.
+TEST(HtmlBranch, PutsElementsOfOtherLanguagesUnderTheirEntry)
+{
+    const CodeBranch branch = CodeBranch::ofHtml(file(
+        "+math\n++display=\n+svg\n++width=\n+++100\n+svg>circle\n++r=Length\n+++1\n+math>mi\n-tt\n++x=\n-svg>old\n"));
+    //    1      2           3     4         5      6            7           8     9         10   11      12
+    EXPECT_TRUE(branch.isComplete());
+    EXPECT_EQ(told(branch),
+              (QStringList{htmlRoot, QStringLiteral("math||ImgNode2|0"), QStringLiteral("display=||ImgNode3|1"),
+                           QStringLiteral("svg||ImgNode2|0"), QStringLiteral("width=||ImgNode3|3"),
+                           QStringLiteral("100||ImgNode4|4"), QStringLiteral("circle||ImgNode2|3"),
+                           QStringLiteral("r=||ImgNode3|6"), QStringLiteral("1||ImgNode4|7"),
+                           QStringLiteral("mi||ImgNode2|1"), QStringLiteral("tt||ImgDepr|0"),
+                           QStringLiteral("x=||ImgNode3|10"), QStringLiteral("old||ImgDepr|3")}));
+    EXPECT_EQ(faultIn(branch), QString());
+    EXPECT_EQ(branch.childCount(0), 3);
+    EXPECT_EQ(branch.child(3, 0), 6) << "circle, in front of the attribute";
+    EXPECT_EQ(branch.child(3, 1), 12);
+    EXPECT_EQ(branch.child(3, 2), 4);
+    EXPECT_EQ(branch.attributesOf(3), std::vector<int>{4});
+    EXPECT_EQ(branch.attributesOf(6), std::vector<int>{7});
+    std::vector<int> elements;
+    for (int row = 0; row < branch.elementCount(); ++row)
+        elements.push_back(branch.element(row));
+    EXPECT_EQ(elements, (std::vector<int>{1, 3, 6, 9, 10, 12}));
+}
+
+TEST(HtmlBranch, KeepsANameWholeWhoseEntryItDoesNotKnow)
+{
+    const CodeBranch branch = CodeBranch::ofHtml(file("+a\n+b>c\n+>d\n+a>\n+a>e>f\n+e>g\n"));
+    EXPECT_EQ(told(branch), (QStringList{htmlRoot, QStringLiteral("a||ImgNode2|0"), QStringLiteral("b>c||ImgNode2|0"),
+                                         QStringLiteral(">d||ImgNode2|0"), QStringLiteral("a>||ImgNode2|0"),
+                                         QStringLiteral("e>f||ImgNode2|1"), QStringLiteral("e>g||ImgNode2|0")}));
     EXPECT_EQ(faultIn(branch), QString());
 }
 

@@ -65,6 +65,20 @@ TEST(CodeData, NamesElementsInLowerCaseAndByLetterTheDeprecatedOnesLast)
     EXPECT_EQ(repeated(current + deprecated), QStringList());
 }
 
+TEST(CodeData, HoldsDrawingsAndFormulasUnderTheirEntries)
+{
+    QStringList names;
+    for (const auto &[entry, element] : html().inner) {
+        EXPECT_NE(html().element(entry), nullptr) << qPrintable(entry);
+        names << entry + u'>' + element.name;
+        for (const char *name : {"class=", "id=", "style=", "onclick="})
+            EXPECT_NE(element.attribute(words(name)), nullptr) << qPrintable(names.last()) << ' ' << name;
+    }
+    EXPECT_EQ(names.filter(words("svg>")).size(), 62); // and svg itself
+    EXPECT_EQ(names.filter(words("math>")).size(), 32);
+    EXPECT_EQ(repeated(names), QStringList());
+}
+
 TEST(CodeData, FindsTableFirstOfAllThatBeginSo)
 {
     QStringList names = namesOf(html().elements);

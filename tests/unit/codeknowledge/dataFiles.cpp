@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <algorithm>
+#include <functional>
 
 namespace datafiles
 {
@@ -139,6 +140,14 @@ Html readHtml(const QByteArray &bytes)
         if (!place(line, html.elements))
             html.faults << QStringLiteral("%1: nothing that it belongs to").arg(number);
     }
+    const auto isInner = [](const Element &element) { return element.name.contains(u'>'); };
+    const auto inner = std::stable_partition(html.elements.begin(), html.elements.end(), std::not_fn(isInner));
+    for (auto element = inner; element != html.elements.end(); ++element) {
+        const QString entry = element->name.section(u'>', 0, 0);
+        element->name = element->name.section(u'>', 1);
+        html.inner.emplace_back(entry, *element);
+    }
+    html.elements.erase(inner, html.elements.end());
     return html;
 }
 

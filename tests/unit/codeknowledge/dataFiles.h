@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <utility>
 #include <vector>
 
 /// What the shipped data files hold, read strictly and by other code than the program's: anything that a reader could
@@ -34,7 +35,8 @@ struct Element {
 
 struct Html {
     std::vector<Element> elements;
-    QStringList faults; ///< "LINE: what is wrong", counted from 1
+    std::vector<std::pair<QString, Element>> inner; ///< those of other languages, with the one that they stand under
+    QStringList faults;                             ///< "LINE: what is wrong", counted from 1
 
     /// The element of that name; nullptr if there is none.
     const Element *element(const QString &name) const;

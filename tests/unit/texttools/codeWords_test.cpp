@@ -42,26 +42,32 @@ public:
         for (int number = 1; number < codes.HtmlCodeNodeCount(); ++number) {
             const TreeNode &node = codes.node(number);
             const TreeNode &above = codes.node(node.parent);
-            m_nodes.push_back({above.text, above.key, node.text.toLower()});
+            const bool element = codes.isElement(number);
+            // The elements of drawings stand under one of HTML, and have names with capitals, unlike the tags looked
+            // for.
+            const bool inner = codes.isElement(node.parent) && codes.parentOf(node.parent) > 0;
+            const bool attribute = !element || node.parent == 0;
+            m_nodes.push_back({inner ? above.text.toLower() : above.text, element, attribute, node.text.toLower()});
         }
     }
     bool isElement(const QString &word) const
     {
         const QString name = word.toLower();
         return std::any_of(m_nodes.begin(), m_nodes.end(),
-                           [&](const Node &node) { return node.aboveKey == u"html" && node.lower == name; });
+                           [&](const Node &node) { return node.element && node.lower == name; });
     }
     bool isAttribute(const QString &tag, const QString &word) const
     {
         const QString name = word.toLower();
         return std::any_of(m_nodes.begin(), m_nodes.end(),
-                           [&](const Node &node) { return node.above == tag && node.lower == name; });
+                           [&](const Node &node) { return node.attribute && node.above == tag && node.lower == name; });
     }
 
 private:
     struct Node {
         QString above;
-        QString aboveKey;
+        bool element = false;
+        bool attribute = false; ///< or a value, or what stands under the root
         QString lower;
     };
     std::vector<Node> m_nodes;

@@ -132,6 +132,12 @@ function browserCompatData() {
     return { elements: features(html.elements), globalAttributes: features(html.global_attributes) };
 }
 
+// The elements of another language that stand under an element of HTML, with their attributes and those of all of them.
+function browserLanguage(language) {
+    const data = JSON.parse(fs.readFileSync(inPackage("browser-compat-data", "data.json"), "utf8"))[language];
+    return { elements: features(data.elements), globalAttributes: features(data.global_attributes) };
+}
+
 // The browsers whose makers go on with them.
 const BROWSERS = ["chrome", "chrome_android", "edge", "firefox", "firefox_android", "safari", "safari_ios"];
 
@@ -197,6 +203,8 @@ function css() {
 
 write("html-validate", "elements.json", htmlValidateElements());
 write("browser-compat-data", "html.json", browserCompatData());
+write("browser-compat-data", "svg.json", browserLanguage("svg"));
+write("browser-compat-data", "mathml.json", browserLanguage("mathml"));
 write("browser-compat-data", "css.json", browserCss());
 write("webref-idl", "eventHandlers.json", eventHandlers());
 write("mdn-data", "css.json", css());
