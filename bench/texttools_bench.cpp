@@ -8,7 +8,7 @@
 #include "services/services.h"
 #include "texttools/frmFind.h"
 #include "texttools/frmSyntaxCheck.h"
-#include "texttools/pageCheck.h"
+#include "texttools/pageChecker.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -87,6 +87,20 @@ double pageCheckTime(RunningProgram &running, qsizetype characters)
         Runs, [&] { checkPage(text, *rules); }, [] {});
 }
 
+/// The check after a key in the middle of a page that was checked before.
+double pageCheckKeyTime(RunningProgram &running, qsizetype characters)
+{
+    const Services &services = running.program().context().services;
+    const auto rules =
+        PageRules::read(services.files.readAll(programFile(services, QStringLiteral("Page.rules"))).bytes);
+    QString text = rightPage(characters);
+    const qsizetype place = text.indexOf(QStringLiteral("</"), characters / 2);
+    PageChecker checker(*rules);
+    checker.check(text, {});
+    return medianTime(
+        Runs, [&] { checker.check(text, {}); }, [&] { text.insert(place, u'x'); });
+}
+
 /// 1 MB, in every fiftieth character of which the text stands that is replaced.
 QString manyMatches()
 {
@@ -126,6 +140,7 @@ void textToolFigures(Figures &figures)
                 400);
     figures.add(QStringLiteral("syntax check, 1 MB"), checkTime(running, 1'000'000) * Milli, unit);
     figures.add(QStringLiteral("page check, 1 MB"), pageCheckTime(running, 1'000'000) * Milli, unit, 40);
+    figures.add(QStringLiteral("page check after a key, 1 MB"), pageCheckKeyTime(running, 1'000'000) * Milli, unit);
     figures.add(QStringLiteral("replace all, 1 MB, 20,000 matches"),
                 replaceTime(running, QStringLiteral("title")) * Milli, unit, 600);
     figures.add(QStringLiteral("replace all by nothing, 1 MB, 20,000 matches"), replaceTime(running, QString()) * Milli,

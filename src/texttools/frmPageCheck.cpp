@@ -15,6 +15,7 @@
 #include "services/timer.h"
 #include "surface/editSurface.h"
 #include "texttools/cornerPlace.h"
+#include "texttools/pageChecker.h"
 #include "texttools/pageMarks.h"
 #include "widgets/layout.h"
 #include "widgets/listView.h"
@@ -162,6 +163,7 @@ void frmPageCheck::forget()
 /// A row of the list stands for one of the problems, so they go together.
 void frmPageCheck::forgetProblems()
 {
+    m_checker.reset();
     m_problems.clear();
     m_checked.clear();
     tell(QString());
@@ -244,7 +246,9 @@ void frmPageCheck::check(Document &document)
         tell(QStringLiteral("The file Page.rules, by which pages are checked, cannot be read."));
         return;
     }
-    m_problems = checkPage(m_checked, *m_rules, contextOf(document));
+    if (!m_checker)
+        m_checker = std::make_unique<PageChecker>(*m_rules);
+    m_problems = m_checker->check(m_checked, contextOf(document));
     showPageMarks(*surface, m_problems);
     showProblems();
 }

@@ -10,6 +10,7 @@
 class Document;
 class EditSurface;
 class ListView;
+class PageChecker;
 class QLabel;
 class QPushButton;
 class Timer;
@@ -58,6 +59,7 @@ private:
     bool showTip(QWidget *viewport, const QPoint &position, const QPoint &global);
 
     std::shared_ptr<const PageRules> m_rules;
+    std::unique_ptr<PageChecker> m_checker; ///< of the page that was checked last
     std::unique_ptr<Timer> tmrPageCheck;
     QPointer<EditSurface> m_surface; ///< the one that was checked last, or is waiting to be
     QList<PageProblem> m_problems;   ///< of its text as it was checked

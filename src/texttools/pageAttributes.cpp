@@ -232,25 +232,25 @@ void PageAttributes::collect(const html::Token &token, const PageTree::Opened &o
                                isNamed(element, "output") || isNamed(element, "progress");
             m_references.addId(attribute.value, element, field && !hidden);
         } else if (isNamed(name, "name") && opened.tag == PageTag::A) {
-            m_references.addAnchor(attribute.value);
+            m_references.add(PageName::Kind::Anchor, attribute.value);
         } else if (isNamed(name, "name") && isNamed(element, "map")) {
-            m_references.addMap(attribute.value);
+            m_references.add(PageName::Kind::Map, attribute.value);
         } else if (isNamed(name, "href") && (opened.tag == PageTag::A || isNamed(element, "area"))) {
-            m_references.addLink(attribute.value);
+            m_references.addLink(attribute.value, attribute.name);
         } else if (isNamed(name, "usemap") && m_text[attribute.value.start] == u'#') {
-            m_references.addReference(PageReferences::To::Map, {attribute.value.start + 1, attribute.value.length - 1},
-                                      name);
+            m_references.add(PageName::Kind::ToMap, {attribute.value.start + 1, attribute.value.length - 1},
+                             attribute.name);
         } else if (isNamed(name, "for") && isNamed(element, "label")) {
-            m_references.addReference(PageReferences::To::Field, attribute.value, name);
+            m_references.add(PageName::Kind::ToField, attribute.value, attribute.name);
         } else if (isNamed(name, "list") && opened.tag == PageTag::Input) {
-            m_references.addReference(PageReferences::To::Datalist, attribute.value, name);
+            m_references.add(PageName::Kind::ToDatalist, attribute.value, attribute.name);
         } else if (isNamed(name, "form")) {
-            m_references.addReference(PageReferences::To::Form, attribute.value, name);
+            m_references.add(PageName::Kind::ToForm, attribute.value, attribute.name);
         } else if (isNamed(name, "aria-labelledby") || isNamed(name, "aria-describedby") ||
                    isNamed(name, "aria-controls") || isNamed(name, "headers") ||
                    (isNamed(name, "for") && isNamed(element, "output"))) {
             for (const QStringView word : wordsOfValue(valueOf(attribute)))
-                m_references.addReference(PageReferences::To::Id, {word.data() - m_text.data(), word.size()}, name);
+                m_references.add(PageName::Kind::Reference, {word.data() - m_text.data(), word.size()}, attribute.name);
         }
     }
 }

@@ -26,6 +26,7 @@ struct PageProblem {
     QString remedy;  ///< what would be right; empty where nobody can tell
     Kind kind = Kind::Error;
     QList<PageFix> fix = {}; ///< the one way to put it right, from the end of the text to its start; empty without one
+    bool operator==(const PageProblem &) const = default;
 };
 
 /// What a check cannot see in the text.

@@ -16,17 +16,9 @@ QString localPathOf(QStringView address)
     return QUrl::fromPercentEncoding((end < 0 ? text : text.left(end)).toUtf8());
 }
 
-bool PageFiles::isThere(const QString &path)
-{
-    auto known = m_asked.find(path);
-    if (known == m_asked.end())
-        known = m_asked.insert(path, m_exists(path));
-    return *known;
-}
-
 void PageFiles::startTag(const html::Token &token)
 {
-    if (!m_exists || m_otherBase)
+    if (!m_wanted || m_otherBase)
         return;
     const bool base = m_text.mid(token.name.start, token.name.length).compare(u"base", Qt::CaseInsensitive) == 0;
     for (const html::Attribute &attribute : token.attributes) {
@@ -40,7 +32,22 @@ void PageFiles::startTag(const html::Token &token)
             return;
         }
         const QString path = localPathOf(m_text.mid(attribute.value.start, attribute.value.length));
-        if (!path.isEmpty() && !isThere(path) && m_problems.wants("missing-file"))
-            m_problems.error("missing-file", attribute.value, QStringLiteral("There is no file \"%1\".").arg(path));
+        if (!path.isEmpty())
+            m_files.append({attribute.value, path});
     }
+}
+
+bool PageFileLook::isThere(const QString &path)
+{
+    auto known = m_asked.find(path);
+    if (known == m_asked.end())
+        known = m_asked.insert(path, m_exists(path));
+    return *known;
+}
+
+void PageFileLook::add(const QList<PageFile> &files)
+{
+    for (const PageFile &file : files)
+        if (!isThere(file.path) && m_problems.wants("missing-file"))
+            m_problems.error("missing-file", file.range, QStringLiteral("There is no file \"%1\".").arg(file.path));
 }

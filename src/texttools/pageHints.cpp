@@ -36,44 +36,45 @@ void PageHints::startTag(const html::Token &token, const PageTree::Opened &opene
     if (opened.tag == PageTag::Heading && !opened.foreign)
         checkHeading(token);
     if (opened.tag == PageTag::A && !opened.foreign && attributes.has(QLatin1String("href"))) {
-        m_link = token.range;
-        m_linkFilled = attributes.has(QLatin1String("aria-label")) ||
-                       attributes.has(QLatin1String("aria-labelledby")) || attributes.has(QLatin1String("title"));
-        m_pictureInLink = false;
+        m_state.link = token.range;
+        m_state.linkFilled = attributes.has(QLatin1String("aria-label")) ||
+                             attributes.has(QLatin1String("aria-labelledby")) || attributes.has(QLatin1String("title"));
+        m_state.pictureInLink = false;
     } else if (isNamed(name, "img")) {
         const auto text = attributes.value(QLatin1String("alt"));
-        m_linkFilled |= text && !text->isEmpty();
-        m_pictureInLink = true;
+        m_state.linkFilled |= text && !text->isEmpty();
+        m_state.pictureInLink = true;
     } else if (opened.foreign || opened.unknown || opened.element == 0 || opened.tag == PageTag::Svg ||
                opened.tag == PageTag::Math || opened.tag == PageTag::Applet || opened.tag == PageTag::RawText ||
                opened.tag == PageTag::Input || opened.tag == PageTag::Button || opened.tag == PageTag::Select ||
                opened.tag == PageTag::Textarea || isNamed(name, "video") || isNamed(name, "audio") ||
                isNamed(name, "canvas")) {
-        m_linkFilled = true; // nobody can see from here what it shows
+        m_state.linkFilled = true; // nobody can see from here what it shows
     }
     checkWords(attributes, token, opened);
 }
 
 void PageHints::endTag(const html::Token &token)
 {
-    if (m_link.length == 0 || !isNamed(nameOf(token), "a"))
+    if (m_state.link.length == 0 || !isNamed(nameOf(token), "a"))
         return;
-    if (!m_linkFilled && m_problems.wants("empty-link"))
-        m_problems.hint("empty-link", m_link,
-                        m_pictureInLink ? QStringLiteral("A picture without a text is all that this link holds.")
-                                        : QStringLiteral("This link holds nothing that one could read or click."),
-                        m_pictureInLink ? QStringLiteral("An alt that tells where it leads.")
-                                        : QStringLiteral("A text that tells where it leads."));
-    m_link = {};
+    if (!m_state.linkFilled && m_problems.wants("empty-link"))
+        m_problems.hint("empty-link", m_state.link,
+                        m_state.pictureInLink ? QStringLiteral("A picture without a text is all that this link holds.")
+                                              : QStringLiteral("This link holds nothing that one could read or click."),
+                        m_state.pictureInLink ? QStringLiteral("An alt that tells where it leads.")
+                                              : QStringLiteral("A text that tells where it leads."));
+    m_state.link = {};
 }
 
 void PageHints::checkHeading(const html::Token &token)
 {
     const int level = nameOf(token)[1].digitValue();
-    if (m_heading > 0 && level > m_heading + 1 && m_problems.wants("heading-level"))
-        m_problems.hint("heading-level", token.range, QStringLiteral("<h%1> follows <h%2>.").arg(level).arg(m_heading),
-                        QStringLiteral("<h%1>").arg(m_heading + 1));
-    m_heading = level;
+    if (m_state.heading > 0 && level > m_state.heading + 1 && m_problems.wants("heading-level"))
+        m_problems.hint("heading-level", token.range,
+                        QStringLiteral("<h%1> follows <h%2>.").arg(level).arg(m_state.heading),
+                        QStringLiteral("<h%1>").arg(m_state.heading + 1));
+    m_state.heading = level;
 }
 
 void PageHints::checkWords(const PageAttributes &attributes, const html::Token &token, const PageTree::Opened &opened)

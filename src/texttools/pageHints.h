@@ -7,11 +7,28 @@
 class PageHints
 {
 public:
+    /// All that is known of what has been read.
+    struct State {
+        html::Range link; ///< the start tag of the link that is open; length 0 for none
+        bool linkFilled = false;
+        bool pictureInLink = false;
+        int heading = 0; ///< the level of the last heading; 0 before the first
+
+        bool isSame(const State &older, const PageShift &shift) const
+        {
+            return linkFilled == older.linkFilled && pictureInLink == older.pictureInLink && heading == older.heading &&
+                   shift.moved(older.link) == link;
+        }
+        void move(const PageShift &shift) { shift.move(link); }
+    };
+
     PageHints(QStringView text, PageProblems &problems) : m_text(text), m_problems(problems) {}
+    const State &state() const { return m_state; }
+    void setState(const State &state) { m_state = state; }
 
     void startTag(const html::Token &token, const PageTree::Opened &opened, const PageAttributes &attributes);
     void endTag(const html::Token &token);
-    void text() { m_linkFilled = true; }
+    void text() { m_state.linkFilled = true; }
 
 private:
     void checkHeading(const html::Token &token);
@@ -20,8 +37,5 @@ private:
 
     QStringView m_text;
     PageProblems &m_problems;
-    html::Range m_link; ///< the start tag of the link that is open; length 0 for none
-    bool m_linkFilled = false;
-    bool m_pictureInLink = false;
-    int m_heading = 0; ///< the level of the last heading; 0 before the first
+    State m_state;
 };

@@ -4,42 +4,65 @@
 
 #include <QHash>
 
-/// The names that a page gives its elements, and what in it points to them. What leads nowhere is known at its end
-/// only.
+/// A name that a page gives one of its elements, or what points to one.
+struct PageName {
+    enum class Kind : quint8 {
+        Id,        ///< of an element that no reference looks at more closely
+        FormId,    ///< of a form
+        ListId,    ///< of a datalist
+        FieldId,   ///< of a field, which a label may be for
+        Anchor,    ///< the `name` of a link
+        Map,       ///< the `name` of a map
+        Reference, ///< to an element
+        ToAnchor,
+        ToMap,
+        ToDatalist,
+        ToForm,
+        ToField,
+    };
+    Kind kind;
+    html::Range range;          ///< of the name
+    html::Range attribute = {}; ///< of a reference: of the name of the attribute that it stands in
+};
+
+/// Gathers the names of a page and what points to them.
 class PageReferences
 {
 public:
-    PageReferences(QStringView text, PageProblems &problems) : m_text(text), m_problems(problems) {}
+    explicit PageReferences(QStringView text) : m_text(text) {}
 
-    enum class To : quint8 { Id, Anchor, Map, Datalist, Form, Field };
     void addId(html::Range value, QStringView element, bool field);
-    void addAnchor(html::Range value); ///< the `name` of a link
-    void addMap(html::Range value);    ///< the `name` of a map
-    /// `range` is a name that has to be there, told by `attribute`.
-    void addReference(To to, html::Range range, QStringView attribute);
+    void add(PageName::Kind kind, html::Range range, html::Range attribute = {});
     /// An address of a link, which may lead into the page.
-    void addLink(html::Range value);
+    void addLink(html::Range value, html::Range attribute);
+    /// What has been found since it was taken last, in the order of the text.
+    QList<PageName> take() { return std::exchange(m_names, {}); }
+
+private:
+    QStringView m_text;
+    QList<PageName> m_names;
+};
+
+/// Tells of names that stand twice, and of references that lead nowhere: both are known of a whole page only.
+class PageNames
+{
+public:
+    PageNames(QStringView text, PageProblems &problems) : m_text(text), m_problems(problems) {}
+
+    /// Names in the order of the text.
+    void add(const QList<PageName> &names);
     void finish();
 
 private:
-    struct Reference {
-        To to;
-        html::Range range;
-        QStringView attribute;
-    };
-    struct Named {
-        html::Range range;
-        QStringView element;
-        bool field = false; ///< a form's field, which a label may be for
-    };
     QStringView view(html::Range range) const { return m_text.mid(range.start, range.length); }
-    bool leadsNowhere(const Reference &reference) const;
-    bool isAnchor(QStringView name) const;
+    void addId(const PageName &name);
+    bool leadsNowhere(const PageName &reference) const;
+    bool isAnchor(QStringView name) const { return m_ids.contains(name) || m_anchors.contains(name); }
 
     QStringView m_text;
     PageProblems &m_problems;
-    QHash<QStringView, Named> m_ids;
-    QHash<QStringView, html::Range> m_anchors;
-    QHash<QStringView, html::Range> m_maps;
-    QList<Reference> m_references;
+    QHash<QStringView, PageName::Kind> m_ids; ///< of the first element that has it
+    QSet<QStringView> m_anchors;
+    QSet<QStringView> m_maps;
+    QList<PageName> m_references;
 };

@@ -53,16 +53,16 @@ void PageSpecials::startTag(const html::Token &token, const PageTree::Opened &op
         return;
     checkLabel(token, opened, attributes);
     if (opened.tag == PageTag::Colgroup)
-        m_columnsCounted = attributes.has(QLatin1String("span"));
-    if (opened.tag == PageTag::Col && m_columnsCounted && parent == PageTag::Colgroup && opened.judged)
+        m_state.columnsCounted = attributes.has(QLatin1String("span"));
+    if (opened.tag == PageTag::Col && m_state.columnsCounted && parent == PageTag::Colgroup && opened.judged)
         tell("misplaced", token.range, QStringLiteral("<col> may not stand in a <colgroup> with span."),
              QStringLiteral("<colgroup> without span."));
     if (isNamed(token, "audio") || isNamed(token, "video"))
-        m_mediaHasFile = attributes.has(QLatin1String("src"));
+        m_state.mediaHasFile = attributes.has(QLatin1String("src"));
     if (isNamed(token, "map"))
-        ++m_maps;
+        ++m_state.maps;
     if (isNamed(token, "figure"))
-        ++m_figures;
+        ++m_state.figures;
     if (!opened.judged || m_tree.inside(PageTag::Template))
         return;
     if (isNamed(token, "meta") || isNamed(token, "link"))
@@ -82,13 +82,13 @@ void PageSpecials::startTag(const html::Token &token, const PageTree::Opened &op
 void PageSpecials::endTag(const html::Token &token)
 {
     if (isNamed(token, "audio") || isNamed(token, "video"))
-        m_mediaHasFile = false;
+        m_state.mediaHasFile = false;
     else if (isNamed(token, "map"))
-        m_maps = qMax(0, m_maps - 1);
+        m_state.maps = qMax(0, m_state.maps - 1);
     else if (isNamed(token, "figure"))
-        m_figures = qMax(0, m_figures - 1);
+        m_state.figures = qMax(0, m_state.figures - 1);
     else if (isNamed(token, "label"))
-        m_fields = -1;
+        m_state.fields = -1;
 }
 
 /// In the body, meta and link are for properties alone, and for what a page may load late.
@@ -107,7 +107,7 @@ void PageSpecials::checkHeadMatter(const html::Token &token, PageTag parent, con
 
 void PageSpecials::checkSource(const html::Token &token, const PageAttributes &attributes)
 {
-    if (m_mediaHasFile)
+    if (m_state.mediaHasFile)
         tell("misplaced", token.range,
              QStringLiteral("<source> counts for nothing where the element around it has src."),
              QStringLiteral("One of the two."));
@@ -120,7 +120,7 @@ void PageSpecials::checkLabel(const html::Token &token, const PageTree::Opened &
                               const PageAttributes &attributes)
 {
     if (isNamed(token, "label")) {
-        m_fields = 0;
+        m_state.fields = 0;
         return;
     }
     const bool hidden = opened.tag == PageTag::Input &&
@@ -128,9 +128,9 @@ void PageSpecials::checkLabel(const html::Token &token, const PageTree::Opened &
     const bool field = opened.tag == PageTag::Input || opened.tag == PageTag::Button || opened.tag == PageTag::Select ||
                        opened.tag == PageTag::Textarea || isNamed(token, "meter") || isNamed(token, "output") ||
                        isNamed(token, "progress");
-    if (m_fields < 0 || !field || hidden)
+    if (m_state.fields < 0 || !field || hidden)
         return;
-    if (++m_fields == 2)
+    if (++m_state.fields == 2)
         tell("label-of-many", token.range, QStringLiteral("A label holds one field."),
              QStringLiteral("A label for each."));
 }
@@ -147,7 +147,7 @@ void PageSpecials::checkInput(const PageAttributes &attributes)
 
 void PageSpecials::checkArea(const html::Token &token, const PageAttributes &attributes)
 {
-    if (m_maps == 0)
+    if (m_state.maps == 0)
         tell("misplaced", token.range, QStringLiteral("<area> may stand in <map> only."),
              QStringLiteral("Put it into <map>."));
     const auto coords = attributes.value(QLatin1String("coords"));
@@ -170,7 +170,7 @@ void PageSpecials::checkArea(const html::Token &token, const PageAttributes &att
 /// A title, or the caption of a figure, may tell what a picture shows in the place of alt.
 void PageSpecials::checkPicture(const html::Token &token, const PageAttributes &attributes)
 {
-    if (!attributes.has(QLatin1String("alt")) && !attributes.has(QLatin1String("title")) && m_figures == 0)
+    if (!attributes.has(QLatin1String("alt")) && !attributes.has(QLatin1String("title")) && m_state.figures == 0)
         tell("missing-attribute", token.range, QStringLiteral("<img> lacks alt."),
              QStringLiteral("alt=\"\" where the picture says nothing, or what it says."));
 }
@@ -179,8 +179,8 @@ void PageSpecials::checkMain(const html::Token &token, const PageAttributes &att
 {
     if (attributes.has(QLatin1String("hidden")))
         return;
-    if (m_main)
+    if (m_state.main)
         tell("once", token.range, QStringLiteral("A second <main> in the page."),
              QStringLiteral("One that shows; the others hidden."));
-    m_main = true;
+    m_state.main = true;
 }

@@ -7,10 +7,23 @@
 class PageSpecials
 {
 public:
+    /// All that is known of what has been read.
+    struct State {
+        bool main = false;           ///< one was there
+        bool mediaHasFile = false;   ///< the open audio or video names a file itself
+        bool columnsCounted = false; ///< the open colgroup says how many columns it is for
+        int figures = 0;             ///< open ones
+        int maps = 0;                ///< open ones
+        int fields = -1;             ///< fields in the open label; -1 without a label
+        bool operator==(const State &) const = default;
+    };
+
     PageSpecials(QStringView text, const PageTree &tree, PageProblems &problems)
         : m_text(text), m_tree(tree), m_problems(problems)
     {
     }
+    const State &state() const { return m_state; }
+    void setState(const State &state) { m_state = state; }
 
     /// Behind what the tree made of the tag; `parent` is the element that was open in front of it.
     void startTag(const html::Token &token, const PageTree::Opened &opened, PageTag parent,
@@ -35,10 +48,5 @@ private:
     QStringView m_text;
     const PageTree &m_tree;
     PageProblems &m_problems;
-    bool m_main = false;           ///< one was there
-    bool m_mediaHasFile = false;   ///< the open audio or video names a file itself
-    bool m_columnsCounted = false; ///< the open colgroup says how many columns it is for
-    int m_figures = 0;             ///< open ones
-    int m_maps = 0;                ///< open ones
-    int m_fields = -1;             ///< fields in the open label; -1 without a label
+    State m_state;
 };

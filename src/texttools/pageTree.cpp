@@ -32,28 +32,29 @@ bool isTablePart(PageTag tag)
 PageTree::PageTree(QStringView text, const Vocabulary &vocabulary, PageProblems &problems)
     : m_text(text), m_vocabulary(vocabulary), m_problems(problems)
 {
-    m_open.reserve(64);
+    m_state.open.reserve(64);
 }
 
 bool PageTree::inForeign() const
 {
-    return !m_open.empty() && m_open.back().space != Space::Html && !m_open.back().holdsHtml;
+    return !m_state.open.empty() && m_state.open.back().space != Space::Html && !m_state.open.back().holdsHtml;
 }
 
 bool PageTree::inside(PageTag tag) const
 {
-    return std::any_of(m_open.begin(), m_open.end(), [tag](const OpenElement &one) { return one.tag == tag; });
+    return std::any_of(m_state.open.begin(), m_state.open.end(),
+                       [tag](const OpenElement &one) { return one.tag == tag; });
 }
 
 void PageTree::fill()
 {
-    for (auto one = m_open.rbegin(); one != m_open.rend() && !one->filled; ++one)
+    for (auto one = m_state.open.rbegin(); one != m_state.open.rend() && !one->filled; ++one)
         one->filled = true;
 }
 
 void PageTree::setTitled()
 {
-    if (!m_open.empty())
+    if (!m_state.open.empty())
         top().titled = true;
 }
 
@@ -77,7 +78,7 @@ PageTree::Opened PageTree::startTag(const html::Token &token)
                              QStringLiteral("%1 of HTML ends the drawing or formula around it.").arg(shown(token.name)),
                              QStringLiteral("Close it first, or put the element into <foreignObject>."));
         while (inForeign())
-            m_open.pop_back();
+            m_state.open.pop_back();
     }
     return startHtml(token, m_vocabulary.element(name));
 }
@@ -108,16 +109,16 @@ PageTree::Opened PageTree::startHtml(const html::Token &token, int element)
         return opened;
     const bool structure = rule.tag == PageTag::Html || rule.tag == PageTag::Head || rule.tag == PageTag::Body;
     const int child = element > 0 ? element : name.contains(u'-') ? Vocabulary::Custom : 0;
-    opened.judged = m_open.empty() || m_open.back().judged || structure;
+    opened.judged = m_state.open.empty() || m_state.open.back().judged || structure;
     if (child > 0)
         accept(token, child);
-    if (!rule.isVoid && !(m_xml && token.selfClosing))
+    if (!rule.isVoid && !(m_state.xml && token.selfClosing))
         push(token, element,
              rule.tag == PageTag::Svg    ? Space::Svg
              : rule.tag == PageTag::Math ? Space::Math
                                          : Space::Html);
     if ((rule.tag == PageTag::Svg || rule.tag == PageTag::Math) && token.selfClosing)
-        m_open.pop_back();
+        m_state.open.pop_back();
     return opened;
 }
 
@@ -130,7 +131,7 @@ bool PageTree::makeRoom(const html::Token &token, int element, PageTag tag)
         return closeForStart(token, tag);
     const bool headMatter = tag == PageTag::HeadMatter || tag == PageTag::Title || tag == PageTag::Style ||
                             tag == PageTag::Script || tag == PageTag::Template || tag == PageTag::Noscript;
-    if (headMatter && !m_body)
+    if (headMatter && !m_state.body)
         ensureHead(token);
     else if (!inside(PageTag::Frameset))
         ensureBody(token);
@@ -147,23 +148,23 @@ bool PageTree::startStructure(const html::Token &token, PageTag tag)
     case PageTag::Body:
         return startBodyTag(token);
     default:
-        if (m_body && !inside(PageTag::Frameset)) {
+        if (m_state.body && !inside(PageTag::Frameset)) {
             ignore(token);
             return false;
         }
-        if (m_open.empty())
+        if (m_state.open.empty())
             imply("html", token);
-        while (!m_open.empty() && top().tag == PageTag::Head)
+        while (!m_state.open.empty() && top().tag == PageTag::Head)
             pop(&token);
-        m_body = true;
+        m_state.body = true;
         return true;
     }
 }
 
 bool PageTree::startHtmlTag(const html::Token &token)
 {
-    m_wholePage = true;
-    if (m_open.empty())
+    m_state.wholePage = true;
+    if (m_state.open.empty())
         return true;
     ignore(token);
     return false;
@@ -171,75 +172,74 @@ bool PageTree::startHtmlTag(const html::Token &token)
 
 bool PageTree::startHeadTag(const html::Token &token)
 {
-    m_wholePage = true;
-    if (m_head || m_body) {
+    m_state.wholePage = true;
+    if (m_state.head || m_state.body) {
         ignore(token);
         return false;
     }
-    if (m_open.empty())
+    if (m_state.open.empty())
         imply("html", token);
-    m_head = m_headTag = true;
+    m_state.head = true;
     return true;
 }
 
 bool PageTree::startBodyTag(const html::Token &token)
 {
-    m_wholePage = true;
-    if (m_body) {
+    m_state.wholePage = true;
+    if (m_state.body) {
         ignore(token);
         return false;
     }
-    if (m_open.empty())
+    if (m_state.open.empty())
         imply("html", token);
-    if (!m_head)
+    if (!m_state.head)
         imply("head", token);
     while (top().tag != PageTag::Html)
         pop(&token);
-    m_head = m_body = true;
+    m_state.head = m_state.body = true;
     return true;
 }
 
 void PageTree::ensureHead(const html::Token &token)
 {
-    if (m_open.empty())
+    if (m_state.open.empty())
         imply("html", token);
-    if (!m_head)
+    if (!m_state.head)
         imply("head", token);
-    m_head = true;
+    m_state.head = true;
 }
 
 void PageTree::ensureBody(const html::Token &token)
 {
-    if (m_body) {
-        if (m_afterBody && m_problems.wants("behind-body")) {
+    if (m_state.body) {
+        if (m_state.afterBody && m_problems.wants("behind-body"))
             m_problems.error("behind-body", token.range, QStringLiteral("This stands behind the end of the body."),
                              QStringLiteral("Put it in front of </body>."));
-            m_afterBody = false;
-        }
+        m_state.afterBody = false;
         return;
     }
-    if (m_open.empty())
+    if (m_state.open.empty())
         imply("html", token);
-    if (!m_head)
+    if (!m_state.head)
         imply("head", token);
     while (top().tag != PageTag::Html)
         pop(&token);
-    m_head = true;
+    m_state.head = true;
     imply("body", token);
-    m_body = true;
+    m_state.body = true;
 }
 
 void PageTree::imply(const char *name, const html::Token &token)
 {
     const int element = m_vocabulary.element(QString::fromLatin1(name));
-    if (!m_open.empty())
+    if (!m_state.open.empty())
         accept(token, element);
     push(token, element, Space::Html, true);
 }
 
 void PageTree::ignore(const html::Token &token)
 {
-    ++m_ignored[nameAt(token.name)];
+    ++m_state.ignored[nameAt(token.name)];
     if (m_problems.wants("stray-start-tag"))
         m_problems.error("stray-start-tag", token.range,
                          QStringLiteral("%1 may not stand here, and browsers pass it over.").arg(shown(token.name)));
@@ -292,25 +292,25 @@ bool PageTree::closeLike(const html::Token &token, PageTag tag)
             return true;
         m_problems.error("in-its-like", token.range, QStringLiteral("A form may not stand in a form."),
                          QStringLiteral("Close the first <form> in front of this one."));
-        ++m_ignored[nameAt(token.name)];
+        ++m_state.ignored[nameAt(token.name)];
         return false;
     }
     const qsizetype at =
-        tag == PageTag::Heading ? (top().tag == tag ? qsizetype(m_open.size()) - 1 : -1) : inScope(tag);
+        tag == PageTag::Heading ? (top().tag == tag ? qsizetype(m_state.open.size()) - 1 : -1) : inScope(tag);
     if (at < 0)
         return true;
     m_problems.error("in-its-like", token.range,
-                     QStringLiteral("%1 may not stand in %2.").arg(shown(token.name), shown(m_open[size_t(at)])),
-                     QStringLiteral("Close %1 first.").arg(shown(m_open[size_t(at)])));
-    ++m_ignored[nameAt(m_open[size_t(at)].name)];
-    m_open.erase(m_open.begin() + at);
+                     QStringLiteral("%1 may not stand in %2.").arg(shown(token.name), shown(m_state.open[size_t(at)])),
+                     QStringLiteral("Close %1 first.").arg(shown(m_state.open[size_t(at)])));
+    ++m_state.ignored[nameAt(m_state.open[size_t(at)].name)];
+    m_state.open.erase(m_state.open.begin() + at);
     return true;
 }
 
 void PageTree::closeListItem(const html::Token &token, PageTag tag)
 {
-    for (auto at = qsizetype(m_open.size()) - 1; at >= 0; --at) {
-        const OpenElement &one = m_open[size_t(at)];
+    for (auto at = qsizetype(m_state.open.size()) - 1; at >= 0; --at) {
+        const OpenElement &one = m_state.open[size_t(at)];
         if (one.tag == tag) {
             closeTo(at, &token);
             return;
@@ -324,7 +324,7 @@ void PageTree::closeListItem(const html::Token &token, PageTag tag)
 
 void PageTree::closeParagraph(const html::Token &token)
 {
-    m_ended.insert(QStringLiteral("p"), token.range);
+    m_state.ended.insert(QStringLiteral("p"), token.range);
     closeTo(inScope(PageTag::P, true), &token);
 }
 
@@ -428,7 +428,7 @@ void PageTree::push(const html::Token &token, int element, Space space, bool imp
     opened.holdsHtml = space != Space::Html && takesHtml(m_text.mid(token.name.start, token.name.length));
     opened.judged = element > 0 && !rule.deprecated && space == Space::Html && rule.model.judged();
     opened.model = &rule.model;
-    const OpenElement *parent = m_open.empty() ? nullptr : &m_open.back();
+    const OpenElement *parent = m_state.open.empty() ? nullptr : &m_state.open.back();
     if (parent) {
         if (rule.variants.contains(parent->element))
             opened.model = &*rule.variants.constFind(parent->element);
@@ -446,7 +446,7 @@ void PageTree::push(const html::Token &token, int element, Space space, bool imp
     opened.plus |= rule.plus;
     if (space != Space::Html && opened.holdsHtml)
         opened.judged = false;
-    m_open.push_back(opened);
+    m_state.open.push_back(opened);
 }
 
 /// Whether the child may stand next; the parent's state goes on.
@@ -466,7 +466,7 @@ bool PageTree::fits(OpenElement &parent, int child)
 
 void PageTree::accept(const html::Token &token, int child)
 {
-    if (m_open.empty() || !m_open.back().judged)
+    if (m_state.open.empty() || !m_state.open.back().judged)
         return;
     OpenElement &parent = top();
     if (tellForbidden(token, parent, child))
@@ -509,7 +509,7 @@ bool PageTree::tellForbidden(const html::Token &token, const OpenElement &parent
     const NameSet interactive = m_vocabulary.group(QStringLiteral("interactive"));
     if (interactive.test(size_t(child)) && !m_interactive && m_vocabulary.rule(child).tag != PageTag::A)
         return false;
-    for (auto outer = m_open.rbegin(); outer != m_open.rend(); ++outer) {
+    for (auto outer = m_state.open.rbegin(); outer != m_state.open.rend(); ++outer) {
         const NameSet &without = m_vocabulary.rule(outer->element).without;
         const bool named = without.test(size_t(child));
         if (!named)
@@ -541,10 +541,11 @@ void PageTree::text(const html::Token &token)
 {
     if (token.blank)
         return;
-    const bool beforeBody = !m_body && (m_open.empty() || top().tag == PageTag::Html || top().tag == PageTag::Head);
-    if (!inForeign() && (beforeBody || m_afterBody))
+    const bool beforeBody =
+        !m_state.body && (m_state.open.empty() || top().tag == PageTag::Html || top().tag == PageTag::Head);
+    if (!inForeign() && (beforeBody || m_state.afterBody))
         ensureBody(token);
-    if (m_open.empty())
+    if (m_state.open.empty())
         return;
     fill();
     OpenElement &parent = top();

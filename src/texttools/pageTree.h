@@ -2,6 +2,7 @@
 
 #include "texttools/pageProblems.h"
 #include "texttools/pageRules.h"
+#include "texttools/pageShift.h"
 
 #include <vector>
 
@@ -25,6 +26,11 @@ struct OpenElement {
     NameSet without;                      ///< what may not stand in it at any depth
     NameSet plus;                         ///< what may stand in it at any depth
     QList<int> seen;                      ///< children that must be there, or may be there only once
+
+    /// Whether the rest of the page sees no difference between this one, of a text that was changed so, and an older
+    /// one.
+    bool isSame(const OpenElement &older, const PageShift &shift) const;
+    void move(const PageShift &shift);
 };
 
 /// The open elements of a page while it is read, by the rules by which a browser builds its tree; tells what stands
@@ -32,7 +38,25 @@ struct OpenElement {
 class PageTree
 {
 public:
+    /// All that is known of what has been read.
+    struct State {
+        std::vector<OpenElement> open;
+        QHash<QString, int> ignored;       ///< start tags that were passed over, whose end tags are, too
+        QHash<QString, int> reopened;      ///< formatting that a browser opens again behind what closed it out of turn
+        QHash<QString, html::Range> ended; ///< what ended an element before its own end tag, by the element's name
+        bool head = false;
+        bool body = false;
+        bool wholePage = false;
+        bool afterBody = false;
+        bool xml = false;
+
+        bool isSame(const State &older, const PageShift &shift) const;
+        void move(const PageShift &shift);
+    };
+
     PageTree(QStringView text, const Vocabulary &vocabulary, PageProblems &problems);
+    const State &state() const { return m_state; }
+    void setState(const State &state) { m_state = state; }
 
     /// What a start tag came to be.
     struct Opened {
@@ -51,19 +75,19 @@ public:
 
     bool inForeign() const;
     bool inside(PageTag tag) const; ///< an element of that kind is open
-    bool hasBody() const { return m_body; }
-    bool wholePage() const { return m_wholePage; } ///< html, head or body have a tag
-    const OpenElement *current() const { return m_open.empty() ? nullptr : &m_open.back(); }
+    bool hasBody() const { return m_state.body; }
+    bool wholePage() const { return m_state.wholePage; } ///< html, head or body have a tag
+    const OpenElement *current() const { return m_state.open.empty() ? nullptr : &m_state.open.back(); }
     /// Tells that the open elements hold something that is seen or heard.
     void fill();
     /// Whether the element is interactive only because of its attributes, which the tree does not know.
     void setInteractive(bool interactive) { m_interactive = interactive; }
-    void setXml(bool xml) { m_xml = xml; }
+    void setXml(bool xml) { m_state.xml = xml; }
     /// Marks the element that was opened last as one with a name of its own.
     void setTitled();
     /// An element in whose place another one may stand for what is looked at: `link` in a body.
-    int parentElement() const { return m_open.empty() ? 0 : m_open.back().element; }
-    bool inHead() const { return !m_open.empty() && m_open.back().tag == PageTag::Head; }
+    int parentElement() const { return m_state.open.empty() ? 0 : m_state.open.back().element; }
+    bool inHead() const { return !m_state.open.empty() && m_state.open.back().tag == PageTag::Head; }
 
 private:
     using Space = OpenElement::Space;
@@ -113,7 +137,7 @@ private:
     qsizetype inTableScope(PageTag tag) const;
     void ignore(const html::Token &token);
 
-    OpenElement &top() { return m_open.back(); }
+    OpenElement &top() { return m_state.open.back(); }
     QString nameAt(html::Range range) const { return m_text.mid(range.start, range.length).toString().toLower(); }
     QString shown(html::Range range) const { return u'<' + nameAt(range) + u'>'; }
     QString shown(const OpenElement &element) const;
@@ -122,16 +146,6 @@ private:
     QStringView m_text;
     const Vocabulary &m_vocabulary;
     PageProblems &m_problems;
-    std::vector<OpenElement> m_open;
-    QHash<QString, int> m_ignored;       ///< start tags that were passed over, whose end tags are, too
-    QHash<QString, int> m_reopened;      ///< formatting that a browser opens again behind what closed it out of turn
-    QHash<QString, html::Range> m_ended; ///< what ended an element before its own end tag, by the element's name
-    bool m_head = false;
-    bool m_body = false;
-    bool m_headTag = false;
-    bool m_wholePage = false;
-    bool m_afterBody = false;
-    bool m_form = false;
-    bool m_interactive = false;
-    bool m_xml = false;
+    State m_state;
+    bool m_interactive = false; ///< of the tag that is being read
 };

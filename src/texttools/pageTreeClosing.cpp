@@ -17,14 +17,25 @@ bool isBarrier(PageTag tag)
         return false;
     }
 }
+
+/// Takes one away of what is counted under a name; false where there is none.
+bool takeOne(QHash<QString, int> &counts, const QString &name)
+{
+    const auto found = counts.find(name);
+    if (found == counts.end())
+        return false;
+    if (--*found == 0)
+        counts.erase(found);
+    return true;
+}
 } // namespace
 
 /// The innermost open element that is wanted, unless a barrier stands in front of it; -1 for none.
 template <class Wanted, class Barrier>
 qsizetype PageTree::lookUp(Wanted wanted, Barrier barrier) const
 {
-    for (auto at = qsizetype(m_open.size()) - 1; at >= 0; --at) {
-        const OpenElement &one = m_open[size_t(at)];
+    for (auto at = qsizetype(m_state.open.size()) - 1; at >= 0; --at) {
+        const OpenElement &one = m_state.open[size_t(at)];
         if (one.space == Space::Html && wanted(one))
             return at;
         if (one.space == Space::Html ? barrier(one) : one.holdsHtml)
@@ -52,7 +63,7 @@ qsizetype PageTree::inTableScope(PageTag tag) const
 
 void PageTree::endTag(const html::Token &token)
 {
-    if (m_open.empty() || top().space == Space::Html) {
+    if (m_state.open.empty() || top().space == Space::Html) {
         const int element = m_vocabulary.element(m_text.mid(token.name.start, token.name.length));
         endHtmlTag(token, element, m_vocabulary.rule(element).tag);
     } else {
@@ -63,8 +74,8 @@ void PageTree::endTag(const html::Token &token)
 void PageTree::endForeign(const html::Token &token)
 {
     const QString name = nameAt(token.name);
-    for (auto at = qsizetype(m_open.size()) - 1; at >= 0; --at) {
-        const OpenElement &one = m_open[size_t(at)];
+    for (auto at = qsizetype(m_state.open.size()) - 1; at >= 0; --at) {
+        const OpenElement &one = m_state.open[size_t(at)];
         if (nameAt(one.name) == name && !one.implied) {
             closeTo(at, &token);
             return;
@@ -107,24 +118,24 @@ void PageTree::endStructure(const html::Token &token, PageTag tag)
     }
     if (inside(PageTag::Frameset))
         return;
-    if (!m_body)
+    if (!m_state.body)
         ensureBody(token);
     const qsizetype body = lookUp([](const OpenElement &one) { return one.tag == PageTag::Body; },
                                   [](const OpenElement &) { return false; });
     if (body >= 0)
         closeTo(body + 1, &token);
-    m_afterBody = true;
+    m_state.afterBody = true;
 }
 
 /// A browser makes an empty paragraph of an end tag without a start.
 void PageTree::endParagraph(const html::Token &token)
 {
-    if (m_ignored.value(QStringLiteral("p")) > 0 || !m_problems.wants("stray-end-tag"))
+    if (m_state.ignored.value(QStringLiteral("p")) > 0 || !m_problems.wants("stray-end-tag"))
         return;
     PageProblem &problem =
         m_problems.error("stray-end-tag", token.range, QStringLiteral("</p> without a <p> that is open."));
-    const auto by = m_ended.constFind(QStringLiteral("p"));
-    if (by != m_ended.constEnd())
+    const auto by = m_state.ended.constFind(QStringLiteral("p"));
+    if (by != m_state.ended.constEnd())
         problem.remedy = QStringLiteral("The <p> ended in front of %1, which may not stand in it.")
                              .arg(m_text.mid(by->start, qMin<qsizetype>(by->length, 30)).toString());
     problem.fix = {{token.range.start, token.range.length, QString()}};
@@ -154,14 +165,8 @@ qsizetype PageTree::findOpen(const html::Token &token, int element, PageTag tag)
 void PageTree::tellStray(const html::Token &token)
 {
     const QString name = nameAt(token.name);
-    if (int &ignored = m_ignored[name]; ignored > 0) {
-        --ignored;
+    if (takeOne(m_state.ignored, name) || takeOne(m_state.reopened, name))
         return;
-    }
-    if (int &reopened = m_reopened[name]; reopened > 0) {
-        --reopened;
-        return;
-    }
     if (!m_problems.wants("stray-end-tag"))
         return;
     const bool isVoid = m_vocabulary.rule(m_vocabulary.element(name)).isVoid;
@@ -177,13 +182,13 @@ void PageTree::tellStray(const html::Token &token)
 void PageTree::endFormatting(const html::Token &token, qsizetype at)
 {
     bool block = false;
-    for (size_t i = size_t(at) + 1; i < m_open.size(); ++i)
-        block |= isSpecial(m_open[i].tag);
+    for (size_t i = size_t(at) + 1; i < m_state.open.size(); ++i)
+        block |= isSpecial(m_state.open[i].tag);
     if (block) { // what stands in it stays open
-        const OpenElement ended = m_open[size_t(at)];
+        const OpenElement ended = m_state.open[size_t(at)];
         tellUnclosed(ended, &token);
-        m_open.erase(m_open.begin() + at);
-        ++m_reopened[nameAt(ended.name)];
+        m_state.open.erase(m_state.open.begin() + at);
+        ++m_state.reopened[nameAt(ended.name)];
         return;
     }
     closeTo(at, &token);
@@ -192,7 +197,7 @@ void PageTree::endFormatting(const html::Token &token, qsizetype at)
 /// Closes the element at that place and all that is open in it. What has an end tag of its own is told of.
 void PageTree::closeTo(qsizetype at, const html::Token *by)
 {
-    const auto last = [&] { return qsizetype(m_open.size()) - 1; };
+    const auto last = [&] { return qsizetype(m_state.open.size()) - 1; };
     while (last() > at) {
         if (by && !mayLackEndTag(top().tag))
             tellUnclosed(top(), by);
@@ -213,7 +218,7 @@ void PageTree::tellUnclosed(const OpenElement &ended, const html::Token *by)
     if (ended.implied)
         return;
     if (ended.tag == PageTag::Formatting || ended.tag == PageTag::A || !isSpecial(ended.tag))
-        ++m_reopened[nameAt(ended.name)];
+        ++m_state.reopened[nameAt(ended.name)];
     if (!m_problems.wants("unclosed"))
         return;
     const QString name = nameAt(ended.name);
@@ -229,8 +234,8 @@ void PageTree::tellUnclosed(const OpenElement &ended, const html::Token *by)
 
 void PageTree::pop(const html::Token *by)
 {
-    const OpenElement ended = std::move(m_open.back());
-    m_open.pop_back();
+    const OpenElement ended = std::move(m_state.open.back());
+    m_state.open.pop_back();
     tellMissing(ended, by);
 }
 
@@ -241,7 +246,7 @@ void PageTree::tellMissing(const OpenElement &ended, const html::Token *)
         return;
     const ElementRule &rule = m_vocabulary.rule(ended.element);
     for (const int must : rule.must)
-        if (!ended.seen.contains(must) && (rule.tag != PageTag::Head || m_wholePage) &&
+        if (!ended.seen.contains(must) && (rule.tag != PageTag::Head || m_state.wholePage) &&
             m_problems.wants("missing-child"))
             m_problems.error("missing-child", ended.start,
                              QStringLiteral("%1 lacks <%2>.").arg(shown(ended), m_vocabulary.nameOf(must)));
@@ -256,7 +261,7 @@ void PageTree::finish(qsizetype end)
 {
     html::Token last;
     last.range = {end, 0};
-    while (!m_open.empty()) {
+    while (!m_state.open.empty()) {
         if (!top().implied && !mayLackEndTag(top().tag))
             tellUnclosed(top(), nullptr);
         pop(&last);
