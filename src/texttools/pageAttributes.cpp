@@ -14,6 +14,14 @@ bool isNamed(QStringView name, const char *other)
     const QLatin1String word(other);
     return name.size() == word.size() && name.compare(word, Qt::CaseInsensitive) == 0;
 }
+/// Whether the words of an attribute are names of other elements.
+bool pointsToElements(QStringView name, QStringView element)
+{
+    static const NameTable names =
+        NameTable::of("aria-activedescendant aria-controls aria-describedby aria-details aria-errormessage "
+                      "aria-flowto aria-labelledby aria-owns commandfor headers itemref popovertarget");
+    return names.find(name) > 0 || (isNamed(name, "for") && isNamed(element, "output"));
+}
 } // namespace
 
 void PageAttributes::take(const html::Token &token)
@@ -84,14 +92,17 @@ bool PageAttributes::isFree(QStringView name, const PageTree::Opened &opened)
     return opened.tag == PageTag::Html && startsWith(name, "xmlns:");
 }
 
-void PageAttributes::checkName(const html::Token &, const PageTree::Opened &opened, const Taken &taken)
+void PageAttributes::checkName(const html::Token &token, const PageTree::Opened &opened, const Taken &taken)
 {
     const QStringView name = m_text.mid(taken.attribute->name.start, taken.attribute->name.length);
     const AttributeRule *rule = taken.number > 0 ? m_vocabulary.attributeOf(opened.element, taken.number) : nullptr;
-    if (startsWith(name, "aria-") && m_rules.isAria(name))
+    if (!rule && startsWith(name, "aria-") && m_rules.isAria(name))
         return;
+    if ((isNamed(name, "aria-label") || isNamed(name, "aria-labelledby")) && opened.judged &&
+        !has(QLatin1String("role")))
+        checkNaming(token, taken);
     if (isNamed(name, "role")) {
-        checkRole(taken);
+        checkRole(token, opened, taken);
         return;
     }
     if (!rule) {
@@ -140,13 +151,54 @@ void PageAttributes::checkValue(const Taken &taken, const AttributeRule &rule)
                         attribute.end() - attribute.name.start - attribute.name.length, QString()}};
 }
 
-void PageAttributes::checkRole(const Taken &taken)
+void PageAttributes::checkRole(const html::Token &token, const PageTree::Opened &opened, const Taken &taken)
 {
-    for (const QStringView word : wordsOfValue(valueOf(*taken.attribute)))
+    const QList<QStringView> words = wordsOfValue(valueOf(*taken.attribute));
+    // Fields and headings of the language tell their state by themselves.
+    const bool telling = opened.tag == PageTag::Input || opened.tag == PageTag::Option ||
+                         opened.tag == PageTag::Select || opened.tag == PageTag::Heading;
+    if (words.size() == 1 && !telling)
+        checkState(token, words.constFirst());
+    for (const QStringView word : words)
         if (!m_rules.isRole(word) && m_problems.wants("value"))
             m_problems.error("value", {word.data() - m_text.data(), word.size()},
                              QStringLiteral("\"%1\" is no role.").arg(word.toString()),
                              QStringLiteral("A role of ARIA, such as button or navigation."));
+}
+
+/// What is no more than text or a box to everybody takes no name, unless it has a role.
+void PageAttributes::checkNaming(const html::Token &token, const Taken &taken)
+{
+    static const NameTable plain =
+        NameTable::of("abbr b bdi bdo cite code data del div em figcaption i ins kbd legend mark "
+                      "p pre q rp rt s samp small span strong sub sup time u var");
+    const QStringView element = m_text.mid(token.name.start, token.name.length);
+    if (plain.find(element) == 0 && !(isNamed(element, "a") && !has(QLatin1String("href"))))
+        return;
+    if (m_problems.wants("attribute-out-of-place"))
+        m_problems.error(
+            "attribute-out-of-place", whole(*taken.attribute),
+            QStringLiteral("<%1> takes no %2 where it has no role.")
+                .arg(element.toString().toLower(),
+                     m_text.mid(taken.attribute->name.start, taken.attribute->name.length).toString().toLower()),
+            QStringLiteral("It may stand with role."));
+}
+
+/// Some roles are of no use to anybody without a state.
+void PageAttributes::checkState(const html::Token &token, QStringView role)
+{
+    static const NameTable checked = NameTable::of("checkbox menuitemcheckbox menuitemradio radio switch");
+    static const NameTable measured = NameTable::of("meter scrollbar slider");
+    const QLatin1String state(checked.find(role) > 0      ? "aria-checked"
+                              : measured.find(role) > 0   ? "aria-valuenow"
+                              : isNamed(role, "combobox") ? "aria-expanded"
+                              : isNamed(role, "heading")  ? "aria-level"
+                                                          : "");
+    if (state.isEmpty() || has(state) || !m_problems.wants("missing-attribute"))
+        return;
+    m_problems.error("missing-attribute", token.range,
+                     QStringLiteral("What has the role %1 lacks %2.").arg(role.toString().toLower(), state),
+                     QStringLiteral("%1=\"...\"").arg(state));
 }
 
 const PageAttributes::Taken *PageAttributes::taken(int number) const
@@ -246,11 +298,10 @@ void PageAttributes::collect(const html::Token &token, const PageTree::Opened &o
             m_references.add(PageName::Kind::ToDatalist, attribute.value, attribute.name);
         } else if (isNamed(name, "form")) {
             m_references.add(PageName::Kind::ToForm, attribute.value, attribute.name);
-        } else if (isNamed(name, "aria-labelledby") || isNamed(name, "aria-describedby") ||
-                   isNamed(name, "aria-controls") || isNamed(name, "headers") ||
-                   (isNamed(name, "for") && isNamed(element, "output"))) {
+        } else if (pointsToElements(name, element)) {
+            const auto kind = isNamed(name, "itemref") ? PageName::Kind::ItemReference : PageName::Kind::Reference;
             for (const QStringView word : wordsOfValue(valueOf(attribute)))
-                m_references.add(PageName::Kind::Reference, {word.data() - m_text.data(), word.size()}, attribute.name);
+                m_references.add(kind, {word.data() - m_text.data(), word.size()}, attribute.name);
         }
     }
 }

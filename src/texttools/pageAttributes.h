@@ -32,7 +32,9 @@ private:
     bool isFree(QStringView name, const PageTree::Opened &opened);
     void tellUnknown(const Taken &taken, const PageTree::Opened &opened);
     void checkValue(const Taken &taken, const AttributeRule &rule);
-    void checkRole(const Taken &taken);
+    void checkRole(const html::Token &token, const PageTree::Opened &opened, const Taken &taken);
+    void checkNaming(const html::Token &token, const Taken &taken);
+    void checkState(const html::Token &token, QStringView role);
     void checkDemands(const html::Token &token, const ElementRule &rule);
     void checkConditions(const ElementRule &rule);
     bool holds(const AttributeTest &test) const;

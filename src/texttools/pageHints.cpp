@@ -22,6 +22,20 @@ bool isKnownLinkKind(QStringView word)
         "image_src archives");
     return names.find(word) > 0;
 }
+/// The names of what pages tell of themselves; the list is open, and names with a mark in them are those of some
+/// service.
+bool isKnownMetaName(QStringView word)
+{
+    static const NameTable names = NameTable::of(
+        "abstract application-name author bingbot category classification color-scheme copyright coverage creator "
+        "date description distribution format-detection formatter generator geo googlebot handheldfriendly icbm "
+        "identifier-url keywords language mobileoptimized mobile-web-app-capable owner pinterest progid publisher "
+        "rating referrer reply-to resource-type revised revisit-after robots slurp subject summary "
+        "supported-color-schemes "
+        "theme-color title topic url verify-v1 version viewport");
+    return names.find(word) > 0 || word.contains(u':') || word.contains(u'.') || word.contains(u'-') ||
+           word.contains(u'_');
+}
 } // namespace
 
 void PageHints::startTag(const html::Token &token, const PageTree::Opened &opened, const PageAttributes &attributes)
@@ -52,6 +66,25 @@ void PageHints::startTag(const html::Token &token, const PageTree::Opened &opene
         m_state.linkFilled = true; // nobody can see from here what it shows
     }
     checkWords(attributes, token, opened);
+    if (!opened.foreign && isNamed(name, "iframe") && opened.judged)
+        checkFrame(token, attributes);
+    if (const auto told = attributes.value(QLatin1String("name")); told && !opened.foreign && isNamed(name, "meta") &&
+                                                                   !told->isEmpty() && !isKnownMetaName(*told) &&
+                                                                   m_problems.wants("meta-name"))
+        m_problems.hint("meta-name", {told->data() - m_text.data(), told->size()},
+                        QStringLiteral("\"%1\" is a name that few know.").arg(told->toString()),
+                        QStringLiteral("description, author, viewport and others."));
+}
+
+void PageHints::checkFrame(const html::Token &token, const PageAttributes &attributes)
+{
+    const bool named = attributes.has(QLatin1String("title")) || attributes.has(QLatin1String("aria-label")) ||
+                       attributes.has(QLatin1String("aria-labelledby")) ||
+                       attributes.has(QLatin1String("aria-hidden")) || attributes.has(QLatin1String("hidden"));
+    if (!named && m_problems.wants("frame-title"))
+        m_problems.hint("frame-title", token.range,
+                        QStringLiteral("Who does not see this frame is not told what it shows."),
+                        QStringLiteral("A title that tells it."));
 }
 
 void PageHints::endTag(const html::Token &token)

@@ -31,6 +31,7 @@ public:
     void text() { m_state.linkFilled = true; }
 
 private:
+    void checkFrame(const html::Token &token, const PageAttributes &attributes);
     void checkHeading(const html::Token &token);
     void checkWords(const PageAttributes &attributes, const html::Token &token, const PageTree::Opened &opened);
     QStringView nameOf(const html::Token &token) const { return m_text.mid(token.name.start, token.name.length); }

@@ -13,7 +13,7 @@ PageReader::PageReader(QStringView text, const PageRules &rules, const Vocabular
       m_references(text),
       m_attributes(text, rules, vocabulary, problems, m_references),
       m_hints(text, problems),
-      m_specials(text, m_tree, problems),
+      m_specials(text, m_tree, m_references, problems),
       m_files(text, files)
 {
 }
@@ -39,14 +39,16 @@ PageReader::State PageReader::state() const
 
 bool PageReader::State::isSame(const State &older, const PageShift &shift) const
 {
-    return otherBase == older.otherBase && doctype == older.doctype && xml == older.xml && specials == older.specials &&
-           shift.moved(older.first) == first && hints.isSame(older.hints, shift) && tree.isSame(older.tree, shift);
+    return otherBase == older.otherBase && doctype == older.doctype && xml == older.xml &&
+           specials.isSame(older.specials, shift) && shift.moved(older.first) == first &&
+           hints.isSame(older.hints, shift) && tree.isSame(older.tree, shift);
 }
 
 void PageReader::State::move(const PageShift &shift)
 {
     tree.move(shift);
     hints.move(shift);
+    specials.move(shift);
     shift.move(first);
 }
 

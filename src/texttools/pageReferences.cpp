@@ -33,7 +33,7 @@ void PageReferences::addId(html::Range value, QStringView element, bool field)
 
 void PageReferences::add(Kind kind, html::Range range, html::Range attribute)
 {
-    if (range.length > 0 || kind >= Kind::Reference)
+    if (range.length > 0 || kind >= Kind::Property)
         m_names.append({kind, range, attribute});
 }
 
@@ -48,8 +48,11 @@ void PageReferences::addLink(html::Range value, html::Range attribute)
 void PageNames::add(const QList<PageName> &names)
 {
     for (const PageName &name : names) {
+        m_moreOfItems |= name.kind == Kind::ItemReference;
         if (name.kind >= Kind::Reference)
             m_references.append(name);
+        else if (name.kind == Kind::Property)
+            m_properties.append(name.range);
         else if (name.kind == Kind::Anchor)
             m_anchors.insert(view(name.range));
         else if (name.kind == Kind::Map)
@@ -94,6 +97,10 @@ bool PageNames::leadsNowhere(const PageName &reference) const
 
 void PageNames::finish()
 {
+    for (const html::Range property : std::as_const(m_properties))
+        if (!m_moreOfItems && m_problems.wants("property-of-nothing"))
+            m_problems.error("property-of-nothing", property, QStringLiteral("This itemprop is a property of no item."),
+                             QStringLiteral("An element around it with itemscope."));
     for (const PageName &reference : std::as_const(m_references)) {
         if (!leadsNowhere(reference) || !m_problems.wants("leads-nowhere"))
             continue;

@@ -7,13 +7,15 @@
 /// A name that a page gives one of its elements, or what points to one.
 struct PageName {
     enum class Kind : quint8 {
-        Id,        ///< of an element that no reference looks at more closely
-        FormId,    ///< of a form
-        ListId,    ///< of a datalist
-        FieldId,   ///< of a field, which a label may be for
-        Anchor,    ///< the `name` of a link
-        Map,       ///< the `name` of a map
-        Reference, ///< to an element
+        Id,            ///< of an element that no reference looks at more closely
+        FormId,        ///< of a form
+        ListId,        ///< of a datalist
+        FieldId,       ///< of a field, which a label may be for
+        Anchor,        ///< the `name` of a link
+        Map,           ///< the `name` of a map
+        Property,      ///< of no item that is around it
+        Reference,     ///< to an element
+        ItemReference, ///< to an element that holds more of an item
         ToAnchor,
         ToMap,
         ToDatalist,
@@ -64,5 +66,7 @@ private:
     QHash<QStringView, PageName::Kind> m_ids; ///< of the first element that has it
     QSet<QStringView> m_anchors;
     QSet<QStringView> m_maps;
+    QList<html::Range> m_properties; ///< of no item around them
+    bool m_moreOfItems = false;      ///< items have properties elsewhere
     QList<PageName> m_references;
 };

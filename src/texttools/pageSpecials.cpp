@@ -63,6 +63,9 @@ void PageSpecials::startTag(const html::Token &token, const PageTree::Opened &op
         ++m_state.maps;
     if (isNamed(token, "figure"))
         ++m_state.figures;
+    if (isNamed(token, "time") && !attributes.has(QLatin1String("datetime")) && opened.judged)
+        m_state.time = token.range;
+    checkItem(token, attributes);
     if (!opened.judged || m_tree.inside(PageTag::Template))
         return;
     if (isNamed(token, "meta") || isNamed(token, "link"))
@@ -89,6 +92,42 @@ void PageSpecials::endTag(const html::Token &token)
         m_state.figures = qMax(0, m_state.figures - 1);
     else if (isNamed(token, "label"))
         m_state.fields = -1;
+    else if (isNamed(token, "time"))
+        checkTime(token);
+}
+
+/// A time that does not say so by an attribute is what it holds.
+void PageSpecials::checkTime(const html::Token &token)
+{
+    const html::Range tag = std::exchange(m_state.time, {});
+    if (tag.length == 0)
+        return;
+    const qsizetype start = tag.start + tag.length;
+    const QStringView text = m_text.mid(start, token.range.start - start);
+    if (text.contains(u'<') || text.contains(u'&') || isMoment(text))
+        return;
+    tell("value", text.isEmpty() ? tag : html::Range{start, text.size()},
+         QStringLiteral("What <time> holds is no date or time that programs can read."),
+         QStringLiteral("A datetime as in <time datetime=\"2026-04-05\">."));
+}
+
+/// Properties belong to an item around them, or to one that names an element around them by itemref.
+void PageSpecials::checkItem(const html::Token &token, const PageAttributes &attributes)
+{
+    const bool item = attributes.has(QLatin1String("itemscope"));
+    if (const auto property = attributes.value(QLatin1String("itemprop")); property && !m_tree.inItem(token))
+        m_references.add(PageName::Kind::Property, rangeOf(*property));
+    for (const char *name : {"itemtype", "itemref", "itemid"})
+        if (const auto value = attributes.value(QLatin1String(name)); value && !item)
+            tell("attribute-out-of-place", rangeOf(*value),
+                 QStringLiteral("%1 counts for nothing without itemscope.").arg(QLatin1String(name)),
+                 QStringLiteral("It may stand with itemscope."));
+    if (const auto id = attributes.value(QLatin1String("itemid"));
+        id && item && !attributes.has(QLatin1String("itemtype")))
+        tell("attribute-out-of-place", rangeOf(*id), QStringLiteral("itemid counts for nothing without itemtype."),
+             QStringLiteral("It may stand with itemtype."));
+    if (item)
+        m_tree.setItem(token);
 }
 
 /// In the body, meta and link are for properties alone, and for what a page may load late.

@@ -15,11 +15,19 @@ public:
         int figures = 0;             ///< open ones
         int maps = 0;                ///< open ones
         int fields = -1;             ///< fields in the open label; -1 without a label
-        bool operator==(const State &) const = default;
+        html::Range time;            ///< the tag of the open time without datetime; length 0 for none
+
+        bool isSame(const State &older, const PageShift &shift) const
+        {
+            return main == older.main && mediaHasFile == older.mediaHasFile && columnsCounted == older.columnsCounted &&
+                   figures == older.figures && maps == older.maps && fields == older.fields &&
+                   (time.length == 0 || !shift.touches(older.time)) && shift.moved(older.time) == time;
+        }
+        void move(const PageShift &shift) { shift.move(time); }
     };
 
-    PageSpecials(QStringView text, const PageTree &tree, PageProblems &problems)
-        : m_text(text), m_tree(tree), m_problems(problems)
+    PageSpecials(QStringView text, PageTree &tree, PageReferences &references, PageProblems &problems)
+        : m_text(text), m_tree(tree), m_references(references), m_problems(problems)
     {
     }
     const State &state() const { return m_state; }
@@ -36,6 +44,8 @@ private:
     void checkLabel(const html::Token &token, const PageTree::Opened &opened, const PageAttributes &attributes);
     void checkInput(const PageAttributes &attributes);
     void checkArea(const html::Token &token, const PageAttributes &attributes);
+    void checkItem(const html::Token &token, const PageAttributes &attributes);
+    void checkTime(const html::Token &token);
     void checkMain(const html::Token &token, const PageAttributes &attributes);
     void checkPicture(const html::Token &token, const PageAttributes &attributes);
     void tell(const char *rule, html::Range range, const QString &message, const QString &remedy);
@@ -46,7 +56,8 @@ private:
     }
 
     QStringView m_text;
-    const PageTree &m_tree;
+    PageTree &m_tree;
+    PageReferences &m_references;
     PageProblems &m_problems;
     State m_state;
 };

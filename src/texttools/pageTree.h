@@ -16,7 +16,8 @@ struct OpenElement {
     bool judged = true;     ///< what it holds is looked at
     bool holdsHtml = false; ///< an element of svg or math in which HTML may stand
     bool filled = false;    ///< something stands in it that a reader sees or hears
-    bool titled = false;    ///< a label or title names it
+    bool item = false;      ///< it is an item, of which the elements in it tell properties
+    bool inItem = false;    ///< it stands in one
     bool textTold = false;  ///< text that may not stand in it has been told of
     html::Range start;      ///< of its start tag; where it is implied, of what implied it
     html::Range name;
@@ -83,8 +84,10 @@ public:
     /// Whether the element is interactive only because of its attributes, which the tree does not know.
     void setInteractive(bool interactive) { m_interactive = interactive; }
     void setXml(bool xml) { m_state.xml = xml; }
-    /// Marks the element that was opened last as one with a name of its own.
-    void setTitled();
+    /// The element of a tag that was read just now is an item.
+    void setItem(const html::Token &token);
+    /// Whether the element of that tag stands in an item.
+    bool inItem(const html::Token &token) const;
     /// An element in whose place another one may stand for what is looked at: `link` in a body.
     int parentElement() const { return m_state.open.empty() ? 0 : m_state.open.back().element; }
     bool inHead() const { return !m_state.open.empty() && m_state.open.back().tag == PageTag::Head; }

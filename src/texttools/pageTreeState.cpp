@@ -6,8 +6,8 @@
 bool OpenElement::isSame(const OpenElement &older, const PageShift &shift) const
 {
     return element == older.element && tag == older.tag && space == older.space && implied == older.implied &&
-           judged == older.judged && holdsHtml == older.holdsHtml && filled == older.filled && titled == older.titled &&
-           textTold == older.textTold && model == older.model && state == older.state &&
+           judged == older.judged && holdsHtml == older.holdsHtml && filled == older.filled && item == older.item &&
+           inItem == older.inItem && textTold == older.textTold && model == older.model && state == older.state &&
            transparent == older.transparent && without == older.without && plus == older.plus && seen == older.seen &&
            !shift.touches(older.name) && shift.moved(older.name) == name && shift.moved(older.start) == start;
 }

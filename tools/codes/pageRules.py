@@ -4,7 +4,7 @@ each document type of HTML 4."""
 import re
 
 import dtd
-from knowledge import Joiner
+from knowledge import ARIA, Joiner
 from pageModels import Declaration, members, model
 from tables import names, rows, source
 
@@ -138,9 +138,20 @@ def _is_flag(attribute):
     return attribute.bare and (not attribute.valued or [text for text, _ in attribute.values] == [attribute.name])
 
 
+def _type_of_aria(attribute):
+    """The states that can be told; "undefined" stands for none of them."""
+    values = [value for value, _ in attribute.values]
+    if not values:
+        return "any"
+    kind = "words:" if attribute.name in ("aria-relevant", "aria-dropeffect") else "one:"
+    return kind + "|".join(values + ["undefined"])
+
+
 def _type_of(attribute, kind):
     if attribute is not None and _is_flag(attribute):
         return "flag"
+    if attribute is not None and attribute.group == ARIA:
+        return _type_of_aria(attribute)
     # An encoding other than UTF-8 is judged by the bytes of the page, not by its name.
     return "any" if attribute is not None and attribute.name == "charset" else _type(kind.get("type"))
 

@@ -51,7 +51,7 @@ TEST(PageCheck, FindsUnknownNames)
         {"<foo>x</foo>", "unknown-element@<foo>"},
         {"<x-foo bar=\"1\">x</x-foo>", ""},
         {"<p foo=\"1\">x</p>", "unknown-attribute@foo=\"1\""},
-        {"<p data-foo=\"1\" aria-label=\"x\" onclick=\"x()\" xml:lang=\"en\">x</p>", ""},
+        {"<p data-foo=\"1\" aria-hidden=\"true\" onclick=\"x()\" xml:lang=\"en\">x</p>", ""},
         {"<p onfoo=\"1\">x</p>", "unknown-attribute@onfoo=\"1\""},
         {"<p aria-foo=\"1\">x</p>", "unknown-attribute@aria-foo=\"1\""},
         {"<svg><foo bar=\"1\"/><circle r=\"5\"/></svg>", ""},
@@ -185,7 +185,7 @@ TEST(PageCheck, FindsMissingAttributes)
         {"<input type=\"image\">", "missing-attribute@<input type=\"image\">"},
         {"<a target=\"_blank\">x</a>", "missing-attribute@<a target=\"_blank\">"},
         {"<input type=\"text\" checked>", "attribute-out-of-place@checked"},
-        {"<iframe src=\"x\"></iframe><embed>", ""},
+        {"<iframe src=\"x\" title=\"y\"></iframe><embed>", ""},
     });
 }
 
@@ -206,6 +206,57 @@ TEST(PageCheck, KnowsTheRulesOfSingleElements)
         {"<map name=\"m\"><area shape=\"circle\" coords=\"1,2\" href=\"#\" alt=\"x\"></map>", "value@1,2"},
         {"<main>x</main><main>y</main>", "once@<main>"},
         {"<main>x</main><main hidden>y</main>", ""},
+    });
+}
+
+TEST(PageCheck, ReadsTheTextOfTimes)
+{
+    expectFound({
+        {"<time>2026-04-05</time> <time>14:30</time> <time> 2026 </time> <time>PT4H</time>", ""},
+        {"<time>5 April</time>", "value@5 April"},
+        {"<time></time>", "value@<time>"},
+        {"<time datetime=\"2026-04-05\">5 April</time>", ""},
+        {"<time>14&colon;30</time>", ""}, // what it comes to is not looked up
+    });
+}
+
+TEST(PageCheck, KnowsWhatPropertiesBelongTo)
+{
+    expectFound({
+        {"<p itemscope><b itemprop=\"a\">x</b></p>", ""},
+        {"<p itemscope><span><meta itemprop=\"a\" content=\"b\"></span></p>", ""},
+        {"<p><b itemprop=\"a\">x</b></p>", "property-of-nothing@a"},
+        {"<p itemscope itemprop=\"a\">x</p>", "property-of-nothing@a"},
+        {"<p itemscope>x</p><p itemprop=\"a\">y</p>", "property-of-nothing@a"},
+        {"<p itemscope itemref=\"r\">x</p><p id=\"r\" itemprop=\"a\">y</p>", ""},
+        {"<p itemscope itemref=\"r\">x</p>", "leads-nowhere@r"},
+        {"<p itemtype=\"http://a.org/b\">x</p>", "attribute-out-of-place@http://a.org/b"},
+        {"<p itemscope itemid=\"urn:c\">x</p>", "attribute-out-of-place@urn:c"},
+        {"<p itemscope itemtype=\"http://a.org/b\" itemid=\"urn:c\">x</p>", ""},
+    });
+}
+
+TEST(PageCheck, LooksAtStatesForAssistiveTechnology)
+{
+    expectFound({
+        {"<p aria-hidden=\"true\" aria-live=\"polite\" aria-relevant=\"additions text\">x</p>", ""},
+        {"<p aria-hidden=\"yes\">x</p>", "value@yes"},
+        {"<p aria-busy=\"undefined\" aria-current=\"page\" aria-haspopup=\"menu\">x</p>", ""},
+        {"<p aria-hidden=\"\" aria-current=\"here\">x</p>", "value@aria-hidden=\"\"; value@here"},
+        {"<p aria-live=\"loud\">x</p>", "value@loud"},
+        {"<p role=\"checkbox\">x</p>", "missing-attribute@<p role=\"checkbox\">"},
+        {"<p role=\"switch\" aria-checked=\"false\">x</p><input type=\"checkbox\" role=\"switch\">", ""},
+        {"<p role=\"combobox\">x</p>", "missing-attribute@<p role=\"combobox\">"},
+        {"<p role=\"heading\">x</p><h2 role=\"heading\">y</h2>", "missing-attribute@<p role=\"heading\">"},
+        {"<div aria-label=\"a\">x</div>", "attribute-out-of-place@aria-label=\"a\""},
+        {"<div role=\"group\" aria-label=\"a\">x</div><section aria-label=\"a\">y</section>", ""},
+        {"<a aria-label=\"a\">x</a> <a href=\"#\" aria-label=\"a\">y</a>", "attribute-out-of-place@aria-label=\"a\""},
+        {"<p role=\"slider\">x</p><p role=\"slider\" aria-valuenow=\"3\">y</p>",
+         "missing-attribute@<p role=\"slider\">"},
+        {"<p aria-relevant=\"additions noise\">x</p>", "value@noise"},
+        {"<p aria-owns=\"a\" aria-details=\"b\" id=\"a\">x</p>", "leads-nowhere@b"},
+        {"<button popovertarget=\"a\">x</button><p id=\"a\" popover>y</p>", ""},
+        {"<button popovertarget=\"a\">x</button>", "leads-nowhere@a"},
     });
 }
 
@@ -241,7 +292,13 @@ TEST(PageCheck, GivesHints)
         {"<a href=\"#\"></a>", "empty-link?@<a href=\"#\">"},
         {"<a href=\"#\"><img src=\"x\" alt=\"\"></a>", "empty-link?@<a href=\"#\">"},
         {"<a href=\"#\"><img src=\"x\" alt=\"y\"></a><a href=\"#\" aria-label=\"z\"></a>", ""},
+        {"<iframe src=\"x\"></iframe>", "frame-title?@<iframe src=\"x\">"},
+        {"<iframe src=\"x\" title=\"y\"></iframe><iframe src=\"x\" hidden></iframe>", ""},
     });
+    for (const char *name : {"description", "VIEWPORT", "og:title", "dc.creator", "msapplication-TileColor"})
+        EXPECT_EQ(found(page({}, QStringLiteral("<meta name=\"%1\" content=\"x\">").arg(QLatin1String(name)))), "")
+            << name;
+    EXPECT_EQ(found(page({}, QStringLiteral("<meta name=\"descripton\" content=\"x\">"))), "meta-name?@descripton");
     EXPECT_EQ(found(QStringLiteral("<!DOCTYPE html><html><head><title>x</title></head><body>x</body></html>")),
               "no-language?@<html>");
 }
