@@ -267,7 +267,6 @@ void PageAttributes::checkConditions(const ElementRule &rule)
     }
 }
 
-/// Notes the names that the tag gives and those that it points to.
 void PageAttributes::collect(const html::Token &token, const PageTree::Opened &opened)
 {
     const QStringView element = m_text.mid(token.name.start, token.name.length);

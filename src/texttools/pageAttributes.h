@@ -22,6 +22,8 @@ public:
     /// Whether an element of that kind can be clicked or filled in, as its attributes have it.
     bool interactive(PageTag tag, QStringView name) const;
     void check(const html::Token &token, const PageTree::Opened &opened);
+    /// Notes the names that the tag gives and those that it points to, as check() does, too.
+    void collect(const html::Token &token, const PageTree::Opened &opened);
 
 private:
     struct Taken {
@@ -40,7 +42,6 @@ private:
     bool holds(const AttributeTest &test) const;
     bool hold(const QList<AttributeTest> &tests) const;
     const Taken *taken(int number) const;
-    void collect(const html::Token &token, const PageTree::Opened &opened);
     QStringView valueOf(const html::Attribute &attribute) const
     {
         return m_text.mid(attribute.value.start, attribute.value.length);

@@ -125,6 +125,8 @@ void PageReader::readStartTag(const html::Token &token)
         tellElement(token, opened);
     if (opened.judged)
         m_attributes.check(token, opened);
+    else if (!m_tree.inside(PageTag::Template)) // whose names are not those of the page
+        m_attributes.collect(token, opened);
     m_hints.startTag(token, opened, m_attributes);
     m_specials.startTag(token, opened, parent, m_attributes);
     m_files.startTag(token);

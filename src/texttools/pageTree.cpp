@@ -252,6 +252,8 @@ bool PageTree::closeForStart(const html::Token &token, PageTag tag)
         closeListItem(token, tag);
     if (endsParagraph(tag) && inScope(PageTag::P, true) >= 0)
         closeParagraph(token);
+    else if (tag == PageTag::P)
+        m_state.ended.clear(); // an end tag behind this one is not that of a paragraph before
     switch (tag) {
     case PageTag::A:
     case PageTag::Button:
