@@ -11,3 +11,8 @@ FileFormat formatOfDocument(const Document &document, Encoding encoding)
 {
     return {encoding, document.fileFormat.lineEnd, document.fileFormat.charset};
 }
+
+bool isUtf16(Encoding encoding)
+{
+    return encoding == Encoding::Utf16LE || encoding == Encoding::Utf16BE;
+}

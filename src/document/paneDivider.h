@@ -2,7 +2,8 @@
 
 #include <QWidget>
 
-/// The line between two panes one above the other, which the mouse can drag.
+/// The line between two panes one above the other, which the mouse can drag, and with the keyboard on it the arrow
+/// keys.
 class PaneDivider final : public QWidget
 {
     Q_OBJECT
@@ -18,6 +19,7 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     int m_grabbed = 0; ///< where the mouse took it, from its middle

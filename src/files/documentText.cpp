@@ -8,11 +8,6 @@
 
 namespace
 {
-bool isUtf16(Encoding encoding)
-{
-    return encoding == Encoding::Utf16LE || encoding == Encoding::Utf16BE;
-}
-
 Encoding encodingOfSave(const Document &document, SaveForm form)
 {
     if (form == SaveForm::UnicodeRow)

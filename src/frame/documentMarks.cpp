@@ -1,12 +1,14 @@
 #include "frame/documentMarks.h"
 
 #include "common/document.h"
+#include "common/habits.h"
 #include "common/mainWindow.h"
 #include "forms/form.h"
 #include "widgets/programIcon.h"
 #include "widgets/tabStrip.h"
 
 #include <QAbstractEventDispatcher>
+#include <QDir>
 #include <QPainter>
 
 namespace
@@ -15,15 +17,18 @@ constexpr QSize IconSize(16, 16);
 constexpr qreal DotSize = 7;
 
 /// A title with the place for the desktop's mark of unsaved text; two such places in a row stand for the text itself.
-QString titleOf(const QString &caption)
+QString titleOf(const QString &caption, const Habits &habits)
 {
     const QString place = QStringLiteral("[*]");
-    return QString(caption).replace(place, place + place) + place;
+    const QString home = QDir::homePath() + u'/';
+    const bool shortens = habits.HabitDesktop && caption.startsWith(home);
+    const QString shown = shortens ? QStringLiteral("~/") + caption.mid(home.size()) : caption;
+    return QString(shown).replace(place, place + place) + place;
 }
 } // namespace
 
-DocumentMarks::DocumentMarks(QWidget &window, TabStrip &tabs, MainWindow &mainWindow)
-    : QObject(&window), m_window(window), m_tabs(tabs), m_mainWindow(mainWindow)
+DocumentMarks::DocumentMarks(QWidget &window, TabStrip &tabs, MainWindow &mainWindow, const Habits &habits)
+    : QObject(&window), m_window(window), m_tabs(tabs), m_mainWindow(mainWindow), m_habits(habits)
 {
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
             &DocumentMarks::update);
@@ -41,7 +46,7 @@ void DocumentMarks::update()
         QWidget *window = dynamic_cast<const Form *>(document)->window();
         if (!window)
             continue;
-        if (const QString title = titleOf(document->documentCaption()); window->windowTitle() != title)
+        if (const QString title = titleOf(document->documentCaption(), m_habits); window->windowTitle() != title)
             window->setWindowTitle(title);
         // Set again, it would tell the desktop anew, whose answer wakes the program, which comes to rest, and so on.
         if (window->isWindowModified() != document->boolDirty)

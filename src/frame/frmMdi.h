@@ -10,6 +10,7 @@
 struct CommandLineFile;
 class CodeLibraries;
 class CoolBar;
+class DocumentStatus;
 class DocumentSwitch;
 class InputGate;
 class MainCommands;
@@ -107,6 +108,7 @@ private:
     void buildAddressPanel();
     void buildDocumentSelector();
     void buildStatusBar();
+    void buildKeyboard();
     void layOut();
     void followProject();
 
@@ -180,7 +182,7 @@ private:
     QFrame *fmeDocSelDiv = nullptr;
     QStatusBar *StatusBar1 = nullptr;
     QLabel *m_message = nullptr;
-    QLabel *m_format = nullptr;
+    DocumentStatus *m_documentStatus = nullptr;
     DocumentSwitch *m_documentSwitch = nullptr;
     QStringList m_waiting; ///< lines of other starts that are not opened yet
     QString m_keptStatus;  ///< stands for "Ready" until tmrResetBar takes it away

@@ -4,6 +4,7 @@
 
 #include "document/structureTree.h"
 #include "files/modRecentFiles.h"
+#include "frame/documentStatus.h"
 #include "frame/documentSwitch.h"
 #include "frame/frmMdiBands.h"
 #include "frame/frmMdiCommands.h"
@@ -141,8 +142,7 @@ void frmMdi::enableResetBar()
 
 void frmMdi::showFileFormat(const QString &text)
 {
-    m_format->setText(text);
-    m_format->setVisible(!text.isEmpty());
+    m_documentStatus->showFormat(text);
 }
 
 void frmMdi::showRecentFiles(const QStringList &captions)

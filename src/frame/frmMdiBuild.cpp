@@ -2,9 +2,11 @@
 #include "frame/frmMdi.h"
 
 #include "common/fileCommands.h"
+#include "common/programState.h"
 #include "forms/formRuntime.h"
 #include "forms/inputGate.h"
 #include "frame/documentMarks.h"
+#include "frame/documentStatus.h"
 #include "frame/documentSwitch.h"
 #include "frame/frmMdiCommands.h"
 #include "frame/frmMdiPane.h"
@@ -63,7 +65,8 @@ void frmMdi::buildControls()
     layOut();
     m_documentSwitch = new DocumentSwitch(*window(), *m_commands->menu(QStringLiteral("mnuWindow")), *this);
     numberEntries(*m_commands->menu(QStringLiteral("mnuFile")), m_commands->recentFiles());
-    new DocumentMarks(*window(), *tabDocSel, *this);
+    buildKeyboard();
+    new DocumentMarks(*window(), *tabDocSel, *this, context().state.habits);
     window()->resize(DesignSize);
 }
 
@@ -224,10 +227,8 @@ void frmMdi::buildStatusBar()
     m_message->setTextFormat(Qt::PlainText);
     m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_message->setIndent(Gap);
-    m_format = ui::label(QStringLiteral("lblFileFormat"), {});
-    m_format->setTextFormat(Qt::PlainText);
     StatusBar1->addWidget(m_message, 1);
-    StatusBar1->addPermanentWidget(m_format);
+    m_documentStatus = new DocumentStatus(*StatusBar1, *this);
     tmrResetBar = new Timer(
         services().timers, QStringLiteral("tmrResetBar"),
         [this] {

@@ -56,7 +56,7 @@ void frmSplash::Form_Load()
     lblVersion->setText(QStringLiteral("Release Version: ") + context().version);
     context().screenPointer.setMousePointer(HourglassPointer);
     presentWindow();
-    DoEvents(); // the splash paints before the slow work
+    DoEvents();                       // the splash paints before the slow work
     if (context().state.ProgramEnded) // a signal among those events, and the window is gone
         return;
 

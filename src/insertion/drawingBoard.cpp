@@ -1,5 +1,7 @@
 #include "insertion/drawingBoard.h"
 
+#include "widgets/accessibleRole.h"
+
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
@@ -61,6 +63,7 @@ DrawingBoard::DrawingBoard(QWidget *parent) : QWidget(parent), m_size(BlankSize)
 {
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
+    setAccessibleRole(*this, QAccessible::Canvas);
     setAttribute(Qt::WA_OpaquePaintEvent); // the picture or its white ground covers everything
     setCursor(crossCursor());
     sizeToPicture();

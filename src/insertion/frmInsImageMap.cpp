@@ -140,6 +140,7 @@ QToolBar *frmInsImageMap::toolBar()
 {
     tbrMain = new QToolBar;
     tbrMain->setObjectName(QStringLiteral("tbrMain"));
+    tbrMain->setAccessibleName(QStringLiteral("Shapes"));
     tbrMain->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     tbrMain->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed); // no tool goes behind an arrow
     new QActionGroup(tbrMain);

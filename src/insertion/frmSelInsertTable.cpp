@@ -124,6 +124,7 @@ PictureBox *frmSelInsertTable::processBar()
 {
     PictureBox *picProcess =
         ui::picture(QStringLiteral("picProcess"), {.mouseMove = [this](const PointerState &) { leaveCells(); }});
+    picProcess->setAccessibleName(QStringLiteral("Size of the table"));
     lblProcess = ui::label(QStringLiteral("lblProcess"), {}, [this] { lblProcess_Click(); });
     lblProcess->setAlignment(Qt::AlignCenter);
     lblProcess->setMouseTracking(true); // so that the bar under it sees the mouse move

@@ -1,6 +1,7 @@
 #include "project/mapView.h"
 
 #include "project/mapScene.h"
+#include "widgets/accessibleRole.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -40,6 +41,7 @@ std::optional<QPointF> wayOf(int key)
 
 MapView::MapView(QWidget *parent) : QGraphicsView(parent)
 {
+    setAccessibleRole(*this, QAccessible::Canvas);
     setFrameShape(NoFrame);
     setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     setViewportUpdateMode(MinimalViewportUpdate); // a drag draws no more than what it uncovers

@@ -55,6 +55,7 @@ void frmAbout::Form_Load()
 {
     constexpr int iconSize = 48;
     QLabel *imgIcon = ui::label(QStringLiteral("imgIcon"), {});
+    imgIcon->setAccessibleName(QStringLiteral("Tagwrighter"));
     imgIcon->setPixmap(applicationIcon().pixmap(iconSize, iconSize));
     QLabel *lblVersion =
         ui::label(QStringLiteral("lblVersion"), QStringLiteral("Product Version: ") + context().version);

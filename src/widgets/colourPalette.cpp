@@ -1,6 +1,7 @@
 #include "widgets/colourPalette.h"
 
 #include "common/colourText.h"
+#include "widgets/accessibleRole.h"
 #include "widgets/themeColour.h"
 
 #include <QKeyEvent>
@@ -41,6 +42,7 @@ ColourPalette::ColourPalette(const QList<ColourValue> &colours, int columns, QWi
 {
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
+    setAccessibleRole(*this, QAccessible::ColorChooser);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setAccessibleDescription(colourText(currentColour()));
 }

@@ -1,5 +1,7 @@
 #include "widgets/pictureBox.h"
 
+#include "widgets/accessibleRole.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -18,6 +20,7 @@ PointerState stateOf(const QMouseEvent &event)
 PictureBox::PictureBox(QWidget *parent) : QWidget(parent)
 {
     setMouseTracking(true);
+    setAccessibleRole(*this, QAccessible::Graphic);
 }
 
 void PictureBox::setPicture(const QPixmap &picture)
@@ -50,6 +53,7 @@ void PictureBox::setOutlined(bool outlined)
 void PictureBox::setClickableByKeyboard(bool on)
 {
     setFocusPolicy(on ? Qt::StrongFocus : Qt::NoFocus);
+    setAccessibleRole(*this, on ? QAccessible::Button : QAccessible::Graphic);
 }
 
 QSize PictureBox::pictureSize() const

@@ -1,5 +1,8 @@
 #include "widgets/sidePane.h"
 
+#include "widgets/accessibleRole.h"
+
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
@@ -8,11 +11,14 @@ namespace
 {
 constexpr int SmallestWidth = 120;
 constexpr int RoomForDocuments = 200;
+constexpr int KeyStep = 20; ///< logical pixels
 } // namespace
 
 SidePane::SidePane(QWidget *parent) : QWidget(parent)
 {
     setMouseTracking(true);
+    setAccessibleName(QStringLiteral("Width of the pane"));
+    setAccessibleRole(*this, QAccessible::Splitter);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     setSide(Side::Left);
 }
@@ -60,6 +66,9 @@ void SidePane::paintEvent(QPaintEvent *)
     painter.setPen(palette().color(QPalette::Mid));
     const int x = m_side == Side::Left ? width() - 1 : 0;
     painter.drawLine(x, 0, x, height());
+    if (hasFocus())
+        painter.fillRect(m_side == Side::Left ? width() - EdgeWidth : 0, 0, EdgeWidth, height(),
+                         palette().color(QPalette::Highlight));
 }
 
 void SidePane::mousePressEvent(QMouseEvent *event)
@@ -82,4 +91,26 @@ void SidePane::mouseMoveEvent(QMouseEvent *event)
 void SidePane::mouseReleaseEvent(QMouseEvent *)
 {
     m_dragging = false;
+}
+
+void SidePane::keyPressEvent(QKeyEvent *event)
+{
+    const int outwards = m_side == Side::Left ? Qt::Key_Right : Qt::Key_Left;
+    const int inwards = m_side == Side::Left ? Qt::Key_Left : Qt::Key_Right;
+    if (event->key() == outwards)
+        setPaneWidth(width() + KeyStep);
+    else if (event->key() == inwards)
+        setPaneWidth(width() - KeyStep);
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void SidePane::focusInEvent(QFocusEvent *)
+{
+    update();
+}
+
+void SidePane::focusOutEvent(QFocusEvent *)
+{
+    update();
 }

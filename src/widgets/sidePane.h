@@ -2,7 +2,8 @@
 
 #include <QWidget>
 
-/// A pane at the left or the right of the main window, with an edge towards the documents that the user can drag.
+/// A pane at the left or the right of the main window, with an edge towards the documents that the user can drag;
+/// the arrow keys move it, too, while the pane itself has the focus.
 class SidePane final : public QWidget
 {
     Q_OBJECT
@@ -30,6 +31,9 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
 
 private:
     bool isOverEdge(int x) const;

@@ -1,89 +1,20 @@
 // What holds for every dialog of the program, whoever made it.
-#include "common/mainWindow.h"
-#include "desktop/desktopServices.h"
 #include "forms/fittingWindow.h"
 #include "forms/form.h"
-#include "forms/formRuntime.h"
-#include "frame/application.h"
-#include "services/services.h"
-#include "services/settings.h"
-#include "services/settingsStore.h"
+#include "unit/support/wholeProgram.h"
 #include "widgets/accelerators.h"
 
 #include <QAbstractButton>
-#include <QApplication>
-#include <QDialog>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QTabBar>
-#include <QTemporaryDir>
-#include <QTimer>
 #include <gtest/gtest.h>
 
 namespace
 {
-class DialogsTest : public testing::Test
-{
-protected:
-    DialogsTest()
-    {
-        qputenv("XDG_CONFIG_HOME", m_home.path().toUtf8());
-        qputenv("XDG_DATA_HOME", m_home.path().toUtf8());
-        m_desktop = std::make_unique<DesktopServices>();
-        settings::write(m_desktop->services().settings, settings::WelcomeScreen, QStringLiteral("false"));
-        application = std::make_unique<Application>(m_desktop->services());
-        application->form(QStringLiteral("frmMdi"))->Show();
-        settle();
-        // A box that a dialog brings up would wait for somebody without end.
-        QObject::connect(&m_closer, &QTimer::timeout, [] {
-            if (QWidget *box = QApplication::activeModalWidget())
-                box->close();
-        });
-        m_closer.start(20);
-    }
-    ~DialogsTest() override
-    {
-        application.reset();
-        settle();
-    }
-
-    static void settle()
-    {
-        QApplication::processEvents();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-
-    /// Runs `look` on each dialog, loaded and not yet shown.
-    template <class Look>
-    void forEach(const Look &look)
-    {
-        int dialogs = 0;
-        for (const QString &name : application->forms().names()) {
-            Form &form = *application->form(name);
-            if (form.isLoaded() || name == u"frmSplash")
-                continue;
-            form.Load();
-            if (form.isLoaded() && qobject_cast<QDialog *>(form.window())) {
-                ++dialogs;
-                look(form);
-            }
-            form.discard();
-            application->context().mainWindow->setEnabled(true);
-            settle();
-        }
-        EXPECT_GT(dialogs, 15);
-    }
-
-    std::unique_ptr<Application> application;
-
-private:
-    QTemporaryDir m_home;
-    QTimer m_closer;
-    std::unique_ptr<DesktopServices> m_desktop;
-};
+using DialogsTest = WholeProgram;
 
 QString captionOf(const QWidget &widget)
 {
@@ -104,34 +35,25 @@ QMultiMap<QString, QString> accelerators(const QWidget &window)
             found.insert(acceleratorOf(captionOf(*widget)), captionOf(*widget));
     return found;
 }
-
-QList<QTabBar *> tabsOf(const QWidget &window)
-{
-    return window.findChildren<QTabBar *>();
-}
 } // namespace
 
 TEST_F(DialogsTest, HaveNoAcceleratorTwice)
 {
-    forEach([](Form &form) {
+    forEachDialog([](Form &form) {
         form.window()->show();
-        const QList<QTabBar *> strips = tabsOf(*form.window());
-        const int pages = strips.isEmpty() ? 1 : strips.first()->count();
-        for (int page = 0; page < pages; ++page) {
-            if (!strips.isEmpty())
-                strips.first()->setCurrentIndex(page);
+        forEachPage(*form.window(), [&form] {
             const QMultiMap<QString, QString> found = accelerators(*form.window());
             for (const QString &letter : found.uniqueKeys())
                 EXPECT_EQ(found.count(letter), 1)
                     << qPrintable(form.Name()) << ": " << qPrintable(found.values(letter).join(QStringLiteral(", ")));
-        }
+        });
     });
 }
 
 TEST_F(DialogsTest, FitASmallScreenWithTheirButtonsInSight)
 {
     const QSize room(700, 450);
-    forEach([&](Form &form) {
+    forEachDialog([&](Form &form) {
         QWidget &window = *form.window();
         fitInto(window, room);
         window.show();
@@ -151,7 +73,7 @@ TEST_F(DialogsTest, FitASmallScreenWithTheirButtonsInSight)
 TEST_F(DialogsTest, NeedNoScrollingFromSideToSideAt800By600)
 {
     const QSize room(792, 540);
-    forEach([&](Form &form) {
+    forEachDialog([&](Form &form) {
         QWidget &window = *form.window();
         fitInto(window, room);
         window.show();

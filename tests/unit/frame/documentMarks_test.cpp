@@ -52,3 +52,33 @@ TEST(DocumentMarks, ShowUnsavedTextInTabAndTitleAndLeaveTheCaptions)
     EXPECT_FALSE(frmMdi.window()->isWindowModified());
     EXPECT_EQ(tabs.tabIcon(0).cacheKey(), plain);
 }
+
+TEST(DocumentMarks, ShowTheHomeAsATildeByTheRulesOfToday)
+{
+    const QTemporaryDir home;
+    for (const char *place : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME"})
+        qputenv(place, home.path().toUtf8());
+    DesktopServices desktop;
+    settings::write(desktop.services().settings, settings::WelcomeScreen, QStringLiteral("false"));
+    for (const bool today : {false, true}) {
+        settings::write(desktop.services().settings, settings::EditingHabits,
+                        today ? QStringLiteral("today") : QStringLiteral("classic"));
+        Application application(desktop.services());
+        Form &frmMdi = *application.form(QStringLiteral("frmMdi"));
+        frmMdi.Show();
+        QApplication::processEvents();
+        Document &document = *application.context().mainWindow->activeDocument();
+        application.context().mainWindow->takeOverHabits();
+        document.boolDirty = false;
+        auto &marks = *frmMdi.window()->findChild<DocumentMarks *>();
+        const QWidget &window = *dynamic_cast<Form &>(document).window();
+        const QString inHome = home.path() + QStringLiteral("/site/a.html");
+        document.setDocumentCaption(inHome);
+        marks.update();
+        EXPECT_EQ(window.windowTitle(), today ? QStringLiteral("~/site/a.html[*]") : inHome + QStringLiteral("[*]"));
+        EXPECT_EQ(document.documentCaption(), inHome);
+        document.setDocumentCaption(home.path() + QStringLiteral("2/a.html")); // another folder
+        marks.update();
+        EXPECT_EQ(window.windowTitle(), home.path() + QStringLiteral("2/a.html[*]"));
+    }
+}

@@ -1,0 +1,131 @@
+#include "frame/documentStatus.h"
+
+#include "common/document.h"
+#include "common/documentEncoding.h"
+#include "common/fileFormatText.h"
+#include "common/mainWindow.h"
+#include "widgets/controls.h"
+
+#include <QAbstractEventDispatcher>
+#include <QActionGroup>
+#include <QLabel>
+#include <QMenu>
+#include <QStatusBar>
+#include <QToolButton>
+
+namespace
+{
+constexpr Encoding Offered[] = {Encoding::Utf8, Encoding::Utf8Bom, Encoding::Windows1252, Encoding::Utf16LE,
+                                Encoding::Utf16BE};
+constexpr LineEnd LineEnds[] = {LineEnd::CrLf, LineEnd::Lf, LineEnd::Cr};
+} // namespace
+
+QString caretPlaceText(const Document &document)
+{
+    const TextSurface &text = document.txtEdit();
+    const qsizetype caret = text.SelStart() + text.SelLength();
+    const qsizetype line = text.lineFromCharacter(caret);
+    const qsizetype column = caret - text.characterFromLine(line).value_or(caret);
+    return QStringLiteral("Line %1, column %2").arg(line + 1).arg(column + 1);
+}
+
+FileFormat formatOfNextSave(const Document &document)
+{
+    return formatOfDocument(document, encodingOfDocument(document));
+}
+
+bool chooseFormat(Document &document, const FileFormat &format)
+{
+    if (!charactersThatDoNotFit(document.txtEdit().Text(), format).isEmpty())
+        return false;
+    document.IsInUnicode = isUtf16(format.encoding);
+    if (!document.IsInUnicode)
+        document.plainEncoding = format.encoding;
+    document.fileFormat = format;
+    document.mixedLineEnds = false;
+    document.boolDirty = true;
+    return true;
+}
+
+DocumentStatus::DocumentStatus(QStatusBar &bar, MainWindow &mainWindow)
+    : QObject(&bar),
+      m_mainWindow(mainWindow),
+      m_place(ui::label(QStringLiteral("lblCaretPlace"), {})),
+      m_format(new QToolButton),
+      m_menu(new QMenu(m_format))
+{
+    m_place->setTextFormat(Qt::PlainText);
+    m_format->setObjectName(QStringLiteral("lblFileFormat"));
+    m_format->setAutoRaise(true);
+    m_format->setToolTip(QStringLiteral("Encoding and line end of the file"));
+    m_format->setPopupMode(QToolButton::InstantPopup);
+    m_menu->setObjectName(QStringLiteral("mnuFileFormat"));
+    m_format->setMenu(m_menu);
+    bar.addPermanentWidget(m_place);
+    bar.addPermanentWidget(m_format);
+    connect(m_menu, &QMenu::aboutToShow, this, &DocumentStatus::fillMenu);
+    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+            &DocumentStatus::update);
+}
+
+void DocumentStatus::showFormat(const QString &text)
+{
+    m_format->setText(text);
+    m_format->setVisible(!text.isEmpty());
+}
+
+void DocumentStatus::update()
+{
+    const Document *document = m_mainWindow.activeDocument();
+    m_place->setVisible(document != nullptr);
+    if (!document)
+        return;
+    if (const QString told = caretPlaceText(*document); told != m_place->text())
+        m_place->setText(told);
+}
+
+void DocumentStatus::fillMenu()
+{
+    m_menu->clear();
+    const Document *document = m_mainWindow.activeDocument();
+    if (!document)
+        return;
+    const FileFormat now = formatOfNextSave(*document);
+    m_menu->addSection(QStringLiteral("Encoding"));
+    for (const Encoding encoding : Offered) {
+        const FileFormat format{encoding, now.lineEnd, {}};
+        addChoice(encodingName(format), format);
+    }
+    if (now.encoding == Encoding::Other)
+        addChoice(encodingName(now), now);
+    m_menu->addSection(QStringLiteral("Line end"));
+    for (const LineEnd lineEnd : LineEnds)
+        addChoice(lineEndName(lineEnd), {now.encoding, lineEnd, now.charset});
+}
+
+void DocumentStatus::addChoice(const QString &text, const FileFormat &format)
+{
+    const Document &document = *m_mainWindow.activeDocument();
+    QAction *entry = m_menu->addAction(text, this, [this, format] { choose(format); });
+    entry->setCheckable(true);
+    const FileFormat now = formatOfNextSave(document);
+    entry->setChecked(format == now);
+}
+
+void DocumentStatus::choose(const FileFormat &format)
+{
+    Document *document = m_mainWindow.activeDocument();
+    if (!document || (format == formatOfNextSave(*document) && !document->mixedLineEnds))
+        return;
+    const QString name = encodingName(format);
+    if (chooseFormat(*document, format)) {
+        showFormat(fileFormatText(*document));
+        m_mainWindow.SetStatusText(
+            QStringLiteral("The next save writes this page as %1 with %2.").arg(name, lineEndName(format.lineEnd)));
+    } else {
+        m_mainWindow.SetStatusText(
+            QStringLiteral("%1 has no place for all characters of this page, so its encoding stays as it is.")
+                .arg(name));
+    }
+    document->txtEdit().SetFocus();
+}
