@@ -42,7 +42,7 @@ set(CPACK_SOURCE_IGNORE_FILES "/build/" "/\\.git/" "__pycache__")
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION web)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# What is loaded by need, so that no tool sees it: pictures beyond PNG and JPEG.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-image-formats-plugins")
+# What is loaded by need, so that no tool sees it: pictures beyond PNG and JPEG, windows of a Wayland desktop.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-image-formats-plugins, qt6-wayland")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 include(CPack)

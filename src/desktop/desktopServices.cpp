@@ -25,6 +25,8 @@
 #include "storage/localFileSystem.h"
 #include "storage/settingsFiles.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QStandardPaths>
 
 namespace
@@ -40,6 +42,13 @@ QString settingsFolder()
     return joinPath(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation),
                     QStringLiteral("tagwrighter"));
 }
+
+/// The folder of the programs that only this one starts, beside the folder that it runs in.
+QString libexecFolder()
+{
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../" TAGWRIGHTER_LIBEXEC_FOLDER));
+}
+
 /// The help of the program's folder comes before the installed one, page by page.
 QStringList helpFolders(const ProgramFolders &folders)
 {
@@ -76,7 +85,7 @@ struct DesktopServices::Parts {
     DesktopSystemFacts systemFacts{appPath};
     XdgFileClasses fileClasses{currentXdgPlaces(), startInBackground};
     ModuleTransfers transfers{moduleFolders(), {.knownHosts = joinPath(dataFolder(), QStringLiteral("known_hosts"))}};
-    WizardPrograms wizards{{appPath, QStringLiteral(TAGWRIGHTER_LIBEXEC_FOLDER)},
+    WizardPrograms wizards{{appPath, libexecFolder()},
                            [this] { return settings::read(settings, settings::WorkingDir); }};
     Services services{
         .messageBoxes = messageBoxes,
