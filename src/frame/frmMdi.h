@@ -136,6 +136,7 @@ private:
     /// What the status bar tells, whatever says "Ready" meanwhile, until a few seconds after the window takes input.
     void keepStatus(const QString &text);
     void decideWelcome();
+    void tellStartFaults();
     void offerHabits();
     void chooseHabits(bool today);
     void restoreUnsavedText(Document *opened);
@@ -188,5 +189,6 @@ private:
     QString m_keptStatus;  ///< stands for "Ready" until tmrResetBar takes it away
     Timer *tmrResetBar = nullptr;
     std::optional<QPoint> m_insertBarMouse; ///< where it went down on the first button, in the client area
-    bool m_fontTyped = false;               ///< a face was typed into cboFont and not yet taken
+    bool m_startFaultsTold = false;
+    bool m_fontTyped = false; ///< a face was typed into cboFont and not yet taken
 };

@@ -4,10 +4,12 @@
 #include "frame/frmMdi.h"
 #include "frame/frmMdiCommands.h"
 #include "frame/habitsNotice.h"
+#include "frame/startFaults.h"
 #include "services/habits.h"
 #include "services/services.h"
 
 #include <algorithm>
+#include <utility>
 
 void frmMdi::takeOverHabits()
 {
@@ -23,8 +25,20 @@ void frmMdi::takeOverHabits()
 
 void frmMdi::documentInFront()
 {
-    if (context().state.AlreadyStarted) // a start opens documents that do not stay in front
-        offerHabits();
+    if (!context().state.AlreadyStarted) // a start opens documents that do not stay in front
+        return;
+    tellStartFaults();
+    offerHabits();
+}
+
+/// The first document that stays tells what is wrong with this start, once.
+void frmMdi::tellStartFaults()
+{
+    Document *document = activeDocument();
+    if (!document || std::exchange(m_startFaultsTold, true))
+        return;
+    for (const QString &fault : startFaults(services()))
+        document->notices.put({fault, NoticeKind::Other, fault, {{QStringLiteral("OK")}}});
 }
 
 /// One document tells it at a time, until the user has chosen.

@@ -64,6 +64,7 @@ void frmMdi::Form_Load()
         decideWelcome();
     context().state.AlreadyStarted = true;
     m_pane->refreshLocalFiles();
+    tellStartFaults();
     offerHabits();
     openWaiting();
 }
