@@ -22,3 +22,9 @@ ColourValue readableOnDark(ColourValue colour)
         return colour;
     }
 }
+
+ColourValue readableOnLight(ColourValue colour)
+{
+    constexpr ColouringOptions Defaults;
+    return colour == Defaults.ColourCodeValue ? colourOf(105, 105, 105) : colour;
+}

@@ -461,6 +461,6 @@ QColor EditSurface::colourFor(ColourValue colour) const
 {
     if (isSystemColour(colour))
         return palette().color(roleOf(colour));
-    const ColourValue drawn = isOnDarkGround() ? readableOnDark(colour) : colour;
+    const ColourValue drawn = isOnDarkGround() ? readableOnDark(colour) : readableOnLight(colour);
     return QColor(redOf(drawn), greenOf(drawn), blueOf(drawn));
 }

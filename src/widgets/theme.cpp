@@ -12,7 +12,8 @@ struct Ground {
     QColor base;
     QColor button;
     QColor text;
-    QColor faint;
+    QColor faint; ///< of what is disabled, and need not be read
+    QColor hint;
     QColor link;
     QColor highlight;
 };
@@ -25,7 +26,7 @@ QPalette paletteOn(const Ground &ground)
     palette.setColor(QPalette::Base, ground.base);
     palette.setColor(QPalette::AlternateBase, ground.window);
     palette.setColor(QPalette::ToolTipBase, ground.button);
-    palette.setColor(QPalette::PlaceholderText, ground.faint);
+    palette.setColor(QPalette::PlaceholderText, ground.hint);
     palette.setColor(QPalette::Link, ground.link);
     palette.setColor(QPalette::LinkVisited, ground.link);
     palette.setColor(QPalette::Highlight, ground.highlight);
@@ -42,6 +43,7 @@ Ground light()
             .button = QColor(239, 239, 239),
             .text = Qt::black,
             .faint = QColor(128, 128, 128),
+            .hint = QColor(100, 100, 100),
             .link = QColor(0, 0, 200),
             .highlight = QColor(38, 100, 168)};
 }
@@ -53,6 +55,7 @@ Ground dark()
             .button = QColor(53, 53, 53),
             .text = QColor(225, 225, 225),
             .faint = QColor(130, 130, 130),
+            .hint = QColor(160, 160, 160),
             .link = QColor(110, 170, 240),
             .highlight = QColor(38, 100, 168)};
 }

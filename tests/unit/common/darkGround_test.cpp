@@ -34,8 +34,18 @@ TEST(DarkGround, EveryDefaultColourIsReadableOnIt)
     }
 }
 
+TEST(DarkGround, EveryDefaultColourIsReadableOnALightOneToo)
+{
+    const ColouringOptions defaults;
+    for (const ColourValue colour : {defaults.ColourCodeTag, defaults.ColourCodeAttribute, defaults.ColourCodeValue,
+                                     defaults.ColourCodeComment, defaults.ColourASPCode, defaults.ColourCodeURL})
+        EXPECT_GE(contrast(colourOf(255, 255, 255), readableOnLight(colour)), 4.5) << colour;
+}
+
 TEST(DarkGround, ColoursOfTheUsersOwnStay)
 {
+    EXPECT_EQ(readableOnLight(8388609), 8388609U);
+    EXPECT_EQ(readableOnLight(WindowTextColour), WindowTextColour);
     EXPECT_EQ(readableOnDark(8388609), 8388609U);
     EXPECT_EQ(readableOnDark(0), 0U);
     EXPECT_EQ(readableOnDark(WindowTextColour), WindowTextColour);
