@@ -17,8 +17,12 @@
 
 WholeProgram::WholeProgram()
 {
-    qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
-    qputenv("XDG_DATA_HOME", home.path().toUtf8());
+    for (const char *place : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"})
+        qputenv(place, home.path().toUtf8());
+    const QString data = home.filePath(QStringLiteral("tagwrighter"));
+    QDir().mkpath(data);
+    for (const QString &name : {QStringLiteral("Html.tcb"), QStringLiteral("Css.tcb"), QStringLiteral("Page.rules")})
+        EXPECT_TRUE(QFile::link(QStringLiteral(TEST_SOURCE_DIR "/data/") + name, data + u'/' + name));
     desktop = std::make_unique<DesktopServices>();
     settings::write(desktop->services().settings, settings::WelcomeScreen, QStringLiteral("false"));
     application = std::make_unique<Application>(desktop->services());

@@ -10,7 +10,7 @@ class Application;
 class DesktopServices;
 class Form;
 
-/// The whole program over an empty home, with its main window on show and one blank document in it. A box that comes up
+/// The whole program over a home that holds its data and nothing else, with its main window on show and one blank document in it. A box that comes up
 /// is left, since nobody answers it.
 class WholeProgram : public testing::Test
 {
