@@ -29,7 +29,7 @@ void frmWhatChanged::Form_Load()
     setContent(ui::beside(
         {ui::under(QStringLiteral("&Lines of the file (-) and of the recovered text (+):"), txtDifference).stretched(),
          ui::buttons({cmdClose})}));
-    window()->setMinimumSize(640, 360);
+    window()->resize(window()->sizeHint().expandedTo({640, 360}));
     setDefaultButton(cmdClose);
     setCancelButton(cmdClose);
 }

@@ -76,6 +76,15 @@ public:
     }
 
 protected:
+    /// Wrapped texts need the height that they have at this width, which the area does not ask for.
+    void resizeEvent(QResizeEvent *event) override
+    {
+        QScrollArea::resizeEvent(event);
+        const QLayout *layout = widget()->layout();
+        if (layout && layout->hasHeightForWidth())
+            widget()->setMinimumHeight(layout->totalHeightForWidth(widget()->width()));
+    }
+
     /// As of any widget: the area's own would bring the middle of a wide control into sight.
     bool focusNextPrevChild(bool next) override
     {
@@ -135,6 +144,17 @@ void scrollContent(QBoxLayout &layout)
     area->followKeyboard();
 }
 
+/// What the controls need, wrapped texts at the width that the window is to have.
+QSize leastSize(const QWidget &window, const QLayout &layout, int widest)
+{
+    QSize least = layout.totalMinimumSize().expandedTo(window.minimumSize());
+    if (!layout.hasHeightForWidth())
+        return least;
+    const int wanted = window.testAttribute(Qt::WA_Resized) ? window.width() : window.sizeHint().width();
+    const int width = std::max(least.width(), std::min(wanted, widest));
+    return least.expandedTo({0, layout.totalHeightForWidth(width)});
+}
+
 bool fits(const QSize &size, const QSize &room)
 {
     return size.width() <= room.width() && size.height() <= room.height();
@@ -147,7 +167,7 @@ void fitInto(QWidget &window, const QSize &room)
     if (!layout)
         return;
     const QSize wanted = window.sizeHint();
-    if (!fits(layout->totalMinimumSize().expandedTo(window.minimumSize()), room)) {
+    if (!fits(leastSize(window, *layout, room.width()), room)) {
         QBoxLayout *outer = layoutWithButtons(*layout);
         if (!outer)
             outer = qobject_cast<QBoxLayout *>(layout);
@@ -157,6 +177,8 @@ void fitInto(QWidget &window, const QSize &room)
         layout->activate(); // what it asked for before is out of date
         window.setMinimumSize(window.minimumSize().boundedTo(room));
     }
+    if (window.testAttribute(Qt::WA_Resized) && !fits(window.size(), room))
+        window.resize(window.size().boundedTo(room)); // what it was given is more than there is
     if (!fits(wanted, room))
         window.resize(window.sizeHint().expandedTo(wanted).boundedTo(room));
 }

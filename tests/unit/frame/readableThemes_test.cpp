@@ -5,6 +5,7 @@
 #include "common/mainWindow.h"
 #include "forms/form.h"
 #include "frame/application.h"
+#include "frame/documentStatus.h"
 #include "unit/support/wholeProgram.h"
 #include "widgets/contrast.h"
 #include "widgets/nodeTree.h"
@@ -110,6 +111,7 @@ TEST_F(ReadableThemes, DrawTheNumbersOfLinesPanesTabsAndBars)
     for (const Theme &theme : themes) {
         theme.apply();
         settle();
+        frame().findChild<DocumentStatus *>()->update();
         for (const char *name : {"picLineInformation", "treCodes", "lblCodePrjSelTitle", "tabCodeWindow", "tabDocSel",
                                  "lblStatusMessage", "lblCaretPlace", "lblFileFormat", "lblMsgAddress"})
             EXPECT_GE(contrastOf(widget(name)), LeastOfText) << theme.name << " " << name;
@@ -149,7 +151,7 @@ TEST_F(ReadableThemes, DrawTheTextsOfEveryForm)
             if (!form.window())
                 return;
             for (QLabel *label : form.window()->findChildren<QLabel *>()) {
-                if (!label->isVisible() || !label->isEnabled() || label->text().isEmpty() ||
+                if (!label->isVisible() || !label->isEnabled() || label->text().trimmed().isEmpty() ||
                     label->visibleRegion().isEmpty())
                     continue;
                 EXPECT_GE(contrastOf(*label), LeastOfText)

@@ -39,7 +39,7 @@ protected:
     {
         return inChild([this] { return becomeNobody() ? static_cast<int>(faults().size()) : 99; });
     }
-    void allow(const char *folder, mode_t mode) { ASSERT_EQ(::chmod(qPrintable(path(folder)), mode), 0); }
+    void allow(const char *place, mode_t mode) { ASSERT_EQ(::chmod(qPrintable(path(place)), mode), 0); }
 };
 } // namespace
 
