@@ -144,10 +144,11 @@ TEST_F(ReadableThemes, HaveColoursThatGoTogether)
 
 TEST_F(ReadableThemes, DrawTheTextsOfEveryForm)
 {
-    for (const Theme &theme : themes) {
-        theme.apply();
-        forEachDialog([&](Form &form) {
-            present(form);
+    forEachDialog([&](Form &form) {
+        present(form);
+        for (const Theme &theme : themes) {
+            theme.apply();
+            settle();
             if (!form.window())
                 return;
             for (QLabel *label : form.window()->findChildren<QLabel *>()) {
@@ -157,8 +158,8 @@ TEST_F(ReadableThemes, DrawTheTextsOfEveryForm)
                 EXPECT_GE(contrastOf(*label), LeastOfText)
                     << theme.name << " " << qPrintable(form.Name()) << " " << qPrintable(label->objectName());
             }
-        });
-    }
+        }
+    });
 }
 
 TEST_F(ReadableThemes, AreFollowedWhileTheProgramRuns)
