@@ -72,7 +72,7 @@ void TagMarks::show(bool withTags)
         marks.append({caret, 0, MarkKind::CurrentLine});
         const bool looks = withTags && mayBeAtTag(m_surface, caret);
         if (const auto pair = looks ? tagPairAt(m_surface.Text(), caret) : std::nullopt) {
-            for (const PageTag &tag : {pair->tag, pair->partner})
+            for (const FoundTag &tag : {pair->tag, pair->partner})
                 marks.append({tag.start, tag.end - tag.start, MarkKind::Pair});
         }
     }

@@ -16,7 +16,7 @@ class TagWalk
 public:
     explicit TagWalk(QStringView text) : m_text(text) {}
 
-    QList<PageTag> tags()
+    QList<FoundTag> tags()
     {
         while (true) {
             m_at = m_text.indexOf(u'<', m_at);
@@ -42,7 +42,7 @@ private:
 
     void readTag()
     {
-        PageTag tag;
+        FoundTag tag;
         tag.start = m_at;
         const bool closes = next() == u'/';
         tag.nameStart = m_at + (closes ? 2 : 1);
@@ -61,12 +61,12 @@ private:
         }
         tag.end = end;
         if (closes)
-            tag.kind = PageTag::Kind::Close;
+            tag.kind = FoundTag::Kind::Close;
         else if (isVoidElement(tag.name) || m_text[end - 2] == u'/')
-            tag.kind = PageTag::Kind::Alone;
+            tag.kind = FoundTag::Kind::Alone;
         m_tags.append(tag);
         m_at = end;
-        if (tag.kind == PageTag::Kind::Open && holdsText(tag.name))
+        if (tag.kind == FoundTag::Kind::Open && holdsText(tag.name))
             passText(tag.name);
     }
 
@@ -105,7 +105,7 @@ private:
 
     QStringView m_text;
     qsizetype m_at = 0;
-    QList<PageTag> m_tags;
+    QList<FoundTag> m_tags;
 };
 
 /// What belongs together among the first tags.
@@ -115,13 +115,13 @@ struct Pairing {
 };
 
 /// An end tag closes the nearest element of its name.
-Pairing pairingOf(const QList<PageTag> &tags, qsizetype count)
+Pairing pairingOf(const QList<FoundTag> &tags, qsizetype count)
 {
     Pairing pairing{QList<qsizetype>(tags.size(), -1), {}};
     for (qsizetype i = 0; i < count; ++i) {
-        if (tags[i].kind == PageTag::Kind::Open)
+        if (tags[i].kind == FoundTag::Kind::Open)
             pairing.open.append(i);
-        if (tags[i].kind != PageTag::Kind::Close)
+        if (tags[i].kind != FoundTag::Kind::Close)
             continue;
         qsizetype at = pairing.open.size() - 1;
         while (at >= 0 && tags[pairing.open[at]].name != tags[i].name)
@@ -147,14 +147,14 @@ bool isVoidElement(const QString &name)
     return names.contains(name);
 }
 
-QList<PageTag> tagsOf(QStringView text)
+QList<FoundTag> tagsOf(QStringView text)
 {
     return TagWalk(text).tags();
 }
 
 std::optional<TagPair> tagPairAt(QStringView text, qsizetype position)
 {
-    const QList<PageTag> tags = tagsOf(text);
+    const QList<FoundTag> tags = tagsOf(text);
     const QList<qsizetype> partners = pairingOf(tags, tags.size()).partners;
     std::optional<TagPair> found;
     for (qsizetype i = 0; i < tags.size(); ++i)
@@ -168,22 +168,22 @@ std::optional<TagPair> tagPairAt(QStringView text, qsizetype position)
 
 std::optional<TagPair> elementAround(QStringView text, qsizetype position)
 {
-    const QList<PageTag> tags = tagsOf(text);
+    const QList<FoundTag> tags = tagsOf(text);
     const QList<qsizetype> partners = pairingOf(tags, tags.size()).partners;
     std::optional<TagPair> found;
     for (qsizetype i = 0; i < tags.size() && tags[i].start <= position; ++i)
-        if (tags[i].kind == PageTag::Kind::Open && partners[i] >= 0 && position <= tags[partners[i]].end)
+        if (tags[i].kind == FoundTag::Kind::Open && partners[i] >= 0 && position <= tags[partners[i]].end)
             found = TagPair{tags[i], tags[partners[i]]};
     return found;
 }
 
 QString missingEndTag(QStringView text, qsizetype position)
 {
-    const QList<PageTag> tags = tagsOf(text);
+    const QList<FoundTag> tags = tagsOf(text);
     const QList<qsizetype> partners = pairingOf(tags, tags.size()).partners;
     for (qsizetype i = 0; i < tags.size(); ++i) {
-        const PageTag &tag = tags[i];
-        if (tag.end != position || tag.kind != PageTag::Kind::Open)
+        const FoundTag &tag = tags[i];
+        if (tag.end != position || tag.kind != FoundTag::Kind::Open)
             continue;
         // An end tag that an element around this one lacks now was that one's before.
         const QList<qsizetype> around = pairingOf(tags, i).open;
@@ -199,12 +199,12 @@ QString missingEndTag(QStringView text, qsizetype position)
 
 qsizetype doubledEndTagBehind(QStringView text, qsizetype position)
 {
-    const QList<PageTag> tags = tagsOf(text);
+    const QList<FoundTag> tags = tagsOf(text);
     const QList<qsizetype> partners = pairingOf(tags, tags.size()).partners;
     for (qsizetype i = 1; i < tags.size(); ++i) {
-        const PageTag &before = tags[i - 1];
+        const FoundTag &before = tags[i - 1];
         const bool doubled = tags[i].start == position && before.end == position && before.name == tags[i].name &&
-                             before.kind == PageTag::Kind::Close && tags[i].kind == PageTag::Kind::Close;
+                             before.kind == FoundTag::Kind::Close && tags[i].kind == FoundTag::Kind::Close;
         if (doubled)
             return partners[i] < 0 ? tags[i].end - tags[i].start : 0;
     }
@@ -213,10 +213,10 @@ qsizetype doubledEndTagBehind(QStringView text, qsizetype position)
 
 QString endTagOfOpenElement(QStringView text, qsizetype position)
 {
-    const QList<PageTag> tags = tagsOf(text.first(position));
+    const QList<FoundTag> tags = tagsOf(text.first(position));
     const QList<qsizetype> open = pairingOf(tags, tags.size()).open;
     if (open.isEmpty())
         return {};
-    const PageTag &tag = tags[open.constLast()];
+    const FoundTag &tag = tags[open.constLast()];
     return QStringLiteral("</") + text.mid(tag.nameStart, tag.name.size()).toString() + u'>';
 }

@@ -6,14 +6,14 @@
 
 /// The tags of a page and which of them belong together. Positions count from 0.
 
-struct PageTag {
+struct FoundTag {
     enum class Kind { Open, Close, Alone };
     qsizetype start = 0;     ///< of its "<"
     qsizetype end = 0;       ///< behind its ">"
     qsizetype nameStart = 0; ///< of its name, which is `name.size()` long
     QString name;            ///< in lower case
     Kind kind = Kind::Open;  ///< Alone: a void element, or closed in itself
-    bool operator==(const PageTag &) const = default;
+    bool operator==(const FoundTag &) const = default;
 };
 
 /// Whether an element of that name, in lower case, has neither contents nor an end tag.
@@ -21,11 +21,11 @@ bool isVoidElement(const QString &name);
 
 /// All tags, in their order. Comments, declarations, and what stands in quotes or in scripts, styles, text areas and
 /// titles hold none; neither does a tag without its ">".
-QList<PageTag> tagsOf(QStringView text);
+QList<FoundTag> tagsOf(QStringView text);
 
 struct TagPair {
-    PageTag tag; ///< the one at the position
-    PageTag partner;
+    FoundTag tag; ///< the one at the position
+    FoundTag partner;
 };
 
 /// The tag at a position, from in front of its "<" to behind its ">", and its partner; nothing for a tag without one.

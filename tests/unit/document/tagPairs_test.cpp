@@ -7,9 +7,9 @@ namespace
 std::string names(const char *text)
 {
     QStringList found;
-    for (const PageTag &tag : tagsOf(QString::fromUtf8(text)))
-        found.append((tag.kind == PageTag::Kind::Close ? QStringLiteral("/") : QString()) + tag.name +
-                     (tag.kind == PageTag::Kind::Alone ? QStringLiteral("!") : QString()));
+    for (const FoundTag &tag : tagsOf(QString::fromUtf8(text)))
+        found.append((tag.kind == FoundTag::Kind::Close ? QStringLiteral("/") : QString()) + tag.name +
+                     (tag.kind == FoundTag::Kind::Alone ? QStringLiteral("!") : QString()));
     return found.join(u' ').toStdString();
 }
 
