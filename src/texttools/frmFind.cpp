@@ -138,7 +138,7 @@ ui::Node frmFind::options()
             ui::options({optSearchCurrentDoc, optSearchOpenDocs}),
             ui::space(),
         }),
-        lblFound,
+        lblFound.data(),
     });
 }
 

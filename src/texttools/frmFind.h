@@ -3,6 +3,8 @@
 #include "forms/form.h"
 #include "texttools/documentSearch.h"
 
+#include <QPointer>
+
 class QCheckBox;
 class QComboBox;
 class QLabel;
@@ -68,7 +70,7 @@ private:
     QCheckBox *chkWholeWords = nullptr;
     QRadioButton *optSearchCurrentDoc = nullptr;
     QRadioButton *optSearchOpenDocs = nullptr;
-    QLabel *lblFound = nullptr; ///< nothing while the window is closed
+    QPointer<QLabel> lblFound; ///< nothing while the window is closed
     QPushButton *cmdOK = nullptr;
     QPushButton *cmdReplace = nullptr;
     QPushButton *cmdReplaceAll = nullptr;
