@@ -24,7 +24,7 @@ constexpr HabitRule rules[] = {
     {&Habits::HabitDialogs, &settings::HabitDialogs, "Several files, every kind of picture"},
     {&Habits::HabitScripts, &settings::HabitScripts, "Scripts and styles have their own colours"},
     {&Habits::HandsClose, &settings::HandsClose, "An end tag writes itself behind its start tag"},
-    {&Habits::HandsMatch, &settings::HandsMatch, "The line, the tag and its partner at the caret are shown"},
+    {&Habits::HandsMatch, &settings::HandsMatch, "The line and the tags at the caret are shown"},
     {&Habits::HandsPair, &settings::HandsPair, "A tag's partner follows when its name is changed"},
     {&Habits::HandsComment, &settings::HandsComment, "Ctrl+/ makes comments of lines"},
     {&Habits::HandsLines, &settings::HandsLines, "Keys move, double and remove lines"},
