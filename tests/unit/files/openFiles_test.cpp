@@ -213,18 +213,4 @@ TEST_F(OpenFiles, ComeFromTheRecentOnes)
     EXPECT_EQ(mainWindow.active->DocSavePath, path(page));
     EXPECT_EQ(storedSetting("RecentFiles", QStringLiteral("File1")), path(page));
 }
-TEST_F(OpenFiles, WithLinesThatCannotBeShownAreRefused)
-{
-    const QByteArray marks = "a" + QByteArray("\xCC\x81").repeated(20'001);
-    for (const QByteArray &bytes : {QByteArray(8'000'001, 'a'), "<p>\n" + marks}) {
-        writeFile(page, bytes);
-        files.OpenDocumentFile(path(page), false);
-        const MessageBox box = takeBox();
-        EXPECT_EQ(box.title, QStringLiteral("Out of Memory"));
-        EXPECT_EQ(box.text, QStringLiteral("There is not enough memory to complete the operation.\r\n"
-                                           "Please close some applications, and then try again."));
-        EXPECT_EQ(bytesOf(page), bytes);
-    }
-    EXPECT_TRUE(mainWindow.enabled);
-}
 } // namespace

@@ -151,6 +151,8 @@ TEST_F(EditSurfaceDesktop, ATouchpadScrollsByPixels)
 
 TEST_F(EditSurfaceDesktop, WithoutBlinkingNothingWakesTheProgram)
 {
+    surface.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&surface));
     const int before = QApplication::cursorFlashTime();
     QApplication::setCursorFlashTime(0);
     sendKey(Qt::Key_Right, {}, QString());

@@ -120,7 +120,7 @@ TEST_F(NodeTreeTest, IsAsWideAsNodesThatOpenByThemselves)
 {
     tree.doItemsLayout();
     const QString wide(40, u'W');
-    tree.showNodes({{str("root"), {}, {}, -1}, {str("child"), {}, {}, 0}, {wide, {}, {}, 1}});
+    tree.showNodes({{str("first"), {}, {}, -1}, {str("second"), {}, {}, 0}, {wide, {}, {}, 1}});
     tree.doItemsLayout();
     EXPECT_GE(tree.columnWidth(0), tree.fontMetrics().horizontalAdvance(wide));
 }
