@@ -16,7 +16,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 SCENARIOS = ROOT / "tests/scenarios"
 TABLE = SCENARIOS / "differToday.txt"
 CHOOSES = re.compile(r"^(no-)?setting QWRK77XE Settings EditingHabits", re.M)
-PLAYERS = 2
+PLAYERS = max(2, os.cpu_count() or 2)
 
 
 def rules():
@@ -42,8 +42,9 @@ def differs_today(driver, text):
     return differs(driver, text, "today") and not differs(driver, text, "classic")
 
 
-def rule_of(driver, text, known):
-    for rule in known:
+def rule_of(driver, text, known, last):
+    """The rule that the table names already is tried first, since it mostly still is the one."""
+    for rule in sorted(known, key=lambda each: each != last):
         if differs(driver, f"setting QWRK77XE Settings {rule} True\n" + text, "classic"):
             return rule
     return "several rules together"
@@ -53,11 +54,16 @@ def text_of(name):
     return (SCENARIOS / f"{name}.drive").read_bytes().decode("utf-8")
 
 
+def rows():
+    """What the table holds: of each script the rule."""
+    lines = TABLE.read_text(encoding="utf-8").splitlines()
+    return dict(line.split(" ", 1) for line in lines if line and not line.startswith("#"))
+
+
 def write(found, wanted):
     """The rows of scripts that were not played stay."""
     lines = TABLE.read_text(encoding="utf-8").splitlines()
-    rows = {line.split(" ")[0]: line for line in lines if line and not line.startswith("#")}
-    kept = {name: line for name, line in rows.items() if wanted and name not in wanted}
+    kept = {name: f"{name} {rule}" for name, rule in rows().items() if wanted and name not in wanted}
     kept.update({name: f"{name} {rule}" for name, rule in found.items()})
     head = [line for line in lines if line.startswith("#")]
     TABLE.write_text("".join(line + "\n" for line in head + [kept[name] for name in sorted(kept)]), encoding="utf-8")
@@ -71,10 +77,10 @@ def main():
     with concurrent.futures.ThreadPoolExecutor(PLAYERS) as pool:
         differing = [name for name, other in zip(played, pool.map(
             lambda name: differs_today(driver, text_of(name)), played)) if other]
-        write({name: "?" for name in differing}, wanted)
+        before = rows()
         print(f"{len(differing)} of {len(played)} scripts differ", flush=True)
         known = rules()
-        found = dict(zip(differing, pool.map(lambda name: rule_of(driver, text_of(name), known), differing)))
+        found = dict(zip(differing, pool.map(lambda name: rule_of(driver, text_of(name), known, before.get(name)), differing)))
     write(found, wanted)
 
 

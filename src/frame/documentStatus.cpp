@@ -58,12 +58,13 @@ DocumentStatus::DocumentStatus(QStatusBar &bar, MainWindow &mainWindow)
     m_format->setObjectName(QStringLiteral("lblFileFormat"));
     m_format->setAutoRaise(true);
     m_format->setToolTip(QStringLiteral("Encoding and line end of the file"));
-    m_format->setPopupMode(QToolButton::InstantPopup);
     m_menu->setObjectName(QStringLiteral("mnuFileFormat"));
     m_format->setMenu(m_menu);
     bar.addPermanentWidget(m_place);
     bar.addPermanentWidget(m_format);
     connect(m_menu, &QMenu::aboutToShow, this, &DocumentStatus::fillMenu);
+    // The button's own way of showing its menu would hold up whoever clicks until the menu is left.
+    connect(m_format, &QToolButton::clicked, this, &DocumentStatus::showMenu);
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
             &DocumentStatus::update);
 }
@@ -82,6 +83,13 @@ void DocumentStatus::update()
         return;
     if (const QString told = caretPlaceText(*document); told != m_place->text())
         m_place->setText(told);
+}
+
+/// Above the button, since the bar is at the window's lower edge.
+void DocumentStatus::showMenu()
+{
+    fillMenu();
+    m_menu->popup(m_format->mapToGlobal(QPoint(0, -m_menu->sizeHint().height())));
 }
 
 void DocumentStatus::fillMenu()

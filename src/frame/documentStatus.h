@@ -26,6 +26,7 @@ public:
     void update();
 
 private:
+    void showMenu();
     void fillMenu();
     void addChoice(const QString &text, const FileFormat &format);
     void choose(const FileFormat &format);
