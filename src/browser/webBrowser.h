@@ -113,7 +113,7 @@ private:
     QUrl m_address;                ///< what m_location says
     std::optional<QUrl> m_waiting; ///< to be loaded when the load under way has ended
     bool m_loading = false;
-    bool m_gone = false; ///< the page has ended, the view shows nothing
+    bool m_gone = false;       ///< the page has ended, the view shows nothing
     bool m_engineGone = false; ///< and so has what makes the processes of pages
 
     QTimer m_watch;             ///< ticks while a page is being loaded

@@ -1,8 +1,8 @@
 #include "desktop/programStart.h"
 
 #include "common/paths.h"
-#include "desktop/oneInstance.h"
 #include "common/programState.h"
+#include "desktop/oneInstance.h"
 #include "frame/application.h"
 #include "services/habits.h"
 #include "services/services.h"

@@ -22,8 +22,8 @@
 #include "widgets/sidePane.h"
 #include "widgets/tabStrip.h"
 
-#include <QApplication>
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QMainWindow>

@@ -98,8 +98,7 @@ void frmMdi::Form_Unload()
 void frmMdi::savePaneAndBands()
 {
     SettingsStore &store = services().settings;
-    settings::write(store, settings::CodebarWidth,
-                    QString::number(m_pane->picProject()->paneWidth() * TwipsPerPixel));
+    settings::write(store, settings::CodebarWidth, QString::number(m_pane->picProject()->paneWidth() * TwipsPerPixel));
     for (int band = 1; band <= bands::Kept; ++band) {
         settings::write(store, settings::BarNewRow, bands::flagText(cbrMain->NewRow(band)), band);
         settings::write(store, settings::BarWidth, bands::widthText(cbrMain->Width(band)), band);

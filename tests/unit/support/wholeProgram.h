@@ -10,8 +10,8 @@ class Application;
 class DesktopServices;
 class Form;
 
-/// The whole program over a home that holds its data and nothing else, with its main window on show and one blank document in it. A box that comes up
-/// is left, since nobody answers it.
+/// The whole program over a home that holds its data and nothing else, with its main window on show and one blank
+/// document in it. A box that comes up is left, since nobody answers it.
 class WholeProgram : public testing::Test
 {
 protected:
