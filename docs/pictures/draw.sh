@@ -2,6 +2,8 @@
 # draw.sh: makes the pictures of the README and of the guide for users anew, each from the script of its name.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
+# Windows of the size that people see need a larger screen than the 800 by 800 of a machine without one.
+export QT_QPA_PLATFORM=offscreen:configfile=$PWD/docs/pictures/screen.json
 ./dev shot docs/main-window.png tools/mainWindow.drive
 for script in docs/pictures/*.drive; do
     name=${script##*/}

@@ -59,11 +59,10 @@ DocumentStatus::DocumentStatus(QStatusBar &bar, MainWindow &mainWindow)
     m_format->setAutoRaise(true);
     m_format->setToolTip(QStringLiteral("Encoding and line end of the file"));
     m_menu->setObjectName(QStringLiteral("mnuFileFormat"));
-    m_format->setMenu(m_menu);
     bar.addPermanentWidget(m_place);
     bar.addPermanentWidget(m_format);
     connect(m_menu, &QMenu::aboutToShow, this, &DocumentStatus::fillMenu);
-    // The button's own way of showing its menu would hold up whoever clicks until the menu is left.
+    // The button's own way of showing a menu would hold up whoever clicks until the menu is left.
     connect(m_format, &QToolButton::clicked, this, &DocumentStatus::showMenu);
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
             &DocumentStatus::update);

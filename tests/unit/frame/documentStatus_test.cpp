@@ -35,6 +35,7 @@ protected:
     Document &document() { return *mainWindow().activeDocument(); }
     QWidget &frame() { return *application->form(QStringLiteral("frmMdi"))->window(); }
     QToolButton &format() { return *frame().findChild<QToolButton *>(QStringLiteral("lblFileFormat")); }
+    QMenu &formats() { return *format().findChild<QMenu *>(QStringLiteral("mnuFileFormat")); }
     QString place()
     {
         frame().findChild<DocumentStatus *>()->update();
@@ -44,7 +45,7 @@ protected:
     /// What a click and a choice in the menu do.
     void choose(const char *entry)
     {
-        QMenu &menu = *format().menu();
+        QMenu &menu = formats();
         Q_EMIT menu.aboutToShow();
         for (QAction *action : menu.actions())
             if (action->text() == QLatin1String(entry))
@@ -53,7 +54,7 @@ protected:
     }
     QStringList chosen()
     {
-        QMenu &menu = *format().menu();
+        QMenu &menu = formats();
         Q_EMIT menu.aboutToShow();
         QStringList entries;
         for (const QAction *action : menu.actions())
