@@ -1,5 +1,6 @@
 // The rules that the user edits by, as the main window keeps them, and the line that offers the choice.
 #include "common/programState.h"
+#include "forms/formRuntime.h"
 #include "forms/modLaunchHTMLHelp.h"
 #include "frame/frmMdi.h"
 #include "frame/frmMdiCommands.h"
@@ -7,6 +8,7 @@
 #include "frame/startFaults.h"
 #include "services/habits.h"
 #include "services/services.h"
+#include "texttools/frmPageCheck.h"
 
 #include <algorithm>
 #include <utility>
@@ -15,6 +17,8 @@ void frmMdi::takeOverHabits()
 {
     context().state.habits = readHabits(services().settings);
     m_commands->followHabits();
+    if (auto *pageCheck = dynamic_cast<frmPageCheck *>(context().forms.find(QStringLiteral("frmPageCheck"))))
+        pageCheck->takeOverHabits();
     const bool chosen = habitsAreChosen(services().settings);
     for (Document *document : openDocuments()) {
         document->applyEditorSettings();

@@ -1,4 +1,5 @@
 // The marks of the edit surface: what is drawn of them, and what the user reads and clicks there.
+#include "common/plainTip.h"
 #include "surface/editSurface.h"
 #include "surface/signMargin.h"
 
@@ -116,7 +117,7 @@ bool EditSurface::showTip(const QHelpEvent &event)
     const QString tip = tipOf(marks);
     if (tip.isEmpty())
         return false;
-    QToolTip::showText(event.globalPos(), tip, viewport());
+    QToolTip::showText(event.globalPos(), plainTip(tip), viewport());
     return true;
 }
 

@@ -1,5 +1,6 @@
 #include "surface/signMargin.h"
 
+#include "common/plainTip.h"
 #include "surface/editSurface.h"
 
 #include <QCoreApplication>
@@ -84,7 +85,7 @@ bool SignMargin::event(QEvent *event)
     if (event->type() != QEvent::ToolTip)
         return QWidget::event(event);
     const auto *help = static_cast<QHelpEvent *>(event);
-    QToolTip::showText(help->globalPos(), tipOf(marksAt(help->pos().y())), this);
+    QToolTip::showText(help->globalPos(), plainTip(tipOf(marksAt(help->pos().y()))), this);
     return true;
 }
 

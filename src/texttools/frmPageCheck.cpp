@@ -4,6 +4,7 @@
 #include "common/documentEncoding.h"
 #include "common/mainWindow.h"
 #include "common/paths.h"
+#include "common/plainTip.h"
 #include "common/replaceText.h"
 #include "forms/formRuntime.h"
 #include "forms/modLaunchHTMLHelp.h"
@@ -131,6 +132,18 @@ void frmPageCheck::followFocus(QWidget *now)
     if (isLoaded() || checksByItself()) {
         follow(surface);
         txtEdit_Change();
+    }
+}
+
+void frmPageCheck::takeOverHabits()
+{
+    if (checksByItself()) {
+        followFocus(QApplication::focusWidget());
+        if (m_surface)
+            txtEdit_Change();
+    } else if (m_surface && !isLoaded()) {
+        tmrPageCheck->setEnabled(false);
+        showPageMarks(*m_surface, {});
     }
 }
 
@@ -379,8 +392,8 @@ bool frmPageCheck::showTip(QWidget *viewport, const QPoint &position, const QPoi
     for (const PageProblem &problem : std::as_const(m_problems)) {
         if (at < problem.start || at >= problem.start + qMax<qsizetype>(problem.length, 1))
             continue;
-        QToolTip::showText(
-            global, problem.remedy.isEmpty() ? problem.message : problem.message + u'\n' + problem.remedy, viewport);
+        const QString tip = problem.remedy.isEmpty() ? problem.message : problem.message + u'\n' + problem.remedy;
+        QToolTip::showText(global, plainTip(tip), viewport);
         return true;
     }
     return false;

@@ -26,6 +26,8 @@ public:
     ~frmPageCheck() override;
 
     QObject *control(const QString &name) const override;
+    /// The user has chosen by which rules to edit: the page in front is looked at from now on, or left alone.
+    void takeOverHabits();
 
 protected:
     void Form_Load() override;

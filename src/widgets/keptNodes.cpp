@@ -1,5 +1,7 @@
 #include "widgets/keptNodes.h"
 
+#include "common/plainTip.h"
+
 #include <QMetaObject>
 #include <QSet>
 
@@ -149,6 +151,6 @@ QVariant KeptNodes::data(const QModelIndex &index, int role) const
     if (role == Qt::DecorationRole && !node.imageKey.isEmpty())
         return m_images.value(node.imageKey);
     if (role == Qt::ToolTipRole && !node.tip.isEmpty())
-        return node.tip;
+        return plainTip(node.tip);
     return {};
 }
