@@ -2,6 +2,7 @@
 
 #include "common/document.h"
 #include "common/fileCommands.h"
+#include "common/fileFormatText.h"
 #include "common/mainWindow.h"
 #include "common/pageCharset.h"
 #include "files/frmWhatChanged.h"
@@ -227,8 +228,10 @@ QString Recovery::restore(Document *opened)
     }
     for (Document *document : std::as_const(m_recovered))
         tell(*document, texts.value(document), document == m_recovered.constFirst());
-    if (active && !finds.pages.isEmpty())
+    if (active && !finds.pages.isEmpty()) {
         active->activate();
+        m_context.mainWindow->showFileFormat(fileFormatText(*active)); // it may have been in front, without its text
+    }
     return remarkOn(finds.unreadable);
 }
 
