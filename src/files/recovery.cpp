@@ -153,7 +153,7 @@ std::shared_ptr<Recovery::Job> Recovery::keep(Document &document, Kept &kept, bo
 {
     if (kept.file.isEmpty())
         kept.file = m_folder.newFile();
-    const auto job = std::make_shared<Job>(Job{&document, kept.file, pageOf(document, kept)});
+    auto job = std::make_shared<Job>(Job{&document, kept.file, pageOf(document, kept)});
     job->page.startsAnew = startsAnew;
     m_context.services.worker.run(
         [this, job] {
