@@ -4,6 +4,9 @@
 #include "unit/support/fakes.h"
 
 #include <QComboBox>
+#include <QElapsedTimer>
+
+#include <unistd.h>
 
 namespace
 {
@@ -163,6 +166,22 @@ TEST_F(AddressHistory, IsSetAsideWhereItIsFarTooLarge)
     EXPECT_EQ(state.setAside, QStringList(path(file) + QStringLiteral(".aside")));
     visit(QStringLiteral("www.b.org"));
     EXPECT_EQ(bytesOf(file), QByteArray("www.b.org\r\n"));
+}
+
+TEST_F(AddressHistory, HoldsNoStartUpHoweverLargeItIs)
+{
+    const QByteArray name = path(file).toUtf8();
+    for (const QByteArray &start : {QByteArray(), QByteArray("www.a.org\r\n")}) {
+        writeFile(file, start);
+        ASSERT_EQ(::truncate(name.constData(), 50 << 20), 0); // NULs, 50 MB of them
+        QElapsedTimer taken;
+        taken.start();
+        LoadAddressHistory(context, combo);
+        EXPECT_LT(taken.elapsed(), 100) << "milliseconds";
+        EXPECT_EQ(combo.count(), 0);
+    }
+    EXPECT_EQ(state.setAside,
+              QStringList({path(file) + QStringLiteral(".aside"), path(file) + QStringLiteral(".aside2")}));
 }
 
 TEST_F(AddressHistory, LeavesTheListAsItIsIfTheFileCannotBeWritten)
