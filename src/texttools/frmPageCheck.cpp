@@ -4,7 +4,6 @@
 #include "common/documentEncoding.h"
 #include "common/mainWindow.h"
 #include "common/paths.h"
-#include "common/plainTip.h"
 #include "common/replaceText.h"
 #include "forms/formRuntime.h"
 #include "forms/modLaunchHTMLHelp.h"
@@ -23,11 +22,9 @@
 
 #include <QApplication>
 #include <QHeaderView>
-#include <QHelpEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
-#include <QToolTip>
 
 namespace
 {
@@ -153,17 +150,14 @@ void frmPageCheck::follow(EditSurface *surface)
         return;
     disconnect(m_change);
     disconnect(m_closing);
-    if (m_surface) {
-        m_surface->viewport()->removeEventFilter(this);
+    if (m_surface)
         showPageMarks(*m_surface, {});
-    }
     m_surface = surface;
     if (!m_keys)
         addKeys(surface->window());
     forgetProblems();
     m_change = connect(surface, &EditSurface::Change, this, &frmPageCheck::txtEdit_Change);
     m_closing = connect(surface, &QObject::destroyed, this, &frmPageCheck::forget);
-    surface->viewport()->installEventFilter(this);
 }
 
 /// The page is closed, and its list with it.
@@ -370,31 +364,4 @@ void frmPageCheck::cmdPutRight_Click()
     replaceText(*document, text);
     check(*document);
     selectRow(qMin(next, int(m_problems.size()) - 1));
-}
-
-// --- Tips ------------------------------------------------------------------------------------------------------------
-
-bool frmPageCheck::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() == QEvent::ToolTip && m_surface && watched == m_surface->viewport()) {
-        auto *help = static_cast<QHelpEvent *>(event);
-        if (showTip(m_surface->viewport(), help->pos(), help->globalPos()))
-            return true;
-    }
-    return Form::eventFilter(watched, event);
-}
-
-bool frmPageCheck::showTip(QWidget *viewport, const QPoint &position, const QPoint &global)
-{
-    if (m_problems.isEmpty() || m_surface->Text() != m_checked)
-        return false;
-    const qsizetype at = m_surface->characterFromPosition(viewport->mapTo(m_surface, position));
-    for (const PageProblem &problem : std::as_const(m_problems)) {
-        if (at < problem.start || at >= problem.start + qMax<qsizetype>(problem.length, 1))
-            continue;
-        const QString tip = problem.remedy.isEmpty() ? problem.message : problem.message + u'\n' + problem.remedy;
-        QToolTip::showText(global, plainTip(tip), viewport);
-        return true;
-    }
-    return false;
 }

@@ -33,7 +33,6 @@ protected:
     void Form_Load() override;
     void Form_Unload() override;
     void presentWindow() override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void build();
@@ -58,7 +57,6 @@ private:
     void goRound(int by);
     void goTo(int row, bool focus);
     std::optional<int> rowAfterCheck(const PageProblem &problem) const;
-    bool showTip(QWidget *viewport, const QPoint &position, const QPoint &global);
 
     std::shared_ptr<const PageRules> m_rules;
     std::unique_ptr<PageChecker> m_checker; ///< of the page that was checked last
