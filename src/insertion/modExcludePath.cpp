@@ -10,8 +10,6 @@
 #include "services/services.h"
 #include "services/settings.h"
 
-#include <QDir>
-
 QString withoutDocumentFolder(const QString &path, const QString &documentPath)
 {
     if (documentPath.isEmpty())
@@ -21,29 +19,6 @@ QString withoutDocumentFolder(const QString &path, const QString &documentPath)
         return path;
     const QString rest = path.mid(base.size());
     return rest.isEmpty() ? path : rest;
-}
-
-namespace
-{
-/// Whether two paths begin with the same two folders, as those of one user's do.
-bool areNeighbours(const QString &a, const QString &b)
-{
-    constexpr int Folders = 2;
-    return a.section(u'/', 1, Folders) == b.section(u'/', 1, Folders) && a.count(u'/') > Folders;
-}
-} // namespace
-
-QString addressFromDocument(const QString &path, const QString &documentPath, bool exists)
-{
-    const bool isNative = path.startsWith(u'/') && !path.startsWith(QStringLiteral("//"));
-    if (!isNative || documentPath.isEmpty() || (!exists && !areNeighbours(path, documentPath)))
-        return path;
-    const QString slashed = exists ? path : QString(path).replace(u'\\', u'/');
-    const QString relative = QDir(FolderOfPath(documentPath)).relativeFilePath(slashed);
-    // A file's name may hold what has a meaning in addresses.
-    const QString address = encodedAddress(relative);
-    const bool looksLikeScheme = address.section(u'/', 0, 0).contains(u':');
-    return looksLikeScheme ? QStringLiteral("./") + address : address;
 }
 
 QString ExcludePath(ProgramContext &context, const QString &path)

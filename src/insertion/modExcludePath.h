@@ -12,8 +12,3 @@ QString ExcludePath(ProgramContext &context, const QString &path);
 /// of its letters, as many characters as it has go from the path's start; a path that is nothing but the folder stays.
 /// No step up to a parent folder is ever written.
 QString withoutDocumentFolder(const QString &path, const QString &documentPath);
-
-/// The way from the document at `documentPath` to a file of this machine: with slashes, steps up to parent folders, and
-/// per cent signs for what an address cannot hold. What is no full native path, and with `exists` false what hardly is
-/// one of this machine (but an address from the root of a site), stays as it is; so does all without a document's path.
-QString addressFromDocument(const QString &path, const QString &documentPath, bool exists);

@@ -1,12 +1,8 @@
 #pragma once
 
+#include "common/html/markupLanguage.h"
+
 #include <QString>
-
-/// What a page's markup is read as, which its document type says.
-enum class MarkupLanguage { Html, Xhtml };
-
-/// That of a page: XHTML where the public name in its document type says so, else HTML.
-MarkupLanguage markupLanguage(const QString &page);
 
 /// Markup that a dialog or a command has made, as the standard of today wants it written: names in lower case, values
 /// quoted and closed, no attribute twice, Boolean attributes bare, `alt` where a picture needs it, end tags that stand
