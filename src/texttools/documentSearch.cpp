@@ -97,7 +97,12 @@ void DocumentSearch::ReplaceCurrent(SearchOrder &order, const QString &replaceme
 
 void DocumentSearch::FindStep(SearchOrder &order)
 {
-    m_context.state.habits.HabitFind ? findRound(order) : findToTheEnd(order);
+    goesRound() ? findRound(order) : findToTheEnd(order);
+}
+
+bool DocumentSearch::goesRound() const
+{
+    return m_context.state.habits.HabitFind;
 }
 
 /// The document at which the search began may be closed or have another name by now, so the documents are counted, too.
@@ -218,11 +223,21 @@ void DocumentSearch::ReplaceAll(SearchOrder &order, const QString &replacement)
     ReplaceCount = 0;
     m_cancelled = false;
     m_sinceBegin.start();
+    if (goesRound())
+        takeAll(order);
     if (order.openDocuments)
         replaceInOpenDocuments(order, replacement);
     else if (Document *document = m_context.mainWindow->activeDocument())
         ReplaceAllInDocument(*document, order.options, replacement);
     tellReplacements();
+}
+
+/// Where a search goes round, it has no start and no direction: all is all that was counted.
+void DocumentSearch::takeAll(SearchOrder &order)
+{
+    order.options.direction = SearchDirection::All;
+    m_state = {};
+    clearMarks();
 }
 
 /// Each document is taken once, in the order in which the windows lie, and the one in front is in front again at the
@@ -248,24 +263,26 @@ void DocumentSearch::ReplaceAllInDocument(Document &document, FindOptions &optio
     edit.setLocked(true);
     const bool mayReplace = mayBeEntire(options);
     edit.setPaintingHeld(true);
-    const qsizetype last = mayReplace ? replaceMatches(document, options, replacement) : 0;
+    const std::optional<qsizetype> last = mayReplace ? replaceMatches(document, options, replacement) : std::nullopt;
     if (!isOpen(&document))
         return;
     edit.setPaintingHeld(false);
-    if (mayReplace && !m_cancelled)
+    if (mayReplace && !m_cancelled && !goesRound())
         tellEnd();
     if (!isOpen(&document))
         return;
     edit.setLocked(false);
-    edit.setSelStart(last);
+    if (last || !goesRound())
+        edit.setSelStart(last.value_or(0));
 }
 
-/// Where the last match stood; 0 without one.
-qsizetype DocumentSearch::replaceMatches(Document &document, FindOptions &options, const QString &replacement)
+/// Where the last match stood; nothing without one.
+std::optional<qsizetype> DocumentSearch::replaceMatches(Document &document, FindOptions &options,
+                                                        const QString &replacement)
 {
     TextSurface &edit = document.txtEdit();
     Yielder &yielder = m_context.services.yielder;
-    qsizetype last = 0;
+    std::optional<qsizetype> last;
     qsizetype start = searchStart(options, m_state, selectionOf(edit));
     m_state = {};
     yielder.beginPass();
@@ -302,6 +319,16 @@ void DocumentSearch::tellReplacements()
         m_context.mainWindow->SetStatusText(QStringLiteral("Stopped. Replaced: %L1").arg(ReplaceCount));
         return;
     }
+    goesRound() ? showReplacements() : boxReplacements();
+}
+
+void DocumentSearch::showReplacements()
+{
+    tellFound(ReplaceCount == 0 ? QStringLiteral("Not found") : QStringLiteral("%L1 replaced").arg(ReplaceCount));
+}
+
+void DocumentSearch::boxReplacements()
+{
     m_context.services.messageBoxes.show(information(
         ReplaceCount == 1
             ? QStringLiteral("The specified region has been searched. One replacement was made.")

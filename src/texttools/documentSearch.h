@@ -4,6 +4,7 @@
 
 #include <QElapsedTimer>
 #include <functional>
+#include <optional>
 
 class Document;
 class ReplaceRun;
@@ -23,7 +24,8 @@ public:
     /// What it wants of the window that orders it.
     struct Window {
         std::function<void()> becomeEntire; ///< the user lets a search become one of the entire document
-        /// Where a search that goes round stands: "2 of 5"; empty where that is not known any more.
+        /// Where a search that goes round stands, "2 of 5", or what it has replaced; empty where that is not known any
+        /// more.
         std::function<void(const QString &)> showFound;
     };
     DocumentSearch(ProgramContext &context, Window window);
@@ -48,6 +50,7 @@ private:
 
     void begin();
     void FindStep(SearchOrder &order);
+    bool goesRound() const;
     void findToTheEnd(SearchOrder &order);
     void findRound(const SearchOrder &order);
     bool searchOnward(Document &document, const FindOptions &options, const TextSelection &from, RoundTurn turn);
@@ -57,11 +60,14 @@ private:
     bool mayBeEntire(FindOptions &options);
     void tellEnd();
 
+    void takeAll(SearchOrder &order);
     void replaceInOpenDocuments(SearchOrder &order, const QString &replacement);
     void ReplaceAllInDocument(Document &document, FindOptions &options, const QString &replacement);
-    qsizetype replaceMatches(Document &document, FindOptions &options, const QString &replacement);
+    std::optional<qsizetype> replaceMatches(Document &document, FindOptions &options, const QString &replacement);
     void showProgress();
     void tellReplacements();
+    void showReplacements();
+    void boxReplacements();
     bool isOpen(const Document *document) const;
 
     ProgramContext &m_context;
