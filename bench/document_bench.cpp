@@ -1,3 +1,4 @@
+#include "common/programState.h"
 #include "document/frmWrite.h"
 #include "document/pageColours.h"
 #include "document/slicedColouring.h"
@@ -7,7 +8,11 @@
 #include "runningProgram.h"
 #include "services/yielder.h"
 
+#include <QCoreApplication>
 #include <QWidget>
+
+#include <algorithm>
+#include <utility>
 
 namespace
 {
@@ -112,24 +117,71 @@ double optimiseTime(RunningProgram &program)
         5, [&] { program.document()->OptimiseSyntax(); }, [&] { program.document()->txtEdit().setText(text); });
 }
 
-/// The reading of what a screen shows behind a jump into a page that nothing has coloured yet.
-double screenTime()
+/// The colours of what a screen shows behind a jump into a page that nothing has coloured yet: at the place where they
+/// take longest, of many all over the text.
+double worstScreenTime(const QString &text)
 {
-    constexpr qsizetype screen = 6000;
-    const QString text = page(10'000'000, 1);
-    qsizetype at = 0;
-    return medianTime(Runs, [&] {
-        at = (at + 3'333'333) % (text.size() - screen);
-        PageColours colours(text, ColouringOptions(), true);
-        colours.startNear(at);
-        colours.advance(at + screen);
-    });
+    constexpr int Places = 400;
+    constexpr qsizetype Screen = 6000;
+    double worst = 0;
+    for (int i = 0; i < Places; ++i) {
+        const qsizetype at = i * qsizetype(7'654'321) % (text.size() - Screen);
+        worst = std::max(worst, medianTime(3, [&] { formatsNearby(text, at, at + Screen, ColouringOptions(), true); }));
+    }
+    return worst;
 }
 
-double sliceTime()
+/// Scripts and styles as long as colours are told back for, and longer ones.
+QString scriptsPage(qsizetype characters)
 {
-    PageColours colours(page(1'000'000, 1), ColouringOptions(), true);
-    return medianTime(Runs, [&] { colours.advance(colours.place() + SlicedColouring::SliceLength); });
+    QString text;
+    for (int part = 0; text.size() < characters; ++part) {
+        const bool isScript = part % 2 == 0;
+        const QString line = isScript ? QStringLiteral("  if (a[i] < 12) { b = \"c\" + d.e(/f/g); } // why\r\n")
+                                      : QStringLiteral("  .a > b:hover { color: #ff0000; width: 12px } /* c */\r\n");
+        text += (isScript ? QStringLiteral("<script>\r\n") : QStringLiteral("<style>\r\n")) +
+                line.repeated(200 + part % 7 * 400) +
+                (isScript ? QStringLiteral("</script>\r\n") : QStringLiteral("</style>\r\n"));
+    }
+    return text;
+}
+/// A page of 10 MB that the slices have not come to: the jump to a place in it, coloured and painted, where that takes
+/// longest of many; and the longest slice of all.
+std::pair<double, double> jumpAndSliceTimes(RunningProgram &program)
+{
+    program.program().context().state.habits.HabitColouring = true;
+    TextSurface &edit = program.document()->txtEdit();
+    edit.setText(page(10'000'000, 1));
+    RunningProgram::settle();
+    const auto begin = [&program] {
+        dynamic_cast<frmWrite &>(*program.document()).ExternalInitiateColourCodeAndDocStructure();
+    };
+    begin();
+    double worstJump = 0;
+    for (int i = 1; i <= 100; ++i) {
+        const auto jump = [&] {
+            edit.setSelStart(i * qsizetype(7'654'321) % edit.textLength());
+            program.surface()->repaint();
+        };
+        const auto goBack = [&] {
+            edit.setSelStart(0);
+            program.surface()->repaint();
+        };
+        worstJump = std::max(worstJump, medianTime(3, jump, goBack));
+    }
+    auto *slices = program.surface()->findChild<SlicedColouring *>();
+    double longest = 0;
+    for (double before = 0, took = 1; slices && took > 0; longest = std::max(longest, took)) {
+        before = processorTime();
+        QCoreApplication::sendPostedEvents(slices, QEvent::MetaCall); // what it posts is for the next time
+        took = processorTime() - before;
+        if (took < 0.0001) // nothing is on its way any more
+            break;
+    }
+    program.program().context().state.habits.HabitColouring = false;
+    edit.setText({});
+    RunningProgram::settle();
+    return {worstJump, longest};
 }
 } // namespace
 
@@ -141,12 +193,24 @@ void documentFigures(Figures &figures)
     figures.add(QStringLiteral("scanning, 63,900 against 8,000 characters, a character"),
                 scanTime(LargestColoured) / scanTime(8000) * 8000 / double(LargestColoured), QStringLiteral("times"),
                 1.2);
-    figures.add(QStringLiteral("colours of a screen behind a jump, 10 MB"), screenTime() * Milli, QStringLiteral("ms"),
-                5);
-    figures.add(QStringLiteral("colours of a slice"), sliceTime() * Milli, QStringLiteral("ms"), 5);
+    constexpr qsizetype Large = 10'000'000;
+    const QString plain(Large, u'x');
+    const std::pair<const char *, QString> texts[] = {{"tags", page(Large, 1)},
+                                                      {"scripts", scriptsPage(Large)},
+                                                      {"one line", plain},
+                                                      {"an open comment", QStringLiteral("<!-- ") + plain},
+                                                      {"an open value", QStringLiteral("<p id=\"") + plain}};
+    for (const auto &[what, text] : texts)
+        figures.add(
+            QStringLiteral("colours of a screen behind a jump, 10 MB of %1, the worst of 400").arg(QLatin1String(what)),
+            worstScreenTime(text) * Milli, QStringLiteral("ms"), 5);
     RunningProgram program;
     const double pass = passTime(program, LargestColoured);
     figures.add(QStringLiteral("colouring pass to painted, 63,900 characters"), pass * Milli, QStringLiteral("ms"), 30);
+    const auto [jump, longest] = jumpAndSliceTimes(program);
+    figures.add(QStringLiteral("jump into 10 MB to coloured and painted, the worst of 100"), jump * Milli,
+                QStringLiteral("ms"), 16);
+    figures.add(QStringLiteral("longest slice of 10 MB"), longest * Milli, QStringLiteral("ms"), 5);
     figures.add(QStringLiteral("giving way to events, share of the pass"), yieldTime(LargestColoured) / pass,
                 QStringLiteral("of it"), 0.2);
     figures.add(QStringLiteral("colouring pass of an uncoloured document, 1 MB"), passTime(program, 1'000'000) * Milli,

@@ -19,6 +19,22 @@ html::TextMode modeBehind(QStringView element)
     return element == u"textarea" || element == u"title" ? html::TextMode::Rcdata : html::TextMode::Markup;
 }
 
+/// Where the element is opened that nothing closes up to the text's end; -1 if there is none.
+qsizetype openedLast(QStringView text, QStringView element)
+{
+    for (qsizetype place = text.size(); place > 0;) {
+        place = text.first(place).lastIndexOf(u'<');
+        if (place < 0)
+            break;
+        const QStringView behind = text.sliced(place + 1);
+        if (behind.startsWith(element, Qt::CaseInsensitive))
+            return place;
+        if (behind.startsWith(u'/') && behind.sliced(1).startsWith(element, Qt::CaseInsensitive))
+            break;
+    }
+    return -1;
+}
+
 /// Behind a character reference that starts there; the place itself where none does.
 qsizetype behindReference(QStringView text, qsizetype from)
 {
@@ -44,27 +60,24 @@ void PageColours::startNear(qsizetype position)
     m_rawElement.clear();
     const qsizetype from = std::max<qsizetype>(0, position - Nearby);
     const QStringView nearby = QStringView(m_text).sliced(from, position - from);
-    const auto last = [&nearby](QStringView word) { return nearby.lastIndexOf(word, -1, Qt::CaseInsensitive); };
     qsizetype start = from == 0 ? 0 : std::max<qsizetype>(0, nearby.lastIndexOf(u"\n<"));
     const qsizetype comment = nearby.lastIndexOf(u"<!--");
     if (comment >= 0 && comment > nearby.lastIndexOf(u"-->"))
         start = std::min(start, comment);
-    for (const QStringView element : {QStringView(u"script"), QStringView(u"style")}) {
-        const qsizetype opening = last(QString(u'<' + element.toString()));
-        if (opening >= 0 && opening > last(QString(QStringLiteral("</") + element.toString())))
+    for (const QStringView element : {QStringView(u"script"), QStringView(u"style")})
+        if (const qsizetype opening = openedLast(nearby, element); opening >= 0)
             start = std::min(start, opening);
-    }
     m_at = from + start;
 }
 
-QList<FormatRange> PageColours::advance(qsizetype until)
+QList<FormatRange> PageColours::advance(qsizetype until, qsizetype shownFrom)
 {
     const qsizetype from = m_at;
     m_paints.clear();
     while (m_at < std::min(until, m_text.size()))
         step(until);
     paintServerCode(from, m_at);
-    return formats(from);
+    return formats(std::clamp(shownFrom, from, m_at));
 }
 
 void PageColours::step(qsizetype until)
@@ -218,7 +231,8 @@ QList<FormatRange> PageColours::formats(qsizetype from) const
     PaintList paints(part.size());
     for (const PaintRange &range : m_paints) {
         const bool isPlain = !m_options.ColourCodeSyntax && range.paint != AspCodePaint;
-        paints.add(range.start - from, range.length, isPlain ? DefaultPaint : range.paint);
+        const qsizetype start = std::max(range.start, from);
+        paints.add(start - from, range.start + range.length - start, isPlain ? DefaultPaint : range.paint);
     }
     LinkPass links(part, paints);
     while (m_options.ColourCodeHyperlink && links.advance(false)) {
@@ -226,6 +240,22 @@ QList<FormatRange> PageColours::formats(qsizetype from) const
     QList<FormatRange> formats = paints.formats(m_options);
     for (FormatRange &range : formats)
         range.start += from;
+    return formats;
+}
+
+QList<FormatRange> formatsNearby(const QString &text, qsizetype from, qsizetype to, const ColouringOptions &options,
+                                 bool readsScripts)
+{
+    const qsizetype start = std::max<qsizetype>(0, from - Nearby);
+    PageColours page(text.mid(start, to - start + Ahead), options, readsScripts);
+    page.startNear(from - start);
+    QList<FormatRange> formats = page.advance(to - start, from - start);
+    for (FormatRange &range : formats)
+        range.start += start;
+    while (!formats.isEmpty() && formats.constLast().start >= to)
+        formats.removeLast();
+    if (!formats.isEmpty())
+        formats.last().length = std::min(formats.last().length, to - formats.last().start);
     return formats;
 }
 

@@ -21,7 +21,9 @@ public:
 
     /// Reads on to `until`, or a little further, and gives the formats of all that was read: they touch, do not overlap
     /// and leave no character out.
-    QList<FormatRange> advance(qsizetype until);
+    QList<FormatRange> advance(qsizetype until) { return advance(until, m_at); }
+    /// The same, but for formats in front of `shownFrom`.
+    QList<FormatRange> advance(qsizetype until, qsizetype shownFrom);
 
     qsizetype place() const { return m_at; } ///< how far the text is read, from 0
     bool isAtEnd() const { return m_at >= m_text.size(); }
@@ -50,6 +52,11 @@ private:
     qsizetype m_serverEnd = 0;     ///< behind the "%>" of the server code painted last
     std::vector<PaintRange> m_paints;
 };
+
+/// The formats from the start of a line to another place of a text, as far as they can be told from what is nearby.
+/// However long the text, or any one thing in it, no more is looked at.
+QList<FormatRange> formatsNearby(const QString &text, qsizetype from, qsizetype to, const ColouringOptions &options,
+                                 bool readsScripts);
 
 /// The same for the whole text at once.
 QList<FormatRange> pageFormats(const QString &text, const ColouringOptions &options);

@@ -6,24 +6,15 @@
 #include "forms/programContext.h"
 #include "surface/editSurface.h"
 
+#include <QElapsedTimer>
+
 #include <algorithm>
 
 namespace
 {
 constexpr qsizetype AtOnce = 128 * 1024; ///< of a text this long, more is not worth a second look
+constexpr qsizetype Piece = 4 * 1024;    ///< in characters, between two looks at the clock
 
-/// Only what stands between the two places.
-QList<FormatRange> within(const QList<FormatRange> &formats, qsizetype from, qsizetype to)
-{
-    QList<FormatRange> inside;
-    for (const FormatRange &range : formats) {
-        const qsizetype start = std::max(range.start, from);
-        const qsizetype end = std::min(range.start + range.length, to);
-        if (end > start)
-            inside.append({start, end - start, range.format});
-    }
-    return inside;
-}
 } // namespace
 
 bool readsScripts(const ProgramContext &context)
@@ -71,7 +62,13 @@ void SlicedColouring::slice(int round)
 {
     if (round != m_round || !m_page || !m_edit)
         return;
-    m_edit->setFormats(m_page->advance(m_page->place() + SliceLength));
+    QElapsedTimer sinceBegin;
+    sinceBegin.start();
+    QList<FormatRange> formats;
+    do
+        formats += m_page->advance(m_page->place() + Piece);
+    while (!m_page->isAtEnd() && sinceBegin.elapsed() < SliceMilliseconds);
+    m_edit->setFormats(formats);
     if (m_page->isAtEnd())
         m_page.reset();
     else
@@ -92,7 +89,6 @@ void SlicedColouring::colourView()
         std::min(from + longest, m_edit->characterFromLine(lines.constLast().line + 1).value_or(m_page->text().size()));
     if (to <= m_page->place())
         return;
-    PageColours view(m_page->text(), m_context.mainWindow->colouring, readsScripts(m_context));
-    view.startNear(from);
-    m_edit->setFormats(within(view.advance(to), from, to));
+    m_edit->setFormats(
+        formatsNearby(m_page->text(), from, to, m_context.mainWindow->colouring, readsScripts(m_context)));
 }

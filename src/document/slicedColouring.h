@@ -19,7 +19,8 @@ class SlicedColouring final : public QObject
 {
     Q_OBJECT
 public:
-    static constexpr qsizetype SliceLength = 32 * 1024; ///< in characters
+    /// What a slice takes, whatever stands in the text: a jump may have to wait for one.
+    static constexpr qint64 SliceMilliseconds = 2;
 
     SlicedColouring(EditSurface &edit, ProgramContext &context);
     ~SlicedColouring() override;

@@ -118,6 +118,42 @@ TEST(PageColours, AreTheSameInPiecesAndFromNearby)
     }
 }
 
+TEST(FormatsNearby, AreThoseOfTheWholeTextAndNoOthers)
+{
+    QString page;
+    for (int i = 0; i < 2000; ++i)
+        page += QStringLiteral("<p class=\"c%1\">text <%= %1 %> more</p>\r\n<SCRIPT>\r\nvar a = \"<b>\"; // %1\r\n"
+                               "</SCRIPT>\r\n<!-- <i>\r\n%1 www.a -->\r\n")
+                    .arg(i);
+    const QString whole = lettersOf(pageFormats(page, Options), page.size());
+    for (qsizetype at = 0; at < page.size(); at += 997) {
+        const qsizetype from = page.lastIndexOf(u'\n', at) + 1;
+        const qsizetype to = std::min(from + 3000, page.size());
+        const QList<FormatRange> formats = formatsNearby(page, from, to, Options, true);
+        qsizetype covered = from;
+        for (const FormatRange &range : formats) {
+            EXPECT_EQ(range.start, covered);
+            covered += range.length;
+        }
+        EXPECT_EQ(covered, to) << from;
+        EXPECT_EQ(lettersOf(formats, page.size()).mid(from, to - from), whole.mid(from, to - from)) << from;
+    }
+}
+
+TEST(FormatsNearby, EndWithinOneLongThing)
+{
+    const QString filler(300'000, u'x');
+    for (const char *opening : {"<!--", "<p id=\"", "<script>", "<p>", "<% "}) {
+        const QString page = QLatin1String(opening) + filler;
+        for (const qsizetype from : {0, 1000, 200'000}) {
+            const QList<FormatRange> formats = formatsNearby(page, from, from + 5000, Options, true);
+            ASSERT_FALSE(formats.isEmpty()) << opening;
+            EXPECT_EQ(formats.first().start, from) << opening;
+            EXPECT_EQ(formats.last().start + formats.last().length, from + 5000) << opening;
+        }
+    }
+}
+
 TEST(PageColours, GoOnWhereAPageHoldsOneLongThing)
 {
     const QString filler(100'000, u'x');
