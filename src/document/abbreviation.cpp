@@ -202,7 +202,7 @@ private:
 class Writer
 {
 public:
-    explicit Writer(const IndentStyle &style) : m_step(indentStep(style)) {}
+    Writer(const IndentStyle &style, MarkupLanguage language) : m_step(indentStep(style)), m_language(language) {}
 
     Expansion write(const QList<Element> &elements)
     {
@@ -242,8 +242,11 @@ private:
             return;
         }
         writeStartTag(element);
-        if (isVoid(element.name))
+        if (isVoid(element.name)) {
+            if (m_language == MarkupLanguage::Xhtml)
+                m_text.insert(m_text.size() - 1, QStringLiteral(" /"));
             return;
+        }
         const bool inLines = (linesUp(element.children) && !element.children.isEmpty()) || element.text.contains(Break);
         if (element.text.isEmpty() && element.children.isEmpty())
             markCaret();
@@ -265,8 +268,11 @@ private:
         m_text += u'<' + element.name;
         for (const Attribute &attribute : element.attributes) {
             m_text += u' ' + attribute.name;
-            if (attribute.bare)
+            if (attribute.bare) {
+                if (m_language == MarkupLanguage::Xhtml)
+                    m_text += QStringLiteral("=\"") + attribute.name + u'"';
                 continue;
+            }
             m_text += QStringLiteral("=\"");
             if (attribute.value.isEmpty())
                 markCaret();
@@ -292,6 +298,7 @@ private:
     }
 
     QString m_step;
+    MarkupLanguage m_language;
     QString m_text;
     qsizetype m_caret = -1;
 };
@@ -365,7 +372,7 @@ qsizetype lengthBefore(QStringView text, qsizetype caret, const IsElement &isEle
     return isOne ? candidate.size() : 0;
 }
 
-std::optional<Expansion> expanded(const QString &abbreviation, const IndentStyle &style)
+std::optional<Expansion> expanded(const QString &abbreviation, const IndentStyle &style, MarkupLanguage language)
 {
     const std::optional<QList<Node>> nodes = parsed(abbreviation);
     if (!nodes)
@@ -374,10 +381,11 @@ std::optional<Expansion> expanded(const QString &abbreviation, const IndentStyle
     const QList<Element> elements = builder.build(*nodes, {}, {});
     if (builder.isTooMuch())
         return std::nullopt;
-    return Writer(style).write(elements);
+    return Writer(style, language).write(elements);
 }
 
-std::optional<Expansion> wrapped(const QString &abbreviation, const QString &content, const IndentStyle &style)
+std::optional<Expansion> wrapped(const QString &abbreviation, const QString &content, const IndentStyle &style,
+                                 MarkupLanguage language)
 {
     const std::optional<QList<Node>> nodes = parsed(abbreviation);
     if (!nodes)
@@ -392,6 +400,6 @@ std::optional<Expansion> wrapped(const QString &abbreviation, const QString &con
         return std::nullopt;
     if (builder.isLost() || (!builder.linesPut() && !Builder::put(elements, content)))
         return std::nullopt;
-    return Writer(style).write(elements);
+    return Writer(style, language).write(elements);
 }
 } // namespace abbreviation

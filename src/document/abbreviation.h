@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/html/markupLanguage.h"
 #include "services/editorSettings.h"
 
 #include <QString>
@@ -26,9 +27,12 @@ struct Expansion {
 /// a text with a sign of the notation that can be read to its end.
 qsizetype lengthBefore(QStringView text, qsizetype caret, const IsElement &isElement);
 
-/// Nothing where the text is no abbreviation, or comes to more than anybody would want.
-std::optional<Expansion> expanded(const QString &abbreviation, const IndentStyle &style);
+/// In XHTML, elements without contents are closed. Nothing where the text is no abbreviation, or comes to more than
+/// anybody would want.
+std::optional<Expansion> expanded(const QString &abbreviation, const IndentStyle &style,
+                                  MarkupLanguage language = MarkupLanguage::Html);
 /// The same around a text: it stands in place of "$#", or in the innermost element. An "*" without a number makes an
 /// element of each line that is not blank.
-std::optional<Expansion> wrapped(const QString &abbreviation, const QString &content, const IndentStyle &style);
+std::optional<Expansion> wrapped(const QString &abbreviation, const QString &content, const IndentStyle &style,
+                                 MarkupLanguage language = MarkupLanguage::Html);
 } // namespace abbreviation

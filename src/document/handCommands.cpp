@@ -27,21 +27,12 @@ TextSelection selectionOf(const TextSurface &edit)
     return {edit.SelStart(), edit.SelLength()};
 }
 
-void change(Document &document, const LineChange &change)
-{
-    if (!change.replacement || document.txtEdit().Locked())
-        return;
-    document.UndoRedoStep();
-    applyChange(document.txtEdit(), change);
-    document.UndoRedoStep();
-}
-
 /// Runs what makes a change of the active document's text and selection.
 void changeActive(ProgramContext &context, const std::function<LineChange(const QString &, TextSelection)> &make)
 {
     if (Document *document = context.mainWindow->activeDocument()) {
         const TextSurface &edit = document->txtEdit();
-        change(*document, make(edit.Text(), selectionOf(edit)));
+        changeInOneStep(*document, make(edit.Text(), selectionOf(edit)));
     }
 }
 
@@ -88,6 +79,15 @@ void applyChange(TextSurface &edit, const LineChange &change)
     }
     edit.setSelStart(change.selection.start);
     edit.setSelLength(change.selection.length);
+}
+
+void changeInOneStep(Document &document, const LineChange &change)
+{
+    if (!change.replacement || document.txtEdit().Locked())
+        return;
+    document.UndoRedoStep();
+    applyChange(document.txtEdit(), change);
+    document.UndoRedoStep();
 }
 
 void ToggleComment(ProgramContext &context)
@@ -163,11 +163,11 @@ bool ExpandAbbreviation(ProgramContext &context, Document &document)
         abbreviation::lengthBefore(text, caret, [&context](const QString &name) { return isElement(context, name); });
     if (length == 0)
         return false;
-    const auto expansion =
-        abbreviation::expanded(text.mid(caret - length, length), indentStyle(context.services.settings));
+    const auto expansion = abbreviation::expanded(text.mid(caret - length, length),
+                                                  indentStyle(context.services.settings), markupLanguage(text));
     if (!expansion)
         return false;
-    change(document, inPlaceOf(text, {caret - length, length}, *expansion));
+    changeInOneStep(document, inPlaceOf(text, {caret - length, length}, *expansion));
     return true;
 }
 
@@ -177,10 +177,11 @@ bool WrapWithAbbreviation(ProgramContext &context, const QString &abbreviation)
     if (!document)
         return false;
     const TextSurface &edit = document->txtEdit();
-    const auto expansion = abbreviation::wrapped(abbreviation, edit.SelText(), indentStyle(context.services.settings));
+    const auto expansion = abbreviation::wrapped(abbreviation, edit.SelText(), indentStyle(context.services.settings),
+                                                 markupLanguage(edit.Text()));
     if (!expansion)
         return false;
-    change(*document, inPlaceOf(edit.Text(), selectionOf(edit), *expansion));
+    changeInOneStep(*document, inPlaceOf(edit.Text(), selectionOf(edit), *expansion));
     return true;
 }
 

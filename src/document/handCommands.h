@@ -32,3 +32,5 @@ void FollowLinkAtCaret(ProgramContext &context);
 
 /// Puts a change into a text.
 void applyChange(TextSurface &edit, const LineChange &change);
+/// The same as one step of the document's history; nothing in a locked one.
+void changeInOneStep(Document &document, const LineChange &change);

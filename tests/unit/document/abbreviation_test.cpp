@@ -139,6 +139,20 @@ TEST(Abbreviation, StandsRightBeforeTheCaret)
     }
 }
 
+TEST(Abbreviation, IsWholeInXhtml)
+{
+    const auto xhtml = [](const char *text) {
+        const auto expansion = abbreviation::expanded(QString::fromUtf8(text), Two, MarkupLanguage::Xhtml);
+        QString marked = expansion->text;
+        return marked.insert(expansion->caret, u'|').toStdString();
+    };
+    EXPECT_EQ(xhtml("img"), "<img src=\"|\" alt=\"\" />");
+    EXPECT_EQ(xhtml("p>br"), "<p><br /></p>|");
+    EXPECT_EQ(xhtml("input[disabled.]"), "<input type=\"text\" disabled=\"disabled\" />|");
+    EXPECT_EQ(abbreviation::wrapped(QStringLiteral("br+p"), QStringLiteral("a"), Two, MarkupLanguage::Xhtml)->text,
+              QStringLiteral("<br />\r\n<p>a</p>"));
+}
+
 TEST(Abbreviation, StandsAroundAText)
 {
     struct Wrap {
