@@ -125,7 +125,8 @@ private:
     void txtEdit_GotFocus();
     void txtEdit_LostFocus();
     void txtEdit_TextDropped(const QString &text);
-    void txtEdit_FilesDropped(const QStringList &paths);
+    void txtEdit_FilesDropped(const QStringList &paths, qsizetype place);
+    void openFiles(const QStringList &paths);
     void tmrLineCount_Timer();
     void showPopup(const QPoint &point);
     void setHoverLink(const QString &link);

@@ -8,6 +8,7 @@
 #include "document/frmWrite.h"
 #include "document/handCommands.h"
 #include "document/linkTarget.h"
+#include "document/pictureHands.h"
 #include "document/viewingPanes.h"
 #include "internet/modViewInBrowser.h"
 #include "services/services.h"
@@ -36,7 +37,10 @@ SurfaceHooks frmWrite::surfaceHooks()
     hooks.mouseMove = [this](SurfaceMouse &mouse) { txtEdit_MouseMove(mouse); };
     hooks.mouseUp = [this](SurfaceMouse &mouse) { txtEdit_MouseUp(mouse); };
     hooks.textDropped = [this](const QString &text) { txtEdit_TextDropped(text); };
-    hooks.filesDropped = [this](const QStringList &paths) { txtEdit_FilesDropped(paths); };
+    hooks.filesDropped = [this](const QStringList &paths, qsizetype place) { txtEdit_FilesDropped(paths, place); };
+    hooks.filesHavePlace = [this](const QStringList &paths) {
+        return !picturesAmong(context(), *this, paths).isEmpty();
+    };
     hooks.squareClicked = [this](const MarkedRange &square) { m_colourSquares->click(square); };
     return hooks;
 }
@@ -122,7 +126,24 @@ void frmWrite::txtEdit_TextDropped(const QString &text)
     m_edit->SetFocus();
 }
 
-void frmWrite::txtEdit_FilesDropped(const QStringList &paths)
+/// Pictures come behind the drop, for which another program is waiting.
+void frmWrite::txtEdit_FilesDropped(const QStringList &paths, qsizetype place)
+{
+    const QStringList pictures = picturesAmong(context(), *this, paths);
+    if (pictures.isEmpty()) {
+        openFiles(paths);
+        return;
+    }
+    const auto take = [this, paths, pictures, place] {
+        WritePictures(context(), *this, pictures, {place, 0});
+        QStringList others = paths;
+        others.removeIf([&pictures](const QString &path) { return pictures.contains(path); });
+        openFiles(others);
+    };
+    QMetaObject::invokeMethod(this, take, Qt::QueuedConnection);
+}
+
+void frmWrite::openFiles(const QStringList &paths)
 {
     for (const QString &path : paths)
         if (context().files)

@@ -2,6 +2,7 @@
 
 #include "common/document.h"
 #include "common/mainWindow.h"
+#include "document/pictureHands.h"
 #include "forms/programContext.h"
 #include "services/clipboard.h"
 #include "services/services.h"
@@ -59,6 +60,8 @@ void PasteToDocument(ProgramContext &context)
     const QString text = PasteFromClipboard(context);
     if (QLineEdit *field = fieldInUse()) {
         field->insert(text);
+    } else if (PasteAsPicture(context)) {
+        return;
     } else if (Document *document = context.mainWindow->activeDocument()) {
         if (text.isEmpty())
             document->UndoRedoChange();

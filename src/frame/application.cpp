@@ -3,6 +3,7 @@
 #include "codeknowledge/codeknowledgeForms.h"
 #include "common/mainWindow.h"
 #include "common/unsavedText.h"
+#include "document/frmPastePicture.h"
 #include "document/frmWrapAbbreviation.h"
 #include "document/modDocument.h"
 #include "extensions/extensionsForms.h"
@@ -58,6 +59,7 @@ Application::Application(Services &services)
     for (std::unique_ptr<Form> &form : projectForms(m_context, m_mdi->project()))
         m_forms.own(std::move(form));
     m_forms.own(std::make_unique<frmWrapAbbreviation>(m_context));
+    m_forms.own(std::make_unique<frmPastePicture>(m_context));
     requireForms();
     connect(m_mdi, &Form::unloaded, this, &Application::End);
 }

@@ -8,6 +8,7 @@
 #include "document/modBrowserControl.h"
 #include "document/modClipboard.h"
 #include "document/modDocument.h"
+#include "document/pictureHands.h"
 #include "extensions/frmWizards.h"
 #include "extensions/modExternalPrograms.h"
 #include "extensions/modWizards.h"
@@ -257,6 +258,11 @@ void MainCommands::mnuExpandAbbreviation_Click()
 {
     if (Document *active = document())
         ExpandAbbreviation(m_context, *active);
+}
+
+void MainCommands::mnuPastePicture_Click()
+{
+    PastePicture(m_context);
 }
 
 void MainCommands::mnuFollowLink_Click()

@@ -78,6 +78,7 @@ public:
     void mnuRenameElement_Click();
     void mnuChangeColour_Click();
     void mnuExpandAbbreviation_Click();
+    void mnuPastePicture_Click();
     void mnuFollowLink_Click();
     void mnuGoToFile_Click();
     void mnuRunCommand_Click();

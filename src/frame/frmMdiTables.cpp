@@ -105,6 +105,7 @@ constexpr MenuCommand menuTable[] = {
     {"mnuRenameElement", "mnuHands", "Rena&me Element", "", "", Any, runs(&C::mnuRenameElement_Click), &Habits::HandsPair},
     {"mnuExpandAbbreviation", "mnuHands", "&Expand Abbreviation", "", "", Any, runs(&C::mnuExpandAbbreviation_Click), &Habits::HandsAbbreviations},
     {"mnuWrapAbbreviation", "mnuHands", "&Wrap With Abbreviation...", "Ctrl+Shift+A", "", Any, shows("frmWrapAbbreviation"), &Habits::HandsAbbreviations},
+    {"mnuPastePicture", "mnuHands", "Paste P&icture...", "", "image", Any, runs(&C::mnuPastePicture_Click), &Habits::HandsPictures},
     {"mnuChangeColour", "mnuHands", "Chan&ge Colour...", "", "palette", Any, runs(&C::mnuChangeColour_Click), &Habits::HandsColours},
     {"mnuFollowLink", "mnuHands", "&Follow Link", "", "", Any, runs(&C::mnuFollowLink_Click), &Habits::HandsFollow},
     {"mnuGoToFile", "mnuHands", "Go &To File...", "Ctrl+P", "", Any, runs(&C::mnuGoToFile_Click), &Habits::HandsPalette},

@@ -29,6 +29,7 @@ constexpr HabitRule rules[] = {
     {&Habits::HandsComment, &settings::HandsComment, "Ctrl+/ makes comments of lines"},
     {&Habits::HandsLines, &settings::HandsLines, "Keys move, double and remove lines"},
     {&Habits::HandsAbbreviations, &settings::HandsAbbreviations, "Tab opens abbreviations into elements"},
+    {&Habits::HandsPictures, &settings::HandsPictures, "A dropped or pasted picture writes its element"},
     {&Habits::HandsColours, &settings::HandsColours, "Colours in the source are shown as squares"},
     {&Habits::HandsFollow, &settings::HandsFollow, "Ctrl and a click follow href and src"},
     {&Habits::HandsPalette, &settings::HandsPalette, "Ctrl+P finds files, Ctrl+Shift+P commands"},

@@ -222,6 +222,7 @@ private:
     void insertFromMimeData(const QMimeData *source);
     QMimeData *createMimeDataFromSelection() const;
     bool ownerTakes(const QDropEvent &event) const;
+    bool goesToItsPlace(const QDropEvent &event) const;
     void showDropPlace(std::optional<qsizetype> position);
     bool discarded(const std::function<void(SurfaceMouse &)> &hook, QMouseEvent *event);
 

@@ -378,6 +378,13 @@ bool EditSurface::ownerTakes(const QDropEvent &event) const
     return !isOwn && m_hooks.textDropped && canInsertFromMimeData(event.mimeData());
 }
 
+/// Whether what is dropped goes in where it is dropped; the owner may take it to a place of its own.
+bool EditSurface::goesToItsPlace(const QDropEvent &event) const
+{
+    const QStringList files = localFiles(*event.mimeData());
+    return files.isEmpty() ? !ownerTakes(event) : m_hooks.filesHavePlace && m_hooks.filesHavePlace(files);
+}
+
 void EditSurface::dragEnterEvent(QDragEnterEvent *event)
 {
     event->setAccepted(false);
@@ -391,7 +398,7 @@ void EditSurface::dragMoveEvent(QDragMoveEvent *event)
     if (!ownerTakes(*event) && !canInsertFromMimeData(event->mimeData()))
         return;
     event->acceptProposedAction();
-    if (!ownerTakes(*event)) // who takes it to a place of its own
+    if (goesToItsPlace(*event))
         showDropPlace(positionAt(event->position().toPoint()));
 }
 
@@ -412,7 +419,7 @@ void EditSurface::dropEvent(QDropEvent *event)
     const QStringList files = localFiles(*event->mimeData());
     if (!files.isEmpty() && m_hooks.filesDropped) {
         event->acceptProposedAction();
-        m_hooks.filesDropped(files);
+        m_hooks.filesDropped(files, positionAt(event->position().toPoint()));
         return;
     }
     if (ownerTakes(*event)) {

@@ -38,7 +38,10 @@ struct SurfaceHooks {
     std::function<void(SurfaceMouse &)> mouseDown;
     std::function<void(SurfaceMouse &)> mouseMove; ///< with or without a button down
     std::function<void(SurfaceMouse &)> mouseUp;
-    std::function<void(const QStringList &)> filesDropped; ///< native paths; without it files cannot be dropped
+    /// Native paths, and the position that they were dropped at; without it files cannot be dropped.
+    std::function<void(const QStringList &, qsizetype)> filesDropped;
+    /// Whether these files go to the place that they are dropped at, which is shown on their way; without it none do.
+    std::function<bool(const QStringList &)> filesHavePlace;
     /// Text from elsewhere than this surface; without it, it goes in where it is dropped.
     std::function<void(const QString &)> textDropped;
     std::function<void(const MarkedRange &)> squareClicked; ///< the square of a Colour mark, with the left button

@@ -150,12 +150,34 @@ void setClipboard(Stage &, const Line &line)
     QGuiApplication::clipboard()->setText(line.words[0]);
 }
 
+/// What other programs put beside a picture follows it, each text behind its type.
 void setClipboardPicture(Stage &stage, const Line &line)
 {
     const QImage picture(line.words[0]);
     if (picture.isNull())
         stage.referee.wrong(QStringLiteral("there is no picture %1").arg(line.words[0]));
-    QGuiApplication::clipboard()->setImage(picture);
+    if (line.words.size() % 2 == 0)
+        stage.referee.wrong(QStringLiteral("what stands beside a picture is a type and a text, such as text/html <b>"));
+    auto *data = new QMimeData;
+    data->setImageData(picture);
+    for (int i = 1; i + 1 < line.words.size(); i += 2)
+        data->setData(line.words[i], line.words[i + 1].toUtf8());
+    QGuiApplication::clipboard()->setMimeData(data);
+}
+
+QList<QUrl> urlsOf(const QStringList &paths)
+{
+    QList<QUrl> urls;
+    for (const QString &path : paths)
+        urls.append(QUrl::fromLocalFile(path));
+    return urls;
+}
+
+void setClipboardFiles(Stage &, const Line &line)
+{
+    auto *data = new QMimeData;
+    data->setUrls(urlsOf(line.words));
+    QGuiApplication::clipboard()->setMimeData(data);
 }
 
 /// Where a text stands in the page on show; the script fails if it does not come up in time.
@@ -213,21 +235,32 @@ void reveal(Stage &stage, const Line &line)
         bringIntoView(widgetOf(stage, target));
 }
 
+/// What is dropped stands behind the target's name, or behind the place in it.
+void dropAt(Stage &stage, const QString &name, std::optional<QPoint> place, const QStringList &what)
+{
+    const Target target = findTarget(stage, name);
+    QMimeData data;
+    if (what.first() == QStringLiteral("text") && what.size() == 2)
+        data.setText(what[1]);
+    else if (what.first() == QStringLiteral("files") && what.size() > 1)
+        data.setUrls(urlsOf(what.mid(1)));
+    else
+        stage.referee.wrong(QStringLiteral("what is dropped is `text TEXT` or `files PATH...`"));
+    dropOn(widgetOf(stage, target), data, place);
+}
+
 void drop(Stage &stage, const Line &line)
 {
-    const Target target = findTarget(stage, line.words[0]);
-    QMimeData data;
-    if (line.words[1] == QStringLiteral("text") && line.words.size() == 3) {
-        data.setText(line.words[2]);
-    } else if (line.words[1] == QStringLiteral("files")) {
-        QList<QUrl> files;
-        for (const QString &path : line.words.mid(2))
-            files.append(QUrl::fromLocalFile(path));
-        data.setUrls(files);
-    } else {
-        stage.referee.wrong(QStringLiteral("drop takes `text TEXT` or `files PATH...`"));
-    }
-    dropOn(widgetOf(stage, target), data);
+    dropAt(stage, line.words[0], {}, line.words.mid(1));
+}
+
+void dropAtPlace(Stage &stage, const Line &line)
+{
+    const auto x = wholeNumber(line.words[1]);
+    const auto y = wholeNumber(line.words[2]);
+    if (!x || !y)
+        stage.referee.wrong(QStringLiteral("drop-at takes a target, a place in it, and what is dropped"));
+    dropAt(stage, line.words[0], QPoint(*x, *y), line.words.mid(3));
 }
 
 void clickNamed(Stage &stage, const QString &name)
@@ -281,8 +314,10 @@ constexpr Command commands[] = {
     {"mouse", 4, 7, mouse},
     {"select", 2, 2, select},
     {"drop", 3, -1, drop},
+    {"drop-at", 5, -1, dropAtPlace},
     {"clipboard", 1, 1, setClipboard},
-    {"clipboard-picture", 1, 1, setClipboardPicture},
+    {"clipboard-picture", 1, -1, setClipboardPicture},
+    {"clipboard-files", 1, -1, setClipboardFiles},
     {"click", 1, 1, clickTarget},
     {"click-preview", 1, 1, clickPreview},
     {"size", 3, 3, resizeWindow},

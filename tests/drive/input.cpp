@@ -263,12 +263,12 @@ void moveMouse(QWidget &target, MouseAct act, QPoint at, Qt::KeyboardModifiers m
     }
 }
 
-void dropOn(QWidget &widget, const QMimeData &data)
+void dropOn(QWidget &widget, const QMimeData &data, std::optional<QPoint> place)
 {
     QWindow *window = handleOf(widget);
     if (!window || isBlocked(widget))
         return;
-    const QPoint at = widget.mapTo(widget.window(), widget.rect().center());
+    const QPoint at = widget.mapTo(widget.window(), place.value_or(widget.rect().center()));
     const Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction | Qt::LinkAction;
     QDragEnterEvent enter(at, actions, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(window, &enter);

@@ -4,6 +4,7 @@
 
 #include <QPoint>
 #include <QString>
+#include <optional>
 
 class Form;
 class QMimeData;
@@ -39,6 +40,6 @@ enum class MouseAct { Press, Release, Move, Click, DoubleClick, RightClick };
 /// `at` is in the widget's own coordinates, in logical pixels.
 void moveMouse(QWidget &target, MouseAct act, QPoint at, Qt::KeyboardModifiers modifiers);
 
-/// Drags data onto the middle of the widget and drops it, unless the program refuses it.
-void dropOn(QWidget &widget, const QMimeData &data);
+/// Drags data onto a place of the widget, or its middle, and drops it, unless the program refuses it.
+void dropOn(QWidget &widget, const QMimeData &data, std::optional<QPoint> place = {});
 } // namespace drive

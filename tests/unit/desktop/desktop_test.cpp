@@ -266,6 +266,62 @@ TEST(DesktopClipboard, GivesNoTextForFilesAndPictures)
     EXPECT_EQ(clipboard.text(), q("1"));
 }
 
+TEST(DesktopClipboard, TellsFilesAndPicturesFromText)
+{
+    DesktopClipboard clipboard;
+    const QImage image(3, 2, QImage::Format_RGB32);
+    auto *const files = new QMimeData;
+    files->setUrls({QUrl::fromLocalFile(q("/srv/a b.png"))});
+    files->setImageData(image);
+    QGuiApplication::clipboard()->setMimeData(files);
+    EXPECT_EQ(clipboard.files(), QStringList{q("/srv/a b.png")});
+    EXPECT_FALSE(clipboard.offersPicture()) << "a file that is there already need not be made";
+    QGuiApplication::clipboard()->setImage(image);
+    EXPECT_EQ(clipboard.files(), QStringList());
+    EXPECT_TRUE(clipboard.offersPicture());
+    EXPECT_EQ(clipboard.picture().kind, q("png"));
+    EXPECT_EQ(QImage::fromData(clipboard.picture().bytes).size(), QSize(3, 2));
+    auto *const cells = new QMimeData;
+    cells->setText(q("1"));
+    cells->setImageData(image);
+    QGuiApplication::clipboard()->setMimeData(cells);
+    EXPECT_FALSE(clipboard.offersPicture());
+    EXPECT_FALSE(clipboard.picture().bytes.isEmpty());
+    QGuiApplication::clipboard()->setText(q("text"));
+    EXPECT_FALSE(clipboard.offersPicture());
+    EXPECT_EQ(clipboard.picture().bytes, QByteArray());
+}
+
+TEST(DesktopClipboard, GivesTheBytesOfAPictureAsTheyCome)
+{
+    DesktopClipboard clipboard;
+    auto *const drawing = new QMimeData;
+    drawing->setData(q("image/png"), "painted");
+    drawing->setData(q("image/svg+xml"), "drawn");
+    QGuiApplication::clipboard()->setMimeData(drawing);
+    EXPECT_TRUE(clipboard.offersPicture());
+    EXPECT_EQ(clipboard.picture().kind, q("svg"));
+    EXPECT_EQ(clipboard.picture().bytes, QByteArray("drawn"));
+    auto *const photo = new QMimeData;
+    photo->setData(q("image/jpeg"), "seen");
+    QGuiApplication::clipboard()->setMimeData(photo);
+    EXPECT_EQ(clipboard.picture().kind, q("jpg"));
+    EXPECT_EQ(clipboard.picture().bytes, QByteArray("seen"));
+}
+
+TEST(DesktopClipboard, KnowsAPicturesAddressByItsMarkup)
+{
+    const QString address = q("http://example.org/a.png");
+    EXPECT_TRUE(isPicturesAddress(address, q("<img src='http://example.org/a.png'>")));
+    EXPECT_TRUE(isPicturesAddress(
+        address, q("<html><head><title>t</title></head><body>\n<!--x--><a href='b'><IMG src='a'></a></body></html>")));
+    EXPECT_FALSE(isPicturesAddress(address, q("<a href='a'>link</a>"))) << "no picture";
+    EXPECT_FALSE(isPicturesAddress(address, q("<img src='a'> and words"))) << "part of a page";
+    EXPECT_FALSE(isPicturesAddress(address, q("<img src='a'><img src='b'>"))) << "two of them";
+    EXPECT_FALSE(isPicturesAddress(q("two words"), q("<img src='a'>")));
+    EXPECT_FALSE(isPicturesAddress(address, QString())) << "a text by itself";
+}
+
 class Launching : public Sandbox
 {
 protected:

@@ -210,12 +210,18 @@ TEST_F(EditSurfaceInput, HandsDroppedFilesToTheOwner)
     EXPECT_FALSE(accepted) << "nobody takes files";
     QStringList dropped;
     SurfaceHooks hooks;
-    hooks.filesDropped = [&](const QStringList &paths) { dropped = paths; };
+    qsizetype where = -1;
+    hooks.filesDropped = [&](const QStringList &paths, qsizetype place) {
+        dropped = paths;
+        where = place;
+    };
     surface.setHooks(hooks);
-    drop(files);
+    surface.setText(QStringLiteral("abc"));
+    drop(files, surface.positionOfCharacter(1).center() - surface.viewport()->pos());
     EXPECT_TRUE(accepted);
     EXPECT_EQ(dropped, QStringList{QStringLiteral("/home/a b.htm")});
-    EXPECT_EQ(surface.Text(), QString());
+    EXPECT_EQ(where, 1);
+    EXPECT_EQ(surface.Text(), QStringLiteral("abc"));
 }
 
 TEST_F(EditSurfaceInput, ComposingIsNoChangeUntilItIsCommitted)
@@ -250,7 +256,7 @@ TEST_F(EditSurfaceInput, LockedKeepsTheUserFromTheTextAndNothingElse)
     QStringList seen;
     SurfaceHooks hooks;
     hooks.keyDown = [&](SurfaceKey &key) { seen << QString::number(key.key); };
-    hooks.filesDropped = [&](const QStringList &) { seen << QStringLiteral("files"); };
+    hooks.filesDropped = [&](const QStringList &, qsizetype) { seen << QStringLiteral("files"); };
     surface.setHooks(hooks);
     surface.setLocked(true);
     QSignalSpy changes(&surface, &EditSurface::Change);
