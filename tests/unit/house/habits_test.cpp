@@ -1,9 +1,78 @@
+#include <QDirIterator>
 #include <QFile>
+#include <QMap>
 #include <QRegularExpression>
+#include <QSet>
 #include <gtest/gtest.h>
 
 namespace
 {
+QString textOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+/// What stands before the brackets of a declaration, or behind its type.
+QStringList namesIn(const QString &header, const QString &pattern)
+{
+    QStringList names;
+    static const QString source = QStringLiteral(TEST_SOURCE_DIR "/src/");
+    for (auto match = QRegularExpression(pattern).globalMatch(textOf(source + header)); match.hasNext();)
+        names.append(match.next().captured(1));
+    return names;
+}
+
+/// The files of src/ that ask for each of the names: all that hold it but those that define and store it.
+QMap<QString, QStringList> filesThatAsk(const QStringList &names)
+{
+    static const QSet<QString> definitions{QStringLiteral("common/habits.h"), QStringLiteral("services/habits.cpp"),
+                                           QStringLiteral("services/settingsKeys.h")};
+    const QString source = QStringLiteral(TEST_SOURCE_DIR "/src/");
+    QMap<QString, QStringList> files;
+    for (QDirIterator each(source, {QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files,
+                           QDirIterator::Subdirectories);
+         each.hasNext();) {
+        const QString path = each.next();
+        const QString text = textOf(path);
+        for (const QString &name : names)
+            if (!definitions.contains(path.mid(source.size())) &&
+                text.contains(QRegularExpression(QStringLiteral("\\b%1\\b").arg(name))))
+                files[name].append(path.mid(source.size()));
+    }
+    return files;
+}
+
+/// Whoever changes a rule has to find all that goes by it.
+TEST(Habits, AreEachAskedForInTwoFilesAtMost)
+{
+    const QStringList rules = namesIn(QStringLiteral("common/habits.h"), QStringLiteral("bool (H\\w+) = false;"));
+    EXPECT_GE(rules.size(), 27);
+    const QMap<QString, QStringList> files = filesThatAsk(rules);
+    for (const QString &rule : rules) {
+        EXPECT_GE(files[rule].size(), 1) << qPrintable(rule) << " changes nothing";
+        EXPECT_LE(files[rule].size(), 2) << qPrintable(rule + QStringLiteral(": ") + files[rule].join(u' '));
+    }
+}
+
+/// The one rule with several effects, each of which has a name of its own; beside the file that names it, two more may
+/// ask for it. Of the command line, it is three: it is read before there is a window, and once more by a first one.
+TEST(Habits, AreAskedForByTheirEffectsInTwoFilesAtMost)
+{
+    const QStringList effects =
+        namesIn(QStringLiteral("common/fileHabits.h"), QStringLiteral("constexpr bool (\\w+)\\("));
+    EXPECT_GE(effects.size(), 4);
+    const QMap<QString, QStringList> files = filesThatAsk(effects);
+    for (const QString &effect : effects) {
+        QStringList asking = files[effect];
+        asking.removeAll(QStringLiteral("common/fileHabits.h"));
+        asking.removeIf([](const QString &file) { return file.startsWith(QLatin1String("insertion/writtenMarkup.")); });
+        const qsizetype most = effect == u"takesSeveralFiles" ? 3 : 2;
+        EXPECT_GE(asking.size(), 1) << qPrintable(effect) << " changes nothing";
+        EXPECT_LE(asking.size(), most) << qPrintable(effect + QStringLiteral(": ") + asking.join(u' '));
+    }
+}
+
 /// The list of what is kept is worth something only as long as it leads somewhere.
 TEST(KeptQuirks, AreDecidedAndPinnedInFilesThatAreThere)
 {
