@@ -1,9 +1,11 @@
 #pragma once
 
 #include "common/textSelection.h"
+#include "document/textPieces.h"
 
 #include <QString>
 #include <array>
+#include <memory>
 #include <optional>
 
 /// The whole of a document at one moment. An empty text stands for "no snapshot".
@@ -15,8 +17,9 @@ struct UndoSnapshot {
 /// The history of one document: whole snapshots, of which the first is the newest.
 ///
 /// It is no linear history. A snapshot taken after an undo is put in front of those that could still be redone, which
-/// stay, and the position moves one entry towards the newest although the entries move one towards the oldest. Texts
-/// are shared, so a snapshot costs memory only where its text differs from the one before.
+/// stay, and the position moves one entry towards the newest although the entries move one towards the oldest. A
+/// snapshot of a large text costs memory only where it differs from the one beside it: whole stands only the one that
+/// was taken or given back last, which the document shares for as long as it does not change.
 class UndoHistory
 {
 public:
@@ -42,9 +45,25 @@ public:
 private:
     static constexpr int Oldest = 30;
 
+    /// A text that is not empty: whole, in pieces, or both.
+    struct Text {
+        QString whole;
+        TextPieces pieces;
+        bool is(const QString &text) const;
+    };
+    struct Entry {
+        std::shared_ptr<Text> text; ///< nothing where there is no snapshot; entries with the same text share it
+        TextSelection selection;
+    };
+    using Entries = std::array<Entry, Oldest + 1>;
+
+    Entry entryOf(const UndoSnapshot &snapshot, const Entry &beside) const;
     std::optional<UndoSnapshot> moveTo(int position);
+    void keepWhole(const std::shared_ptr<Text> &text);
+    TextPieces piecesBeside(const std::shared_ptr<Text> &text) const;
 
     // Entry 0 is never written: above the newest there is nothing to redo.
-    std::array<UndoSnapshot, Oldest + 1> m_entries;
+    Entries m_entries;
+    std::shared_ptr<Text> m_whole; ///< the one large text that is kept whole
     int m_position = 1;
 };

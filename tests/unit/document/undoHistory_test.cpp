@@ -1,6 +1,7 @@
 #include "document/undoHistory.h"
 
 #include <gtest/gtest.h>
+#include <malloc.h>
 
 namespace
 {
@@ -178,5 +179,44 @@ TEST(UndoHistory, KeepsASnapshotApartFromTheTextThatGoesOnChanging)
     text += u'd';
     history.UndoRedoChange({text, {4, 0}});
     EXPECT_EQ(history.Undo()->text, QStringLiteral("abc"));
+}
+
+/// A page of ten million characters, no two lines of which are alike.
+QString largePage()
+{
+    QString page;
+    for (int line = 0; page.size() < 10'000'000; ++line)
+        page += QStringLiteral("<p class=\"line%1\">And so it goes on for %2 lines.</p>\r\n").arg(line).arg(line * 7);
+    return page;
+}
+
+std::size_t heapInUse()
+{
+    return mallinfo2().uordblks + mallinfo2().hblkhd;
+}
+
+// Whole texts would take 600 MB.
+TEST(UndoHistory, CostsTheDifferenceOfItsSnapshots)
+{
+    const QString page = largePage();
+    const auto changed = [&](int step) {
+        QString text = page;
+        text.insert(page.size() / 31 * step, QStringLiteral("new"));
+        text.squeeze();
+        return text;
+    };
+    UndoHistory history;
+    const std::size_t before = heapInUse();
+    for (int step = 0; step < 30; ++step)
+        history.UndoRedoChange({changed(step), {step, 0}});
+    // The newest text, which a document would share, and once what all have in common.
+    EXPECT_LT(heapInUse() - before, 2 * sizeof(QChar) * 10'000'000 + 8'000'000);
+
+    for (int step = 28; step >= 0; --step) {
+        const auto entry = history.Undo();
+        ASSERT_TRUE(entry);
+        ASSERT_TRUE(entry->text == changed(step)) << step;
+    }
+    EXPECT_LT(heapInUse() - before, 2 * sizeof(QChar) * 10'000'000 + 8'000'000);
 }
 } // namespace
