@@ -2,6 +2,7 @@
 
 #include "common/codeKnowledge.h"
 #include "common/mainWindow.h"
+#include "common/text.h"
 #include "common/textReader.h"
 #include "forms/modLaunchHTMLHelp.h"
 #include "forms/programContext.h"
@@ -15,18 +16,9 @@ bool endsLine(QChar c)
     return c == u'\n' || c == u'\r';
 }
 
-QString trimmedBlanks(QStringView text)
-{
-    while (text.startsWith(u' '))
-        text = text.sliced(1);
-    while (text.endsWith(u' '))
-        text.chop(1);
-    return text.toString();
-}
-
 QString keyword(const QString &tag)
 {
-    const QString word = trimmedBlanks(tag.first(tag.contains(u' ') ? tag.indexOf(u' ') : tag.size()));
+    const QString word = Trim(tag.first(tag.contains(u' ') ? tag.indexOf(u' ') : tag.size()));
     return word.startsWith(u'/') ? word.sliced(1) : word;
 }
 

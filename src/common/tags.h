@@ -14,3 +14,6 @@ struct TagSpan {
 /// The next tag behind a position counted from 0: its "<" stands there or later. Nothing if no "<" follows, or no ">"
 /// follows that.
 std::optional<TagSpan> NextTagFrom(qsizetype position, const QString &text);
+
+/// The text without all such tags; a "<" that no ">" follows stays.
+QString withoutTags(const QString &text);

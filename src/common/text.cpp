@@ -50,6 +50,15 @@ std::optional<QString> Mid(QStringView text, qsizetype start, std::optional<qsiz
     return text.mid(start - 1, length.value_or(-1)).toString();
 }
 
+QString Trim(QStringView text)
+{
+    while (text.startsWith(u' '))
+        text = text.sliced(1);
+    while (text.endsWith(u' '))
+        text.chop(1);
+    return text.toString();
+}
+
 QString withCrLf(const QString &text)
 {
     if (lineBreaksOf(text).areAllCrLf())

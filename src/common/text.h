@@ -19,6 +19,9 @@ std::optional<qsizetype> FindBack(QStringView text, QStringView what, std::optio
 /// length.
 std::optional<QString> Mid(QStringView text, qsizetype start, std::optional<qsizetype> length = std::nullopt);
 
+/// Text without the blanks at its ends; other white space stays.
+QString Trim(QStringView text);
+
 /// Every line break (CR LF, LF, lone CR) as CR LF, which is how documents hold them in memory.
 QString withCrLf(const QString &text);
 

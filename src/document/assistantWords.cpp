@@ -1,5 +1,6 @@
 #include "document/assistantWords.h"
 
+#include "common/linkPrefixes.h"
 #include "common/text.h"
 #include "common/textReader.h"
 
@@ -7,10 +8,6 @@
 
 namespace
 {
-constexpr QLatin1String prefixes[] = {QLatin1String("www."),    QLatin1String("http:"), QLatin1String("file://"),
-                                      QLatin1String("mailto:"), QLatin1String("ftp:"),  QLatin1String("https:"),
-                                      QLatin1String("news:")};
-
 bool isBreak(QChar c)
 {
     return c == u'\r' || c == u'\n';
@@ -45,15 +42,6 @@ qsizetype startOfWord(TextReader &text, qsizetype pos)
 }
 } // namespace
 
-QString Trim(QStringView text)
-{
-    while (text.startsWith(u' '))
-        text = text.sliced(1);
-    while (text.endsWith(u' '))
-        text.chop(1);
-    return text.toString();
-}
-
 // Positions count from 1.
 QString WordAtCaret(const TextSurface &box, qsizetype pos)
 {
@@ -87,7 +75,7 @@ QString WordAtCharacter(const TextSurface &box, qsizetype character)
 QString linkIn(const QString &word)
 {
     const QString lower = LCase(word);
-    for (const QLatin1String prefix : prefixes) {
+    for (const QStringView prefix : LinkPrefixes) {
         const qsizetype place = lower.indexOf(prefix);
         if (place >= 0)
             return word.sliced(place);

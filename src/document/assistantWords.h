@@ -15,6 +15,3 @@ QString WordAtCharacter(const TextSurface &box, qsizetype character);
 /// The address that a word holds, from its beginning to the word's end: "www." anywhere, or else one of the schemes
 /// that a page may link to. Empty if the word holds none.
 QString linkIn(const QString &word);
-
-/// Text without the blanks at its ends; other white space stays.
-QString Trim(QStringView text);

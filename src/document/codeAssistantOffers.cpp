@@ -14,6 +14,7 @@
 #include "texttools/pageRules.h"
 #include "widgets/keptNodes.h"
 #include "widgets/nodeTree.h"
+#include "widgets/rowStep.h"
 
 #include <QLabel>
 
@@ -21,7 +22,6 @@
 
 namespace
 {
-constexpr int RowsOfAPage = 10;
 /// In a longer page nothing is offered: what is open at the caret would take too long to be found.
 constexpr qsizetype LongestPage = qsizetype(1) << 20;
 } // namespace
@@ -87,6 +87,10 @@ bool CodeAssistant::takeKey(int key)
 {
     if (!isListShown() || !offersWhatFits())
         return false;
+    if (const int step = rowStep(key)) {
+        moveInOffers(step);
+        return true;
+    }
     switch (key) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -95,18 +99,6 @@ bool CodeAssistant::takeKey(int key)
         return true;
     case Qt::Key_Escape:
         hideAll();
-        return true;
-    case Qt::Key_Down:
-        moveInOffers(1);
-        return true;
-    case Qt::Key_Up:
-        moveInOffers(-1);
-        return true;
-    case Qt::Key_PageDown:
-        moveInOffers(RowsOfAPage);
-        return true;
-    case Qt::Key_PageUp:
-        moveInOffers(-RowsOfAPage);
         return true;
     default:
         return false;

@@ -10,14 +10,8 @@
 #include "services/services.h"
 #include "surface/editSurface.h"
 
-#include <utility>
-
 namespace
 {
-/// Up to this length the colours are looked for at each key, beyond it in a pause.
-constexpr qsizetype ReadAtOnce = 65536;
-constexpr int PauseMilliseconds = 150;
-
 QList<ColourPlace> placesIn(const Document &document)
 {
     const CommentSigns kind = commentSignsAt({}, 0, document.DocSavePath);
@@ -43,32 +37,12 @@ void changeColour(const ProgramContext &context, Document &document, const Colou
 } // namespace
 
 ColourSquares::ColourSquares(Document &document, EditSurface &edit, ProgramContext &context)
-    : m_document(document), m_edit(edit), m_context(context)
+    : m_document(document), m_edit(edit), m_context(context), m_afterChanges(edit, [this] { show(); })
 {
-    m_soon.setSingleShot(true);
-    connect(&m_soon, &QTimer::timeout, this, [this] { show(); });
-    connect(&edit, &EditSurface::Change, this, [this] { noteChange(); });
-}
-
-void ColourSquares::noteChange()
-{
-    if (m_edit.textLength() <= ReadAtOnce)
-        bringUp();
-    else
-        m_soon.start(PauseMilliseconds);
-}
-
-void ColourSquares::bringUp()
-{
-    m_soon.stop();
-    if (!std::exchange(m_queued, true))
-        QMetaObject::invokeMethod(
-            this, [this] { show(); }, Qt::QueuedConnection);
 }
 
 void ColourSquares::show()
 {
-    m_queued = false;
     const bool wanted = m_context.state.habits.HandsColours;
     if (!wanted && !m_shown)
         return;

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "document/afterChanges.h"
+
 #include <QObject>
-#include <QTimer>
 
 class Document;
 class EditSurface;
@@ -16,19 +17,17 @@ public:
     /// All have to outlive it; the surface is the document's.
     ColourSquares(Document &document, EditSurface &edit, ProgramContext &context);
 
-    void bringUp(); ///< the rules may be others
+    void bringUp() { m_afterChanges.soon(); } ///< the rules may be others
     void click(const MarkedRange &square);
 
 private:
-    void noteChange();
     void show();
 
     Document &m_document;
     EditSurface &m_edit;
     ProgramContext &m_context;
-    QTimer m_soon;
-    bool m_queued = false;
     bool m_shown = false;
+    AfterChanges m_afterChanges;
 };
 
 /// Opens the colour dialog for the colour at the active document's caret; nothing where there is none.

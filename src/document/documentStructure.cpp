@@ -9,14 +9,8 @@
 #include "forms/programContext.h"
 #include "surface/editSurface.h"
 
-#include <utility>
-
 namespace
 {
-/// Up to this length a page is read anew at each key, beyond it in a pause.
-constexpr qsizetype ReadAtOnce = 65536;
-constexpr int PauseMilliseconds = 150;
-
 QString imageOf(const QString &name)
 {
     static const QHash<QString, QString> images = {
@@ -52,27 +46,8 @@ TreeNode treeNode(const OutlineNode &node)
 } // namespace
 
 DocumentStructure::DocumentStructure(Document &document, EditSurface &edit, ProgramContext &context)
-    : m_document(document), m_edit(edit), m_context(context)
+    : m_document(document), m_edit(edit), m_context(context), m_afterChanges(edit, [this] { show(); })
 {
-    m_soon.setSingleShot(true);
-    connect(&m_soon, &QTimer::timeout, this, [this] { show(); });
-    connect(&edit, &EditSurface::Change, this, [this] { noteChange(); });
-}
-
-void DocumentStructure::noteChange()
-{
-    if (m_edit.textLength() <= ReadAtOnce)
-        bringUp();
-    else
-        m_soon.start(PauseMilliseconds);
-}
-
-void DocumentStructure::bringUp()
-{
-    m_soon.stop();
-    if (!std::exchange(m_queued, true))
-        QMetaObject::invokeMethod(
-            this, [this] { show(); }, Qt::QueuedConnection);
 }
 
 void DocumentStructure::leave()
@@ -83,7 +58,6 @@ void DocumentStructure::leave()
 
 void DocumentStructure::show()
 {
-    m_queued = false;
     const bool holds = m_context.state.habits.HabitStructure;
     if (!holds && !m_marked)
         return;

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "document/afterChanges.h"
+
 #include <QObject>
-#include <QTimer>
 
 class Document;
 class EditSurface;
@@ -16,18 +17,16 @@ public:
     DocumentStructure(Document &document, EditSurface &edit, ProgramContext &context);
 
     /// The document came to the front, or the rules are others.
-    void bringUp();
+    void bringUp() { m_afterChanges.soon(); }
     /// Another document is in front now.
     void leave();
 
 private:
-    void noteChange();
     void show();
 
     Document &m_document;
     EditSurface &m_edit;
     ProgramContext &m_context;
-    QTimer m_soon;         ///< until what was typed is shown
-    bool m_queued = false; ///< it is shown at the end of the event
     bool m_marked = false;
+    AfterChanges m_afterChanges;
 };

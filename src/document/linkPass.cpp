@@ -1,15 +1,12 @@
 #include "document/linkPass.h"
 
+#include "common/linkPrefixes.h"
 #include "document/textSearch.h"
 
 #include <algorithm>
-#include <array>
 
 namespace
 {
-constexpr std::array<QStringView, 7> LinkPrefixes = {u"www.", u"http:",  u"file://", u"mailto:",
-                                                     u"ftp:", u"https:", u"news:"};
-
 bool endsLink(QChar c)
 {
     return c == u'"' || c == u'\r' || c == u'<' || c == u' ';

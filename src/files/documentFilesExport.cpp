@@ -1,8 +1,8 @@
 // Saving a document's text without its tags.
 #include "common/document.h"
 #include "common/mainWindow.h"
+#include "common/tags.h"
 #include "files/documentFiles.h"
-#include "files/textWithoutTags.h"
 #include "forms/programContext.h"
 #include "services/messageBoxes.h"
 #include "services/services.h"
@@ -10,8 +10,6 @@
 
 namespace
 {
-constexpr int ArrowHourglassPointer = 13;
-
 MessageBox stripQuestion()
 {
     return {.title = QStringLiteral("Strip HTML Tags"),
@@ -35,7 +33,7 @@ bool DocumentFiles::SaveStrippedText(Document &document, bool closing, const QSt
         return false;
     }
     // The document loses its tags only now that the file has the text without them.
-    m_context.screenPointer.setMousePointer(ArrowHourglassPointer);
+    m_context.screenPointer.setMousePointer(PointerShape::ArrowHourglass);
     document.txtEdit().setText(stripped);
     document.setDocumentCaption(path);
     document.DocSavePath = path;

@@ -9,6 +9,7 @@
 #include "services/fileSystem.h"
 #include "services/services.h"
 #include "services/settings.h"
+#include "widgets/controls.h"
 #include "widgets/listView.h"
 
 #include <QComboBox>
@@ -47,15 +48,6 @@ bool listHolds(const QComboBox &combo, const QString &address)
         if (combo.itemText(row).toLower() == address.toLower())
             return true;
     return false;
-}
-
-/// Adds rows and leaves the edit field alone, which the first row of an empty list would otherwise take over.
-void addRows(QComboBox &combo, const QStringList &rows)
-{
-    const QString shown = combo.currentText();
-    combo.addItems(rows);
-    combo.setCurrentIndex(-1);
-    combo.setEditText(shown);
 }
 
 /// A history of a thousand addresses has a few dozen kilobytes. What is larger than this can't be one.
@@ -169,7 +161,7 @@ void LoadAddressHistory(ProgramContext &context, QComboBox &combo)
         return;
     const FileContents history = context.services.files.readAll(addressFile(context));
     if (!history.error)
-        addRows(combo, addressesOf(history.bytes));
+        ui::addRows(combo, addressesOf(history.bytes));
 }
 
 void RecordAddress(ProgramContext &context, QComboBox &combo)
@@ -182,5 +174,5 @@ void RecordAddress(ProgramContext &context, QComboBox &combo, const QString &add
     if (!recordsAddresses(context) || address.isEmpty() || listHolds(combo, address))
         return;
     if (appendToHistory(context, address))
-        addRows(combo, {address});
+        ui::addRows(combo, {address});
 }

@@ -1,6 +1,7 @@
 #include "insertion/drawingBoard.h"
 
 #include "widgets/accessibleRole.h"
+#include "widgets/arrowStep.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -30,22 +31,6 @@ QCursor crossCursor()
     }
     painter.end();
     return QCursor(shape, middle, middle);
-}
-
-QPoint stepOf(int key)
-{
-    switch (key) {
-    case Qt::Key_Left:
-        return {-1, 0};
-    case Qt::Key_Right:
-        return {1, 0};
-    case Qt::Key_Up:
-        return {0, -1};
-    case Qt::Key_Down:
-        return {0, 1};
-    default:
-        return {};
-    }
 }
 
 bool isEnter(int key)
@@ -160,7 +145,7 @@ bool DrawingBoard::event(QEvent *event)
 {
     if (event->type() == QEvent::ShortcutOverride) {
         const int key = static_cast<QKeyEvent *>(event)->key();
-        if (isEnter(key) || key == Qt::Key_Backspace || !stepOf(key).isNull()) {
+        if (isEnter(key) || key == Qt::Key_Backspace || !arrowStep(key).isNull()) {
             event->accept();
             return true;
         }
@@ -184,7 +169,7 @@ void DrawingBoard::keyPressEvent(QKeyEvent *event)
 
 bool DrawingBoard::moveCrossBy(int key, Qt::KeyboardModifiers modifiers)
 {
-    const QPoint step = stepOf(key);
+    const QPoint step = arrowStep(key);
     if (step.isNull())
         return false;
     moveCross(m_cross + step * (modifiers & Qt::ControlModifier ? FastStep : 1));

@@ -2,6 +2,7 @@
 
 #include "common/mainWindow.h"
 #include "insertion/tableMarkup.h"
+#include "widgets/arrowStep.h"
 #include "widgets/pictureBox.h"
 #include "widgets/screenPointer.h"
 #include "widgets/themeColour.h"
@@ -17,30 +18,11 @@
 namespace
 {
 constexpr int Size = 5;
-constexpr int HourglassPointer = 11;
-constexpr int DefaultPointer = 0;
 
 QString tableText(int rows, int columns)
 {
     return QStringLiteral("%1 \u00D7 %2 Table").arg(rows).arg(columns);
 }
-
-QPoint stepOf(int key)
-{
-    switch (key) {
-    case Qt::Key_Left:
-        return {-1, 0};
-    case Qt::Key_Right:
-        return {1, 0};
-    case Qt::Key_Up:
-        return {0, -1};
-    case Qt::Key_Down:
-        return {0, 1};
-    default:
-        return {};
-    }
-}
-
 } // namespace
 
 int tableCellNumber(int row, int column)
@@ -196,7 +178,7 @@ void frmSelInsertTable::lblProcess_Click()
 /// The arrows grow and shrink the block, from the first cell on; Enter makes the table.
 bool frmSelInsertTable::keyDown(int key)
 {
-    const QPoint step = stepOf(key);
+    const QPoint step = arrowStep(key);
     const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
     if (!step.isNull())
         sweepTo(std::clamp(m_rows + step.y(), 1, Size), std::clamp(m_columns + step.x(), 1, Size));
@@ -210,7 +192,7 @@ bool frmSelInsertTable::keyDown(int key)
 void frmSelInsertTable::makeTable(int rows, int columns)
 {
     window()->setEnabled(false);
-    context().screenPointer.setMousePointer(HourglassPointer);
+    context().screenPointer.setMousePointer(PointerShape::Hourglass);
     frmMdi().SetStatusText(QStringLiteral("Creating Table..."));
     if (Document *document = frmMdi().activeDocument()) {
         document->UndoRedoChange();
@@ -220,5 +202,5 @@ void frmSelInsertTable::makeTable(int rows, int columns)
     if (Document *document = frmMdi().activeDocument())
         document->txtEdit().SetFocus();
     frmMdi().SetStatusReady();
-    context().screenPointer.setMousePointer(DefaultPointer);
+    context().screenPointer.setMousePointer(PointerShape::Default);
 }

@@ -30,8 +30,8 @@ QString widthAttribute(const TableFields &fields)
     return attributeText(QStringLiteral("width"), fields.widthInPercent ? fields.width + u'%' : fields.width);
 }
 
-/// A size is left out only at its default "0": a field that was emptied on purpose gives an empty attribute.
-QString sizeAttribute(const QString &name, const QString &value)
+/// Left out only at its default: a field that was emptied on purpose gives an empty attribute.
+QString attributeUnlessZero(const QString &name, const QString &value)
 {
     return value == u"0" ? QString() : attributeText(name, value);
 }
@@ -46,9 +46,9 @@ QString openingTag(const TableFields &fields)
         tag += attributeText(QStringLiteral("frame"), frameValue(fields.frame));
     if (fields.rules != NoChoice)
         tag += attributeUnlessEmpty(QStringLiteral("rules"), fields.rules.toLower());
-    tag += sizeAttribute(QStringLiteral("border"), fields.border);
-    tag += sizeAttribute(QStringLiteral("cellspacing"), fields.cellSpacing);
-    tag += sizeAttribute(QStringLiteral("cellpadding"), fields.cellPadding);
+    tag += attributeUnlessZero(QStringLiteral("border"), fields.border);
+    tag += attributeUnlessZero(QStringLiteral("cellspacing"), fields.cellSpacing);
+    tag += attributeUnlessZero(QStringLiteral("cellpadding"), fields.cellPadding);
     return tag + u'>';
 }
 

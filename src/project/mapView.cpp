@@ -2,6 +2,7 @@
 
 #include "project/mapScene.h"
 #include "widgets/accessibleRole.h"
+#include "widgets/arrowStep.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -21,22 +22,6 @@ constexpr qreal ZoomStep = 1.25;
 constexpr qreal WheelStep = 120; ///< eighths of a degree in one notch of a wheel
 constexpr int Margin = 24;       ///< that is kept in view around a box
 constexpr int MostListed = 12;   ///< boxes that a tool tip names
-
-std::optional<QPointF> wayOf(int key)
-{
-    switch (key) {
-    case Qt::Key_Left:
-        return QPointF(-1, 0);
-    case Qt::Key_Right:
-        return QPointF(1, 0);
-    case Qt::Key_Up:
-        return QPointF(0, -1);
-    case Qt::Key_Down:
-        return QPointF(0, 1);
-    default:
-        return std::nullopt;
-    }
-}
 } // namespace
 
 MapView::MapView(QWidget *parent) : QGraphicsView(parent)
@@ -226,9 +211,9 @@ bool MapView::walk(const QKeyEvent &event)
     const bool plain = !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
     if (event.text().isEmpty() || !event.text().front().isPrint())
         m_typed.clear(); // another name begins behind any other key
-    if (const std::optional<QPointF> way = wayOf(event.key())) {
+    if (const QPointF way = arrowStep(event.key()); !way.isNull()) {
         const std::optional<int> from = m_map->chosen();
-        const std::optional<int> next = from ? m_map->nextAlongLines(*from, *way) : 0;
+        const std::optional<int> next = from ? m_map->nextAlongLines(*from, way) : 0;
         if (next)
             choose(next);
         return true;

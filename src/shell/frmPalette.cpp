@@ -4,6 +4,7 @@
 #include "common/mainWindow.h"
 #include "widgets/layout.h"
 #include "widgets/listView.h"
+#include "widgets/rowStep.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -13,7 +14,6 @@
 namespace
 {
 constexpr QSize LeastSize(560, 360);
-constexpr int RowsOfAPage = 10;
 } // namespace
 
 frmPalette::frmPalette(ProgramContext &context) : Form(context, QStringLiteral("frmPalette")) {}
@@ -72,6 +72,10 @@ void frmPalette::txtPalette_Change()
 
 bool frmPalette::keyDown(const QKeyEvent &key)
 {
+    if (const int step = rowStep(key.key())) {
+        moveSelection(step);
+        return true;
+    }
     switch (key.key()) {
     case Qt::Key_Escape:
         Unload();
@@ -79,18 +83,6 @@ bool frmPalette::keyDown(const QKeyEvent &key)
     case Qt::Key_Return:
     case Qt::Key_Enter:
         choose();
-        return true;
-    case Qt::Key_Down:
-        moveSelection(1);
-        return true;
-    case Qt::Key_Up:
-        moveSelection(-1);
-        return true;
-    case Qt::Key_PageDown:
-        moveSelection(RowsOfAPage);
-        return true;
-    case Qt::Key_PageUp:
-        moveSelection(-RowsOfAPage);
         return true;
     default:
         return false;

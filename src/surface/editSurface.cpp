@@ -6,6 +6,7 @@
 #include "surface/lineMargin.h"
 #include "surface/signMargin.h"
 #include "surface/surfaceAccessible.h"
+#include "widgets/themeColour.h"
 
 #include <QFontDatabase>
 #include <QMdiArea>
@@ -13,23 +14,6 @@
 #include <QScrollBar>
 #include <algorithm>
 #include <utility>
-
-namespace
-{
-QPalette::ColorRole roleOf(ColourValue colour)
-{
-    switch (colour) {
-    case WindowColour:
-        return QPalette::Base;
-    case HighlightColour:
-        return QPalette::Highlight;
-    case ButtonFaceColour:
-        return QPalette::Button;
-    default:
-        return QPalette::Text;
-    }
-}
-} // namespace
 
 EditSurface::EditSurface(QWidget *parent)
     : QAbstractScrollArea(parent),
@@ -460,7 +444,7 @@ void EditSurface::followGround()
 QColor EditSurface::colourFor(ColourValue colour) const
 {
     if (isSystemColour(colour))
-        return palette().color(roleOf(colour));
+        return palette().color(themeRole(colour));
     const ColourValue drawn = isOnDarkGround() ? readableOnDark(colour) : readableOnLight(colour);
     return QColor(redOf(drawn), greenOf(drawn), blueOf(drawn));
 }

@@ -4,6 +4,7 @@
 #include "surface/surfaceMoves.h"
 
 #include "common/text.h"
+#include "widgets/droppedFiles.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -16,7 +17,6 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <QStyleHints>
-#include <QUrl>
 #include <algorithm>
 
 namespace
@@ -81,16 +81,6 @@ bool discards(const std::function<void(Event &)> &hook, Event event)
     if (hook)
         hook(event);
     return event.discard;
-}
-
-QStringList localFiles(const QMimeData &data)
-{
-    QStringList files;
-    for (const QUrl &url : data.urls()) {
-        if (url.isLocalFile())
-            files.append(url.toLocalFile());
-    }
-    return files;
 }
 } // namespace
 
@@ -381,7 +371,7 @@ bool EditSurface::ownerTakes(const QDropEvent &event) const
 /// Whether what is dropped goes in where it is dropped; the owner may take it to a place of its own.
 bool EditSurface::goesToItsPlace(const QDropEvent &event) const
 {
-    const QStringList files = localFiles(*event.mimeData());
+    const QStringList files = filesOf(*event.mimeData());
     return files.isEmpty() ? !ownerTakes(event) : m_hooks.filesHavePlace && m_hooks.filesHavePlace(files);
 }
 
@@ -416,7 +406,7 @@ void EditSurface::showDropPlace(std::optional<qsizetype> position)
 void EditSurface::dropEvent(QDropEvent *event)
 {
     showDropPlace({});
-    const QStringList files = localFiles(*event->mimeData());
+    const QStringList files = filesOf(*event->mimeData());
     if (!files.isEmpty() && m_hooks.filesDropped) {
         event->acceptProposedAction();
         m_hooks.filesDropped(files, positionAt(event->position().toPoint()));
@@ -450,13 +440,13 @@ bool EditSurface::canInsertFromMimeData(const QMimeData *source) const
 {
     if (m_locked)
         return false;
-    return localFiles(*source).isEmpty() ? source->hasText() : bool(m_hooks.filesDropped);
+    return filesOf(*source).isEmpty() ? source->hasText() : bool(m_hooks.filesDropped);
 }
 
 void EditSurface::insertFromMimeData(const QMimeData *source)
 {
     // A list of files has its names as text, too, which nobody wants in a page.
-    if (m_locked || !localFiles(*source).isEmpty() || source->text().isEmpty())
+    if (m_locked || !filesOf(*source).isEmpty() || source->text().isEmpty())
         return;
     insertAtCaret(source->text());
 }

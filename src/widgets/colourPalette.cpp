@@ -2,6 +2,7 @@
 
 #include "common/colourText.h"
 #include "widgets/accessibleRole.h"
+#include "widgets/arrowStep.h"
 #include "widgets/themeColour.h"
 
 #include <QKeyEvent>
@@ -17,18 +18,8 @@ constexpr int SmallestCell = 12;
 /// How far a key moves in a grid with rows of that length; 0 for a key that does not move.
 int stepOf(int key, int columns)
 {
-    switch (key) {
-    case Qt::Key_Left:
-        return -1;
-    case Qt::Key_Right:
-        return 1;
-    case Qt::Key_Up:
-        return -columns;
-    case Qt::Key_Down:
-        return columns;
-    default:
-        return 0;
-    }
+    const QPoint step = arrowStep(key);
+    return step.y() * columns + step.x();
 }
 
 bool isPick(int key)

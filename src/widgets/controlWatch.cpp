@@ -1,5 +1,6 @@
 #include "widgets/controlWatch.h"
 
+#include "widgets/colourSelection.h"
 #include "widgets/controls.h"
 
 #include <QApplication>
@@ -24,14 +25,6 @@ bool ControlWatch::eventFilter(QObject *watched, QEvent *event)
 
 namespace
 {
-QLineEdit *lineEditOf(QWidget *control)
-{
-    if (auto *edit = qobject_cast<QLineEdit *>(control))
-        return edit;
-    auto *combo = qobject_cast<QComboBox *>(control);
-    return combo ? combo->lineEdit() : nullptr;
-}
-
 /// Keys with Ctrl or Alt are commands, such as Paste, and no characters; some input sources send the letter with them.
 /// Both together make the third sign of a key on many keyboards.
 bool isRefused(const QKeyEvent &key)
@@ -53,6 +46,16 @@ QWidget *keysOf(QWidget *control)
 {
     // An editable combo gets these events for its field, and hands them on past any filter.
     return control->focusProxy() ? control->focusProxy() : control;
+}
+
+QLineEdit *lineEditOf(QWidget *control)
+{
+    if (auto *edit = qobject_cast<QLineEdit *>(control))
+        return edit;
+    if (const auto *combo = qobject_cast<QComboBox *>(control))
+        return combo->lineEdit();
+    const auto *colour = qobject_cast<ColourSelection *>(control);
+    return colour ? colour->textField() : nullptr;
 }
 
 namespace ui

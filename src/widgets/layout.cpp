@@ -1,6 +1,7 @@
 #include "widgets/layout.h"
 
 #include "widgets/controlName.h"
+#include "widgets/controlWatch.h"
 #include "widgets/numberField.h"
 #include "widgets/spinButton.h"
 
@@ -35,10 +36,8 @@ QString spoken(QString caption)
 /// The widget that has the focus in the control's place, and so is what a screen reader meets.
 QWidget *focusOf(QWidget *control)
 {
-    const auto *combo = qobject_cast<QComboBox *>(control);
-    if (combo && combo->lineEdit())
-        return combo->lineEdit();
-    return control->focusProxy() ? control->focusProxy() : control;
+    QLineEdit *edit = lineEditOf(control);
+    return edit ? edit : keysOf(control);
 }
 
 void nameBy(const QString &label, QWidget *control)

@@ -2,7 +2,6 @@
 
 #include "widgets/controlWatch.h"
 
-#include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
@@ -14,13 +13,6 @@ namespace
 {
 constexpr int MostRows = 200;
 constexpr int RowsOnShow = 8;
-
-QLineEdit *fieldOf(QWidget *control)
-{
-    if (auto *combo = qobject_cast<QComboBox *>(control))
-        return combo->lineEdit();
-    return qobject_cast<QLineEdit *>(control);
-}
 
 QString folderPart(const QString &typed)
 {
@@ -53,7 +45,7 @@ QStringList namesBeginning(const QList<FolderEntry> &entries, const QString &typ
 PathCompletion::PathCompletion(QWidget *control, FileSystem &files, StartFolder startFolder)
     : QObject(control),
       m_control(control),
-      m_edit(fieldOf(control)),
+      m_edit(lineEditOf(control)),
       m_files(files),
       m_startFolder(std::move(startFolder))
 {

@@ -52,20 +52,25 @@ private:
 };
 } // namespace
 
-QColor shownColour(ColourValue colour, const QPalette &palette)
+QPalette::ColorRole themeRole(ColourValue colour)
 {
     switch (colour) {
-    case WindowTextColour:
-        return palette.color(QPalette::Active, QPalette::Text);
     case WindowColour:
-        return palette.color(QPalette::Active, QPalette::Base);
+        return QPalette::Base;
     case HighlightColour:
-        return palette.color(QPalette::Active, QPalette::Highlight);
+        return QPalette::Highlight;
     case ButtonFaceColour:
-        return palette.color(QPalette::Active, QPalette::Window);
+        return QPalette::Window; // the ground of forms; QPalette::Button is the face of their keys alone
     default:
-        return QColor(redOf(colour), greenOf(colour), blueOf(colour));
+        return QPalette::Text;
     }
+}
+
+QColor shownColour(ColourValue colour, const QPalette &palette)
+{
+    if (isSystemColour(colour))
+        return palette.color(QPalette::Active, themeRole(colour));
+    return QColor(redOf(colour), greenOf(colour), blueOf(colour));
 }
 
 ColourValue colourValue(const QColor &colour)

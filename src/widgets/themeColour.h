@@ -2,10 +2,12 @@
 
 #include "common/colour.h"
 
-class QColor;
-class QPalette;
+#include <QPalette>
+
 class QWidget;
 
+/// What of a palette a colour of the theme stands for; the text's for one that the theme does not have.
+QPalette::ColorRole themeRole(ColourValue colour);
 /// The colour as it is drawn under that palette: the theme's colours come from it.
 QColor shownColour(ColourValue colour, const QPalette &palette);
 ColourValue colourValue(const QColor &colour);

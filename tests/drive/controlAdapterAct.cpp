@@ -7,6 +7,7 @@
 #include "forms/inputGate.h"
 #include "userInput.h"
 #include "widgets/colourSelection.h"
+#include "widgets/controlWatch.h"
 #include "widgets/drawnControl.h"
 #include "widgets/fileControls.h"
 #include "widgets/nodeTree.h"
@@ -139,7 +140,7 @@ std::optional<ActionResult> setKeyed(QWidget &control, const QString &value)
 
 ActionResult setUsable(QWidget &control, const QString &value)
 {
-    if (QLineEdit *edit = lineEditOf(control))
+    if (QLineEdit *edit = lineEditOf(&control))
         return setLine(control, *edit, value);
     if (const auto *surface = dynamic_cast<const TextSurface *>(&control))
         return setArea(control, surface->Locked(), value);

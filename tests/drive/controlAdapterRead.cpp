@@ -10,6 +10,7 @@
 #include "widgets/characterGrid.h"
 #include "widgets/colourSelection.h"
 #include "widgets/colourSwatch.h"
+#include "widgets/controlWatch.h"
 #include "widgets/fileControls.h"
 #include "widgets/listView.h"
 #include "widgets/nodeTree.h"
@@ -228,7 +229,7 @@ Value readTextLimits(const QWidget &widget, const QString &name)
         return boolean(isCaretVisible(widget));
     if (surface && name == u"Locked")
         return boolean(surface->Locked());
-    const QLineEdit *edit = lineEditOf(const_cast<QWidget &>(widget));
+    const QLineEdit *edit = lineEditOf(const_cast<QWidget *>(&widget));
     if (edit && name == u"MaxLength")
         return number(edit->maxLength());
     if (edit && name == u"Locked")

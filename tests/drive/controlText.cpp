@@ -1,7 +1,7 @@
 #include "controlText.h"
 
 #include "common/textSurface.h"
-#include "widgets/colourSelection.h"
+#include "widgets/controlWatch.h"
 #include "widgets/controls.h"
 
 #include <QComboBox>
@@ -43,16 +43,6 @@ ControlText textOf(const QPlainTextEdit &area)
 }
 } // namespace
 
-QLineEdit *lineEditOf(QWidget &control)
-{
-    if (auto *edit = qobject_cast<QLineEdit *>(&control))
-        return edit;
-    if (auto *combo = qobject_cast<QComboBox *>(&control))
-        return combo->lineEdit();
-    auto *colour = qobject_cast<ColourSelection *>(&control);
-    return colour ? colour->textField() : nullptr;
-}
-
 QPlainTextEdit *textAreaOf(QWidget &control)
 {
     return qobject_cast<QPlainTextEdit *>(&control);
@@ -63,7 +53,7 @@ std::optional<ControlText> textOfControl(const QWidget &control)
     auto &changeable = const_cast<QWidget &>(control);
     if (const auto *surface = dynamic_cast<const TextSurface *>(&control))
         return textOf(*surface);
-    if (const QLineEdit *edit = lineEditOf(changeable))
+    if (const QLineEdit *edit = lineEditOf(&changeable))
         return textOf(*edit);
     if (const QPlainTextEdit *area = textAreaOf(changeable))
         return textOf(*area);

@@ -3,7 +3,6 @@
 #include <QString>
 #include <optional>
 
-class QLineEdit;
 class QPlainTextEdit;
 class QWidget;
 
@@ -20,8 +19,6 @@ struct ControlText {
 /// What stands in a text box, a text area, an editable combo, a colour picker or the edit surface; nothing for others.
 std::optional<ControlText> textOfControl(const QWidget &control);
 
-/// The text box that is typed into: the control itself, or the one that it holds.
-QLineEdit *lineEditOf(QWidget &control);
 /// The text area or edit surface that is typed into.
 QPlainTextEdit *textAreaOf(QWidget &control);
 } // namespace drive

@@ -1,8 +1,8 @@
 // A page from the disk, in whatever encoding it is or says it is.
 #include "common/charsets.h"
 #include "common/pageCharset.h"
+#include "common/tags.h"
 #include "files/metaElements.h"
-#include "files/textWithoutTags.h"
 #include "fuzz/fuzzInput.h"
 #include "project/linkScan.h"
 

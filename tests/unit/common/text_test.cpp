@@ -47,6 +47,13 @@ TEST(Mid, CutsFromAOneBasedStart)
     EXPECT_EQ(Mid(u"abc", 1, -1), std::nullopt);
 }
 
+TEST(Trim, TakesBlanksOnly)
+{
+    EXPECT_EQ(Trim(u"  a b "), QStringLiteral("a b"));
+    EXPECT_EQ(Trim(u"\t a"), QStringLiteral("\t a"));
+    EXPECT_EQ(Trim(u"   "), QString());
+}
+
 TEST(WithCrLf, MakesEveryBreakTwoCharacters)
 {
     EXPECT_EQ(withCrLf(QStringLiteral("a\rb\nc\r\nd\n\re")), QStringLiteral("a\r\nb\r\nc\r\nd\r\n\r\ne"));

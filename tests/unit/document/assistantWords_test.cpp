@@ -174,11 +174,4 @@ TEST(LinkIn, StartsAtTheFirstPrefixOfTheList)
     for (const auto &row : rows)
         EXPECT_EQ(linkIn(str(row.word)), str(row.link));
 }
-
-TEST(Trim, TakesBlanksOnly)
-{
-    EXPECT_EQ(Trim(u"  a b "), QStringLiteral("a b"));
-    EXPECT_EQ(Trim(u"\t a"), QStringLiteral("\t a"));
-    EXPECT_EQ(Trim(u"   "), QString());
-}
 } // namespace

@@ -1,5 +1,5 @@
+#include "common/tags.h"
 #include "files/printLayout.h"
-#include "files/textWithoutTags.h"
 
 #include "surface/editSurface.h"
 
