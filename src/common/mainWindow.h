@@ -9,6 +9,9 @@
 #include <QPoint>
 #include <QStringList>
 
+/// Where the focus is when F6 is to move it.
+enum class FocusPlace { Source, Project };
+
 /// The main window as the other subsystems know it; its form, frmMdi, is the one implementation.
 class MainWindow
 {
@@ -88,9 +91,9 @@ public:
 
     /// Shows one of the pop-up menus at a point of the screen; its entries are enabled by its rules first.
     virtual void PopupMenu(const QString &name, const QPoint &position) = 0;
-    /// For F6, key code 117, moves the focus: from "editor" to the control of the Task Manager pane's page on show,
-    /// from "project" to the active document. False, and nothing done, for another key or where there is nowhere to go.
-    virtual bool MoveToNextPane(int keyCode, const QString &from) = 0;
+    /// For F6, moves the focus: from the source to the control of the Task Manager pane's page on show, from that pane
+    /// to the active document. False, and nothing done, for another key or where there is nowhere to go.
+    virtual bool MoveToNextPane(Qt::Key key, FocusPlace from) = 0;
 
     // The document structure tree. One tree serves all documents; it is filled only while its page is on show.
     virtual void clearStructureTree() = 0;

@@ -11,12 +11,6 @@
 #include "surface/editSurface.h"
 #include "widgets/screenPointer.h"
 
-namespace
-{
-constexpr int DefaultPointer = 0;
-constexpr int ArrowHourglassPointer = 13;
-} // namespace
-
 ColouringPass::ColouringPass(frmWrite &form, ProgramContext &context)
     : m_context(context),
       m_form(&form),
@@ -36,7 +30,7 @@ void ColouringPass::run()
             paint();
         end();
     } else {
-        m_context.screenPointer.setMousePointer(DefaultPointer);
+        m_context.screenPointer.setMousePointer(PointerShape::Default);
         m_context.mainWindow->SetStatusReady();
     }
 }
@@ -61,7 +55,7 @@ void ColouringPass::begin()
     m_form->CancelColouring = false;
     if (fillsTree())
         m_context.mainWindow->clearStructureTree();
-    m_context.screenPointer.setMousePointer(ArrowHourglassPointer);
+    m_context.screenPointer.setMousePointer(PointerShape::ArrowHourglass);
     m_edit->setPaintingHeld(true);
     if (!m_context.state.habits.HabitFocus && m_context.mainWindow->activeDocument() == m_form)
         m_edit->SetFocus();
@@ -141,7 +135,7 @@ void ColouringPass::end()
     m_form->boolDirty = m_wasDirty || m_textChanged;
     m_edit->setHideSelection(false);
     m_edit->setPaintingHeld(false);
-    m_context.screenPointer.setMousePointer(DefaultPointer);
+    m_context.screenPointer.setMousePointer(PointerShape::Default);
     m_edit->setLocked(false);
     m_context.mainWindow->SetStatusReady();
     m_form->ColouringActive = false;

@@ -253,8 +253,7 @@ void frmWrite::recordStep(const SurfaceKey &key)
 
 void frmWrite::leaveForPane(SurfaceKey &key)
 {
-    constexpr int KeyF6 = 117;
-    if (key.key == Qt::Key_F6 && frmMdi().MoveToNextPane(KeyF6, QStringLiteral("editor")))
+    if (frmMdi().MoveToNextPane(static_cast<Qt::Key>(key.key), FocusPlace::Source))
         useUp(key);
 }
 

@@ -19,12 +19,6 @@
 
 #include <QPointer>
 
-namespace
-{
-constexpr int DefaultPointer = 0;
-constexpr int ArrowHourglassPointer = 13;
-} // namespace
-
 void frmWrite::RecolourDocument()
 {
     if (ColouringActive) // a pass brought on by what runs inside a pass would find the window held already
@@ -178,7 +172,7 @@ void frmWrite::OptimiseSyntax()
     const TextSelection saved{m_edit->SelStart(), m_edit->SelLength()};
     CancelColouring = false;
     ColouringActive = true;
-    context().screenPointer.setMousePointer(ArrowHourglassPointer);
+    context().screenPointer.setMousePointer(PointerShape::ArrowHourglass);
     m_edit->setPaintingHeld(true);
     m_edit->setHideSelection(true);
     m_edit->setLocked(true);
@@ -188,7 +182,7 @@ void frmWrite::OptimiseSyntax()
     while (optimiser.advance()) {
         services().yielder.yield();
         if (!self || !isLoaded()) {
-            context().screenPointer.setMousePointer(DefaultPointer);
+            context().screenPointer.setMousePointer(PointerShape::Default);
             return;
         }
     }
@@ -202,7 +196,7 @@ void frmWrite::OptimiseSyntax()
     m_edit->setSelLength(saved.length);
     m_edit->setHideSelection(false);
     m_edit->setPaintingHeld(false);
-    context().screenPointer.setMousePointer(DefaultPointer);
+    context().screenPointer.setMousePointer(PointerShape::Default);
     UndoRedoChange();
     m_edit->setLocked(false);
     ExternalInitiateColourCodeAndDocStructure();

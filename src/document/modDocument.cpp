@@ -19,9 +19,6 @@
 
 namespace
 {
-constexpr int DefaultPointer = 0;
-constexpr int HourglassPointer = 11;
-constexpr int ArrowHourglassPointer = 13;
 constexpr int OutOfMemory = 7;
 
 const QString Break = QStringLiteral("\r\n");
@@ -88,7 +85,7 @@ FileFormat formatOfNewDocument(const ProgramContext &context)
 Document *NewBlankDocument(ProgramContext &context)
 {
     Document *made = nullptr;
-    context.screenPointer.setMousePointer(ArrowHourglassPointer);
+    context.screenPointer.setMousePointer(PointerShape::ArrowHourglass);
     try {
         auto form = std::make_unique<frmWrite>(context);
         frmWrite &document = *form;
@@ -102,7 +99,7 @@ Document *NewBlankDocument(ProgramContext &context)
         if (context.files)
             context.files->MemoryErrors(OutOfMemory);
     }
-    context.screenPointer.setMousePointer(DefaultPointer);
+    context.screenPointer.setMousePointer(PointerShape::Default);
     return made;
 }
 
@@ -147,11 +144,11 @@ void FillBlankDocument(ProgramContext &context)
 
 void ApplyWordWrapSetting(ProgramContext &context, bool enabled)
 {
-    context.screenPointer.setMousePointer(HourglassPointer);
+    context.screenPointer.setMousePointer(PointerShape::Hourglass);
     context.mainWindow->WordWrap = enabled;
     context.mainWindow->setWordWrapChecked(enabled);
     settings::writeBoolean(context.services.settings, settings::WordWrap, enabled);
     for (Document *document : context.mainWindow->openDocuments())
         document->CheckWordWrapSettings();
-    context.screenPointer.setMousePointer(DefaultPointer);
+    context.screenPointer.setMousePointer(PointerShape::Default);
 }

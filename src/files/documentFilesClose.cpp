@@ -175,7 +175,7 @@ bool DocumentFiles::AutoSaveDocument(Document &document)
 
 void DocumentFiles::autoSaveNameless(Document &document)
 {
-    m_context.screenPointer.setMousePointer(0);
+    m_context.screenPointer.setMousePointer(PointerShape::Default);
     auto &form = m_context.forms.get<frmMsgNoFileForAutoSave>();
     if (form.isLoaded() || // it waits for an answer already
         !settings::isOn(m_context.services.settings, settings::AutoSaveUnsavedNotification))

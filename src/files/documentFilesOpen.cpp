@@ -26,12 +26,6 @@
 #include <algorithm>
 #include <new>
 
-namespace
-{
-constexpr int DefaultPointer = 0;
-constexpr int HourglassPointer = 11;
-} // namespace
-
 /// A file's text in its new document, which knows nothing of the file yet.
 struct DocumentFiles::Opened {
     Document *document = nullptr;
@@ -41,13 +35,13 @@ struct DocumentFiles::Opened {
 
 void DocumentFiles::begin()
 {
-    m_context.screenPointer.setMousePointer(HourglassPointer);
+    m_context.screenPointer.setMousePointer(PointerShape::Hourglass);
     m_context.mainWindow->setEnabled(false);
 }
 
 void DocumentFiles::finish()
 {
-    m_context.screenPointer.setMousePointer(DefaultPointer);
+    m_context.screenPointer.setMousePointer(PointerShape::Default);
     m_context.mainWindow->setEnabled(true);
 }
 

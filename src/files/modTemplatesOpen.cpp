@@ -22,8 +22,6 @@
 
 namespace
 {
-constexpr int DefaultPointer = 0;
-
 /// A page that is being made of a template.
 struct NewPage {
     QString container;
@@ -161,7 +159,7 @@ void OpenCombinedTemplate(ProgramContext &context, const QString &path)
         return;
     }
     context.mainWindow->setEnabled(true);
-    context.screenPointer.setMousePointer(DefaultPointer);
+    context.screenPointer.setMousePointer(PointerShape::Default);
     if (listing.entries.isEmpty())
         context.mainWindow->SetStatusText(QStringLiteral("The template holds no page."));
 }

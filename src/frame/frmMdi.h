@@ -70,7 +70,7 @@ public:
     QPoint insertBarDrop() const override;
     void setInsertBarPressed(bool pressed) override;
     void PopupMenu(const QString &name, const QPoint &position) override;
-    bool MoveToNextPane(int keyCode, const QString &from) override;
+    bool MoveToNextPane(Qt::Key key, FocusPlace from) override;
 
     void takeOverHabits() override;
     void documentInFront() override;

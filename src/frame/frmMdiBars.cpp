@@ -269,12 +269,11 @@ void frmMdi::PopupMenu(const QString &name, const QPoint &position)
         menu->popup(position);
 }
 
-bool frmMdi::MoveToNextPane(int keyCode, const QString &from)
+bool frmMdi::MoveToNextPane(Qt::Key key, FocusPlace from)
 {
-    constexpr int KeyF6 = 117;
-    if (keyCode != KeyF6)
+    if (key != Qt::Key_F6)
         return false;
-    if (from == u"editor") {
+    if (from == FocusPlace::Source) {
         if (m_pane->picProject()->isHidden())
             return false;
         m_pane->pageControl()->setFocus(Qt::TabFocusReason);

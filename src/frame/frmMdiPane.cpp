@@ -143,8 +143,7 @@ void TaskManagerPane::passKeys()
          QList<QWidget *>{treCodes, treStructure, m_project->lstEditorFiles, m_project->lstOtherFiles,
                           m_local->lstLocal, m_local->dirLocal, m_local->drvLocal})
         ui::onKeyDown(control, [this](const QKeyEvent &event) {
-            const int keyCode = event.key() == Qt::Key_F6 ? 117 : 0;
-            return m_context.mainWindow->MoveToNextPane(keyCode, QStringLiteral("project"));
+            return m_context.mainWindow->MoveToNextPane(static_cast<Qt::Key>(event.key()), FocusPlace::Project);
         });
 }
 

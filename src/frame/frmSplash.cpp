@@ -16,7 +16,6 @@
 
 namespace
 {
-constexpr int HourglassPointer = 11;
 constexpr int SplashMilliseconds = 850;
 
 QLabel *titleLabel()
@@ -54,7 +53,7 @@ void frmSplash::Form_Load()
     Timer1->setInterval(SplashMilliseconds);
 
     lblVersion->setText(QStringLiteral("Release Version: ") + context().version);
-    context().screenPointer.setMousePointer(HourglassPointer);
+    context().screenPointer.setMousePointer(PointerShape::Hourglass);
     presentWindow();
     DoEvents();                       // the splash paints before the slow work
     if (context().state.ProgramEnded) // a signal among those events, and the window is gone
@@ -63,7 +62,7 @@ void frmSplash::Form_Load()
     if (!context().state.habits.HabitDesktop) // there, the user asks for it in the options
         services().fileClasses.registerAll();
     prepareSettings();
-    context().screenPointer.setMousePointer(0);
+    context().screenPointer.setMousePointer(PointerShape::Default);
     Timer1->setEnabled(true);
 }
 
@@ -89,5 +88,5 @@ void frmSplash::Timer1_Timer()
 
 void frmSplash::Form_Unload()
 {
-    context().screenPointer.setMousePointer(0);
+    context().screenPointer.setMousePointer(PointerShape::Default);
 }

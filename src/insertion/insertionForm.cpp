@@ -14,8 +14,6 @@
 
 namespace
 {
-constexpr int DefaultPointer = 0;
-constexpr int BusyPointer = 13;
 constexpr int CharactersOfAPath = 40;
 
 /// The same tag as it is once it is put right: values without quotes, or in single ones, are known then, too.
@@ -124,7 +122,7 @@ std::nullopt_t InsertionForm::refused(const QString &message, QWidget *field)
 
 void InsertionForm::showBusy(bool busy)
 {
-    context().screenPointer.setMousePointer(busy ? BusyPointer : DefaultPointer);
+    context().screenPointer.setMousePointer(busy ? PointerShape::ArrowHourglass : PointerShape::Default);
 }
 
 void InsertionForm::focusOn(QWidget *control)

@@ -27,8 +27,6 @@
 
 namespace
 {
-constexpr int DefaultPointer = 0;
-constexpr int HourglassPointer = 11;
 constexpr int FirstErrorStatus = 400;
 constexpr int CharactersOfAnAddress = 60;
 const QString Break = QStringLiteral("\r\n");
@@ -124,7 +122,7 @@ void frmOpenFromInternet::cmdOpen_Click()
     const QString address = cboAddress->currentText();
     if (!isConnectedOrLeft(address) || !netOpen)
         return;
-    context().screenPointer.setMousePointer(HourglassPointer);
+    context().screenPointer.setMousePointer(PointerShape::Hourglass);
     const QString opening = QStringLiteral("Opening \"") + withoutPassword(address) + QStringLiteral("\"...");
     frmMdi().SetStatusText(opening);
     std::shared_ptr<Fetch> fetch = fetched(address, opening);
@@ -234,6 +232,6 @@ void frmOpenFromInternet::recordAddress(const QString &address)
 
 void frmOpenFromInternet::resetBarAndPointer()
 {
-    context().screenPointer.setMousePointer(DefaultPointer);
+    context().screenPointer.setMousePointer(PointerShape::Default);
     frmMdi().SetStatusReady();
 }

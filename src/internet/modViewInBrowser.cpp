@@ -17,9 +17,6 @@
 
 namespace
 {
-constexpr int DefaultPointer = 0;
-constexpr int HourglassPointer = 11;
-
 bool looksLikePage(const QString &target)
 {
     const QString text = target.toLower();
@@ -90,12 +87,12 @@ void OpenInBrowser(ProgramContext &context, const QString &target)
 {
     if (Document *document = context.mainWindow->activeDocument())
         document->txtEdit().SetFocus();
-    context.screenPointer.setMousePointer(HourglassPointer);
+    context.screenPointer.setMousePointer(PointerShape::Hourglass);
     if (target.isEmpty())
         return;
     if (looksLikePage(target) || userWantsIt(context))
         context.services.launcher.openUrl(target);
-    context.screenPointer.setMousePointer(DefaultPointer);
+    context.screenPointer.setMousePointer(PointerShape::Default);
 }
 
 void OpenLink(ProgramContext &context, const QString &url)

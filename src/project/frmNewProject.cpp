@@ -83,7 +83,7 @@ void frmNewProject::cmdOK_Click()
     if (m_project.CreateProject(txtProjectPath->text(), txtSiteName->text(), txtSiteAuthor->text())) {
         Unload();
         frmMdi().showProjectPage(true);
-        context().screenPointer.setMousePointer(0);
+        context().screenPointer.setMousePointer(PointerShape::Default);
         return;
     }
     Unload();

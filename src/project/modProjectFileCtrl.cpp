@@ -20,9 +20,6 @@
 
 namespace
 {
-constexpr int DefaultPointer = 0;
-constexpr int HourglassPointer = 11;
-
 MessageBox invalidBox(const QString &path)
 {
     return {.title = QStringLiteral("Invalid File Format"),
@@ -131,19 +128,19 @@ QList<int> ProjectFileCtrl::selectedEditorFiles() const
 
 void ProjectFileCtrl::begin()
 {
-    m_context.screenPointer.setMousePointer(HourglassPointer);
+    m_context.screenPointer.setMousePointer(PointerShape::Hourglass);
     m_context.mainWindow->setEnabled(false);
 }
 
 void ProjectFileCtrl::finish()
 {
     m_context.mainWindow->setEnabled(true);
-    m_context.screenPointer.setMousePointer(DefaultPointer);
+    m_context.screenPointer.setMousePointer(PointerShape::Default);
 }
 
 void ProjectFileCtrl::failWith(const FileError &error)
 {
-    m_context.screenPointer.setMousePointer(DefaultPointer);
+    m_context.screenPointer.setMousePointer(PointerShape::Default);
     m_context.files->FileErrors(error.code, error.description);
     m_context.mainWindow->setEnabled(true);
 }
@@ -236,7 +233,7 @@ void ProjectFileCtrl::showOpened(const QString &path)
     m_context.mainWindow->setEnabled(true);
     m_context.mainWindow->showProjectPage(true);
     m_context.state.project.ProjectChanged = false;
-    m_context.screenPointer.setMousePointer(DefaultPointer);
+    m_context.screenPointer.setMousePointer(PointerShape::Default);
 }
 
 bool ProjectFileCtrl::write(const QString &path, const QString &text)
@@ -269,7 +266,7 @@ bool ProjectFileCtrl::SaveProject()
 
 bool ProjectFileCtrl::CreateProject(const QString &path, const QString &siteName, const QString &siteAuthor)
 {
-    m_context.screenPointer.setMousePointer(HourglassPointer);
+    m_context.screenPointer.setMousePointer(PointerShape::Hourglass);
     if (!write(path, projectFileText({.siteName = siteName, .siteAuthor = siteAuthor})))
         return false;
     m_page->clearLists();
@@ -289,12 +286,12 @@ void ProjectFileCtrl::AskCloseProject()
 
 void ProjectFileCtrl::CloseProject()
 {
-    m_context.screenPointer.setMousePointer(HourglassPointer);
+    m_context.screenPointer.setMousePointer(PointerShape::Hourglass);
     m_page->setListsEnabled(false);
     m_page->clearLists();
     m_page->setNoPath();
     m_context.mainWindow->showProjectPage(false);
     m_context.state.project.forget();
     setProjectCommandsEnabled(false);
-    m_context.screenPointer.setMousePointer(DefaultPointer);
+    m_context.screenPointer.setMousePointer(PointerShape::Default);
 }

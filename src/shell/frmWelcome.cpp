@@ -33,8 +33,6 @@ namespace
 {
 enum Page { QuickStart, New, Recent };
 
-constexpr int DefaultPointer = 0;
-constexpr int HourglassPointer = 11;
 constexpr int StartsWithClearBox = 2;
 constexpr int BeginMilliseconds = 1500;
 constexpr int AnimationMilliseconds = 400;
@@ -273,7 +271,7 @@ void frmWelcome::Form_Activate()
 
 void frmWelcome::cmdOK_Click()
 {
-    context().screenPointer.setMousePointer(HourglassPointer);
+    context().screenPointer.setMousePointer(PointerShape::Hourglass);
     switch (tabWelcomeSelection->currentIndex()) {
     case QuickStart:
         beginQuickly();
@@ -286,7 +284,7 @@ void frmWelcome::cmdOK_Click()
         openRecent();
         break;
     }
-    context().screenPointer.setMousePointer(DefaultPointer);
+    context().screenPointer.setMousePointer(PointerShape::Default);
 }
 
 void frmWelcome::beginQuickly()
@@ -302,7 +300,7 @@ void frmWelcome::beginQuickly()
         showPage(Recent, *lstRecent);
     } else {
         Unload();
-        context().screenPointer.setMousePointer(DefaultPointer); // the dialog waits for the user
+        context().screenPointer.setMousePointer(PointerShape::Default); // the dialog waits for the user
         context().files->ShowOpenDialog();
     }
 }
@@ -320,7 +318,7 @@ void frmWelcome::openRecent()
         return;
     const QString path = lstRecent->rowAt(*row).subItems.value(0);
     if (!FileExists(services().files, path)) {
-        context().screenPointer.setMousePointer(DefaultPointer);
+        context().screenPointer.setMousePointer(PointerShape::Default);
         services().messageBoxes.show(noLongerExistsBox(path));
         return;
     }

@@ -18,8 +18,6 @@
 
 namespace
 {
-constexpr int DefaultPointer = 0;
-constexpr int BusyPointer = 13;
 constexpr int CharactersShown = 44;
 
 QLineEdit *pathBox(const char *name)
@@ -158,7 +156,7 @@ void frmChangeRootDirectory::convert()
              QStringLiteral("An error occurred while changing the root directory"), true);
         return;
     }
-    context().screenPointer.setMousePointer(BusyPointer);
+    context().screenPointer.setMousePointer(PointerShape::ArrowHourglass);
     TextSurface &edit = document->txtEdit();
     const ConvertedText converted = convertRoot(edit.Text(), conversion());
     if (converted.count > 0) {
@@ -166,7 +164,7 @@ void frmChangeRootDirectory::convert()
         edit.setSelStart(converted.caret);
     }
     tell(QStringLiteral("Change Root Directory"), report(converted.count));
-    context().screenPointer.setMousePointer(DefaultPointer);
+    context().screenPointer.setMousePointer(PointerShape::Default);
     Unload();
 }
 

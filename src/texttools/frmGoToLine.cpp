@@ -42,11 +42,9 @@ void frmGoToLine::cmdGoTo_Click()
 
 void frmGoToLine::goTo(qint64 line)
 {
-    constexpr int DefaultPointer = 0;
-    constexpr int BusyPointer = 13;
-    context().screenPointer.setMousePointer(BusyPointer);
+    context().screenPointer.setMousePointer(PointerShape::ArrowHourglass);
     TextSurface &edit = frmMdi().activeDocument()->txtEdit();
     edit.setSelStart(caretOfLine(edit.Text(), line));
-    context().screenPointer.setMousePointer(DefaultPointer);
+    context().screenPointer.setMousePointer(PointerShape::Default);
     Unload();
 }

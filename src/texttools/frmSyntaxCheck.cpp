@@ -26,8 +26,6 @@
 
 namespace
 {
-constexpr int DefaultPointer = 0;
-constexpr int BusyPointer = 13;
 constexpr int FewestNodes = 2;
 const QString Title = QStringLiteral("Syntax Check");
 
@@ -293,7 +291,7 @@ bool frmSyntaxCheck::canAct() const
 
 void frmSyntaxCheck::showBusy(bool busy)
 {
-    context().screenPointer.setMousePointer(busy ? BusyPointer : DefaultPointer);
+    context().screenPointer.setMousePointer(busy ? PointerShape::ArrowHourglass : PointerShape::Default);
 }
 
 void frmSyntaxCheck::goOn()

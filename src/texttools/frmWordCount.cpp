@@ -13,9 +13,6 @@
 
 namespace
 {
-constexpr int DefaultPointer = 0;
-constexpr int BusyPointer = 13;
-
 QLabel *numberLabel(const QString &name)
 {
     QLabel *label = ui::label(name, QStringLiteral("0"));
@@ -58,14 +55,14 @@ void frmWordCount::count()
     if (!document)
         return;
     document->setRefreshEnabled(false);
-    context().screenPointer.setMousePointer(BusyPointer);
+    context().screenPointer.setMousePointer(PointerShape::ArrowHourglass);
     const TextSurface &edit = document->txtEdit();
     const TextCounts counts = countText(edit.SelLength() != 0 ? edit.SelText() : edit.Text());
     lblHyperlinks->setText(QString::number(counts.hyperlinks));
     lblWords->setText(QString::number(counts.words));
     lblCharTotal->setText(QString::number(counts.characters));
     lblElements->setText(QString::number(counts.elements));
-    context().screenPointer.setMousePointer(DefaultPointer);
+    context().screenPointer.setMousePointer(PointerShape::Default);
 }
 
 void frmWordCount::Form_Unload()

@@ -5,16 +5,16 @@
 
 ScreenPointer::~ScreenPointer()
 {
-    setMousePointer(0);
+    setMousePointer(PointerShape::Default);
 }
 
-void ScreenPointer::setMousePointer(int pointer)
+void ScreenPointer::setMousePointer(PointerShape pointer)
 {
     if (pointer == m_pointer)
         return;
-    if (m_pointer != 0)
+    if (m_pointer != PointerShape::Default)
         QGuiApplication::restoreOverrideCursor();
     m_pointer = pointer;
-    if (pointer != 0)
-        QGuiApplication::setOverrideCursor(pointer == 11 ? Qt::WaitCursor : Qt::BusyCursor);
+    if (pointer != PointerShape::Default)
+        QGuiApplication::setOverrideCursor(pointer == PointerShape::Hourglass ? Qt::WaitCursor : Qt::BusyCursor);
 }

@@ -1,7 +1,14 @@
 #pragma once
 
-/// The mouse pointer over all of the program's windows, by its code: 0 each control's own, 11 hourglass, 13 arrow with
-/// hourglass. Setting it again replaces it; there is no stack of pointers to unwind.
+/// The shapes of the mouse pointer, with the codes by which scripts of users know them.
+enum class PointerShape {
+    Default = 0, ///< each control's own
+    Hourglass = 11,
+    ArrowHourglass = 13,
+};
+
+/// The mouse pointer over all of the program's windows. Setting it again replaces it; there is no stack of pointers to
+/// unwind.
 class ScreenPointer
 {
 public:
@@ -10,9 +17,9 @@ public:
     ScreenPointer &operator=(const ScreenPointer &) = delete;
     ~ScreenPointer();
 
-    int MousePointer() const { return m_pointer; }
-    void setMousePointer(int pointer);
+    PointerShape MousePointer() const { return m_pointer; }
+    void setMousePointer(PointerShape pointer);
 
 private:
-    int m_pointer = 0;
+    PointerShape m_pointer = PointerShape::Default;
 };

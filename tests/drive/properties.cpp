@@ -88,9 +88,9 @@ std::optional<QString> formProperty(Stage &stage, Form &form, const QString &pro
         return truth(isEnabled(stage, form));
     if (property == QStringLiteral("Focus"))
         return truth(hasFocus(form));
-    const int pointer = stage.program().context().screenPointer.MousePointer();
-    if (property == QStringLiteral("MousePointer") && pointer != 0)
-        return QString::number(pointer);
+    const PointerShape pointer = stage.program().context().screenPointer.MousePointer();
+    if (property == QStringLiteral("MousePointer") && pointer != PointerShape::Default)
+        return QString::number(static_cast<int>(pointer));
     if (const Document *document = documentOf(form))
         if (auto value = propertyOf(documentProperties, *document, property))
             return value;

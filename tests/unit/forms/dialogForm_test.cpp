@@ -78,7 +78,7 @@ public:
     QPoint insertBarDrop() const override { return {}; }
     void setInsertBarPressed(bool) override {}
     void PopupMenu(const QString &, const QPoint &) override {}
-    bool MoveToNextPane(int, const QString &) override { return false; }
+    bool MoveToNextPane(Qt::Key, FocusPlace) override { return false; }
     void clearStructureTree() override {}
     bool structurePageShown() const override { return false; }
     void addStructureNode(qsizetype, const QString &, const QString &, const QString &) override {}

@@ -169,7 +169,7 @@ TEST_F(MainWindowTest, theSplashTellsTheVersionAndHandsOverAfterItsTime)
     timer->fire();
     EXPECT_FALSE(splash.isLoaded());
     EXPECT_TRUE(application->form(QStringLiteral("frmMdi"))->Visible());
-    EXPECT_EQ(application->context().screenPointer.MousePointer(), 0);
+    EXPECT_EQ(application->context().screenPointer.MousePointer(), PointerShape::Default);
 }
 
 TEST_F(MainWindowTest, aSecondRunIsAWindowOfItsOwnOverTheSameSettings)
@@ -266,11 +266,11 @@ TEST_F(MainWindowTest, theRecentFilesAreShownWithTheirDash)
 TEST_F(MainWindowTest, onlyF6MovesBetweenThePanes)
 {
     frmMdi &mdi = start();
-    EXPECT_FALSE(mdi.MoveToNextPane(116, QStringLiteral("editor")));
-    EXPECT_FALSE(mdi.MoveToNextPane(0, QStringLiteral("project")));
-    EXPECT_TRUE(mdi.MoveToNextPane(117, QStringLiteral("editor")));
+    EXPECT_FALSE(mdi.MoveToNextPane(Qt::Key_F5, FocusPlace::Source));
+    EXPECT_FALSE(mdi.MoveToNextPane(Qt::Key_unknown, FocusPlace::Project));
+    EXPECT_TRUE(mdi.MoveToNextPane(Qt::Key_F6, FocusPlace::Source));
     mdi.activeDocument()->unload();
-    EXPECT_FALSE(mdi.MoveToNextPane(117, QStringLiteral("project")));
+    EXPECT_FALSE(mdi.MoveToNextPane(Qt::Key_F6, FocusPlace::Project));
 }
 
 TEST_F(MainWindowTest, theFileFormatStandsBesideTheMessage)
