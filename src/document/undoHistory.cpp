@@ -91,11 +91,12 @@ void UndoHistory::keepWhole(const std::shared_ptr<Text> &text)
 /// The pieces of the nearest text to that one in the history, which is the likeliest to be similar.
 TextPieces UndoHistory::piecesBeside(const std::shared_ptr<Text> &text) const
 {
-    const auto place = std::find_if(m_entries.begin(), m_entries.end(), [&](const Entry &e) { return e.text == text; });
+    const auto *const place =
+        std::find_if(m_entries.begin(), m_entries.end(), [&](const Entry &e) { return e.text == text; });
     const auto isCut = [](const Entry &entry) { return entry.text && !entry.text->pieces.isEmpty(); };
-    const auto older = std::find_if(place, m_entries.end(), isCut);
+    const auto *const older = std::find_if(place, m_entries.end(), isCut);
     if (older != m_entries.end())
         return older->text->pieces;
-    const auto newer = std::find_if(m_entries.begin(), place, isCut);
+    const auto *const newer = std::find_if(m_entries.begin(), place, isCut);
     return newer != place ? newer->text->pieces : TextPieces();
 }

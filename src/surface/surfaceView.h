@@ -11,8 +11,8 @@
 struct RowPlace {
     qsizetype line = 0;
     int piece = 0;
-    int row = 0; ///< in the piece
-    auto operator<=>(const RowPlace &) const = default;
+    int row = 0;                                        ///< in the piece
+    auto operator<=>(const RowPlace &) const = default; // NOLINT(modernize-use-nullptr)
 };
 
 /// A row that is on view, in pixels of the view.
@@ -77,7 +77,7 @@ public:
     qreal pieceX(qsizetype line, int piece);
     /// The caret in front of a character, in pixels of the view. Outside of the view its height there is estimated.
     QRectF caretRect(qsizetype position, qsizetype preeditCaret = 0);
-    qreal topOf(const RowPlace &row);
+    qreal topOf(const RowPlace &place);
     /// The square behind a marked colour, in pixels of the view.
     QRectF squareOf(const MarkedRange &mark);
     /// The height of all rows of a line that is laid out in one; nothing for a longer line that wraps.
@@ -87,11 +87,11 @@ public:
                             QTextLine::CursorPosition by = QTextLine::CursorBetweenCharacters);
     RowPlace rowAt(qreal y); ///< the nearest one on view
     /// Scrolls up or down until the row is on view; true if it had to.
-    bool show(const RowPlace &row);
+    bool show(const RowPlace &wanted);
     bool rightToLeft(qsizetype position);
 
 private:
-    const LinePiece &pieceAt(qsizetype line, int piece);
+    const LinePiece &pieceAt(qsizetype line, int number);
     QTextLine textLine(const RowPlace &row);
     qreal topMargin(const RowPlace &row) const { return row.line == 0 ? margin : 0; }
     RowPlace lastRow();
