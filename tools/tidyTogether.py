@@ -1,11 +1,14 @@
 #!/usr/bin/python3
-"""tidyTogether.py BUILD: clang-tidy over the whole tree, as BUILD/compile_commands.json compiles it.
+"""tidyTogether.py BUILD [--seconds N] [SOURCE...]: clang-tidy over the whole tree, or over the sources that are named,
+as BUILD/compile_commands.json compiles them.
 
 clang-tidy reads every declaration of every header for each source that it is given, and nearly all of its time goes into
 those of Qt. So sources are looked at many at a time, included by one that stands for them: a tenth of the time. Sources
 that declare the same name at the start of a line never stand together. Where some do not compile together all the same,
-they are looked at one by one. Prints the findings, and ends with 1 if there are any.
+they are looked at one by one. Prints the findings, and ends with 1 if there are any. Sources that are named are looked
+at in their order; once N seconds have passed, those of which nothing has been looked at yet are named and left out.
 """
+import argparse
 import collections
 import concurrent.futures
 import json
@@ -13,6 +16,7 @@ import os
 import re
 import subprocess
 import sys
+import time
 
 MOST_TOGETHER = 14
 HEADERS_AND_SOURCES = r"/(src|tests|bench)/([A-Za-z]+/)*[A-Za-z0-9_]+\.(h|cpp)$"
@@ -77,21 +81,21 @@ def merged(all_flags):
     return [word for flag in firsts.values() for word in (flag if isinstance(flag, tuple) else [flag])]
 
 
-def batches_of(build):
-    """Pairs of compiler flags and the sources that are looked at together with them."""
+def batches_of(build, named):
+    """Pairs of compiler flags and the sources that are looked at together with them, those named or else all."""
     with open(os.path.join(build, "compile_commands.json"), encoding="utf-8") as database:
         entries = json.load(database)
     kinds = collections.defaultdict(dict)
     for entry in entries:
         source = os.path.relpath(entry["file"])
-        if source.startswith(("src/", "tests/", "bench/")):
+        if source in named if named else source.startswith(("src/", "tests/", "bench/")):
             flags = flags_of(entry)
             kinds[kind_of(source, flags)][source] = flags
     batches = []
     for sources in kinds.values():
         flags = merged(sorted(sources.values(), key=len, reverse=True))
         begun = []
-        for source in sorted(sources, key=os.path.getsize, reverse=True):
+        for source in sorted(sources, key=named.index if named else lambda one: -os.path.getsize(one)):
             names = names_of(source)
             fitting = [batch for batch in begun if len(batch[0]) < MOST_TOGETHER and not batch[1] & names]
             if fitting:
@@ -101,7 +105,7 @@ def batches_of(build):
             else:
                 begun.append(([source], names))
         batches += [(flags, batch[0]) for batch in begun]
-    return batches
+    return sorted(batches, key=lambda batch: named.index(batch[1][0])) if named else batches
 
 
 def look_at(build, number, flags, sources):
@@ -119,12 +123,24 @@ def look_at(build, number, flags, sources):
 
 
 def main():
-    build = sys.argv[1]
+    options = argparse.ArgumentParser()
+    options.add_argument("build")
+    options.add_argument("--seconds", type=float, default=float("inf"))
+    options.add_argument("sources", nargs="*")
+    chosen = options.parse_args()
+    build, end = chosen.build, time.monotonic() + chosen.seconds
     os.makedirs(os.path.join(build, "together"), exist_ok=True)
-    batches = batches_of(build)
-    findings, done = {}, 0
+    batches = batches_of(build, chosen.sources)
+    findings, done, left_out = {}, 0, []
+
+    def look(number, flags, sources):
+        if time.monotonic() < end:
+            return look_at(build, number, flags, sources)
+        left_out.extend(sources)
+        return ""
+
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as threads:
-        running = [threads.submit(look_at, build, number, *batch) for number, batch in enumerate(batches)]
+        running = [threads.submit(look, number, *batch) for number, batch in enumerate(batches)]
         for finished in concurrent.futures.as_completed(running):
             done += 1
             print(f"[{done}/{len(batches)}]", file=sys.stderr)
@@ -132,6 +148,8 @@ def main():
                 if finding.strip() and finding not in findings:  # a header's are found in each batch
                     findings[finding] = True
                     print(finding, end="", flush=True)
+    if left_out:
+        print(f"The time is up: clang-tidy has not looked at {' '.join(sorted(left_out))}.", file=sys.stderr)
     return 1 if findings else 0
 
 

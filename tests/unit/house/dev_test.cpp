@@ -80,6 +80,7 @@ protected:
                     QStringLiteral("echo \"${0##*/}${*:+ $*}\" >>\"$CALLS\"\n%1").arg(QLatin1String{body}));
     }
 
+    const QMap<QString, QString> ci{{QStringLiteral("CI"), QStringLiteral("true")}};
     QTemporaryDir m_folder;
 };
 
@@ -250,6 +251,43 @@ TEST_F(Dev, LintsWhatDiffersFromMainAlone)
             QStringLiteral("clang-format --dry-run -Werror src/a.h src/b.cpp tests/c.h"),
             QStringLiteral("cmake --preset lint"),
             QStringLiteral("cmake --build build/lint -- -k 0 %1/src/a.cpp^ %1/src/b.cpp^ %1/tests/d.cpp^").arg(root)));
+}
+
+TEST_F(Dev, LintsInCiWhatTheLastCommitsChangedTheNewestFirst)
+{
+    ASSERT_TRUE(QFile::link(QStringLiteral("/usr/bin/grep"), bin("grep")));
+    pretend("dpkg-query", "printf '%s\\n' 'g++ installed' 'cmake installed' 'clang-tidy installed'");
+    pretend("git",
+            "case $1 in rev-list) echo commit ;; *) printf '%s\\n' src/b.cpp dev src/a.cpp src/gone.cpp src/b.cpp ;; "
+            "esac");
+    for (const char *name : {"clang-format", "find"})
+        pretend(name, ":");
+    QDir(m_folder.path()).mkdir(QStringLiteral("tree/src"));
+    write(tree("src/a.cpp"), "");
+    write(tree("src/b.cpp"), "");
+    pretend("cmake", "mkdir -p build/lint && : >build/lint/build.ninja");
+    writeScript(tree("tools/tidyTogether.py"), QStringLiteral("echo \"tidy $*\" >>\"$CALLS\"; exit 1"));
+    const Outcome outcome = dev({QStringLiteral("lint"), QStringLiteral("--changed")}, ci);
+    EXPECT_EQ(outcome.errors, QStringLiteral("To be fixed: clang-tidy.\n"));
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(deeds().constLast(), QStringLiteral("tidy build/lint --seconds 90 src/b.cpp src/a.cpp"));
+}
+
+TEST_F(Dev, SaysAloudWhereCiCannotLint)
+{
+    pretend("git", ":"); // no commit that has one in front of it
+    pretend("dpkg-query", "printf '%s\\n' 'g++ installed' 'cmake installed' 'clang-tidy installed'");
+    const Outcome shallow = dev({QStringLiteral("lint"), QStringLiteral("--changed")}, ci);
+    EXPECT_EQ(shallow.status, 0);
+    EXPECT_EQ(shallow.errors,
+              QStringLiteral("The lint is LEFT OUT: this clone has no history that would tell what has changed.\n"));
+    pretend("dpkg-query", "printf '%s\\n' 'g++ installed' 'cmake installed'");
+    pretend("apt-get", "[[ $1 == update ]]");
+    const Outcome bare = dev({QStringLiteral("lint"), QStringLiteral("--changed")}, ci);
+    EXPECT_EQ(bare.status, 0);
+    EXPECT_THAT(bare.errors.toStdString(),
+                testing::EndsWith("The lint is LEFT OUT: what it needs is not to be had here.\n"));
+    EXPECT_FALSE(deeds().contains(QStringLiteral("cmake --preset lint")));
 }
 
 TEST_F(Dev, InstallsThroughSudoWhereTheUserIsNotRoot)
