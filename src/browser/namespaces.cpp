@@ -34,9 +34,9 @@ bool writeMap(const char *path, unsigned id)
     return writeFile(path, line);
 }
 
-/// What the engine does to shut itself in: its identity, a network without the machine's, and a file system that holds
+/// What the engine does to sandbox itself: its identity, a network without the machine's, and a file system that holds
 /// nothing.
-bool shutsItselfIn(unsigned user, unsigned group)
+bool sandboxesItself(unsigned user, unsigned group)
 {
     return writeFile("/proc/self/setgroups", "deny") && writeMap("/proc/self/gid_map", group) &&
            writeMap("/proc/self/uid_map", user) && chroot("/proc/self/fdinfo/") == 0 && chdir("/") == 0 &&
@@ -51,7 +51,7 @@ bool hasNamespaces()
     // The raw call, as fork() takes no flags.
     const long child = syscall(SYS_clone, EngineNamespaces | SIGCHLD, nullptr, nullptr, nullptr, nullptr);
     if (child == 0)
-        _exit(shutsItselfIn(user, group) ? 0 : 1);
+        _exit(sandboxesItself(user, group) ? 0 : 1);
     if (child < 0)
         return false;
     int status = 0;

@@ -4,7 +4,7 @@
 
 class PageViews;
 
-/// The web engine ends the whole process where it cannot shut its pages in. So where that is not certain beforehand, a
+/// The web engine ends the whole process where it cannot sandbox its pages. So where that is not certain beforehand, a
 /// process of its own shows a page first, and only if that went well does this one load the engine.
 
 /// Whether this process is one that was started to try. A program that shows pages asks in its main function.

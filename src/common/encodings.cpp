@@ -29,8 +29,8 @@ std::optional<QByteArray> toWindows1252(const QString &text)
     return bytes;
 }
 
-// UTF-8 or UTF-8 behind its mark if the bytes are that. Halves of pairs are taken behind a mark alone, as no other
-// program writes them and a page in Windows-1252 may by chance.
+// UTF-8, with a byte order mark or without if the bytes are that. Halves of pairs are taken behind a mark alone, as no
+// other program writes them and a page in Windows-1252 may by chance.
 std::optional<Encoding> utf8EncodingOf(QByteArrayView bytes)
 {
     const std::optional<Utf8Contents> contents = utf8Contents(bytes);

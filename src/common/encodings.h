@@ -8,10 +8,10 @@
 /// How the characters of a file stand as bytes.
 enum class Encoding {
     Utf8,
-    Utf8Bom, ///< UTF-8 behind its mark (EF BB BF)
+    Utf8Bom, ///< UTF-8 behind a byte order mark (EF BB BF)
     Windows1252,
-    Utf16LE, ///< with its mark (FF FE)
-    Utf16BE, ///< with its mark (FE FF)
+    Utf16LE, ///< behind a byte order mark (FF FE)
+    Utf16BE, ///< behind a byte order mark (FE FF)
     Other,   ///< the one that FileFormat::charset names
 };
 
@@ -41,17 +41,17 @@ struct EncodedText {
     bool switchedToUtf8 = false;        ///< the encoding asked for cannot hold the text
 };
 
-/// Whether bytes begin with a mark of UTF-16 and can be that: their number is even.
+/// Whether bytes begin with the byte order mark of UTF-16 and can be that: their number is even.
 bool hasUtf16Mark(const QByteArray &bytes);
 
 /// Reads a file of text. Never fails, and no character or byte is dropped: encode() with the format told gives the same
-/// bytes again for every file whose line ends are all of one kind, except that bytes which begin with a mark of UTF-16
-/// are never written as anything else.
+/// bytes again for every file whose line ends are all of one kind, except that bytes which begin with the byte order
+/// mark of UTF-16 are never written as anything else.
 ///
 /// Plainly, it is UTF-8 if the bytes are valid UTF-8, else Windows-1252, whose five undefined bytes stand for the
-/// characters of the same code. By a Unicode row it is UTF-16 of the order its mark names, little-endian without one;
-/// the missing half of a last odd byte counts as 0. A file without breaks gets CR LF, and so does one with as many LF
-/// as CR LF.
+/// characters of the same code. By a Unicode row it is UTF-16 of the order that its byte order mark names,
+/// little-endian without one; the missing half of a last odd byte counts as 0. A file without breaks gets CR LF, and so
+/// does one with as many LF as CR LF.
 DecodedText decode(const QByteArray &bytes, bool unicodeRow = false);
 
 /// Reads a file in an encoding by its name, as charsetOfLabel() gives it. Nothing where the bytes are not valid in it,

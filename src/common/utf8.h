@@ -17,7 +17,7 @@ struct Utf8Contents {
 /// halves.
 std::optional<Utf8Contents> utf8Contents(QByteArrayView bytes);
 
-/// The text of valid bytes; a mark in front is a character like any other.
+/// The text of valid bytes; a byte order mark is a character like any other.
 QString fromUtf8WithHalves(QByteArrayView bytes);
 
 /// Whether a half of a surrogate pair stands alone in the text.

@@ -60,7 +60,6 @@ private:
     bool listKey(int key);
     void leaveList();
     void InsertAssistantElement();
-    void sendBlank();
     void completeWord();
     void followName();
     void showTip();

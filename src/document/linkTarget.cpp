@@ -1,5 +1,6 @@
 #include "document/linkTarget.h"
 
+#include "common/html/tokenizer.h"
 #include "common/paths.h"
 
 #include <QDir>
@@ -8,30 +9,29 @@
 
 namespace
 {
-/// The tag that the position lies in; empty where it lies in none.
-QStringView tagAround(QStringView text, qsizetype position, qsizetype &start)
+bool leadsSomewhere(QStringView attribute)
 {
-    start = text.first(position).lastIndexOf(u'<');
-    if (start < 0)
-        return {};
-    const qsizetype end = text.indexOf(u'>', position);
-    return end < 0 || text.mid(start, position - start).contains(u'>') ? QStringView() : text.mid(start, end - start);
+    return attribute.compare(u"href", Qt::CaseInsensitive) == 0 || attribute.compare(u"src", Qt::CaseInsensitive) == 0;
 }
 } // namespace
 
 QString linkTargetAt(QStringView text, qsizetype position)
 {
-    static const QRegularExpression attribute(
-        QStringLiteral("\\s(?:href|src)\\s*=\\s*(?:\"([^\"]*)\"|'([^']*)'|([^\\s\"'>]+))"),
-        QRegularExpression::CaseInsensitiveOption);
-    qsizetype start = 0;
-    const QString tag = tagAround(text, position, start).toString();
-    for (auto match = attribute.globalMatch(tag); match.hasNext();) {
-        const QRegularExpressionMatch each = match.next();
-        for (int group = 1; group <= 3; ++group)
-            if (each.capturedStart(group) >= 0 && start + each.capturedStart(group) <= position &&
-                position <= start + each.capturedEnd(group))
-                return each.captured(group).trimmed().replace(QStringLiteral("&amp;"), QStringLiteral("&"));
+    const qsizetype start = text.first(position).lastIndexOf(u'<');
+    if (start < 0)
+        return {};
+    html::Tokenizer tokenizer(text, start);
+    const html::Token &tag = tokenizer.next();
+    if (tag.kind != html::TokenKind::StartTag || !tag.closed || tag.end() <= position)
+        return {};
+    for (const html::Attribute &each : tag.attributes) {
+        const qsizetype from = each.value.start;
+        if (each.valued && from <= position && position <= from + each.value.length &&
+            leadsSomewhere(tokenizer.textOf(each.name)))
+            return tokenizer.textOf(each.value)
+                .trimmed()
+                .toString()
+                .replace(QStringLiteral("&amp;"), QStringLiteral("&"));
     }
     return {};
 }

@@ -25,7 +25,6 @@ public:
 
     /// The box is as large as its text needs, or has the size of all boxes; its centre stays where it is.
     void setAutoSize(bool on);
-    bool autoSize() const { return m_autoSize; }
     QRectF place() const { return m_place; }
 
     void setWeight(MapWeight weight);

@@ -76,7 +76,6 @@ public:
 
     bool inForeign() const;
     bool inside(PageTag tag) const; ///< an element of that kind is open
-    bool hasBody() const { return m_state.body; }
     bool wholePage() const { return m_state.wholePage; } ///< html, head or body have a tag
     const OpenElement *current() const { return m_state.open.empty() ? nullptr : &m_state.open.back(); }
     /// Tells that the open elements hold something that is seen or heard.
@@ -90,7 +89,6 @@ public:
     bool inItem(const html::Token &token) const;
     /// An element in whose place another one may stand for what is looked at: `link` in a body.
     int parentElement() const { return m_state.open.empty() ? 0 : m_state.open.back().element; }
-    bool inHead() const { return !m_state.open.empty() && m_state.open.back().tag == PageTag::Head; }
 
 private:
     using Space = OpenElement::Space;

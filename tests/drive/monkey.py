@@ -4,7 +4,7 @@ monkey.py DRIVER SEED STEPS [--cut SECONDS] [--found FOLDER] [--warn]
 
 SEED is a number, "new" for one from the clock, or several with commas between them, each of which plays so many steps. What
 fails is told, and its lines are left out as long as what is left still fails in the same way, each try a process of its
-own. The short script stands in FOLDER, where the next run tries it first: so a finding goes on failing until it is mended.
+own. The short script stands in FOLDER, where the next run tries it first: so a finding goes on failing until it is fixed.
 The exit status is 0 if all held, or if "--warn" says that it is only to be told.
 """
 import argparse

@@ -1,7 +1,7 @@
 #!/bin/bash
 # fuzz.sh FOLDER TARGET SECONDS: lets the fuzzer of a target, in the folder of the fuzzers, make inputs for so long, or up to
 # TAGWRIGHTER_FUZZ_INPUTS of them; with TAGWRIGHTER_FUZZ_SEED it goes the same way each time. It begins with the seeds and with what it found before: that stands in found/TARGET/
-# beside the fuzzers, fails until it is mended, and then goes into seeds/TARGET/.
+# beside the fuzzers, fails until it is fixed, and then goes into seeds/TARGET/.
 set -euo pipefail
 
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)

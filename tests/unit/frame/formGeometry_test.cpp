@@ -119,7 +119,7 @@ QStringList wrongPlaces(const QWidget &window)
     return wrong;
 }
 
-/// What is not mended yet: on a screen of 512 by 300 in the large font, two lose a line of a wrapped text, and one has
+/// What is not fixed yet: on a screen of 512 by 300 in the large font, two lose a line of a wrapped text, and one has
 /// more buttons below each other than there is height.
 bool isKnown(const Form &form, double scale, int points)
 {
