@@ -2,6 +2,7 @@
 
 #include "common/encodings.h"
 #include "common/fileCommands.h"
+#include "common/fileFormatText.h"
 #include "common/mainWindow.h"
 #include "common/programState.h"
 #include "common/text.h"
@@ -94,6 +95,7 @@ Document *NewBlankDocument(ProgramContext &context)
         document.NewDoc = true;
         document.fileFormat = formatOfNewDocument(context);
         document.plainEncoding = document.fileFormat.encoding;
+        context.mainWindow->showFileFormat(fileFormatText(document)); // it came to the front without
         made = &document;
     } catch (const std::bad_alloc &) {
         if (context.files)

@@ -26,11 +26,13 @@ qsizetype openedLast(QStringView text, QStringView element)
         place = text.first(place).lastIndexOf(u'<');
         if (place < 0)
             break;
-        const QStringView behind = text.sliced(place + 1);
-        if (behind.startsWith(element, Qt::CaseInsensitive))
-            return place;
-        if (behind.startsWith(u'/') && behind.sliced(1).startsWith(element, Qt::CaseInsensitive))
-            break;
+        const bool closes = place + 1 < text.size() && text[place + 1] == u'/';
+        const QStringView name = text.sliced(place + (closes ? 2 : 1));
+        // Most tags begin otherwise, which is seen sooner than it is compared.
+        if (name.isEmpty() || name.front().toLower() != element.front() ||
+            !name.startsWith(element, Qt::CaseInsensitive))
+            continue;
+        return closes ? -1 : place;
     }
     return -1;
 }

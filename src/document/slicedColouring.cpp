@@ -4,6 +4,8 @@
 #include "common/programState.h"
 #include "document/pageColours.h"
 #include "forms/programContext.h"
+#include "services/services.h"
+#include "services/timer.h"
 #include "surface/editSurface.h"
 
 #include <QElapsedTimer>
@@ -12,8 +14,9 @@
 
 namespace
 {
-constexpr qsizetype AtOnce = 128 * 1024; ///< of a text this long, more is not worth a second look
-constexpr qsizetype Piece = 4 * 1024;    ///< in characters, between two looks at the clock
+constexpr qsizetype AtOnce = 16 * 1024; ///< of a text this long, more is not worth a second look
+constexpr int PauseMilliseconds = 200;  ///< of the keys
+constexpr qsizetype Piece = 4 * 1024;   ///< in characters, between two looks at the clock
 
 } // namespace
 
@@ -25,15 +28,27 @@ bool readsScripts(const ProgramContext &context)
 SlicedColouring::SlicedColouring(EditSurface &edit, ProgramContext &context)
     : QObject(&edit), m_edit(&edit), m_context(context)
 {
-    connect(&edit, &EditSurface::Change, this, &SlicedColouring::stop);
+    tmrColourSoon = new Timer(
+        context.services.timers, QStringLiteral("tmrColourSoon"), [this] { begin(); }, &edit);
+    tmrColourSoon->setInterval(PauseMilliseconds);
+    connect(&edit, &EditSurface::Change, this, &SlicedColouring::textChanged);
     connect(&edit, &EditSurface::scrolled, this, &SlicedColouring::colourView);
 }
 
 SlicedColouring::~SlicedColouring() = default;
 
+/// What the keys have coloured by themselves waits for nothing; what came in otherwise has no colours yet.
+void SlicedColouring::textChanged()
+{
+    stop();
+    tmrColourSoon->setEnabled(false);
+    tmrColourSoon->setEnabled(m_context.state.habits.HabitColouring);
+}
+
 void SlicedColouring::begin()
 {
     stop();
+    tmrColourSoon->setEnabled(false);
     if (!m_edit)
         return;
     m_page = std::make_unique<PageColours>(m_edit->Text(), m_context.mainWindow->colouring, readsScripts(m_context));
@@ -64,11 +79,9 @@ void SlicedColouring::slice(int round)
         return;
     QElapsedTimer sinceBegin;
     sinceBegin.start();
-    QList<FormatRange> formats;
     do
-        formats += m_page->advance(m_page->place() + Piece);
-    while (!m_page->isAtEnd() && sinceBegin.elapsed() < SliceMilliseconds);
-    m_edit->setFormats(formats);
+        m_edit->setFormats(m_page->advance(m_page->place() + Piece));
+    while (!m_page->isAtEnd() && sinceBegin.nsecsElapsed() < SliceMilliseconds * 1'000'000);
     if (m_page->isAtEnd())
         m_page.reset();
     else

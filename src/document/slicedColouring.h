@@ -7,6 +7,7 @@
 
 class EditSurface;
 class PageColours;
+class Timer;
 struct FormatRange;
 struct ProgramContext;
 
@@ -14,7 +15,7 @@ struct ProgramContext;
 bool readsScripts(const ProgramContext &context);
 
 /// Colours a document of any size without holding anything up: what is on show at once, and the rest in slices, between
-/// which events run. It touches nothing but colours. A change of the text ends it; whoever began it begins it again.
+/// which events run. It touches nothing but colours. A change of the text ends it, and it begins again after a pause.
 class SlicedColouring final : public QObject
 {
     Q_OBJECT
@@ -29,6 +30,7 @@ public:
     void begin();
 
 private:
+    void textChanged();
     void stop();
     void nextSlice();
     void colourView();
@@ -37,5 +39,6 @@ private:
     QPointer<EditSurface> m_edit;
     ProgramContext &m_context;
     std::unique_ptr<PageColours> m_page; ///< nothing once all is coloured, or the text is another
-    int m_round = 0;                     ///< of the slices that are on their way
+    Timer *tmrColourSoon;
+    int m_round = 0; ///< of the slices that are on their way
 };
