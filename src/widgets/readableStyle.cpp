@@ -120,15 +120,25 @@ QSize ReadableStyle::sizeFromContents(ContentsType type, const QStyleOption *opt
     return size.expandedTo(QSize(contents.width() + 2 * RoomBesideCaption, 0));
 }
 
-QIcon ReadableStyle::standardIcon(StandardPixmap icon, const QStyleOption *option, const QWidget *widget) const
+QIcon ReadableStyle::standardIcon(StandardPixmap icon, const QStyleOption *option, const QWidget * /*widget*/) const
 {
     const Qt::LayoutDirection direction = option ? option->direction : QApplication::layoutDirection();
-    return lateIcon([style = QPointer(this), icon, direction, widget = QPointer(widget)] {
-        QStyleOption kept;
-        kept.direction = direction;
-        return style ? style->QProxyStyle::standardIcon(icon, &kept, widget)
-                     : QApplication::style()->standardIcon(icon, &kept, widget);
-    });
+    QIcon &kept = m_icons[{icon, direction}];
+    if (kept.isNull()) {
+        kept = lateIcon([style = QPointer(this), icon, direction] {
+            QStyleOption asked;
+            asked.direction = direction;
+            return style ? style->QProxyStyle::standardIcon(icon, &asked)
+                         : QApplication::style()->standardIcon(icon, &asked);
+        });
+    }
+    return kept;
+}
+
+void ReadableStyle::polish(QPalette &palette)
+{
+    m_icons.clear(); // a theme brings icons of its own
+    QProxyStyle::polish(palette);
 }
 
 void useReadableStyle()

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QHash>
 #include <QIcon>
 #include <QProxyStyle>
+#include <utility>
 
 class QPalette;
 
@@ -29,9 +31,16 @@ public:
                             const QWidget *widget = nullptr) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
                            const QWidget *widget = nullptr) const override;
-    /// Every menu and tool bar asks for an icon of the button behind which its last entries go where the room is short.
+    /// Every menu and tool bar asks for an icon of the button behind which its last entries go where the room is short,
+    /// and the buttons of a maximised window ask at each painting: each icon is one and the same until the palette
+    /// changes, since the toolkit keeps the pixels of every icon that it is given.
     QIcon standardIcon(StandardPixmap icon, const QStyleOption *option = nullptr,
                        const QWidget *widget = nullptr) const override;
+    using QProxyStyle::polish;
+    void polish(QPalette &palette) override;
+
+private:
+    mutable QHash<std::pair<int, int>, QIcon> m_icons; // by the icon and the direction of writing
 };
 
 /// Takes that style for the program where the desktop has none of its own.

@@ -108,6 +108,21 @@ TEST_F(ReadableStyleTest, ShowsTheEdgeOfWhatHasTheFocusInTheDark)
     EXPECT_NE(focusOnDark(frame.palette), outlineOnDark(frame.palette));
 }
 
+// The toolkit keeps the pixels of each icon, so one that is made at every painting fills its store.
+TEST_F(ReadableStyleTest, GivesTheSameIconUntilThePaletteChanges)
+{
+    const QIcon first = style.standardIcon(QStyle::SP_TitleBarCloseButton);
+    EXPECT_FALSE(first.isNull());
+    EXPECT_EQ(style.standardIcon(QStyle::SP_TitleBarCloseButton).cacheKey(), first.cacheKey());
+    EXPECT_NE(style.standardIcon(QStyle::SP_TitleBarNormalButton).cacheKey(), first.cacheKey());
+    QStyleOption other;
+    other.direction = QApplication::isRightToLeft() ? Qt::LeftToRight : Qt::RightToLeft;
+    EXPECT_NE(style.standardIcon(QStyle::SP_TitleBarCloseButton, &other).cacheKey(), first.cacheKey());
+    QPalette palette = theme(true);
+    style.polish(palette);
+    EXPECT_NE(style.standardIcon(QStyle::SP_TitleBarCloseButton).cacheKey(), first.cacheKey());
+}
+
 TEST_F(ReadableStyleTest, TellsTheButtonThatEnterPressesInTheDark)
 {
     QPushButton plain(QStringLiteral("Cancel"));
