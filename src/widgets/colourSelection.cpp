@@ -6,9 +6,52 @@
 
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QIconEngine>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
+
+namespace
+{
+/// Draws the swatch afresh each time: of an icon that has pixels, the toolkit keeps them long after the dialog is gone.
+class SwatchEngine final : public QIconEngine
+{
+public:
+    /// `crossed` is the swatch of no colour at all.
+    SwatchEngine(const QColor &ground, const QColor &line, bool crossed)
+        : m_ground(ground), m_line(line), m_crossed(crossed)
+    {
+    }
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode, QIcon::State) override
+    {
+        painter->save();
+        painter->fillRect(rect, m_ground);
+        painter->setPen(m_line);
+        if (m_crossed) {
+            painter->setRenderHint(QPainter::Antialiasing);
+            painter->drawLine(QLineF(QRectF(rect).bottomLeft(), QRectF(rect).topRight()));
+        }
+        painter->drawRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5));
+        painter->restore();
+    }
+    QPixmap scaledPixmap(const QSize &size, QIcon::Mode mode, QIcon::State state, qreal scale) override
+    {
+        QPixmap picture(size);
+        picture.setDevicePixelRatio(scale);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        paint(&painter, QRect(QPoint(), (QSizeF(size) / scale).toSize()), mode, state);
+        return picture;
+    }
+    QIconEngine *clone() const override { return new SwatchEngine(*this); }
+
+private:
+    QColor m_ground;
+    QColor m_line;
+    bool m_crossed;
+};
+} // namespace
 
 ColourSelection::ColourSelection(Pick pick, QWidget *parent)
     : QWidget(parent), m_pick(std::move(pick)), m_text(new QLineEdit), m_change(new QPushButton)
@@ -81,21 +124,10 @@ void ColourSelection::choose(ColourValue colour)
 
 void ColourSelection::drawSwatch()
 {
-    const QSize size(fontMetrics().height() * 2, fontMetrics().height());
-    QPixmap swatch(size * devicePixelRatioF());
-    swatch.setDevicePixelRatio(devicePixelRatioF());
     const bool unset = m_colour == m_unset;
-    swatch.fill(unset ? palette().color(QPalette::Base) : shownColour(m_colour, palette()));
-    QPainter painter(&swatch);
-    painter.setPen(palette().color(QPalette::WindowText));
-    if (unset) {
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.drawLine(0, size.height(), size.width(), 0);
-    }
-    painter.drawRect(QRectF(0.5, 0.5, size.width() - 1, size.height() - 1));
-    painter.end();
-    m_change->setIcon(swatch);
-    m_change->setIconSize(size);
+    const QColor ground = unset ? palette().color(QPalette::Base) : shownColour(m_colour, palette());
+    m_change->setIcon(QIcon(new SwatchEngine(ground, palette().color(QPalette::WindowText), unset)));
+    m_change->setIconSize(QSize(fontMetrics().height() * 2, fontMetrics().height()));
 }
 
 void ColourSelection::changeEvent(QEvent *event)
