@@ -10,6 +10,7 @@ SurfaceView::SurfaceView(const SurfaceText &text, const FormatRuns &looks, const
 
 void SurfaceView::setStyle(const QFont &font, qreal tabDistance, bool wrap)
 {
+    keepTopInLine();
     const qsizetype anchor = rowStart(m_top);
     m_wrap = wrap;
     const qreal width = std::max(m_size.width() - 2 * margin, 1.0);
@@ -87,10 +88,8 @@ void SurfaceView::linesReplaced(qsizetype line, qsizetype removed, qsizetype add
     else
         for (qsizetype i = line; i < line + added; ++i)
             m_widest = std::max(m_widest, static_cast<qreal>(m_text.lineLength(i)) * m_layouts.advance());
-    if (m_top.line >= line && m_top.line < line + added) {
-        m_top.piece = std::min(m_top.piece, m_layouts.pieceCount(m_top.line) - 1);
-        m_top.row = std::min(m_top.row, pieceAt(m_top.line, m_top.piece).rowCount() - 1);
-    }
+    if (m_top.line >= line)
+        keepTopInLine();
     const bool atBottomTop = m_bottomTop && m_bottomTop->line == line;
     if (one && !atBottomTop && (!wraps() || m_rows.rowsOf(line) == rowsBefore)) // the text's end stays where it is
         return;
@@ -228,6 +227,15 @@ void SurfaceView::keepInText()
     }
 }
 
+/// The top row's line may be another one since, or have been laid out anew with fewer rows.
+void SurfaceView::keepTopInLine()
+{
+    if (!wraps() || m_top.line >= m_text.lineCount())
+        return;
+    m_top.piece = std::min(m_top.piece, m_layouts.pieceCount(m_top.line) - 1);
+    m_top.row = std::min(m_top.row, pieceAt(m_top.line, m_top.piece).rowCount() - 1);
+}
+
 void SurfaceView::scrollTo(const RowPlace &row, qreal hidden)
 {
     m_top = row;
@@ -253,6 +261,7 @@ void SurfaceView::scrollToRow(qsizetype number)
 
 void SurfaceView::scrollByPixels(qreal down)
 {
+    keepTopInLine();
     RowPlace row = m_top;
     qreal hidden = m_hidden + down;
     while (hidden < 0 && previous(row))

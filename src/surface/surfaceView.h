@@ -98,6 +98,7 @@ private:
     const RowPlace &bottomTop();
     RowPlace foundBottomTop();
     void keepInText();
+    void keepTopInLine();
     void countRows();
     std::vector<quint32> estimatedRows(qsizetype line, qsizetype count) const;
     void estimateWidth();

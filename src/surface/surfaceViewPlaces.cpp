@@ -6,6 +6,7 @@
 
 std::vector<ShownRow> SurfaceView::rows()
 {
+    keepTopInLine();
     std::vector<ShownRow> rows;
     RowPlace row = m_top;
     qreal top = -m_hidden + (row == RowPlace() ? margin : 0);

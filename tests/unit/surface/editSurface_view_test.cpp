@@ -99,6 +99,57 @@ TEST_F(EditSurfaceView, TellsOfScrollingWhenTheTextAboveGoes)
     EXPECT_EQ(scrolls.count(), 1);
 }
 
+// The view stays at the number of its top line, and that is another, shorter one then.
+TEST_F(EditSurfaceView, ShowsALineOfOneRowWhereTheTopOneHadMany)
+{
+    const QString longLine(600, u'x');
+    surface.setText(lines(10) + QStringLiteral("\r\n") + longLine + QStringLiteral("\r\n") + lines(100));
+    surface.setWrapToWindow(true);
+    settle();
+    select(0, 5 * 5);
+    surface.verticalScrollBar()->setValue(14); // the fifth row of the long line
+    ASSERT_EQ(surface.firstVisibleLine(), 10);
+    surface.setSelText(QString()); // five lines above the view
+    settle();
+    EXPECT_EQ(surface.firstVisibleLine(), 0) << "where the caret is";
+    EXPECT_EQ(surface.Text(), lines(5) + QStringLiteral("\r\n") + longLine + QStringLiteral("\r\n") + lines(100));
+    surface.scrollToLine(20);
+    EXPECT_EQ(surface.firstVisibleLine(), 20);
+}
+
+TEST_F(EditSurfaceView, ShowsTheLastRowOfATopLineThatHasFewerRowsNow)
+{
+    const QString colour = QStringLiteral("#FF0000 ");
+    surface.setText(colour.repeated(100) + QStringLiteral("\r\n") + lines(100));
+    surface.setWrapToWindow(true);
+    settle();
+    QList<MarkedRange> colours;
+    for (int i = 0; i < 100; ++i) {
+        MarkedRange mark{.start = i * colour.size(), .length = colour.size() - 1, .kind = MarkKind::Colour};
+        mark.colour = 0x0000FF;
+        colours << mark;
+    }
+    const QScrollBar &bar = *surface.verticalScrollBar();
+    const auto rowsOfTheLine = [&] { // the number of its last row, by the row behind it
+        surface.scrollToLine(0);
+        picture(); // which lays it out
+        surface.scrollToLine(1);
+        return bar.value();
+    };
+    const int bare = rowsOfTheLine();
+    surface.setMarkedRanges(MarkOwner::Colours, colours);
+    settle();
+    const int withSquares = rowsOfTheLine();
+    ASSERT_GT(withSquares, bare) << "squares take room";
+    surface.verticalScrollBar()->setValue(withSquares - 1);
+    settle();
+    ASSERT_EQ(surface.firstVisibleLine(), 0);
+    surface.setMarkedRanges(MarkOwner::Colours, {});
+    settle();
+    EXPECT_EQ(surface.firstVisibleLine(), 0);
+    EXPECT_EQ(rowsOfTheLine(), bare);
+}
+
 TEST_F(EditSurfaceView, FindsTheCharacterUnderAPoint)
 {
     surface.setText(QStringLiteral("abc\r\n\r\n\tdef"));
