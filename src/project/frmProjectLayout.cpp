@@ -16,11 +16,13 @@
 #include "services/timer.h"
 #include "services/yielder.h"
 #include "widgets/controls.h"
+#include "widgets/screenPlace.h"
 
 #include <QCoreApplication>
 #include <QMenu>
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 #include <new>
 #include <numeric>
@@ -263,6 +265,9 @@ void frmProjectLayout::finishMap()
     tmrAnimate->setEnabled(false);
     m_panel->waitSign().hide();
     resizeTo(7485, 5610);
+    const QRect frame = window()->frameGeometry();
+    if (const QRect whole = wholePlace(frame, window()->screen()->availableGeometry()); whole != frame)
+        window()->move(whole.topLeft());
     frmMdi().setEnabled(true);
     m_panel->view().setFocus();
 }

@@ -36,6 +36,11 @@ QRect reachablePlace(const QRect &place, const QList<QRect> &rooms)
     const QRect room = *std::min_element(rooms.begin(), rooms.end(), [&](const QRect &one, const QRect &other) {
         return distance(place, one) < distance(place, other);
     });
+    return wholePlace(place, room);
+}
+
+QRect wholePlace(const QRect &place, const QRect &room)
+{
     return {QPoint(startWithin(place.left(), place.width(), room.left(), room.right()),
                    startWithin(place.top(), place.height(), room.top(), room.bottom())),
             place.size()};

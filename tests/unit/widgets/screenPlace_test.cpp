@@ -35,3 +35,12 @@ TEST(ScreenPlace, HasNothingToGoByWithoutAScreen)
 {
     EXPECT_EQ(reachablePlace(QRect(-500, 100, 400, 300), {}), QRect(-500, 100, 400, 300));
 }
+
+TEST(ScreenPlace, BringsAWindowThatHasGrownBackAsAWhole)
+{
+    const QRect room(0, 0, 1000, 800);
+    EXPECT_EQ(wholePlace(QRect(300, 200, 500, 400), room), QRect(300, 200, 500, 400));
+    EXPECT_EQ(wholePlace(QRect(700, 200, 500, 400), room), QRect(500, 200, 500, 400));
+    EXPECT_EQ(wholePlace(QRect(700, 600, 500, 400), room), QRect(500, 400, 500, 400));
+    EXPECT_EQ(wholePlace(QRect(-20, 600, 1500, 900), room), QRect(0, 0, 1500, 900)) << "its title can be reached";
+}
