@@ -69,8 +69,10 @@ void CodeBranch::placeHtml()
             break;
         }
     }
-    for (std::vector<int> *nodes : {&m_levels[0], &m_levels[1], &m_outer, &m_inner})
-        nodes->shrink_to_fit();
+    for (std::vector<int> &nodes : m_levels)
+        nodes.shrink_to_fit();
+    m_outer.shrink_to_fit();
+    m_inner.shrink_to_fit();
     std::stable_sort(m_inner.begin(), m_inner.end(), [this](int a, int b) { return parentOf(a) < parentOf(b); });
 }
 

@@ -169,8 +169,8 @@ qsizetype CodeColours::styleStep(QStringView text, qsizetype place, Paints &pain
     }
     if (m_part == Part::Start) {
         const QStringView ahead = text.sliced(place, std::min(longestStatement, text.size() - place));
-        const auto sign = std::find_if(ahead.begin(), ahead.end(),
-                                       [](QChar each) { return each == u'{' || each == u'}' || each == u';'; });
+        const auto *const sign = std::find_if(ahead.begin(), ahead.end(),
+                                              [](QChar each) { return each == u'{' || each == u'}' || each == u';'; });
         const bool isRule = c == u'@' || (sign != ahead.end() && *sign == u'{');
         m_part = isRule ? Part::Selector : Part::Property;
     }

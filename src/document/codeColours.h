@@ -24,8 +24,8 @@ public:
 private:
     enum class Part : quint8 { Start, Selector, Property, Value };
 
-    qsizetype scriptStep(QStringView text, qsizetype at, std::vector<PaintRange> &paints);
-    qsizetype styleStep(QStringView text, qsizetype at, std::vector<PaintRange> &paints);
+    qsizetype scriptStep(QStringView text, qsizetype place, std::vector<PaintRange> &paints);
+    qsizetype styleStep(QStringView text, qsizetype place, std::vector<PaintRange> &paints);
     bool mayBeginRegularExpression() const;
 
     Language m_language;

@@ -113,7 +113,7 @@ void EditSurface::moveTo(qsizetype position, bool keepAnchor)
 
 bool EditSurface::moves(const QKeyEvent &event)
 {
-    const auto found = std::find_if(std::begin(moveKeys), std::end(moveKeys), [&](const MoveKey &key) {
+    const auto *const found = std::find_if(std::begin(moveKeys), std::end(moveKeys), [&](const MoveKey &key) {
         return event.matches(key.moves) || event.matches(key.selects);
     });
     if (found == std::end(moveKeys))
@@ -177,7 +177,7 @@ qsizetype EditSurface::lineHome() const
         return start;
     constexpr qsizetype deepest = 4096; // characters of an indent that are looked through
     const QString part = m_text.mid(start, std::min(m_text.lineLength(line), deepest));
-    const auto first = std::find_if(part.begin(), part.end(), [](QChar c) { return c != u' ' && c != u'\t'; });
+    const auto *const first = std::find_if(part.begin(), part.end(), [](QChar c) { return c != u' ' && c != u'\t'; });
     return first == part.end() ? start : start + (first - part.begin());
 }
 

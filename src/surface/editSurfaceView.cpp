@@ -160,7 +160,8 @@ void EditSurface::ensureCaretVisible()
     const QRect caret = caretRect().toRect();
     const QRect shown = viewport()->rect();
     if (!m_wrap && (caret.left() < shown.left() || caret.right() > shown.right())) {
-        m_view.setLeft(std::max(caret.center().x() + m_view.left() - shown.width() / 2, 0.0));
+        const int middle = shown.width() / 2;
+        m_view.setLeft(std::max(caret.center().x() + m_view.left() - middle, 0.0));
         updateAll();
     }
     followView();

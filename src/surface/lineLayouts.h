@@ -100,7 +100,7 @@ private:
         qreal advance = 0;         ///< of a character, by the first piece that was laid out
     };
 
-    LinePiece laidOut(qsizetype line, int piece) const;
+    LinePiece laidOut(qsizetype line, int number) const;
     QList<QTextLayout::FormatRange> formatsOf(qsizetype line, const LinePiece &piece) const;
     const Line *known(qsizetype line) const;
 

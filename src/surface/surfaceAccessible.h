@@ -30,19 +30,19 @@ public:
     void removeSelection(int index) override;
     void setSelection(int index, int start, int end) override;
     int cursorPosition() const override;
-    void setCursorPosition(int position) override;
+    void setCursorPosition(int at) override;
     QString text(int start, int end) const override;
-    QString textBeforeOffset(int offset, QAccessible::TextBoundaryType by, int *start, int *end) const override;
-    QString textAfterOffset(int offset, QAccessible::TextBoundaryType by, int *start, int *end) const override;
-    QString textAtOffset(int offset, QAccessible::TextBoundaryType by, int *start, int *end) const override;
+    QString textBeforeOffset(int at, QAccessible::TextBoundaryType by, int *start, int *end) const override;
+    QString textAfterOffset(int at, QAccessible::TextBoundaryType by, int *start, int *end) const override;
+    QString textAtOffset(int at, QAccessible::TextBoundaryType by, int *start, int *end) const override;
     int characterCount() const override;
-    QRect characterRect(int offset) const override;
+    QRect characterRect(int at) const override;
     int offsetAtPoint(const QPoint &point) const override;
     void scrollToSubstring(int start, int end) override;
-    QString attributes(int offset, int *start, int *end) const override;
+    QString attributes(int at, int *start, int *end) const override;
 
     void deleteText(int start, int end) override;
-    void insertText(int offset, const QString &text) override;
+    void insertText(int at, const QString &text) override;
     void replaceText(int start, int end, const QString &text) override;
 
 private:

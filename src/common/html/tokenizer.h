@@ -39,7 +39,6 @@ enum class Fault : quint8 {
     CDataInHtml,
     CDataNotClosed,
     DoctypeMalformed,
-    RawTextNotClosed,
     NullCharacter,
 };
 
