@@ -69,7 +69,8 @@ bool isBinary(const QByteArray &bytes)
     });
 }
 
-bool hasUtf16Mark(const QByteArray &bytes)
+/// Of the beginning of a file, whose number of bytes tells nothing.
+bool beginsWithUtf16Mark(const QByteArray &bytes)
 {
     return bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF");
 }
@@ -148,9 +149,9 @@ QByteArray pageFiles::pageType(const QString &name, const QByteArray &beginning)
 {
     if (QByteArray type = shownType(name); !type.isEmpty())
         return type;
-    if (isBinary(beginning) && !hasUtf16Mark(beginning))
+    if (isBinary(beginning) && !beginsWithUtf16Mark(beginning))
         return "application/octet-stream";
-    return hasUtf16Mark(beginning) || beginning.trimmed().startsWith('<') ? "text/html" : "text/plain";
+    return beginsWithUtf16Mark(beginning) || beginning.trimmed().startsWith('<') ? "text/html" : "text/plain";
 }
 
 bool pageFiles::isPlain(const QString &relative)

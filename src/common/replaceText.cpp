@@ -1,30 +1,14 @@
 #include "common/replaceText.h"
 
+#include "common/commonText.h"
 #include "common/document.h"
 
 #include <algorithm>
 
-namespace
-{
-qsizetype commonStart(QStringView a, QStringView b)
-{
-    return std::mismatch(a.begin(), a.begin() + std::min(a.size(), b.size()), b.begin()).first - a.begin();
-}
-
-qsizetype commonEnd(QStringView a, QStringView b, qsizetype behind)
-{
-    const qsizetype most = std::min(a.size(), b.size()) - behind;
-    qsizetype length = 0;
-    while (length < most && a[a.size() - 1 - length] == b[b.size() - 1 - length])
-        ++length;
-    return length;
-}
-} // namespace
-
 qsizetype placeAfterReplacing(const QString &before, const QString &after, qsizetype place)
 {
     const qsizetype start = commonStart(before, after);
-    const qsizetype end = commonEnd(before, after, start);
+    const qsizetype end = commonEnd(before, after, std::min(before.size(), after.size()) - start);
     if (place <= start)
         return place;
     if (place >= before.size() - end)

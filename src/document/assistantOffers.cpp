@@ -1,5 +1,7 @@
 #include "document/assistantOffers.h"
 
+#include "common/html/tokenizer.h"
+#include "document/markupCharacters.h"
 #include "document/pageOutline.h"
 #include "texttools/pageRules.h"
 
@@ -8,16 +10,6 @@
 
 namespace
 {
-bool isBlank(QChar c)
-{
-    return c == u' ' || c == u'\t' || c == u'\r' || c == u'\n' || c == u'\f';
-}
-
-bool isNameCharacter(QChar c)
-{
-    return c.isLetterOrNumber() || QStringView(u"-_:.").contains(c);
-}
-
 /// Reads a tag from its "<" up to where the text ends.
 class TagReader
 {
@@ -61,7 +53,7 @@ private:
 
     void passBlanks()
     {
-        while (!ended() && isBlank(m_text[m_at]))
+        while (!ended() && html::isBlank(m_text[m_at].unicode()))
             ++m_at;
     }
 
@@ -84,8 +76,8 @@ private:
             ++m_at;
             return true;
         }
-        const QString name =
-            word([](QChar c) { return isBlank(c) || c == u'=' || c == u'>' || c == u'/' || c == u'<'; });
+        const QString name = word(
+            [](QChar c) { return html::isBlank(c.unicode()) || c == u'=' || c == u'>' || c == u'/' || c == u'<'; });
         if (ended()) {
             found(TagPlace::Kind::Attribute, name.size());
             return false;
@@ -98,7 +90,7 @@ private:
     /// A blank behind a name parts it from the next attribute.
     bool backFromBlanks()
     {
-        while (m_at > 0 && isBlank(m_text[m_at - 1]))
+        while (m_at > 0 && html::isBlank(m_text[m_at - 1].unicode()))
             --m_at;
         return true;
     }
@@ -117,7 +109,7 @@ private:
         if (quoted)
             ++m_at;
         const qsizetype start = m_at;
-        word([&](QChar c) { return quoted ? c == quote : isBlank(c) || c == u'>'; });
+        word([&](QChar c) { return quoted ? c == quote : html::isBlank(c.unicode()) || c == u'>'; });
         if (ended()) {
             m_place.quoted = quoted;
             found(TagPlace::Kind::Value, m_text.size() - start);

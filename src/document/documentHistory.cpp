@@ -1,5 +1,6 @@
 #include "document/documentHistory.h"
 
+#include "common/surfaceSelection.h"
 #include "services/clock.h"
 
 #include <QObject>
@@ -8,11 +9,6 @@
 
 namespace
 {
-TextSelection selectionOf(const TextSurface &edit)
-{
-    return {edit.SelStart(), edit.SelLength()};
-}
-
 class SnapshotHistory final : public DocumentHistory
 {
 public:

@@ -1,22 +1,13 @@
 #include "document/editHistory.h"
 
+#include "common/commonText.h"
+#include "document/markupCharacters.h"
+
 #include <algorithm>
 #include <cstdlib>
 
 namespace
 {
-qsizetype commonStart(QStringView a, QStringView b, qsizetype most)
-{
-    const qsizetype size = std::min({a.size(), b.size(), most});
-    return std::mismatch(a.begin(), a.begin() + size, b.begin()).first - a.begin();
-}
-
-qsizetype commonEnd(QStringView a, QStringView b, qsizetype most)
-{
-    const qsizetype size = std::min({a.size(), b.size(), most});
-    return std::mismatch(a.rbegin(), a.rbegin() + size, b.rbegin()).first - a.rbegin();
-}
-
 /// Whether the position parts the two characters of a line break.
 bool partsBreak(QStringView text, qsizetype position)
 {
@@ -39,11 +30,6 @@ Common shared(QStringView a, QStringView b, qsizetype most)
     if (partsBreak(a, a.size() - common.end) || partsBreak(b, b.size() - common.end))
         --common.end;
     return common;
-}
-
-bool isBlank(QChar c)
-{
-    return c == u' ' || c == u'\t';
 }
 } // namespace
 

@@ -6,6 +6,7 @@
 #include "common/mainWindow.h"
 #include "common/paths.h"
 #include "common/siteProject.h"
+#include "common/surfaceSelection.h"
 #include "document/abbreviation.h"
 #include "document/lineHands.h"
 #include "document/lineIndent.h"
@@ -22,11 +23,6 @@
 
 namespace
 {
-TextSelection selectionOf(const TextSurface &edit)
-{
-    return {edit.SelStart(), edit.SelLength()};
-}
-
 /// Runs what makes a change of the active document's text and selection.
 void changeActive(ProgramContext &context, const std::function<LineChange(const QString &, TextSelection)> &make)
 {

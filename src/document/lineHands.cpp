@@ -1,17 +1,13 @@
 #include "document/lineHands.h"
 
 #include "common/paths.h"
+#include "document/markupCharacters.h"
 
 #include <algorithm>
 
 namespace
 {
 constexpr qsizetype BreakLength = 2;
-
-bool isBlank(QChar c)
-{
-    return c == u' ' || c == u'\t';
-}
 
 qsizetype firstInk(QStringView text, LineSpan line)
 {

@@ -1,14 +1,11 @@
 #include "document/lineIndent.h"
 
+#include "document/markupCharacters.h"
+
 #include <algorithm>
 
 namespace
 {
-bool isBlank(QChar c)
-{
-    return c == u' ' || c == u'\t';
-}
-
 /// What a step takes from the front of the line.
 qsizetype stepInFront(QStringView line, const IndentStyle &style)
 {

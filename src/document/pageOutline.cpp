@@ -1,6 +1,6 @@
 #include "document/pageOutline.h"
 
-#include "common/html/tokenizer.h"
+#include "common/html/textMode.h"
 #include "document/tagPairs.h"
 
 #include <QHash>
@@ -71,18 +71,6 @@ const Ending *endingOf(const QString &name)
     return endings.value(name);
 }
 
-html::TextMode modeBehind(const QString &name)
-{
-    static const Names raw = names("style xmp iframe noembed noframes");
-    if (name == u"script")
-        return html::TextMode::Script;
-    if (name == u"textarea" || name == u"title")
-        return html::TextMode::Rcdata;
-    if (name == u"plaintext")
-        return html::TextMode::Plain;
-    return raw.contains(name) ? html::TextMode::Raw : html::TextMode::Markup;
-}
-
 class OutlineWalk
 {
 public:
@@ -144,8 +132,8 @@ private:
         ++m_counts[name];
         if (name == u"svg" || name == u"math")
             m_tokens.setForeign(++m_foreign > 0);
-        if (m_foreign == 0 && modeBehind(name) != html::TextMode::Markup)
-            m_tokens.setMode(modeBehind(name), m_tokens.textOf(token.name));
+        if (m_foreign == 0 && html::modeBehind(name) != html::TextMode::Markup)
+            m_tokens.setMode(html::modeBehind(name), m_tokens.textOf(token.name));
     }
 
     void endBefore(const QString &name)

@@ -1,6 +1,7 @@
 #include "document/pairedNames.h"
 
 #include "common/textSurface.h"
+#include "document/markupCharacters.h"
 #include "document/tagPairs.h"
 
 #include <algorithm>
@@ -9,11 +10,6 @@
 namespace
 {
 constexpr qsizetype LongestName = 64;
-
-bool isNameCharacter(QChar c)
-{
-    return c.isLetterOrNumber() || QStringView(u"-_:.").contains(c);
-}
 
 struct Name {
     qsizetype start = 0;

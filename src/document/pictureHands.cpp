@@ -5,6 +5,7 @@
 #include "common/mainWindow.h"
 #include "common/paths.h"
 #include "common/programState.h"
+#include "common/surfaceSelection.h"
 #include "document/frmPastePicture.h"
 #include "document/handCommands.h"
 #include "document/lineHands.h"
@@ -54,11 +55,6 @@ PictureElement elementOf(ProgramContext &context, const Document &document, cons
     return {.address = addressFromDocument(file, document.DocSavePath, true),
             .alt = {},
             .size = picture ? picture->size : QSize()};
-}
-
-TextSelection selectionOf(const Document &document)
-{
-    return {document.txtEdit().SelStart(), document.txtEdit().SelLength()};
 }
 
 QStringList pictureFiles(const ProgramContext &context, const QStringList &files)
@@ -117,7 +113,7 @@ bool PasteAsPicture(ProgramContext &context)
     if (files.isEmpty())
         askForName(context, *document);
     else
-        WritePictures(context, *document, files, selectionOf(*document));
+        WritePictures(context, *document, files, selectionOf(document->txtEdit()));
     return true;
 }
 

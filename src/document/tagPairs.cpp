@@ -1,5 +1,7 @@
 #include "document/tagPairs.h"
 
+#include "document/markupCharacters.h"
+
 #include <QSet>
 
 #include <algorithm>
@@ -51,7 +53,7 @@ private:
             ++m_at;
             return;
         }
-        while (at < m_text.size() && (m_text[at].isLetterOrNumber() || QStringView(u"-_:.").contains(m_text[at])))
+        while (at < m_text.size() && isNameCharacter(m_text[at]))
             ++at;
         tag.name = m_text.mid(tag.nameStart, at - tag.nameStart).toString().toLower();
         const qsizetype end = tagEnd(at);

@@ -5,6 +5,7 @@
 #include "common/mainWindow.h"
 #include "common/pageCharset.h"
 #include "common/programState.h"
+#include "common/quoted.h"
 #include "common/replaceText.h"
 #include "common/siteProject.h"
 #include "common/unsavedText.h"
@@ -29,11 +30,6 @@
 
 namespace
 {
-QString quoted(const QString &name)
-{
-    return QStringLiteral("\"") + name + QStringLiteral("\"");
-}
-
 MessageBox documentOpenBox(const QString &path)
 {
     return {.title = QStringLiteral("Document Open"),

@@ -5,6 +5,7 @@
 #include "common/fileFormatText.h"
 #include "common/mainWindow.h"
 #include "common/pageCharset.h"
+#include "common/quoted.h"
 #include "files/frmWhatChanged.h"
 #include "forms/formRuntime.h"
 #include "forms/programContext.h"
@@ -24,11 +25,6 @@ constexpr int MostTicks = 5;
 constexpr qsizetype FewDocuments = 3; ///< more than these can be answered together
 
 const QString NoticeKey = QStringLiteral("recovery");
-
-QString quoted(const QString &name)
-{
-    return QStringLiteral("\"") + name + QStringLiteral("\"");
-}
 } // namespace
 
 /// One page on its way to the disk: all that the worker may look at.

@@ -1,12 +1,9 @@
 #include "files/templateMessages.h"
 
+#include "common/quoted.h"
+
 namespace
 {
-QString quoted(const QString &name)
-{
-    return u'"' + name + u'"';
-}
-
 QString alreadyExists(const QString &what, const QString &path)
 {
     return what + quoted(path) + QStringLiteral(" already exists.\r\n\r\nDo you want to replace it?");

@@ -1,18 +1,12 @@
 #include "help/helpStyle.h"
 
+#include "widgets/contrast.h"
+
 #include <QColor>
 #include <QPalette>
 
 namespace
 {
-/// A colour between the two; a share of 0 gives the first.
-QColor between(const QColor &one, const QColor &other, float share)
-{
-    const auto mixed = [share](float a, float b) { return a + (b - a) * share; };
-    return QColor::fromRgbF(mixed(one.redF(), other.redF()), mixed(one.greenF(), other.greenF()),
-                            mixed(one.blueF(), other.blueF()));
-}
-
 /// The theme's colour of links, made lighter where it is meant for paper and the ground is dark.
 QColor linkColour(const QPalette &palette)
 {
@@ -39,5 +33,5 @@ QString helpStyleSheet(const QPalette &palette)
                           "border-color: %3; margin-top: 8px; margin-bottom: 10px; }"
                           "th { background-color: %2; text-align: left; }"
                           "th, td { padding: 5px; border-style: solid; border-width: 1px; border-color: %3; }")
-        .arg(linkColour(palette).name(), between(ground, text, 0.08F).name(), between(ground, text, 0.28F).name());
+        .arg(linkColour(palette).name(), mixed(ground, text, 0.08).name(), mixed(ground, text, 0.28).name());
 }

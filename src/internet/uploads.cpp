@@ -2,6 +2,7 @@
 
 #include "common/mainWindow.h"
 #include "common/programState.h"
+#include "common/quoted.h"
 #include "forms/programContext.h"
 #include "internet/progressText.h"
 #include "internet/unknownHosts.h"
@@ -12,11 +13,6 @@ namespace
 {
 const QString Break = QStringLiteral("\r\n");
 constexpr int MillisecondsShown = 200; ///< after which a text is shown again
-
-QString quoted(const QString &text)
-{
-    return QStringLiteral("\"") + text + QStringLiteral("\"");
-}
 
 MessageBox cutQuestion(const Upload &upload)
 {

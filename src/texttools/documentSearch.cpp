@@ -3,6 +3,7 @@
 #include "common/document.h"
 #include "common/mainWindow.h"
 #include "common/programState.h"
+#include "common/surfaceSelection.h"
 #include "common/text.h"
 #include "forms/programContext.h"
 #include "services/messageBoxes.h"
@@ -38,11 +39,6 @@ MessageBox entireDocumentQuestion()
                            "\"text only\" has been selected from the Search box.\r\n\r\n"
                            "Would you like to search the entire document instead?"),
             MessageIcon::Question, MessageButtons::YesNo};
-}
-
-TextSelection selectionOf(const TextSurface &edit)
-{
-    return {edit.SelStart(), edit.SelLength()};
 }
 
 void apply(const ReplaceRun::Change &change, TextSurface &edit)

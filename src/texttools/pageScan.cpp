@@ -1,5 +1,6 @@
 #include "texttools/pageScan.h"
 
+#include "common/html/textMode.h"
 #include "texttools/checkDictionary.h"
 #include "texttools/codeWords.h"
 
@@ -7,19 +8,6 @@
 
 namespace
 {
-html::TextMode modeBehind(const QString &element)
-{
-    if (element == u"script")
-        return html::TextMode::Script;
-    if (element == u"textarea" || element == u"title")
-        return html::TextMode::Rcdata;
-    if (element == u"plaintext")
-        return html::TextMode::Plain;
-    const bool isRaw = element == u"style" || element == u"xmp" || element == u"iframe" || element == u"noembed" ||
-                       element == u"noframes";
-    return isRaw ? html::TextMode::Raw : html::TextMode::Markup;
-}
-
 /// Whether the text ends in a value whose quotation mark was never closed.
 bool endsInValue(const html::Token &tag, const QString &text)
 {
@@ -119,7 +107,7 @@ void PageScan::leave(const html::Token &tag, const QString &element)
 {
     m_next = m_checked = tag.end();
     const bool opens = tag.kind == html::TokenKind::StartTag;
-    m_rawMode = opens ? modeBehind(element) : html::TextMode::Markup;
+    m_rawMode = opens ? html::modeBehind(element) : html::TextMode::Markup;
     m_rawElement = m_rawMode == html::TextMode::Markup ? QString() : element;
 }
 

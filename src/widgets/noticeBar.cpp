@@ -1,5 +1,6 @@
 #include "widgets/noticeBar.h"
 
+#include "widgets/contrast.h"
 #include "widgets/noticeLayout.h"
 
 #include <QAccessible>
@@ -17,12 +18,6 @@ namespace
 constexpr int StripeWidth = 4;
 constexpr int Padding = 4;
 constexpr qreal Tint = 0.16; ///< how much of the mark's colour the line's ground has
-
-QColor mixed(const QColor &ground, const QColor &tint, qreal share)
-{
-    const auto part = [share](int a, int b) { return qRound(a * (1 - share) + b * share); };
-    return {part(ground.red(), tint.red()), part(ground.green(), tint.green()), part(ground.blue(), tint.blue())};
-}
 
 /// A button whose caption is plain text: a "&" in it is a "&" and no key's mark.
 class PlainButton final : public QPushButton
