@@ -124,15 +124,15 @@ void moveInto(QBoxLayout &target, QLayoutItem *item, int stretch)
     }
 }
 
-/// Puts all pieces of the layout but its buttons into an area that scrolls, in the place of the first of them.
-void scrollContent(QBoxLayout &layout)
+/// Puts all pieces of the layout, or all but its buttons, into an area that scrolls, in the place of the first of them.
+void scrollContent(QBoxLayout &layout, bool withButtons)
 {
     auto *area = new ScrolledContent;
     auto *inner = new QBoxLayout(layout.direction(), area->widget());
     inner->setContentsMargins(0, 0, 0, 0);
     int place = -1;
     for (int i = 0; i < layout.count();) {
-        if (isButtons(*layout.itemAt(i))) {
+        if (!withButtons && isButtons(*layout.itemAt(i))) {
             ++i;
             continue;
         }
@@ -144,20 +144,34 @@ void scrollContent(QBoxLayout &layout)
     area->followKeyboard();
 }
 
+/// What wrapped texts need at a width; nothing where there are none.
+int heightAt(const QLayout &layout, int width)
+{
+    return layout.hasHeightForWidth() ? layout.totalHeightForWidth(width) : 0;
+}
+
 /// What the controls need, wrapped texts at the width that the window is to have.
 QSize leastSize(const QWidget &window, const QLayout &layout, int widest)
 {
-    QSize least = layout.totalMinimumSize().expandedTo(window.minimumSize());
-    if (!layout.hasHeightForWidth())
-        return least;
+    const QSize least = layout.totalMinimumSize().expandedTo(window.minimumSize());
     const int wanted = window.testAttribute(Qt::WA_Resized) ? window.width() : window.sizeHint().width();
     const int width = std::max(least.width(), std::min(wanted, widest));
-    return least.expandedTo({0, layout.totalHeightForWidth(width)});
+    return least.expandedTo({0, heightAt(layout, width)});
 }
 
 bool fits(const QSize &size, const QSize &room)
 {
     return size.width() <= room.width() && size.height() <= room.height();
+}
+
+/// Whether the buttons themselves have room within the margins of the window.
+bool buttonsFit(const QBoxLayout &layout, const QLayout &ofWindow, const QSize &room)
+{
+    const QMargins margins = ofWindow.contentsMargins();
+    for (int i = 0; i < layout.count(); ++i)
+        if (isButtons(*layout.itemAt(i)) && !fits(layout.itemAt(i)->minimumSize().grownBy(margins), room))
+            return false;
+    return true;
 }
 } // namespace
 
@@ -173,14 +187,16 @@ void fitInto(QWidget &window, const QSize &room)
             outer = qobject_cast<QBoxLayout *>(layout);
         if (!outer)
             return;
-        scrollContent(*outer);
+        scrollContent(*outer, !buttonsFit(*outer, *layout, room));
         layout->activate(); // what it asked for before is out of date
         window.setMinimumSize(window.minimumSize().boundedTo(room));
     }
     if (window.testAttribute(Qt::WA_Resized) && !fits(window.size(), room))
         window.resize(window.size().boundedTo(room)); // what it was given is more than there is
-    if (!fits(wanted, room))
-        window.resize(window.sizeHint().expandedTo(wanted).boundedTo(room));
+    if (!fits(wanted, room)) {
+        const QSize size = window.sizeHint().expandedTo(wanted).boundedTo(room);
+        window.resize(size.expandedTo({0, heightAt(*layout, size.width())}).boundedTo(room));
+    }
 }
 
 void takeNaturalHeight(QWidget &window)

@@ -4,7 +4,8 @@ class QSize;
 class QWidget;
 
 /// Makes a dialog that is not yet on show fit a room, in logical pixels. One whose controls need more scrolls; the
-/// buttons at its side or at its foot stay in sight. Where all fits, nothing is changed.
+/// buttons at its side or at its foot stay in sight, unless they have no room by themselves. Where all fits, nothing is
+/// changed.
 void fitInto(QWidget &window, const QSize &room);
 
 /// Makes a window that was given no size as high as its wrapped texts need at the width that it is to have; by itself,

@@ -68,15 +68,29 @@ bool isFixed(const Node &node)
     });
 }
 
+/// Pieces that stand together at the top of their room. To a layout that is aligned, the toolkit gives no more height
+/// than it asks for at its favourite width, though wrapped texts need more at a smaller one.
 template <class Layout>
-Layout *laidOut(const QList<Node> &pieces)
+class AtTop final : public Layout
 {
-    auto *layout = new Layout;
-    layout->setAlignment(Qt::AlignTop);
-    for (const Node &piece : pieces)
-        piece.addTo(*layout);
-    return layout;
-}
+public:
+    AtTop() { this->setAlignment(Qt::AlignTop); }
+
+    void setGeometry(const QRect &room) override
+    {
+        const int needed = this->hasHeightForWidth() ? this->heightForWidth(room.width()) : 0;
+        if (needed <= this->sizeHint().height()) {
+            Layout::setGeometry(room);
+            return;
+        }
+        QRect taken = room;
+        if (!(this->expandingDirections() & Qt::Vertical))
+            taken.setHeight(std::min(room.height(), needed));
+        this->setAlignment({});
+        Layout::setGeometry(taken);
+        this->setAlignment(Qt::AlignTop);
+    }
+};
 
 QLabel *captionFor(const QString &text, const QString &name, const QList<QWidget *> &controls)
 {
@@ -159,8 +173,7 @@ Row row(const QString &label, const Node &control, const QList<Node> &trailing, 
 
 Node rows(const QList<Row> &rows)
 {
-    auto *grid = new QGridLayout;
-    grid->setAlignment(Qt::AlignTop);
+    auto *grid = new AtTop<QGridLayout>;
     grid->setColumnStretch(1, 1);
     for (int at = 0; at < rows.size(); ++at)
         addRow(*grid, at, rows[at]);
@@ -189,7 +202,10 @@ Node under(const QString &label, QWidget *control, const QString &labelName)
 
 Node column(const QList<Node> &pieces)
 {
-    return Node(laidOut<QVBoxLayout>(pieces));
+    auto *layout = new AtTop<QVBoxLayout>;
+    for (const Node &piece : pieces)
+        piece.addTo(*layout);
+    return Node(layout);
 }
 
 Node line(const QList<Node> &pieces)

@@ -73,6 +73,19 @@ TEST_F(FittingWindow, ScrollsWhatIsTooHighAndKeepsTheButtonsInSight)
     EXPECT_FALSE(isInSight(*m_fields.last()));
 }
 
+TEST_F(FittingWindow, ScrollsTheButtonsTooWhereTheyHaveNoRoomThemselves)
+{
+    build(20);
+    const int both = ok->minimumSizeHint().height() + cancel->minimumSizeHint().height();
+    fitInto(window, {700, both});
+    window.show();
+    ASSERT_EQ(window.findChildren<QScrollArea *>().size(), 1);
+    EXPECT_LE(window.height(), both);
+    EXPECT_TRUE(area()->isAncestorOf(ok));
+    EXPECT_TRUE(area()->isAncestorOf(cancel));
+    EXPECT_GE(cancel->height(), cancel->minimumSizeHint().height());
+}
+
 TEST_F(FittingWindow, ShowsTheFieldThatTheKeyboardComesTo)
 {
     build(20);
@@ -104,6 +117,23 @@ TEST_F(FittingWindow, IsAsHighAsItsTextNeedsAtItsWidth)
     takeNaturalHeight(window);
     EXPECT_EQ(window.size(), QSize(600, column->totalHeightForWidth(600)));
     EXPECT_LT(window.height(), window.sizeHint().height()); // what it would be by itself
+}
+
+TEST_F(FittingWindow, GivesItsTextTheHeightThatItNeedsWhereTheRoomIsNarrow)
+{
+    struct Wide final : QWidget {
+        QSize sizeHint() const override { return {600, 20}; }
+    };
+    auto *column = new QVBoxLayout(&window);
+    auto *text = new QLabel(QStringLiteral("A text that is wrapped into more lines than one. ").repeated(8));
+    text->setWordWrap(true);
+    column->addWidget(text);
+    column->addWidget(new Wide);
+    fitInto(window, {300, 450});
+    window.show();
+    EXPECT_EQ(area(), nullptr);
+    EXPECT_LE(window.width(), 300);
+    EXPECT_GE(text->height(), text->heightForWidth(text->width()));
 }
 
 TEST_F(FittingWindow, KeepsTheSizeThatAFormGivesItself)

@@ -168,6 +168,26 @@ TEST(Layout, RowsStayTogetherAtTheTopWhereNothingStretches)
     EXPECT_EQ(window.control<QLineEdit>("txtB").y(), b);
 }
 
+TEST(Layout, WrappedTextsGetTheHeightThatTheyNeedAtTheirWidth)
+{
+    QList<ui::Node> texts;
+    for (const char *name : {"a", "b"}) {
+        QLabel *label = ui::label(QLatin1String(name),
+                                  str("Words that are long enough to be wrapped into many lines. ").repeated(4));
+        label->setWordWrap(true);
+        texts.append(label);
+    }
+    Window window(ui::column({ui::column(texts), ui::check(str("c"), str("&C")), ui::space()}));
+    window.resize(160, 2000);
+    for (const char *name : {"a", "b"}) {
+        const auto &label = *window.findChild<QLabel *>(QLatin1String(name));
+        EXPECT_GE(label.height(), label.heightForWidth(label.width())) << name;
+    }
+    const auto &last = *window.findChild<QLabel *>(str("b"));
+    const auto &check = *window.findChild<QCheckBox *>(str("c"));
+    EXPECT_LT(check.y() - last.geometry().bottom(), 20);
+}
+
 TEST(Layout, ANumberFieldKeepsItsWidthAndItsArrowsStayBesideIt)
 {
     NumberField *field = ui::number(str("txtRows"), 3);
