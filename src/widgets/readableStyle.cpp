@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QTabBar>
 
 namespace
 {
@@ -43,6 +44,30 @@ void outline(QPainter &painter, const QStyleOption &option, const QRectF &frame,
 QRectF edgeOf(const QRect &rect)
 {
     return QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5);
+}
+
+/// A tab is open at the side of its pages. The line along the other side of the one in front is thick.
+void outlineTab(QPainter &painter, const QStyleOptionTab &tab)
+{
+    const bool isBelow = tab.shape == QTabBar::RoundedSouth;
+    if (!isBelow && tab.shape != QTabBar::RoundedNorth)
+        return;              // there are none at the sides
+    constexpr int Lower = 2; ///< pixels by which the toolkit draws the tabs behind the one in front
+    const bool isInFront = tab.state.testFlag(QStyle::State_Selected);
+    QRectF edge = edgeOf(tab.rect);
+    if (!isInFront)
+        edge.adjust(0, isBelow ? 0 : Lower, 0, isBelow ? -Lower : 0);
+    const qreal open = isBelow ? edge.top() : edge.bottom();
+    const qreal closed = isBelow ? edge.bottom() : edge.top();
+    const QPointF line[] = {{edge.left(), open}, {edge.left(), closed}, {edge.right(), closed}, {edge.right(), open}};
+    painter.save();
+    painter.setPen(outlineOnDark(tab.palette));
+    painter.drawPolyline(line, 4);
+    if (isInFront) {
+        painter.setPen(QPen(focusOnDark(tab.palette), 2));
+        painter.drawLine(line[1], line[2]);
+    }
+    painter.restore();
 }
 
 /// The circle that the toolkit's style draws of an option.
@@ -102,12 +127,25 @@ void ReadableStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *
         outline(*painter, *option, edgeOf(option->rect), false);
 }
 
+void ReadableStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                                const QWidget *widget) const
+{
+    QProxyStyle::drawControl(element, option, painter, widget);
+    const auto *tab = qstyleoption_cast<const QStyleOptionTab *>(option);
+    if (element == CE_TabBarTabShape && tab && needsOutline(*option))
+        outlineTab(*painter, *tab);
+}
+
 void ReadableStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
                                        const QWidget *widget) const
 {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
     if (option && (control == CC_ComboBox || control == CC_SpinBox) && needsOutline(*option))
         outline(*painter, *option, edgeOf(option->rect), false);
+    if (option && control == CC_ScrollBar && needsOutline(*option)) {
+        const QRect slider = proxy()->subControlRect(control, option, SC_ScrollBarSlider, widget);
+        outline(*painter, *option, edgeOf(slider), false);
+    }
 }
 
 QSize ReadableStyle::sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,

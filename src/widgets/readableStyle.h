@@ -16,9 +16,9 @@ QColor outlineOnDark(const QPalette &palette);
 /// The colour of the outline of what has the focus, likewise.
 QColor focusOnDark(const QPalette &palette);
 
-/// The toolkit's own style draws the edges of boxes and fields darker than the window, which nobody sees where that is
-/// dark. This one outlines them there; on a light theme it draws as the toolkit does. A caption never touches the edges
-/// of its button.
+/// The toolkit's own style draws the edges of boxes, fields and tabs darker than the window, which nobody sees where
+/// that is dark. This one outlines them there; on a light theme it draws as the toolkit does. A caption never touches
+/// the edges of its button.
 class ReadableStyle final : public QProxyStyle
 {
     Q_OBJECT
@@ -27,6 +27,8 @@ public:
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget = nullptr) const override;
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget = nullptr) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
                             const QWidget *widget = nullptr) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,

@@ -11,8 +11,11 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QStyleFactory>
 #include <QStyleOptionButton>
+#include <QStyleOptionSlider>
+#include <QTabBar>
 #include <gtest/gtest.h>
 
 namespace
@@ -90,6 +93,43 @@ TEST_F(ReadableStyleTest, ShowsTheEdgesOfControlsInTheDark)
     }
 }
 
+TEST_F(ReadableStyleTest, ShowsTabsInTheDarkAndWhichIsInFront)
+{
+    for (const auto shape : {QTabBar::RoundedNorth, QTabBar::RoundedSouth}) {
+        QTabBar tabs;
+        tabs.setShape(shape);
+        tabs.addTab(QStringLiteral("One"));
+        tabs.addTab(QStringLiteral("Two"));
+        tabs.setCurrentIndex(1);
+        EXPECT_LT(edgeContrast(pictureOf(tabs, *toolkit, true), true), 2.0);
+        const QImage picture = pictureOf(tabs, style, true);
+        EXPECT_GE(edgeContrast(picture, true), 3.0);
+        // The line along the closed side of the one in front differs from that of the other.
+        const int y = shape == QTabBar::RoundedNorth ? 0 : picture.height() - 1;
+        EXPECT_NE(picture.pixelColor(tabs.tabRect(0).center().x(), y),
+                  picture.pixelColor(tabs.tabRect(1).center().x(), y));
+    }
+}
+
+TEST_F(ReadableStyleTest, ShowsTheSliderOfAScrollBarInTheDark)
+{
+    QScrollBar bar(Qt::Horizontal);
+    bar.setMaximum(100);
+    bar.setPageStep(20);
+    QStyleOptionSlider option;
+    const auto sliderContrast = [&](QStyle &drawn) {
+        const QImage picture = pictureOf(bar, drawn, true);
+        option.initFrom(&bar);
+        option.maximum = 100;
+        option.pageStep = 20;
+        option.orientation = Qt::Horizontal;
+        const QRect slider = drawn.subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, &bar);
+        return contrast(picture.pixelColor(slider.left(), slider.center().y()), theme(true).color(QPalette::Window));
+    };
+    EXPECT_LT(sliderContrast(*toolkit), 2.0);
+    EXPECT_GE(sliderContrast(style), 3.0);
+}
+
 // The toolkit's highlight is no brighter than a dark window; without an outline of its own, the one control that keys
 // go to would be the one without an edge.
 TEST_F(ReadableStyleTest, ShowsTheEdgeOfWhatHasTheFocusInTheDark)
@@ -145,7 +185,10 @@ TEST_F(ReadableStyleTest, ChangesNothingInTheLight)
 {
     QCheckBox check;
     QComboBox list;
-    for (QWidget *control : QList<QWidget *>{&check, &list})
+    QScrollBar bar;
+    QTabBar tabs;
+    tabs.addTab(QStringLiteral("One"));
+    for (QWidget *control : QList<QWidget *>{&check, &list, &bar, &tabs})
         EXPECT_EQ(pictureOf(*control, style, false), pictureOf(*control, *toolkit, false))
             << control->metaObject()->className();
 }
