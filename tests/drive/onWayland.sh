@@ -53,6 +53,7 @@ XDG_RUNTIME_DIR=$folder/run weston --backend=x11-backend.so --use-pixman --socke
     --config="$folder/weston.ini" >"$folder/weston.log" 2>&1 &
 children+=($!)
 await 20 test -S "$WAYLAND_DISPLAY" || skip "the compositor does not come up: $(tail -n 1 "$folder/weston.log")"
+export OUTER_DISPLAY=$DISPLAY # whose mouse and keyboard are those of the session
 unset DISPLAY
 
 export QT_QPA_PLATFORM=wayland

@@ -3,6 +3,7 @@
 #include "drive/carriedOver.h"
 #include "drive/commands.h"
 #include "drive/events.h"
+#include "drive/palettes.h"
 #include "drive/referee.h"
 #include "drive/stage.h"
 #include "widgets/readableStyle.h"
@@ -10,7 +11,6 @@
 #include <QApplication>
 #include <QFile>
 #include <QLocale>
-#include <QPalette>
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
@@ -25,32 +25,16 @@ namespace drive
 {
 namespace
 {
-QPalette darkPalette()
-{
-    const QColor window(45, 45, 48);
-    const QColor base(30, 30, 30);
-    const QColor text(220, 220, 220);
-    QPalette palette(text, window, window.lighter(), window.darker(), Qt::gray, text, base);
-    palette.setColor(QPalette::Button, window);
-    palette.setColor(QPalette::AlternateBase, window);
-    palette.setColor(QPalette::Highlight, QColor(38, 79, 120));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::Link, QColor(86, 156, 214));
-    palette.setColor(QPalette::ToolTipBase, window);
-    palette.setColor(QPalette::ToolTipText, text);
-    palette.setColor(QPalette::PlaceholderText, Qt::gray);
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, QColor(120, 120, 120));
-    return palette;
-}
-
 /// The same looks on every machine.
 void setLooks()
 {
     QApplication::setStyle(QStringLiteral("Fusion"));
     useReadableStyle();
-    if (qEnvironmentVariable("TAGWRIGHTER_DRIVE_DARK") == QStringLiteral("1"))
+    const QString looks = qEnvironmentVariable("TAGWRIGHTER_DRIVE_LOOKS");
+    if (looks == u"dark")
         QApplication::setPalette(darkPalette());
+    else if (looks == u"contrast")
+        QApplication::setPalette(highContrastPalette());
     for (const auto effect : {Qt::UI_AnimateMenu, Qt::UI_FadeMenu, Qt::UI_AnimateCombo, Qt::UI_AnimateTooltip,
                               Qt::UI_FadeTooltip, Qt::UI_AnimateToolBox})
         QApplication::setEffectEnabled(effect, false);

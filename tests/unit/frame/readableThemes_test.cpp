@@ -3,6 +3,7 @@
 #include "common/colouringOptions.h"
 #include "common/document.h"
 #include "common/mainWindow.h"
+#include "drive/palettes.h"
 #include "forms/form.h"
 #include "frame/application.h"
 #include "frame/documentStatus.h"
@@ -19,29 +20,13 @@ namespace
 {
 constexpr double LeastOfText = 4.5;
 
-/// As desktops have it for those who see little.
-QPalette highContrast()
-{
-    QPalette palette(Qt::black, Qt::black);
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText,
-                            QPalette::PlaceholderText, QPalette::BrightText})
-        palette.setColor(role, Qt::white);
-    for (const auto role : {QPalette::Base, QPalette::AlternateBase, QPalette::ToolTipBase})
-        palette.setColor(role, Qt::black);
-    palette.setColor(QPalette::Link, Qt::yellow);
-    palette.setColor(QPalette::LinkVisited, Qt::yellow);
-    palette.setColor(QPalette::Highlight, Qt::yellow);
-    palette.setColor(QPalette::HighlightedText, Qt::black);
-    return palette;
-}
-
 struct Theme {
     const char *name;
     void (*apply)();
 };
 const Theme themes[] = {{"light", [] { theme::apply(theme::Light); }},
                         {"dark", [] { theme::apply(theme::Dark); }},
-                        {"high contrast", [] { QApplication::setPalette(highContrast()); }}};
+                        {"high contrast", [] { QApplication::setPalette(drive::highContrastPalette()); }}};
 
 /// The contrast of what is drawn in a place to the colour that fills most of it. Strokes are smoothed, so the pixel
 /// that stands out most is taken: it is where a stroke covers all of one.

@@ -329,17 +329,17 @@ TEST_F(Dev, ShotPlaysTheScriptAndTakesThePicture)
 {
     write(tree("my.drive"), "start");
     pretendBuilt("debug", QStringLiteral("tests/drive/tagwrighter-drive"),
-                 "cat \"$1\"; echo \"dark=${TAGWRIGHTER_DRIVE_DARK:-} scale=${QT_SCALE_FACTOR:-}\"; exit 1");
+                 "cat \"$1\"; echo \"looks=${TAGWRIGHTER_DRIVE_LOOKS:-} scale=${QT_SCALE_FACTOR:-}\"; exit 1");
     const Outcome outcome = dev({QStringLiteral("shot"), QStringLiteral("/out \"1\".png"), tree("my.drive"),
                                  QStringLiteral("--dark"), QStringLiteral("--scale"), QStringLiteral("2")});
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(outcome.output, QStringLiteral("start\nshot \"/out \\\"1\\\".png\"\ndark=1 scale=2\n"));
+    EXPECT_EQ(outcome.output, QStringLiteral("start\nshot \"/out \\\"1\\\".png\"\nlooks=dark scale=2\n"));
     EXPECT_THAT(QDir(m_folder.path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot),
                 ElementsAre(QStringLiteral("bin"), QStringLiteral("tree")))
         << "nothing stays behind";
     const Outcome plain = dev({QStringLiteral("shot"), QStringLiteral("/a.png")});
     EXPECT_TRUE(plain.output.startsWith(textOf(tree("tools/mainWindow.drive"))));
-    EXPECT_TRUE(plain.output.endsWith(QStringLiteral("\nshot \"/a.png\"\ndark= scale=\n")));
+    EXPECT_TRUE(plain.output.endsWith(QStringLiteral("\nshot \"/a.png\"\nlooks= scale=\n")));
 }
 
 TEST_F(Dev, BenchMeasuresTheFastProgramFiveTimes)
