@@ -71,6 +71,8 @@ TEST(Packaging, NamesOneReleaseEverywhere)
                                    QStringLiteral("<release version=\""), QStringLiteral("\""));
     EXPECT_FALSE(version.isEmpty());
     EXPECT_EQ(newest.toStdString(), version.toStdString());
+    EXPECT_EQ(between(textOf(packaging("changelog")), QStringLiteral("("), QStringLiteral(")")).toStdString(),
+              version.toStdString());
 }
 
 TEST_F(FlatpakManifest, IsOfTheProgramOfTheMetadata)
