@@ -14,6 +14,7 @@ namespace
 {
 constexpr int RoomBesideCaption = 9;  ///< pixels between a button's caption and its edge, at least
 constexpr double LeastContrast = 3.5; ///< the guidelines ask 3 of the edges of controls; smoothing takes a little off
+constexpr double LeastOfDisabled = 1.8;
 
 /// The toolkit's own style highlights the frame of the control that has the focus, and the button that Enter presses.
 bool isLitUp(const QStyleOption &option)
@@ -23,9 +24,21 @@ bool isLitUp(const QStyleOption &option)
            (button && button->features.testFlag(QStyleOptionButton::DefaultButton));
 }
 
-bool needsOutline(const QStyleOption &option)
+bool isEnabled(const QStyleOption &option)
 {
-    return isDark(option.palette) && option.state.testFlag(QStyle::State_Enabled);
+    return option.state.testFlag(QStyle::State_Enabled);
+}
+
+/// A control that is disabled has a faint edge, without which an empty box would not be there at all.
+QColor edgeColour(const QStyleOption &option)
+{
+    const QPalette &palette = option.palette;
+    if (!isEnabled(option)) {
+        const QColor around = palette.color(QPalette::Window);
+        return toldApart(around, palette.color(QPalette::WindowText), {palette.color(QPalette::Base), around},
+                         LeastOfDisabled);
+    }
+    return isLitUp(option) ? focusOnDark(palette) : outlineOnDark(palette);
 }
 
 void outline(QPainter &painter, const QStyleOption &option, const QRectF &frame, bool round)
@@ -33,7 +46,7 @@ void outline(QPainter &painter, const QStyleOption &option, const QRectF &frame,
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(isLitUp(option) ? focusOnDark(option.palette) : outlineOnDark(option.palette));
+    painter.setPen(edgeColour(option));
     if (round)
         painter.drawEllipse(frame);
     else
@@ -119,7 +132,7 @@ void ReadableStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *
                                   const QWidget *widget) const
 {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
-    if (!option || !needsOutline(*option))
+    if (!option || !isDark(option->palette))
         return;
     if (element == PE_IndicatorRadioButton)
         outline(*painter, *option, circleIn(option->rect), true);
@@ -132,7 +145,7 @@ void ReadableStyle::drawControl(ControlElement element, const QStyleOption *opti
 {
     QProxyStyle::drawControl(element, option, painter, widget);
     const auto *tab = qstyleoption_cast<const QStyleOptionTab *>(option);
-    if (element == CE_TabBarTabShape && tab && needsOutline(*option))
+    if (element == CE_TabBarTabShape && tab && isEnabled(*tab) && isDark(tab->palette))
         outlineTab(*painter, *tab);
 }
 
@@ -140,9 +153,9 @@ void ReadableStyle::drawComplexControl(ComplexControl control, const QStyleOptio
                                        const QWidget *widget) const
 {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
-    if (option && (control == CC_ComboBox || control == CC_SpinBox) && needsOutline(*option))
+    if (option && (control == CC_ComboBox || control == CC_SpinBox) && isDark(option->palette))
         outline(*painter, *option, edgeOf(option->rect), false);
-    if (option && control == CC_ScrollBar && needsOutline(*option)) {
+    if (option && control == CC_ScrollBar && isEnabled(*option) && isDark(option->palette)) {
         const QRect slider = proxy()->subControlRect(control, option, SC_ScrollBarSlider, widget);
         outline(*painter, *option, edgeOf(slider), false);
     }

@@ -93,6 +93,21 @@ TEST_F(ReadableStyleTest, ShowsTheEdgesOfControlsInTheDark)
     }
 }
 
+TEST_F(ReadableStyleTest, ShowsFaintlyWhereADisabledControlIs)
+{
+    QCheckBox check;
+    QRadioButton option;
+    QLineEdit field;
+    QComboBox list;
+    for (QWidget *control : QList<QWidget *>{&check, &option, &field, &list}) {
+        const double enabled = edgeContrast(pictureOf(*control, style, true), true);
+        control->setEnabled(false);
+        const double disabled = edgeContrast(pictureOf(*control, style, true), true);
+        EXPECT_GE(disabled, 1.5) << control->metaObject()->className();
+        EXPECT_LT(disabled, enabled) << control->metaObject()->className();
+    }
+}
+
 TEST_F(ReadableStyleTest, ShowsTabsInTheDarkAndWhichIsInFront)
 {
     for (const auto shape : {QTabBar::RoundedNorth, QTabBar::RoundedSouth}) {
