@@ -56,7 +56,6 @@ as a tree, completes tags from all of HTML and CSS, writes elements from
 dialogs, and shows the page as a browser does. Projects keep the files of a
 site together, with a drawn map of their links.")
 set(CPACK_PACKAGE_HOMEPAGE_URL ${TAGWRIGHTER_MAKER_SITE})
-set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_GENERATOR DEB)
 set(CPACK_SOURCE_GENERATOR TGZ)

@@ -149,7 +149,8 @@ start() {
         until [[ -e stop ]]; do sleep 0.2; done
         pkill -TERM -x tagwrighter || exit 3
         for turn in {1..100}; do
-            pgrep -x tagwrighter >/dev/null || exit 0
+            # What another program has started leaves its entry behind here, where nobody collects it.
+            ps -C tagwrighter -o stat= | grep -qv ^Z || exit 0
             sleep 0.2
         done
         exit 4" >"$work/program.log" 2>&1 &

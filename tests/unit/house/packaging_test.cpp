@@ -8,6 +8,7 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 #include <gmock/gmock.h>
 
 namespace
@@ -73,6 +74,33 @@ TEST(Packaging, NamesOneReleaseEverywhere)
     EXPECT_EQ(newest.toStdString(), version.toStdString());
     EXPECT_EQ(between(textOf(packaging("changelog")), QStringLiteral("("), QStringLiteral(")")).toStdString(),
               version.toStdString());
+}
+
+// As the shell calls it: with extended patterns, and the word that is being written.
+TEST(Packaging, TheShellCompletesOptionsAndPages)
+{
+    const QTemporaryDir folder;
+    for (const char *name : {"a page.html", "about.css", "archive.zip", "site.tsp"}) {
+        QFile file(folder.filePath(QLatin1String(name)));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+    const auto offered = [&folder](const QString &word) {
+        const QString script = QStringLiteral("shopt -s extglob; compopt() { :; }; source \"$1\" && cd \"$2\" && "
+                                              "COMP_WORDS=(tagwrighter \"$3\") COMP_CWORD=1 && _tagwrighter && "
+                                              "printf '%s\\n' \"${COMPREPLY[@]}\"");
+        const Outcome outcome = runProgram(QStringLiteral("bash"),
+                                           {QStringLiteral("-c"), script, QStringLiteral("bash"),
+                                            packaging("tagwrighter.bash-completion"), folder.path(), word},
+                                           {{QStringLiteral("PATH"), qEnvironmentVariable("PATH")}});
+        EXPECT_EQ(outcome.status, 0) << qPrintable(outcome.errors);
+        QStringList rows = outcome.output.split(u'\n', Qt::SkipEmptyParts);
+        rows.sort();
+        return rows;
+    };
+    EXPECT_EQ(offered(QStringLiteral("--")),
+              QStringList({QStringLiteral("--help"), QStringLiteral("--new-instance"), QStringLiteral("--version")}));
+    EXPECT_EQ(offered(QStringLiteral("a")), QStringList({QStringLiteral("a page.html"), QStringLiteral("about.css")}));
+    EXPECT_EQ(offered(QStringLiteral("s")), QStringList({QStringLiteral("site.tsp")}));
 }
 
 TEST_F(FlatpakManifest, IsOfTheProgramOfTheMetadata)
