@@ -14,6 +14,7 @@
 
 class LineMargin;
 class SignMargin;
+class QDrag;
 class QHelpEvent;
 class QMimeData;
 
@@ -138,6 +139,10 @@ protected:
     void dragLeaveEvent(QDragLeaveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
 
+    /// Carries what is dragged to where the mouse lets it go; what the user holds no key for is the last action. A way
+    /// in for those who have no mouse, as tests.
+    virtual Qt::DropAction carry(QDrag &drag, Qt::DropActions actions, Qt::DropAction otherwise);
+
 private:
     friend class SurfaceAccessible;
 
@@ -165,6 +170,8 @@ private:
     };
     /// What a drag of the mouse selects by.
     enum class Unit { Character, Word, Line };
+    /// Where a drag of this surface's own selection is.
+    enum class OwnDrag { None, OnItsWay, CameBack };
 
     void endStep();
     void select(qsizetype anchor, qsizetype caret);
@@ -258,6 +265,7 @@ private:
     QPoint m_pressed; ///< where the mouse went down, in the viewport
     bool m_selecting = false;
     bool m_mayDrag = false; ///< the mouse went down on the selection
+    OwnDrag m_drag = OwnDrag::None;
     std::optional<MarkedRange> m_pressedSquare;
     bool m_overSquare = false;
     Unit m_unit = Unit::Character;

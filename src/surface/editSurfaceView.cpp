@@ -187,7 +187,7 @@ void EditSurface::updateLines(qsizetype first, qsizetype last)
 {
     for (const ShownRow &row : m_view.rows()) {
         if (row.place.line >= first && row.place.line <= last)
-            viewport()->update(0, static_cast<int>(row.top), viewport()->width(), static_cast<int>(row.height) + 1);
+            viewport()->update(QRectF(0, row.top, viewport()->width(), row.height).toAlignedRect());
     }
 }
 

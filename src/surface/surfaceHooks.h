@@ -46,3 +46,12 @@ struct SurfaceHooks {
     std::function<void(const QString &)> textDropped;
     std::function<void(const MarkedRange &)> squareClicked; ///< the square of a Colour mark, with the left button
 };
+
+/// Shows an event to the owner's handler; true if that discards it.
+template <typename Event>
+bool discards(const std::function<void(Event &)> &hook, Event event)
+{
+    if (hook)
+        hook(event);
+    return event.discard;
+}

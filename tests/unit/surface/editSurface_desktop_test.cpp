@@ -168,6 +168,39 @@ TEST_F(EditSurfaceDesktop, WithoutBlinkingNothingWakesTheProgram)
     QApplication::setCursorFlashTime(before);
 }
 
+TEST_F(EditSurfaceDesktop, TheCaretStaysTenSecondsBehindTheLastKey)
+{
+    surface.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&surface));
+    const int before = QApplication::cursorFlashTime();
+    QApplication::setCursorFlashTime(1000); // on for one half of it, off for the other
+    const auto blink = [this](int times) {
+        for (int i = 0; i < times && hasTimer(); ++i) {
+            QTimerEvent tick(QAbstractEventDispatcher::instance()->registeredTimers(&surface).constFirst().timerId);
+            QApplication::sendEvent(&surface, &tick);
+        }
+    };
+    sendKey(Qt::Key_Right, {}, QString());
+    blink(10);
+    EXPECT_TRUE(hasTimer());
+    sendKey(Qt::Key_Right, {}, QString()); // the ten seconds begin anew
+    blink(19);
+    EXPECT_TRUE(hasTimer());
+    blink(1);
+    EXPECT_FALSE(hasTimer()) << "a desktop at rest is not woken";
+    sendKey(Qt::Key_Right, {}, QString());
+    EXPECT_TRUE(hasTimer());
+    QApplication::setCursorFlashTime(before);
+}
+
+TEST_F(EditSurfaceDesktop, InsertOverwritesNothing)
+{
+    surface.setText(QStringLiteral("ab"));
+    sendKey(Qt::Key_Insert, {}, QString());
+    sendCharacter(u'x');
+    EXPECT_EQ(surface.Text(), QStringLiteral("xab"));
+}
+
 TEST_F(EditSurfaceDesktop, TheCaretIsAsWideAsTheDesktopHasIt)
 {
     class WideCarets final : public QProxyStyle
