@@ -1,11 +1,14 @@
 #include "widgets/programIcon.h"
 
+#include "widgets/iconPixels.h"
+
 #include <QApplication>
 #include <QFile>
 #include <QHash>
 #include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
+#include <QResource>
 #include <QSvgRenderer>
 
 namespace
@@ -15,7 +18,8 @@ QString drawingPath(const QString &name)
     return QStringLiteral(":/icons/%1.svg").arg(name);
 }
 
-/// Draws one icon of the set. The drawing is read at the first use and kept as pixels for each size and colour.
+/// Draws one icon of the set. At the sizes of most screens the build has done so; at others the drawing is read at the
+/// first use. It is kept as pixels for each size and colour.
 class DrawingEngine final : public QIconEngine
 {
 public:
@@ -69,6 +73,9 @@ private:
 
     QPixmap draw(const QSize &size, const QColor &colour)
     {
+        const QImage drawn = size.width() == size.height() ? drawnIcon(m_name, size.width(), colour) : QImage();
+        if (!drawn.isNull())
+            return QPixmap::fromImage(drawn);
         QPixmap picture(size);
         picture.fill(Qt::transparent);
         QPainter painter(&picture);
@@ -102,7 +109,7 @@ QIcon programIcon(const QString &name)
 
 QIcon programIcon(const QString &name, const QColor &light, const QColor &dark)
 {
-    if (!QFile::exists(drawingPath(name)))
+    if (!QResource(drawingPath(name)).isValid())
         return {};
     return QIcon(new DrawingEngine(name, light, dark));
 }
