@@ -82,8 +82,10 @@ int CodeBranch::entryOf(int number) const
     const QString entry = elementText(htmlLine(lineOf(number)).text).entry;
     if (entry.isEmpty())
         return 0;
-    const auto found =
-        std::find_if(m_outer.begin(), m_outer.end(), [&](int outer) { return htmlLine(lineOf(outer)).text == entry; });
+    const auto isEntry = [&](int outer) { return htmlLine(lineOf(outer)).text == entry; };
+    if (!m_inner.empty() && isEntry(parentOf(m_inner.back()))) // they mostly stand together
+        return parentOf(m_inner.back());
+    const auto found = std::find_if(m_outer.begin(), m_outer.end(), isEntry);
     return found == m_outer.end() ? 0 : *found;
 }
 

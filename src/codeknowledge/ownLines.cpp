@@ -4,6 +4,7 @@
 #include "common/windows1252.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace
 {
@@ -14,9 +15,28 @@ bool endsLine(char c)
     return c == '\r' || c == '\n';
 }
 
-bool isAscii(const QByteArray &bytes)
+bool isOfAscii(char c)
 {
-    return std::all_of(bytes.begin(), bytes.end(), [](char c) { return static_cast<uchar>(c) < 0x80U; });
+    return static_cast<uchar>(c) < 0x80U;
+}
+
+bool isAscii(QByteArrayView bytes)
+{
+    constexpr quint64 highBits = 0x8080808080808080U;
+    const char *place = bytes.begin();
+    for (quint64 eight = 0; bytes.end() - place >= qsizetype(sizeof eight); place += sizeof eight) {
+        std::memcpy(&eight, place, sizeof eight);
+        if (eight & highBits)
+            return false;
+    }
+    return std::all_of(place, bytes.end(), isOfAscii);
+}
+
+/// The first of a character from a place on; the end if there is none.
+const char *next(char character, const char *place, const char *end)
+{
+    const void *found = std::memchr(place, character, static_cast<size_t>(end - place));
+    return found ? static_cast<const char *>(found) : end;
 }
 } // namespace
 
@@ -27,14 +47,20 @@ OwnLines::OwnLines(const QByteArray &bytes) : m_bytes(bytes)
         m_bytes = decodeOwnFile(bytes).toUtf8();
         m_utf8 = true;
     }
-    m_starts.reserve(static_cast<size_t>(m_bytes.count('\n')) + 2);
+    m_starts.reserve(static_cast<size_t>(std::count(m_bytes.cbegin(), m_bytes.cend(), '\n')) + 2);
     m_starts.push_back(0);
     const char *const start = m_bytes.constData();
     const char *const end = start + m_bytes.size();
+    const char *feed = start; // the next of each; both are looked for by what a processor does fastest
+    const char *carriage = start;
     for (const char *place = start; place != end;) {
-        place = std::find_if(place, end, endsLine);
-        const bool pair = end - place > 1 && place[0] == '\r' && place[1] == '\n';
-        place += pair ? 2 : place == end ? 0 : 1;
+        if (feed <= place)
+            feed = next('\n', place, end);
+        if (carriage <= place)
+            carriage = next('\r', place, end);
+        const char *const found = std::min(feed, carriage);
+        const bool pair = feed != end && feed == carriage + 1;
+        place = found + (pair ? 2 : found == end ? 0 : 1);
         m_starts.push_back(static_cast<int>(place - start));
     }
 }
@@ -57,8 +83,11 @@ QString OwnLines::text(int line) const
 int OwnLines::count(int line, char16_t one, char16_t other) const
 {
     const QByteArrayView bytes = bytesOf(line);
+    const auto *const first = std::find_if(bytes.begin(), bytes.end(), isOfAscii);
+    // In nearly every line such characters stand at the start alone.
+    const auto *const last = isAscii(bytes.sliced(first - bytes.begin())) ? first : bytes.end();
     int found = 0;
-    for (const char *place = bytes.begin(); place != bytes.end(); ++place) {
+    for (const auto *place = bytes.begin(); place != last; ++place) {
         const char16_t code = static_cast<uchar>(*place);
         const bool matches = code == one || code == other;
         found += matches && (!m_utf8 || (place != bytes.begin() && place[-1] == utf8Lead));
