@@ -55,6 +55,8 @@ void NodeTree::look() const
 
 void NodeTree::showEvent(QShowEvent *event)
 {
+    if (m_atFirstLook)
+        scheduleDelayedItemsLayout(); // once, and not for each node that is opened
     look();
     QTreeView::showEvent(event);
 }
