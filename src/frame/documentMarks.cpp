@@ -20,7 +20,7 @@ constexpr qreal DotSize = 7;
 QString titleOf(const QString &caption, const Habits &habits)
 {
     const QString place = QStringLiteral("[*]");
-    const QString home = QDir::homePath() + u'/';
+    const QString home = habits.HabitDesktop ? QDir::homePath() + u'/' : QString();
     const bool shortens = habits.HabitDesktop && caption.startsWith(home);
     const QString shown = shortens ? QStringLiteral("~/") + caption.mid(home.size()) : caption;
     return QString(shown).replace(place, place + place) + place;

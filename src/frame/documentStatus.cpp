@@ -12,6 +12,7 @@
 #include <QMenu>
 #include <QStatusBar>
 #include <QToolButton>
+#include <algorithm>
 
 namespace
 {
@@ -55,6 +56,7 @@ DocumentStatus::DocumentStatus(QStatusBar &bar, MainWindow &mainWindow)
       m_menu(new QMenu(m_format))
 {
     m_place->setTextFormat(Qt::PlainText);
+    m_place->setAutoFillBackground(true); // so that the bars behind it are not painted at each key
     m_format->setObjectName(QStringLiteral("lblFileFormat"));
     m_format->setAutoRaise(true);
     m_format->setToolTip(QStringLiteral("Encoding and line end of the file"));
@@ -81,7 +83,21 @@ void DocumentStatus::update()
     if (!document)
         return;
     if (const QString told = caretPlaceText(*document); told != m_place->text())
-        m_place->setText(told);
+        showPlace(told);
+}
+
+/// A label whose text changes has the whole window laid out anew, unless its size is fixed. It is for as many figures
+/// as there are, so most keys change none.
+void DocumentStatus::showPlace(const QString &text)
+{
+    if (text.size() != m_place->text().size() || m_place->font() != m_fitted) {
+        QString widest = text;
+        std::replace_if(
+            widest.begin(), widest.end(), [](QChar c) { return c.isDigit(); }, u'0');
+        m_fitted = m_place->font();
+        m_place->setFixedSize(m_place->fontMetrics().size(Qt::TextSingleLine, widest));
+    }
+    m_place->setText(text);
 }
 
 /// Above the button, since the bar is at the window's lower edge.

@@ -2,6 +2,7 @@
 
 #include "common/encodings.h"
 
+#include <QFont>
 #include <QObject>
 
 class Document;
@@ -26,6 +27,7 @@ public:
     void update();
 
 private:
+    void showPlace(const QString &text);
     void showMenu();
     void fillMenu();
     void addChoice(const QString &text, const FileFormat &format);
@@ -33,6 +35,7 @@ private:
 
     MainWindow &m_mainWindow;
     QLabel *m_place;
+    QFont m_fitted; ///< for which m_place has its size
     QToolButton *m_format;
     QMenu *m_menu;
 };

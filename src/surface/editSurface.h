@@ -206,6 +206,7 @@ private:
     void pointAtSquare(const QPoint &point);
     QRectF caretRect() const;
 
+    bool writes(const QKeyEvent &event);
     bool moves(const QKeyEvent &event);
     bool edits(const QKeyEvent &event);
     void moveTo(qsizetype position, bool keepAnchor);

@@ -79,7 +79,7 @@ void EditSurface::keyPressEvent(QKeyEvent *event)
     const Step step(this); // a key over a selection is one change
     if (m_locked && !onlyReads(*event))
         event->setAccepted(!event->text().isEmpty());
-    else if (!moves(*event) && !edits(*event))
+    else if (!writes(*event) && !moves(*event) && !edits(*event))
         event->ignore();
 }
 

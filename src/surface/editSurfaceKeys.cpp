@@ -53,6 +53,15 @@ constexpr MoveKey moveKeys[] = {
     {Key::MoveToEndOfDocument, Key::SelectEndOfDocument, Move::TextEnd},
 };
 
+/// Whether a key is one of the desktop's that the surface answers to itself.
+bool isOwn(const QKeyEvent &event)
+{
+    constexpr Key own[] = {Key::Copy, Key::Paste, Key::Cut, Key::Undo, Key::Redo, Key::SelectAll};
+    return std::any_of(std::begin(own), std::end(own), [&](Key key) { return event.matches(key); }) ||
+           std::any_of(std::begin(moveKeys), std::end(moveKeys),
+                       [&](const MoveKey &key) { return event.matches(key.moves) || event.matches(key.selects); });
+}
+
 /// Whether a key gives text that goes into a page.
 bool givesText(const QKeyEvent &event)
 {
@@ -90,17 +99,12 @@ bool EditSurface::event(QEvent *event)
     if (event->type() == QEvent::ShortcutOverride) {
         // What the surface does with a key goes before what a menu of its window would do.
         auto *key = static_cast<QKeyEvent *>(event);
-        constexpr Key own[] = {Key::Copy, Key::Paste, Key::Cut, Key::Undo, Key::Redo, Key::SelectAll};
-        const bool isOwn = std::any_of(std::begin(own), std::end(own), [&](Key k) { return key->matches(k); }) ||
-                           std::any_of(std::begin(moveKeys), std::end(moveKeys), [&](const MoveKey &move) {
-                               return key->matches(move.moves) || key->matches(move.selects);
-                           });
         const Qt::KeyboardModifiers held = key->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
         constexpr int editing[] = {Qt::Key_Return, Qt::Key_Enter,     Qt::Key_Delete, Qt::Key_Home,
                                    Qt::Key_End,    Qt::Key_Backspace, Qt::Key_Tab,    Qt::Key_Backtab};
         const bool writes = held == Qt::NoModifier && (key->key() < Qt::Key_Escape ||
                                                        std::ranges::find(editing, key->key()) != std::end(editing));
-        if (isOwn || writes)
+        if (writes || isOwn(*key))
             event->accept();
     }
     return QAbstractScrollArea::event(event);
@@ -109,6 +113,18 @@ bool EditSurface::event(QEvent *event)
 void EditSurface::moveTo(qsizetype position, bool keepAnchor)
 {
     select(keepAnchor ? m_selection.anchor : position, position);
+}
+
+/// Most keys give a sign, and none of the desktop's is one with no other key but Shift held: asking it about sixty of
+/// them would be a tenth of what a key costs.
+bool EditSurface::writes(const QKeyEvent &event)
+{
+    const Qt::KeyboardModifiers others = event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+    if (others || event.key() >= Qt::Key_Escape || event.text().isEmpty() || !event.text()[0].isPrint())
+        return false;
+    typeAtCaret(withCrLf(event.text()));
+    ensureCaretVisible();
+    return true;
 }
 
 bool EditSurface::moves(const QKeyEvent &event)

@@ -16,6 +16,7 @@ constexpr int gap = 4; // pixels on both sides of a number
 LineMargin::LineMargin(EditSurface *surface) : QWidget(surface), m_surface(surface)
 {
     setCursor(Qt::ArrowCursor);
+    setAttribute(Qt::WA_OpaquePaintEvent); // nothing behind it is to be painted with it
 }
 
 int LineMargin::widthNeeded() const

@@ -35,6 +35,7 @@ SignMargin::SignMargin(EditSurface *surface) : QWidget(surface), m_surface(surfa
     setObjectName(QStringLiteral("picSigns"));
     setAccessibleName(tr("Marks"));
     setCursor(Qt::ArrowCursor);
+    setAttribute(Qt::WA_OpaquePaintEvent); // nothing behind it is to be painted with it
 }
 
 bool SignMargin::shows(MarkKind kind)
