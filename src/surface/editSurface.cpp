@@ -122,7 +122,10 @@ void EditSurface::setHideSelection(bool hide)
 
 void EditSurface::setPaintingHeld(bool held)
 {
-    setUpdatesEnabled(!held);
+    m_held = held;
+    viewport()->setUpdatesEnabled(!held);
+    if (!held && std::exchange(m_marginsHeld, false))
+        updateMargins();
 }
 
 qsizetype EditSurface::lineCount() const

@@ -195,6 +195,8 @@ private:
     void followView();
     void placeMargin();
     void updateAll();
+    void updateMargins();
+    void followRows(const std::vector<ShownRow> &rows);
     void updateLines(qsizetype first, qsizetype last);
     void paintRow(QPainter &painter, const ShownRow &row, const QRect &clip);
     QList<QTextLayout::FormatRange> drawnOver(qsizetype line, const LinePiece &piece) const;
@@ -258,6 +260,9 @@ private:
     bool m_wrap = false;
     bool m_locked = false;
     bool m_hideSelection = false;
+    bool m_held = false;             ///< nothing is to be painted
+    bool m_marginsHeld = false;      ///< and the margins will have to be
+    std::vector<ShownRow> m_painted; ///< those that the margins stand beside
     QBasicTimer m_blink;
     bool m_caretShown = false;
     int m_blinksLeft = 0; ///< until the caret stays, so that a desktop at rest is not woken

@@ -64,7 +64,7 @@ void EditSurface::setFormats(const QList<FormatRange> &ranges)
     }
     const std::vector<TextStretch> changed = m_looks.apply(snapped);
     if (!changed.empty() && m_view.layouts().forgetStretches(changed))
-        updateAll();
+        viewport()->update(); // the margins follow if a row turns out to be as high as none before
 }
 
 QColor EditSurface::drawnColour(qsizetype position) const

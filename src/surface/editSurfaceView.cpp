@@ -179,8 +179,28 @@ QRectF EditSurface::caretRect() const
 void EditSurface::updateAll()
 {
     viewport()->update();
+    updateMargins();
+}
+
+void EditSurface::updateMargins()
+{
+    m_marginsHeld = m_held;
+    if (m_held)
+        return;
     m_margin->update();
     m_signs->update();
+}
+
+/// Has the margins drawn anew where rows came to stand elsewhere, as those in another font may.
+void EditSurface::followRows(const std::vector<ShownRow> &rows)
+{
+    const auto isSame = [](const ShownRow &one, const ShownRow &other) {
+        return one.place == other.place && one.top == other.top && one.height == other.height;
+    };
+    if (std::equal(rows.begin(), rows.end(), m_painted.begin(), m_painted.end(), isSame))
+        return;
+    m_painted = rows;
+    updateMargins();
 }
 
 void EditSurface::updateLines(qsizetype first, qsizetype last)
@@ -208,6 +228,7 @@ void EditSurface::paintEvent(QPaintEvent *event)
         drawn = row.place;
     }
     paintSquares(painter);
+    followRows(rows);
     m_view.layouts().keepOnly(rows.front().place.line - keptAround, rows.back().place.line + keptAround);
     if (m_dropPlace)
         painter.fillRect(m_view.caretRect(*m_dropPlace), palette().color(QPalette::Text));

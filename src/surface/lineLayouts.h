@@ -11,6 +11,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <unordered_map>
 
 /// How lines are laid out.
@@ -100,6 +101,7 @@ private:
         qreal advance = 0;         ///< of a character, by the first piece that was laid out
     };
 
+    const QFont &fontFor(const QString &text) const;
     LinePiece laidOut(qsizetype line, int number) const;
     QList<QTextLayout::FormatRange> formatsOf(qsizetype line, const LinePiece &piece) const;
     const Line *known(qsizetype line) const;
@@ -109,6 +111,7 @@ private:
     const TextMarks &m_marks;
     std::function<QColor(ColourValue)> m_colour;
     LayoutStyle m_style;
+    mutable std::optional<QFont> m_plainFont; ///< for text that needs no shaper, once it is asked for
     Preedit m_preedit;
     quint64 m_laidOut = 0;
     qreal m_rowHeight = 1;
