@@ -199,6 +199,7 @@ private:
     void followRows(const std::vector<ShownRow> &rows);
     void updateLines(qsizetype first, qsizetype last);
     void paintRow(QPainter &painter, const ShownRow &row, const QRect &clip);
+    void paintSelectedBreaks(QPainter &painter, const std::vector<ShownRow> &rows);
     QList<QTextLayout::FormatRange> drawnOver(qsizetype line, const LinePiece &piece) const;
     QTextCharFormat formatOf(MarkKind kind) const;
     void paintGround(QPainter &painter, const ShownRow &row);

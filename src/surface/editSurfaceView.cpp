@@ -227,6 +227,7 @@ void EditSurface::paintEvent(QPaintEvent *event)
         paintRow(painter, row, event->rect());
         drawn = row.place;
     }
+    paintSelectedBreaks(painter, rows);
     paintSquares(painter);
     followRows(rows);
     m_view.layouts().keepOnly(rows.front().place.line - keptAround, rows.back().place.line + keptAround);
@@ -259,6 +260,23 @@ void EditSurface::paintRow(QPainter &painter, const ShownRow &row, const QRect &
             piece.layout->drawCursor(&painter, origin, place,
                                      style()->pixelMetric(QStyle::PM_TextCursorWidth, nullptr, this));
         }
+    }
+}
+
+/// A line break that is selected is seen behind its line, so that an empty line is no gap in a selection.
+void EditSurface::paintSelectedBreaks(QPainter &painter, const std::vector<ShownRow> &rows)
+{
+    LineLayouts &layouts = m_view.layouts();
+    const qsizetype to = m_hideSelection ? 0 : m_selection.to();
+    for (const ShownRow &row : rows) {
+        const qsizetype line = row.place.line;
+        const qsizetype end = m_text.lineEnd(line);
+        const bool longLine = !m_wrap && layouts.pieceCount(line) > 1; // whose end is rarely in sight
+        if (end < m_selection.from() || end >= to || longLine || m_view.rowOf(end) != row.place)
+            continue;
+        const qreal width = layouts.advance() / 2;
+        const qreal x = m_view.caretRect(end).left() - (m_view.rightToLeft(end) ? width : 0);
+        painter.fillRect(QRectF(x, row.top, width, row.height), palette().highlight());
     }
 }
 

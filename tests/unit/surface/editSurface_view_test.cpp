@@ -254,6 +254,30 @@ TEST_F(EditSurfaceView, AHiddenSelectionIsNotPainted)
     EXPECT_EQ(picture(), selected);
 }
 
+TEST_F(EditSurfaceView, ASelectedLineBreakIsSeenBehindItsLine)
+{
+    surface.setText(QStringLiteral("ab\r\n\r\n\u05D0\u05D1\r\ncd"));
+    const QRgb selected = surface.palette().color(QPalette::Highlight).rgb();
+    const auto behind = [&](qsizetype lineEnd, int pixels) {
+        settle();
+        const QPoint place = surface.positionOfCharacter(lineEnd).center() - surface.viewport()->pos();
+        return picture().pixel(place + QPoint(pixels, 0)) == selected;
+    };
+    for (const bool wraps : {false, true}) {
+        surface.setWrapToWindow(wraps);
+        select(1, 9); // up to the "c"
+        EXPECT_TRUE(behind(2, 2));
+        EXPECT_TRUE(behind(4, 2)) << "of an empty line";
+        EXPECT_TRUE(behind(8, -2)) << "of a line from right to left";
+        EXPECT_FALSE(behind(12, 2)) << "of a line whose break is not selected";
+        surface.setHideSelection(true);
+        EXPECT_FALSE(behind(4, 2));
+        surface.setHideSelection(false);
+        select(1, 1);
+        EXPECT_FALSE(behind(2, 2));
+    }
+}
+
 TEST_F(EditSurfaceView, ASelectionKeepsItsColoursBesideADialog)
 {
     QPalette theme = surface.palette();
