@@ -8,6 +8,7 @@ import unittest
 
 import editors
 import measuring
+import rounds
 import texts
 from watched import Watched, adopt_orphans
 
@@ -31,6 +32,12 @@ class Counting(unittest.TestCase):
     def test_the_middle_of_an_even_number_is_the_smaller_one(self):
         self.assertEqual(measuring.middle([9, 1, 4, 2]), 2)
         self.assertIsNone(measuring.middle([]))
+
+    def test_letters_are_typed_in_all_rounds_or_in_the_first_ones(self):
+        self.assertTrue(rounds.Wish([], rounds=3).types_in(2))
+        few = rounds.Wish([], rounds=3, key_rounds=1)
+        self.assertEqual([few.types_in(number) for number in range(3)], [True, False, False])
+        self.assertFalse(rounds.Wish([], only_starts=True).types_in(0))
 
     def test_an_editor_that_is_not_installed_is_none(self):
         self.assertFalse(editors.Editor("none", ("no-such-editor-anywhere",)).is_there())

@@ -1,10 +1,11 @@
 """Measures this program and other editors beside it, one after the other, round by round.
 
-peers.py PROGRAM [--rounds N] [--only NAMES] [--files NAMES] [--beside NAME=PROGRAM] [--starts]
+peers.py PROGRAM [--rounds N] [--key-rounds N] [--only NAMES] [--files NAMES] [--beside NAME=PROGRAM] [--starts]
 
 PROGRAM is ours. The table tells the median of the rounds; an editor that is not installed is left out and named. --only
 and --files name editors and files of the table, parted by ";"; --beside measures another build of ours as well, and
---starts leaves out the keys and the rest.
+--starts leaves out the keys and the rest. --key-rounds has letters typed in so many of the rounds only, the first ones:
+a start takes two seconds and the keys six.
 """
 import argparse
 import sys
@@ -25,7 +26,7 @@ def wish_of(arguments: argparse.Namespace) -> Wish:
     if arguments.only:
         chosen = [editor for editor in chosen if editor.name in arguments.only.split(";")]
     return Wish(chosen, arguments.files.split(";") if arguments.files else [], arguments.rounds,
-                arguments.starts)
+                arguments.starts, arguments.key_rounds)
 
 
 def print_table(wish: Wish, measured: Measured):
@@ -43,6 +44,7 @@ def main() -> int:
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("program")
     parser.add_argument("--rounds", type=int, default=5)
+    parser.add_argument("--key-rounds", type=int)
     parser.add_argument("--only", default="")
     parser.add_argument("--files", default="")
     parser.add_argument("--beside", action="append", default=[])

@@ -20,6 +20,11 @@ class Wish:
     files: list[str] = dataclasses.field(default_factory=list)  # those of texts.py; none: all
     rounds: int = 5
     only_starts: bool = False
+    key_rounds: int | None = None  # the first so many rounds type, which takes longer than a start; none: all
+
+    def types_in(self, number: int) -> bool:
+        """Whether letters are typed in the round of that number, counted from 0."""
+        return not self.only_starts and (self.key_rounds is None or number < self.key_rounds)
 
 
 def can_measure() -> bool:
@@ -48,7 +53,7 @@ def measure_rounds(wish: Wish, files: dict[str, pathlib.Path | None], folder: pa
         for name, file in files.items():
             for editor in wish.editors:
                 at_rest = file is None and number == 0 and not wish.only_starts
-                figures = measure(editor, file, folder / editor.name, display, not wish.only_starts, at_rest)
+                figures = measure(editor, file, folder / editor.name, display, wish.types_in(number), at_rest)
                 measured.setdefault((name, editor.name), []).append(figures)
         print(f"round {number + 1} of {wish.rounds}", file=sys.stderr)
     return measured
