@@ -108,8 +108,11 @@ def batches_of(build, named):
     return sorted(batches, key=lambda batch: named.index(batch[1][0])) if named else batches
 
 
-def look_at(build, number, flags, sources):
-    """What clang-tidy prints about these sources; nothing if it has found nothing."""
+def look_at(build, number, flags, sources, end, left_out):
+    """What clang-tidy prints about these sources; nothing if it has found nothing. Behind the end they are left out."""
+    if time.monotonic() >= end:
+        left_out.extend(sources)
+        return ""
     together = os.path.join(build, "together", f"{number}.cpp")
     with open(together, "w", encoding="utf-8") as file:
         file.writelines(f'#include "{os.path.abspath(source)}" // NOLINT\n' for source in sources)
@@ -118,7 +121,8 @@ def look_at(build, number, flags, sources):
     if ran.returncode == 0:
         return ""
     if "[clang-diagnostic-error]" in ran.stdout and len(sources) > 1:
-        return "".join(look_at(build, f"{number}-{i}", flags, [source]) for i, source in enumerate(sources))
+        singly = (look_at(build, f"{number}-{i}", flags, [one], end, left_out) for i, one in enumerate(sources))
+        return "".join(singly)
     return ran.stdout + ("" if ran.stdout else ran.stderr)
 
 
@@ -127,20 +131,13 @@ def main():
     options.add_argument("build")
     options.add_argument("--seconds", type=float, default=float("inf"))
     options.add_argument("sources", nargs="*")
-    chosen = options.parse_args()
+    chosen = options.parse_intermixed_args()
     build, end = chosen.build, time.monotonic() + chosen.seconds
     os.makedirs(os.path.join(build, "together"), exist_ok=True)
     batches = batches_of(build, chosen.sources)
     findings, done, left_out = {}, 0, []
-
-    def look(number, flags, sources):
-        if time.monotonic() < end:
-            return look_at(build, number, flags, sources)
-        left_out.extend(sources)
-        return ""
-
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as threads:
-        running = [threads.submit(look, number, *batch) for number, batch in enumerate(batches)]
+        running = [threads.submit(look_at, build, i, *batch, end, left_out) for i, batch in enumerate(batches)]
         for finished in concurrent.futures.as_completed(running):
             done += 1
             print(f"[{done}/{len(batches)}]", file=sys.stderr)

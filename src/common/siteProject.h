@@ -28,7 +28,7 @@ public:
     virtual QList<int> selectedEditorFiles() const { return {}; }
     /// Adds one file to the open project's pages, or to its other files. What stands in the way is told to the user.
     virtual void AddFileToProject(const QString &path, bool isEditorFile) = 0;
-    /// Opens a project in place of the one that is open; the user is asked about that one only if it holds changes. What
-    /// cannot be opened is told to the user, and leaves no project open.
+    /// Opens a project in place of the one that is open; the user is asked about that one only if it holds changes.
+    /// What cannot be opened is told to the user, and leaves no project open.
     virtual void OpenProject(const QString & /*path*/) {}
 };

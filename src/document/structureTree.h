@@ -1,7 +1,7 @@
 #pragma once
 
-#include "document/textSearch.h"
 #include "common/textSelection.h"
+#include "document/textSearch.h"
 
 #include <QSet>
 #include <QString>

@@ -75,7 +75,7 @@ public:
     void finish(qsizetype end);
 
     bool inForeign() const;
-    bool inside(PageTag tag) const; ///< an element of that kind is open
+    bool inside(PageTag tag) const;                      ///< an element of that kind is open
     bool wholePage() const { return m_state.wholePage; } ///< html, head or body have a tag
     const OpenElement *current() const { return m_state.open.empty() ? nullptr : &m_state.open.back(); }
     /// Tells that the open elements hold something that is seen or heard.

@@ -7,6 +7,7 @@ shift
 folder=$(mktemp -d)
 children=()
 
+# shellcheck disable=SC2317 # the trap calls it
 stop() {
     ((${#children[@]} == 0)) || kill "${children[@]}" 2>/dev/null || true
     wait || true
