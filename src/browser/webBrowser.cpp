@@ -162,6 +162,20 @@ void WebBrowser::placeOfText(const QString &text, const std::function<void(const
     });
 }
 
+void WebBrowser::mark(const ElementPath &path)
+{
+    if (m_view && !m_gone && !m_loading)
+        m_view->mark(path);
+}
+
+void WebBrowser::markedText(const std::function<void(const QString &)> &taken)
+{
+    if (m_view && !m_gone)
+        m_view->markedText(taken);
+    else
+        taken({});
+}
+
 int WebBrowser::ScrollTop() const
 {
     return m_view && !m_gone ? m_view->scrollTop() : 0;

@@ -47,6 +47,11 @@ public:
     /// Hands over the middle of the first place where the text stands in the page on show, scrolled into view, in
     /// logical pixels; nothing if it does not stand there.
     void placeOfText(const QString &text, const std::function<void(const std::optional<QPoint> &)> &taken);
+    /// Marks one of these elements in the page on show, as PageView::mark does, until it is loaded anew; nothing while
+    /// it is loading.
+    void mark(const ElementPath &path);
+    /// Hands over the text of the element that is marked; at once, and empty, without a page.
+    void markedText(const std::function<void(const QString &)> &taken);
     int ScrollTop() const; ///< how far the page on show is scrolled down, in logical pixels
     /// Asks whether a page may send a form to a place outside this machine, and waits. Without it, none may. A page is
     /// asked for once: "no" holds until the user loads it anew.
@@ -62,6 +67,7 @@ public:
     void setPatience(int milliseconds);
 
 Q_SIGNALS:
+    void clickedAt(const ElementPath &path); ///< an element of the page on show, with the left button
     void navigationStarted();
     void navigationFinished();
     /// The user wants the page again, and none can be shown any more before the program is started anew.
@@ -86,6 +92,7 @@ private:
     void otherHostRefused(const QUrl &address) override;
     void otherHostShown(const QUrl &address) override;
     void fileRefused(const QUrl &address) override;
+    void elementClicked(const ElementPath &path) override;
 
     void note(const QUrl &address);
     bool makeView();

@@ -148,6 +148,11 @@ void WebBrowser::fileRefused(const QUrl &address)
                    .arg(shortened(address.toLocalFile())));
 }
 
+void WebBrowser::elementClicked(const ElementPath &path)
+{
+    Q_EMIT clickedAt(path);
+}
+
 /// Tells what the page did, unless something else is on show that the page did not do.
 void WebBrowser::tellOfPage(const QString &notice)
 {

@@ -17,6 +17,7 @@ class DocumentStructure;
 class EditSurface;
 class SlicedColouring;
 class NoticeBar;
+class PreviewCaret;
 class QPoint;
 class QUrl;
 class TagMarks;
@@ -161,6 +162,7 @@ private:
     EditSurface *m_edit = nullptr;
     QPointer<SlicedColouring> m_slices; ///< of the surface that is there
     WebBrowser *m_browser = nullptr;
+    PreviewCaret *m_previewCaret = nullptr;
     std::optional<bool> m_otherHostsTold; ///< what the line above the text has told of them last
     Timer *tmrRefresh = nullptr;
     Timer *tmrUpdateLiveSplitPreview = nullptr;

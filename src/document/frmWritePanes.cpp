@@ -7,6 +7,7 @@
 #include "document/frmWrite.h"
 #include "document/modBrowserControl.h"
 #include "document/otherHostsNotice.h"
+#include "document/previewCaret.h"
 #include "document/viewingPanes.h"
 #include "services/messageBoxes.h"
 #include "services/services.h"
@@ -48,6 +49,9 @@ void frmWrite::buildBrowser()
     connect(m_browser, &WebBrowser::otherHostsNamed, this, &frmWrite::brwWebBrowser_OtherHosts);
     connect(m_browser, &WebBrowser::startAnewWanted, this, &frmWrite::brwWebBrowser_StartAnew, Qt::QueuedConnection);
     connect(m_browser, &WebBrowser::focusTaken, m_edit, &EditSurface::SetFocus);
+    m_previewCaret = new PreviewCaret(*this, *m_edit, *m_browser, *window(), context());
+    m_previewCaret->setParent(m_browser);
+    m_previewCaret->setPreview([this] { tmrUpdateLiveSplitPreview_Timer(); });
 }
 
 void frmWrite::brwWebBrowser_Navigation()

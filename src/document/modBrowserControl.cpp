@@ -14,6 +14,7 @@
 
 #include <QRegularExpression>
 #include <QScopedValueRollback>
+#include <QUrl>
 
 namespace
 {
@@ -99,6 +100,13 @@ void FollowWithLivePreview(ProgramContext &context)
         return;
     const bool worthIt = document->boolDirty || showsSomething(document->txtEdit().Text());
     preview(context, worthIt ? &Browser::Follow : &Browser::NavigateIfRunning);
+}
+
+bool isShownUnder(const Document &document, const QString &address)
+{
+    return document.DocSavePath.isEmpty()
+               ? address.endsWith(u'/' + CopyName)
+               : address == QString::fromLatin1(QUrl::fromLocalFile(document.DocSavePath).toEncoded());
 }
 
 void GoBack(ProgramContext &context)

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+class Document;
 struct ProgramContext;
 
 /// Shows the active document in its window's browser: the file, if it is saved and unchanged, or else a copy of its
@@ -11,6 +12,9 @@ void UpdateLivePreview(ProgramContext &context);
 /// The same as the text comes along by itself. For an empty new page no engine is started: the empty browser looks the
 /// same, and a start of the program needs none of it.
 void FollowWithLivePreview(ProgramContext &context);
+
+/// Whether a browser at that address shows the document: its file, or the copy of an unsaved one.
+bool isShownUnder(const Document &document, const QString &address);
 
 // The commands of the active document's browser; without a document they do nothing.
 void GoBack(ProgramContext &context);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "common/pageElement.h"
+
 #include <QByteArray>
 #include <QIODevice>
 #include <QPoint>
@@ -76,10 +78,11 @@ public:
     virtual void consoleWritten(qsizetype length) = 0; ///< an error of the page's scripts, so many characters long
     /// The page wants to send a form out of the machine. It was not sent; PageView::sendForm does it.
     virtual void formHeldBack(const QUrl &where) = 0;
-    virtual void linkRefused(const QUrl &) = 0;      ///< the page wanted to go to another host, or into a file
-    virtual void otherHostRefused(const QUrl &) = 0; ///< a picture, style or script of another host, not allowed
-    virtual void otherHostShown(const QUrl &) = 0;   ///< the same, allowed
-    virtual void fileRefused(const QUrl &) = 0;      ///< a file that is there, but not for this page
+    virtual void linkRefused(const QUrl &) = 0;           ///< the page wanted to go to another host, or into a file
+    virtual void otherHostRefused(const QUrl &) = 0;      ///< a picture, style or script of another host, not allowed
+    virtual void otherHostShown(const QUrl &) = 0;        ///< the same, allowed
+    virtual void elementClicked(const ElementPath &) = 0; ///< with the left button; the page may be going elsewhere
+    virtual void fileRefused(const QUrl &) = 0;           ///< a file that is there, but not for this page
 };
 
 /// One view. Destroying it ends its page.
@@ -106,6 +109,11 @@ public:
     /// Hands over the middle of the first place where the text stands in the page, which is scrolled to where it can be
     /// seen, in the view's logical pixels; nothing if it does not stand there in one piece.
     virtual void place(const QString &text, std::function<void(const std::optional<QPoint> &)> taken) = 0;
+    /// Marks the first of these that the page has for certain, in place of the one that was marked before, and scrolls
+    /// to it where nothing of it can be seen. The page itself is not changed. None: nothing is marked any more.
+    virtual void mark(const ElementPath &path) = 0;
+    /// Hands over the text of the element that is marked; empty without one.
+    virtual void markedText(std::function<void(const QString &)> taken) = 0;
     /// How far the page is scrolled down, in logical pixels.
     virtual int scrollTop() const = 0;
     /// Sends the form that was held back last, this once. False if the page has it no more.

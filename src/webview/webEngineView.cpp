@@ -1,10 +1,13 @@
 #include "webview/webEngineView.h"
 
+#include "webview/elementScripts.h"
 #include "webview/enginePage.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QMouseEvent>
 #include <QWebEngineDownloadRequest>
 #include <QWebEngineScript>
 #include <QWebEngineView>
@@ -165,6 +168,52 @@ void WebEngineView::place(const QString &text, std::function<void(const std::opt
                           });
 }
 
+void WebEngineView::mark(const ElementPath &path)
+{
+    if (m_page)
+        m_page->runJavaScript(markScript(path), QWebEngineScript::ApplicationWorld);
+}
+
+void WebEngineView::markedText(std::function<void(const QString &)> taken)
+{
+    if (m_page)
+        m_page->runJavaScript(markedTextScript(), QWebEngineScript::ApplicationWorld,
+                              [taken = std::move(taken)](const QVariant &answer) { taken(answer.toString()); });
+}
+
+/// The widget that the engine shows pages in comes and goes with their processes.
+void WebEngineView::watchClicks()
+{
+    QWidget *shown = m_view ? m_view->focusProxy() : nullptr;
+    if (!shown)
+        return;
+    shown->removeEventFilter(this);
+    shown->installEventFilter(this);
+}
+
+bool WebEngineView::eventFilter(QObject *watched, QEvent *event)
+{
+    const auto *mouse = dynamic_cast<QMouseEvent *>(event);
+    if (mouse && mouse->button() == Qt::LeftButton && event->type() == QEvent::MouseButtonPress)
+        m_pressed = mouse->position();
+    if (mouse && mouse->button() == Qt::LeftButton && event->type() == QEvent::MouseButtonRelease &&
+        (mouse->position() - m_pressed).manhattanLength() < QApplication::startDragDistance())
+        tellClick(mouse->position());
+    return QObject::eventFilter(watched, event);
+}
+
+/// Asked before the page gets the click, which may lead it elsewhere.
+void WebEngineView::tellClick(const QPointF &place)
+{
+    if (!m_page)
+        return;
+    const auto tell = [self = QPointer(this)](const QVariant &answer) {
+        if (const ElementPath path = pathOf(answer); self && !path.isEmpty())
+            self->m_listener.elementClicked(path);
+    };
+    m_page->runJavaScript(elementScript(place / m_page->zoomFactor()), QWebEngineScript::ApplicationWorld, tell);
+}
+
 int WebEngineView::scrollTop() const
 {
     return m_page ? qRound(m_page->scrollPosition().y()) : 0;
@@ -196,6 +245,7 @@ void WebEngineView::loadFinished()
     if (m_ended) // the end of the page was told already
         return;
     restorePlace();
+    watchClicks();
     m_listener.loadFinished();
 }
 

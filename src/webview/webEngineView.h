@@ -40,11 +40,18 @@ public:
     void ask(std::function<void()> answered) override;
     void text(std::function<void(const QString &)> taken) override;
     void place(const QString &text, std::function<void(const std::optional<QPoint> &)> taken) override;
+    void mark(const ElementPath &path) override;
+    void markedText(std::function<void(const QString &)> taken) override;
     int scrollTop() const override;
     void sendForm(std::function<void(bool)> sent) override;
     void endPage() override;
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
+    void watchClicks();
+    void tellClick(const QPointF &place);
     bool shows(const QUrl &page) const;
     void followPage();
     void goByHistory(QWebEnginePage::WebAction action);
@@ -61,6 +68,7 @@ private:
     QPointer<QWebEngineView> m_view;
     QUrl m_loaded;             ///< what the owner asked for last, as it is served
     QPointF m_place;           ///< where the page before was scrolled to
+    QPointF m_pressed;         ///< where the left button went down
     bool m_keepsPlace = false; ///< the load under way is to be scrolled there
     bool m_ended = false;      ///< the page's process has gone and nothing was loaded since
 };

@@ -238,12 +238,13 @@ Value readTextLimits(const QWidget &widget, const QString &name)
     return area && name == u"Locked" ? boolean(area->isReadOnly()) : Value();
 }
 
-/// What a reader of the page sees, as the engine tells it; nothing if its scripts leave no room for an answer.
-Value pageText(const WebBrowser &browser)
+/// What the engine tells of the page on show; nothing if the page's scripts leave no room for an answer.
+using AskPage = void (WebBrowser::*)(const std::function<void(const QString &)> &);
+Value toldOf(const WebBrowser &browser, AskPage ask)
 {
     constexpr int longest = 2000; // milliseconds
     const auto answer = std::make_shared<Value>();
-    const_cast<WebBrowser &>(browser).pageText([answer](const QString &text) { *answer = text; });
+    (const_cast<WebBrowser &>(browser).*ask)([answer](const QString &text) { *answer = text; });
     return comesTrue([&] { return answer->has_value(); }, longest) ? *answer : std::nullopt;
 }
 
@@ -260,7 +261,9 @@ Value readBrowser(const QWidget &widget, const QString &name)
         return number(browser->ScrollTop());
     if (name == u"Busy")
         return boolean(browser->isLoading());
-    return name == u"PageText" ? pageText(*browser) : Value();
+    if (name == u"MarkedText")
+        return toldOf(*browser, &WebBrowser::markedText);
+    return name == u"PageText" ? toldOf(*browser, &WebBrowser::pageText) : Value();
 }
 
 Value readRow(const ControlRows &rows, const QString &textProperty, const Asked &asked)

@@ -54,6 +54,11 @@ public:
     {
         taken(text == QStringLiteral("text") ? std::optional(QPoint(10, 20)) : std::nullopt);
     }
+    void mark(const ElementPath &path) override
+    {
+        m_page.calls << QStringLiteral("mark ") + (path.isEmpty() ? QString() : path.constFirst().name);
+    }
+    void markedText(std::function<void(const QString &)> taken) override { taken(QStringLiteral("marked")); }
     int scrollTop() const override { return 30; }
     void sendForm(std::function<void(bool)> sent) override
     {
@@ -104,6 +109,29 @@ protected:
     Page &page = views.page;
     WebBrowser browser{views};
 };
+
+TEST_F(WebBrowserTest, MarksElementsOfAPageThatIsOnShow)
+{
+    const ElementPath path{{.name = QStringLiteral("p"), .number = 1, .total = 2}};
+    ElementPath clicked;
+    QObject::connect(&browser, &WebBrowser::clickedAt, [&clicked](const ElementPath &at) { clicked = at; });
+    browser.mark(path);
+    browser.Navigate(file("a.html"));
+    page.taken();
+    browser.mark(path);
+    EXPECT_EQ(page.taken(), QStringList()) << "it is loading";
+    page.finish();
+    page.taken();
+    browser.mark(path);
+    EXPECT_EQ(page.taken(), QStringList{QStringLiteral("mark p")});
+    browser.mark({});
+    EXPECT_EQ(page.taken(), QStringList{QStringLiteral("mark ")});
+    page.listener->elementClicked(path);
+    EXPECT_EQ(clicked, path);
+    page.listener->pageEnded();
+    browser.mark(path);
+    EXPECT_EQ(page.taken(), QStringList());
+}
 
 TEST_F(WebBrowserTest, IsAtAnEmptyPageWithoutAnEngine)
 {
