@@ -104,9 +104,9 @@ void FollowWithLivePreview(ProgramContext &context)
 
 bool isShownUnder(const Document &document, const QString &address)
 {
-    return document.DocSavePath.isEmpty()
-               ? address.endsWith(u'/' + CopyName)
-               : address == QString::fromLatin1(QUrl::fromLocalFile(document.DocSavePath).toEncoded());
+    const QUrl page = QUrl(address).adjusted(QUrl::RemoveQuery | QUrl::RemoveFragment); // a place in it is it, too
+    return document.DocSavePath.isEmpty() ? page.fileName() == CopyName
+                                          : page == QUrl::fromLocalFile(document.DocSavePath);
 }
 
 void GoBack(ProgramContext &context)

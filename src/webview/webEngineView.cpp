@@ -191,27 +191,43 @@ void WebEngineView::watchClicks()
     shown->installEventFilter(this);
 }
 
+/// The element is asked for when the button goes down: when it comes up, the page may go elsewhere, or scroll.
 bool WebEngineView::eventFilter(QObject *watched, QEvent *event)
 {
     const auto *mouse = dynamic_cast<QMouseEvent *>(event);
-    if (mouse && mouse->button() == Qt::LeftButton && event->type() == QEvent::MouseButtonPress)
-        m_pressed = mouse->position();
-    if (mouse && mouse->button() == Qt::LeftButton && event->type() == QEvent::MouseButtonRelease &&
-        (mouse->position() - m_pressed).manhattanLength() < QApplication::startDragDistance())
-        tellClick(mouse->position());
+    const bool isLeft = mouse && mouse->button() == Qt::LeftButton;
+    if (isLeft && event->type() == QEvent::MouseButtonPress)
+        askForElement(mouse->position());
+    if (isLeft && event->type() == QEvent::MouseButtonRelease &&
+        (mouse->position() - m_pressed).manhattanLength() < QApplication::startDragDistance()) {
+        m_isClick = true;
+        tellClick();
+    }
     return QObject::eventFilter(watched, event);
 }
 
-/// Asked before the page gets the click, which may lead it elsewhere.
-void WebEngineView::tellClick(const QPointF &place)
+void WebEngineView::askForElement(const QPointF &place)
 {
+    m_pressed = place;
+    m_isClick = false;
+    m_pressedPath.clear();
     if (!m_page)
         return;
-    const auto tell = [self = QPointer(this)](const QVariant &answer) {
-        if (const ElementPath path = pathOf(answer); self && !path.isEmpty())
-            self->m_listener.elementClicked(path);
+    const auto take = [self = QPointer(this), press = ++m_presses](const QVariant &answer) {
+        if (!self || self->m_presses != press)
+            return;
+        self->m_pressedPath = pathOf(answer);
+        self->tellClick();
     };
-    m_page->runJavaScript(elementScript(place / m_page->zoomFactor()), QWebEngineScript::ApplicationWorld, tell);
+    m_page->runJavaScript(elementScript(place / m_page->zoomFactor()), QWebEngineScript::ApplicationWorld, take);
+}
+
+void WebEngineView::tellClick()
+{
+    if (!m_isClick || m_pressedPath.isEmpty())
+        return;
+    m_isClick = false;
+    m_listener.elementClicked(m_pressedPath);
 }
 
 int WebEngineView::scrollTop() const

@@ -51,7 +51,8 @@ protected:
 
 private:
     void watchClicks();
-    void tellClick(const QPointF &place);
+    void askForElement(const QPointF &place);
+    void tellClick();
     bool shows(const QUrl &page) const;
     void followPage();
     void goByHistory(QWebEnginePage::WebAction action);
@@ -66,8 +67,11 @@ private:
     std::function<void(WebEngineView *)> m_forget;
     QPointer<EnginePage> m_page;
     QPointer<QWebEngineView> m_view;
-    QUrl m_loaded;             ///< what the owner asked for last, as it is served
-    QPointF m_place;           ///< where the page before was scrolled to
+    QUrl m_loaded;   ///< what the owner asked for last, as it is served
+    QPointF m_place; ///< where the page before was scrolled to
+    int m_presses = 0;
+    bool m_isClick = false;    ///< the button has come up where it went down
+    ElementPath m_pressedPath; ///< the element at that place; empty until the page has told it
     QPointF m_pressed;         ///< where the left button went down
     bool m_keepsPlace = false; ///< the load under way is to be scrolled there
     bool m_ended = false;      ///< the page's process has gone and nothing was loaded since
