@@ -12,9 +12,9 @@ enum class PointerShape {
 /// The mouse pointer over all of the program's windows. Setting it again replaces it; there is no stack of pointers to
 /// unwind.
 ///
-/// The desktop draws such a pointer from dozens of pictures, and reading them takes longer than most waits. So the arrow
-/// with the hourglass, beside which the program goes on with events, comes after a while only, and none comes as long as
-/// there is no window but a splash screen's.
+/// The desktop draws such a pointer from dozens of pictures, and reading them takes longer than most waits. So the
+/// arrow with the hourglass, beside which the program goes on with events, comes after a while only, and none comes as
+/// long as there is no window but a splash screen's.
 class ScreenPointer
 {
 public:

@@ -128,7 +128,7 @@ TEST_F(FlatpakManifest, RenamesOnlyWhatIsInstalled)
     EXPECT_THAT(rules.toStdString(), testing::HasSubstr("RENAME " + value("rename-mime-file").toStdString()));
     const QJsonArray icons = manifest.value(QLatin1String("rename-mime-icons")).toArray();
     EXPECT_EQ(icons.size(), filesUnder(packaging("icons"), {QStringLiteral("*.svg")}).size());
-    for (const QJsonValue &icon : icons)
+    for (const auto &icon : icons)
         EXPECT_TRUE(QFile::exists(packaging("icons/") + icon.toString() + QStringLiteral(".svg")));
 }
 
@@ -139,7 +139,7 @@ TEST_F(FlatpakManifest, BuildsThisTree)
     const QJsonObject module = modules.first().toObject();
     EXPECT_EQ(module.value(QLatin1String("buildsystem")).toString(), QStringLiteral("cmake-ninja"));
     const QString presets = textOf(QStringLiteral(TEST_SOURCE_DIR "/CMakeLists.txt"));
-    for (const QJsonValue &option : module.value(QLatin1String("config-opts")).toArray()) {
+    for (const auto &option : module.value(QLatin1String("config-opts")).toArray()) {
         const QString name = between(option.toString(), QStringLiteral("-D"), QStringLiteral("="));
         EXPECT_TRUE(name.startsWith(QLatin1String("CMAKE_")) || presets.contains(QStringLiteral("option(") + name))
             << qPrintable(name);
@@ -153,7 +153,7 @@ TEST_F(FlatpakManifest, BuildsThisTree)
 TEST_F(FlatpakManifest, AsksForWhatAnEditorOfASiteNeedsAndNoMore)
 {
     QStringList wanted;
-    for (const QJsonValue &argument : manifest.value(QLatin1String("finish-args")).toArray())
+    for (const auto &argument : manifest.value(QLatin1String("finish-args")).toArray())
         if (!argument.toString().startsWith(QLatin1String("--env=")))
             wanted.append(argument.toString());
     wanted.sort();
