@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <tuple>
 
 namespace
 {
@@ -52,20 +53,15 @@ std::optional<Fit> fitOfAll(const QList<QStringView> &words, QStringView text)
 
 QList<qsizetype> paletteMatches(QStringView letters, const QList<PaletteEntry> &entries)
 {
-    struct Match {
-        Fit fit;
-        qsizetype length;
-        qsizetype index;
-        auto operator<=>(const Match &) const = default;
-    };
     const QList<QStringView> words = letters.split(u' ', Qt::SkipEmptyParts);
+    using Match = std::tuple<Fit, qsizetype, qsizetype>; // how it fits, its length, its index
     QList<Match> matches;
     for (qsizetype i = 0; i < entries.size(); ++i)
         if (const std::optional<Fit> fit = fitOfAll(words, entries[i].text))
-            matches.append({*fit, words.isEmpty() ? 0 : entries[i].text.size(), i});
+            matches.append(Match(*fit, words.isEmpty() ? 0 : entries[i].text.size(), i));
     std::sort(matches.begin(), matches.end());
     QList<qsizetype> order;
     for (const Match &match : matches)
-        order.append(match.index);
+        order.append(std::get<2>(match));
     return order;
 }

@@ -31,9 +31,8 @@ void RowCounts::replace(qsizetype line, qsizetype removed, const std::vector<qui
 
 qsizetype RowCounts::before(qsizetype line) const
 {
-    const auto index = static_cast<size_t>(line);
-    const auto block = static_cast<qsizetype>(index / blockSize);
-    const auto first = static_cast<qsizetype>(index / blockSize * blockSize);
+    const qsizetype block = line / qsizetype(blockSize);
+    const qsizetype first = block * qsizetype(blockSize);
     return std::accumulate(m_sums.begin(), m_sums.begin() + block, qsizetype(0)) +
            std::accumulate(m_rows.begin() + first, m_rows.begin() + line, qsizetype(0));
 }

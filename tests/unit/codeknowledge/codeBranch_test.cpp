@@ -79,9 +79,8 @@ TEST(HtmlBranch, PutsElementsOfOtherLanguagesUnderTheirEntry)
     EXPECT_EQ(branch.child(3, 2), 4);
     EXPECT_EQ(branch.attributesOf(3), std::vector<int>{4});
     EXPECT_EQ(branch.attributesOf(6), std::vector<int>{7});
-    std::vector<int> elements;
-    for (int row = 0; row < branch.elementCount(); ++row)
-        elements.push_back(branch.element(row));
+    std::vector<int> elements(static_cast<size_t>(branch.elementCount()));
+    std::generate(elements.begin(), elements.end(), [&branch, row = 0]() mutable { return branch.element(row++); });
     EXPECT_EQ(elements, (std::vector<int>{1, 3, 6, 9, 10, 12}));
 }
 

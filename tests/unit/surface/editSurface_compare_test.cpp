@@ -192,7 +192,7 @@ protected:
 
     QString step(int number)
     {
-        const QString done = stepOnce(number);
+        QString done = stepOnce(number);
         if (done != QStringLiteral("move"))
             forgetColumn();
         return done;
