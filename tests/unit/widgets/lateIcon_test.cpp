@@ -20,10 +20,10 @@ TEST(LateIcon, IsMadeOnceAndWhenItIsFirstAskedFor)
         ++made;
         return square(16);
     });
-    const QIcon copy = icon;
+    const QList<QIcon> copies = {icon};
     EXPECT_EQ(made, 0);
     EXPECT_EQ(icon.pixmap(16).toImage().pixelColor(8, 8), QColor(Qt::red));
-    EXPECT_EQ(copy.actualSize(QSize(16, 16)), QSize(16, 16));
+    EXPECT_EQ(copies.first().actualSize(QSize(16, 16)), QSize(16, 16));
     EXPECT_EQ(made, 1);
 }
 
