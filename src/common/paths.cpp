@@ -86,10 +86,3 @@ QString withoutFinalSeparator(const QString &path)
         --length;
     return path.first(length);
 }
-
-bool isFullLocalPath(const QString &text, const std::function<bool(const QString &)> &isFile)
-{
-    if (text.contains(QLatin1String(":\\")) || text.contains(QLatin1String("\\\\")))
-        return true;
-    return text.startsWith(u'/') && isFile(text);
-}

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <functional>
 
 /// Path helpers. Those with capital names keep rules that other behaviour rests on, odd ones included; what opens,
 /// joins or takes apart real files uses the plain ones below. A path that starts with a single "/" is split at "/",
@@ -34,7 +33,3 @@ QString folderOf(const QString &path);
 QString joinPath(const QString &folder, const QString &name);
 /// The path without the separators at its end; a root stays.
 QString withoutFinalSeparator(const QString &path);
-
-/// Whether the text has the mark of a full local path: ":\" or "\\" anywhere, or a "/" in front if `isFile` says that
-/// the text names an existing file.
-bool isFullLocalPath(const QString &text, const std::function<bool(const QString &)> &isFile);

@@ -29,12 +29,3 @@ std::optional<QString> LinkScan::next()
     m_from = m_page.size();
     return std::nullopt;
 }
-
-QStringList linkTargets(const QString &page)
-{
-    QStringList targets;
-    LinkScan scan(page);
-    while (const std::optional<QString> target = scan.next())
-        targets.append(*target);
-    return targets;
-}

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 #include <optional>
 
 /// Finds the links of a page, one after the other, so that a long page can be left in between.
@@ -25,6 +24,3 @@ private:
     QString m_page;
     qsizetype m_from = 0;
 };
-
-/// All targets of a page, in the order of its links.
-QStringList linkTargets(const QString &page);

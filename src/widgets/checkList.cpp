@@ -1,13 +1,8 @@
 #include "widgets/checkList.h"
 
-#include <QScopedValueRollback>
-
 CheckList::CheckList(QWidget *parent) : QListWidget(parent)
 {
-    connect(this, &QListWidget::itemChanged, this, [this](QListWidgetItem *item) {
-        if (!m_quiet)
-            Q_EMIT rowTicked(row(item));
-    });
+    connect(this, &QListWidget::itemChanged, this, [this](QListWidgetItem *item) { Q_EMIT rowTicked(row(item)); });
 }
 
 void CheckList::addRow(const QString &text, bool ticked)
@@ -22,11 +17,4 @@ bool CheckList::isTicked(int row) const
 {
     const QListWidgetItem *found = item(row);
     return found && found->checkState() == Qt::Checked;
-}
-
-void CheckList::setTicked(int row, bool ticked)
-{
-    const QScopedValueRollback<bool> quiet(m_quiet, true);
-    if (QListWidgetItem *found = item(row))
-        found->setCheckState(ticked ? Qt::Checked : Qt::Unchecked);
 }

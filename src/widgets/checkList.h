@@ -11,11 +11,7 @@ public:
 
     void addRow(const QString &text, bool ticked = false);
     bool isTicked(int row) const;
-    void setTicked(int row, bool ticked);
 
 Q_SIGNALS:
     void rowTicked(int row); ///< by the user
-
-private:
-    bool m_quiet = false;
 };

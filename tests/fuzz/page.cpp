@@ -45,7 +45,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
     (void)withReferences(page.text, page.format);
     (void)metaContent(page.text, QStringLiteral("author"));
     (void)withoutTags(page.text);
-    (void)linkTargets(page.text);
+    for (LinkScan links(page.text); links.next();)
+        HAS_TO_HOLD(links.position() > 0 && links.position() <= page.text.size());
     const QByteArray own = encodeOwnFile(page.text);
     HAS_TO_HOLD(decodeOwnFile(own) == page.text);
     return 0;

@@ -132,22 +132,4 @@ TEST(WithoutFinalSeparator, KeepsARoot)
                                        {"C:\\", "C:\\"},
                                        {"", ""}});
 }
-
-TEST(IsFullLocalPath, KnowsTheMarkAndAsksOnlyForNativePaths)
-{
-    QStringList asked;
-    const auto isFile = [&](const QString &path) {
-        asked += path;
-        return path == QStringLiteral("/srv/a.gif");
-    };
-    EXPECT_TRUE(isFullLocalPath(QStringLiteral("C:\\a.gif"), isFile));
-    EXPECT_TRUE(isFullLocalPath(QStringLiteral("\\\\server\\a.gif"), isFile));
-    EXPECT_FALSE(isFullLocalPath(QStringLiteral("img/a.gif"), isFile));
-    EXPECT_FALSE(isFullLocalPath(QStringLiteral("http://h/a.gif"), isFile));
-    EXPECT_FALSE(isFullLocalPath(QString(), isFile));
-    EXPECT_TRUE(asked.isEmpty());
-    EXPECT_TRUE(isFullLocalPath(QStringLiteral("/srv/a.gif"), isFile));
-    EXPECT_FALSE(isFullLocalPath(QStringLiteral("/img/a.gif"), isFile));
-    EXPECT_EQ(asked, QStringList({QStringLiteral("/srv/a.gif"), QStringLiteral("/img/a.gif")}));
-}
 } // namespace

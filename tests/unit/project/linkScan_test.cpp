@@ -1,6 +1,7 @@
 #include "project/linkScan.h"
 
 #include <QElapsedTimer>
+#include <QStringList>
 #include <gmock/gmock.h>
 
 namespace
@@ -13,9 +14,18 @@ QString q(const char *text)
     return QString::fromUtf8(text);
 }
 
+QStringList targets(const QString &page)
+{
+    QStringList found;
+    LinkScan scan(page);
+    while (const std::optional<QString> target = scan.next())
+        found.append(*target);
+    return found;
+}
+
 QStringList targets(const char *page)
 {
-    return linkTargets(q(page));
+    return targets(q(page));
 }
 
 TEST(LinkTargets, AreThoseInDoubleQuotesBehindABlank)
@@ -93,8 +103,8 @@ TEST(LinkTargets, AreFoundInLinearTime)
 {
     QElapsedTimer timer;
     timer.start();
-    EXPECT_THAT(linkTargets(q("<a ").repeated(1'000'000)), IsEmpty());
-    EXPECT_EQ(linkTargets(q("<a href=\"").repeated(200'000)).size(), 199'999);
+    EXPECT_THAT(targets(q("<a ").repeated(1'000'000)), IsEmpty());
+    EXPECT_EQ(targets(q("<a href=\"").repeated(200'000)).size(), 199'999);
     EXPECT_LT(timer.elapsed(), 5000);
 }
 } // namespace
