@@ -1,5 +1,6 @@
 #include "pictures/pictureReader.h"
 
+#include "pictures/avifSize.h"
 #include "storage/localFileSystem.h"
 
 #include <QBuffer>
@@ -137,8 +138,12 @@ bool pictureReader::decode(QByteArray bytes, const QSize &largest, const Steps &
     QBuffer buffer(&bytes);
     QImageReader reader(&buffer);
     reader.setAutoTransform(true);
-    if (!reader.canRead())
-        return false;
+    if (!reader.canRead()) {
+        const std::optional<QSize> size = avifSize(bytes); // which browsers show, and nothing here does
+        if (size)
+            steps.send(sizeBytes(*size));
+        return size.has_value();
+    }
     if (isDrawing(reader))
         steps.beforeDrawing();
     if (reader.size().isEmpty())
