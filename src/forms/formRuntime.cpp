@@ -2,6 +2,8 @@
 
 #include "forms/mdiForm.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <algorithm>
 #include <utility>
 
@@ -85,6 +87,8 @@ void FormRuntime::discardAll()
 void FormRuntime::end()
 {
     discardAll();
+    // Forms and windows that wait for the event loop to delete them still read what the session shares.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     m_adopted.clear();
     m_owned.clear();
 }

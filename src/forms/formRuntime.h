@@ -73,7 +73,7 @@ public:
 
     /// Takes every window away without running a handler.
     void discardAll();
-    /// The same, and gives up the forms that the session owns.
+    /// The same, and gives up the forms that the session owns and all that waits to be deleted by the event loop.
     void end();
 
 private:
