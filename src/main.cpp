@@ -1,5 +1,4 @@
 #include "browser/pageTrial.h"
-#include "common/fileHabits.h"
 #include "desktop/desktopServices.h"
 #include "desktop/programStart.h"
 #include "desktop/sessionEnd.h"
@@ -27,12 +26,11 @@ struct NextStart {
 };
 
 /// The line that a start takes, with the option in front of it that it began with.
-QString lineOf(const QStringList &arguments, bool severalFiles)
+QString lineOf(const QStringList &arguments, const Habits &habits)
 {
     const bool hasOption = !arguments.isEmpty() &&
                            (arguments.constFirst() == NewInstanceOption || arguments.constFirst() == StartedAnewOption);
-    const auto textOf = severalFiles ? commandLineOfFiles : commandLineText;
-    const QString line = textOf(hasOption ? arguments.mid(1) : arguments);
+    const QString line = commandLineOf(hasOption ? arguments.mid(1) : arguments, habits);
     return hasOption ? QString(arguments.constFirst() + u' ' + line).trimmed() : line;
 }
 
@@ -53,9 +51,9 @@ int run(int argc, char **argv, std::optional<NextStart> &next)
     QObject::connect(&program, &Application::ended, &desktop, &QCoreApplication::quit, Qt::QueuedConnection);
     const SessionEnd end(desktop, program);
     ProgramStart start;
-    const bool several = takesSeveralFiles(readHabits(services.services().settings));
+    const Habits habits = readHabits(services.services().settings);
     const QStringList given = QApplication::arguments().mid(1); // without what the desktop has taken
-    if (!start.begin(program, services.services(), lineOf(given, several)))
+    if (!start.begin(program, services.services(), lineOf(given, habits)))
         return 0;
     if (program.hasEnded()) // by a signal while it started: what quits the loop below came too early
         return 0;

@@ -1,5 +1,6 @@
 #include "document/colouringPass.h"
 
+#include "common/habitEffects.h"
 #include "common/mainWindow.h"
 #include "common/programState.h"
 #include "document/frmWrite.h"
@@ -113,7 +114,8 @@ void ColouringPass::paint()
 QList<FormatRange> ColouringPass::formats() const
 {
     const ColouringOptions &options = m_context.mainWindow->colouring;
-    const bool asPage = readsScripts(m_context) && m_edit->textLength() < UncolouredLength && !m_form->CancelColouring;
+    const bool asPage =
+        coloursScripts(m_context.state.habits) && m_edit->textLength() < UncolouredLength && !m_form->CancelColouring;
     return asPage ? pageFormats(m_edit->Text(), options) : m_scanner.paints().formats(options);
 }
 

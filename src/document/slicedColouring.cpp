@@ -1,5 +1,6 @@
 #include "document/slicedColouring.h"
 
+#include "common/habitEffects.h"
 #include "common/mainWindow.h"
 #include "common/programState.h"
 #include "document/pageColours.h"
@@ -19,11 +20,6 @@ constexpr int PauseMilliseconds = 200;  ///< of the keys
 constexpr qsizetype Piece = 4 * 1024;   ///< in characters, between two looks at the clock
 
 } // namespace
-
-bool readsScripts(const ProgramContext &context)
-{
-    return context.state.habits.HabitScripts;
-}
 
 SlicedColouring::SlicedColouring(EditSurface &edit, ProgramContext &context)
     : QObject(&edit), m_edit(&edit), m_context(context)
@@ -51,7 +47,8 @@ void SlicedColouring::begin()
     tmrColourSoon->setEnabled(false);
     if (!m_edit)
         return;
-    m_page = std::make_unique<PageColours>(m_edit->Text(), m_context.mainWindow->colouring, readsScripts(m_context));
+    m_page = std::make_unique<PageColours>(m_edit->Text(), m_context.mainWindow->colouring,
+                                           coloursScripts(m_context.state.habits));
     if (m_page->text().size() <= AtOnce) {
         m_edit->setFormats(m_page->advance(AtOnce));
         m_page.reset();
@@ -102,6 +99,6 @@ void SlicedColouring::colourView()
         std::min(from + longest, m_edit->characterFromLine(lines.constLast().line + 1).value_or(m_page->text().size()));
     if (to <= m_page->place())
         return;
-    m_edit->setFormats(
-        formatsNearby(m_page->text(), from, to, m_context.mainWindow->colouring, readsScripts(m_context)));
+    m_edit->setFormats(formatsNearby(m_page->text(), from, to, m_context.mainWindow->colouring,
+                                     coloursScripts(m_context.state.habits)));
 }

@@ -11,9 +11,6 @@ class Timer;
 struct FormatRange;
 struct ProgramContext;
 
-/// Whether scripts and styles are coloured as what they are.
-bool readsScripts(const ProgramContext &context);
-
 /// Colours a document of any size without holding anything up: what is on show at once, and the rest in slices, between
 /// which events run. It touches nothing but colours. A change of the text ends it, and it begins again after a pause.
 class SlicedColouring final : public QObject

@@ -3,7 +3,7 @@
 
 #include "common/document.h"
 #include "common/fileFormatText.h"
-#include "common/fileHabits.h"
+#include "common/habitEffects.h"
 #include "common/mainWindow.h"
 #include "common/pageCharset.h"
 #include "common/paths.h"

@@ -128,7 +128,6 @@ private:
     void picAddress_Resize();
     /// False where there is none, or it could not be opened.
     bool openCommandLine(const QString &commandLine);
-    bool openEach(const QString &commandLine);
     bool openCommandLineFile(const CommandLineFile &file);
     void goToLine(const CommandLineFile &file);
     void openWaiting();

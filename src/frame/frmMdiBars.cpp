@@ -1,4 +1,5 @@
 // The main window's bars: showing and hiding them, the status bar, the document selector and the lists.
+#include "common/habitEffects.h"
 #include "common/programState.h"
 #include "frame/frmMdi.h"
 
@@ -162,7 +163,7 @@ void frmMdi::addDocumentTab(const QString &key, const QString &caption)
 {
     if (tabDocSel->addKeyedTab(key, caption, programIcon(QStringLiteral("file-code")))) {
         tabDocSel->setTabToolTip(tabDocSel->count() - 1, caption);
-        if (context().state.habits.HabitScripts && key == m_removedTab.key)
+        if (tabsKeepTheirPlace(context().state.habits) && key == m_removedTab.key)
             tabDocSel->moveTab(tabDocSel->count() - 1, m_removedTab.place);
     }
     m_documentSwitch->list();

@@ -2,7 +2,6 @@
 #include "frame/frmMdi.h"
 
 #include "common/fileCommands.h"
-#include "common/fileHabits.h"
 #include "common/programState.h"
 #include "common/unsavedText.h"
 #include "document/modDocument.h"
@@ -191,16 +190,9 @@ bool frmMdi::openCommandLine(const QString &commandLine)
 {
     if (commandLine.isEmpty())
         return false;
-    return takesSeveralFiles(context().state.habits) ? openEach(commandLine)
-                                                     : openCommandLineFile(commandLineFile(commandLine));
-}
-
-/// True if one of them at least is open.
-bool frmMdi::openEach(const QString &commandLine)
-{
     const auto exists = [this](const QString &path) { return services().files.exists(path); };
     bool opened = false;
-    for (const CommandLineFile &file : commandLineFiles(commandLine, exists)) {
+    for (const CommandLineFile &file : filesOfCommandLine(commandLine, context().state.habits, exists)) {
         if (context().state.ProgramEnded) // opening lets events run
             break;
         if (!openCommandLineFile(file))

@@ -1,6 +1,6 @@
 #include "insertion/browseDialog.h"
 
-#include "common/fileHabits.h"
+#include "common/habitEffects.h"
 #include "common/programState.h"
 #include "forms/programContext.h"
 #include "services/commonDialogs.h"

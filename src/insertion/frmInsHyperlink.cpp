@@ -1,8 +1,9 @@
 #include "insertion/frmInsHyperlink.h"
 
+#include "common/habitEffects.h"
+#include "common/programState.h"
 #include "insertion/attributeText.h"
 #include "insertion/imageFilter.h"
-#include "insertion/writtenMarkup.h"
 #include "project/modProjectFileCtrl.h"
 #include "services/settings.h"
 
@@ -165,7 +166,7 @@ void frmInsHyperlink::Command3_Click()
 
 std::optional<QString> frmInsHyperlink::markup()
 {
-    if (imagesNeedSource(context()) && Option2->isChecked() && txtImagePath->text().isEmpty())
+    if (imagesNeedSource(context().state.habits) && Option2->isChecked() && txtImagePath->text().isEmpty())
         return refused(QStringLiteral("No image path has been specified"), txtImagePath);
     cboUrl->setEditText(m_pathRules.applied(cboUrl->currentText()));
     return hyperlinkMarkup({.kind = cboLinkType->currentText(),

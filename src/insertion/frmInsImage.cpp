@@ -1,10 +1,11 @@
 #include "insertion/frmInsImage.h"
 
+#include "common/habitEffects.h"
 #include "common/mainWindow.h"
 #include "common/numbers.h"
+#include "common/programState.h"
 #include "insertion/imageFilter.h"
 #include "insertion/tagValues.h"
-#include "insertion/writtenMarkup.h"
 #include "project/modProjectFileCtrl.h"
 #include "services/settings.h"
 #include "widgets/controlWatch.h"
@@ -122,9 +123,10 @@ void frmInsImage::readTag()
     if (!tag)
         return;
     LeftoverAttributes = tag->leftoverAttributes;
-    if (writesToday())
+    const bool complete = imageFieldsAreComplete(context().state.habits);
+    if (complete)
         LeftoverAttributes.remove(QLatin1String(" alt=\"\"")); // the field has it
-    showFields(writesToday() ? imageFieldsWithTheirUnits(*tag) : imageFields(*tag));
+    showFields(complete ? imageFieldsWithTheirUnits(*tag) : imageFields(*tag));
     m_knownSrc = cboSrc->currentText();
     previewOnceShown();
 }
@@ -162,7 +164,7 @@ ImageFields frmInsImage::fields() const
 
 std::optional<QString> frmInsImage::markup()
 {
-    if (imagesNeedSource(context()) && cboSrc->currentText().isEmpty())
+    if (imagesNeedSource(context().state.habits) && cboSrc->currentText().isEmpty())
         return refused(QStringLiteral("No image path has been specified"), cboSrc);
     cboSrc->setEditText(m_pathRules.applied(cboSrc->currentText()));
     return imageMarkup(fields());
@@ -192,7 +194,7 @@ void frmInsImage::cmdUseActual_Click()
 
 void frmInsImage::leaveSize(NumberField *field)
 {
-    const bool hasItsUnit = writesToday() && field->text().endsWith(u'%');
+    const bool hasItsUnit = imageFieldsAreComplete(context().state.habits) && field->text().endsWith(u'%');
     if (!field->text().isEmpty() && !hasItsUnit)
         field->setText(QString::number(wholeNumber(field->text())));
 }

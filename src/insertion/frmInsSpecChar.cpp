@@ -1,7 +1,8 @@
 #include "insertion/frmInsSpecChar.h"
-#include "insertion/writtenMarkup.h"
 
+#include "common/habitEffects.h"
 #include "common/mainWindow.h"
+#include "common/programState.h"
 #include "forms/modLaunchHTMLHelp.h"
 #include "widgets/characterGrid.h"
 #include "widgets/layout.h"
@@ -91,7 +92,7 @@ void frmInsSpecChar::grdCharacters_Click()
 {
     const QString character = grdCharacters->selectedCharacter();
     lblCharacter->setText(character);
-    const auto entity = writesTodaysMarkup(context()) ? rightCharacterEntity : characterEntity;
+    const auto entity = writesTodaysMarkup(context().state.habits) ? rightCharacterEntity : characterEntity;
     lblDecChr->setText(character.isEmpty() ? QString() : entity(character[0]));
 }
 

@@ -1,5 +1,7 @@
 #include "insertion/frmInsVideo.h"
 
+#include "common/habitEffects.h"
+#include "common/programState.h"
 #include "insertion/attributeText.h"
 #include "insertion/sizeAttribute.h"
 #include "services/settings.h"
@@ -188,7 +190,7 @@ std::optional<QString> frmInsVideo::markup()
                         .verticalSpacing = txtVrtSpace->text(),
                         .startsOnOpen = chkFileOpen->isChecked(),
                         .startsOnMouseOver = chkMouseOver->isChecked(),
-                        .closesStart = writesToday(),
+                        .closesStart = closesVideoStart(context().state.habits),
                         .controls = chkControls->isChecked(),
                         .repeatsForever = chkRptEver->isChecked(),
                         .loop = txtLoop->text(),

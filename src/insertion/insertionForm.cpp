@@ -1,7 +1,9 @@
 #include "insertion/insertionForm.h"
 
+#include "common/habitEffects.h"
 #include "common/mainWindow.h"
 #include "common/paths.h"
+#include "common/programState.h"
 #include "forms/modLaunchHTMLHelp.h"
 #include "insertion/writtenMarkup.h"
 #include "services/messageBoxes.h"
@@ -37,13 +39,8 @@ void InsertionForm::prepareLoad()
 {
     DialogForm::prepareLoad();
     setCaption(m_design.caption);
-    if (writesToday())
+    if (dialogsBeginAnew(context().state.habits))
         forgetLastUse();
-}
-
-bool InsertionForm::writesToday() const
-{
-    return writesTodaysMarkup(context());
 }
 
 ui::Node InsertionForm::dialogButtons()
@@ -91,7 +88,7 @@ std::optional<TagUnderCaret> InsertionForm::takeTag(TagReader read)
         return std::nullopt;
     TextSurface &edit = document->txtEdit();
     std::optional<TagUnderCaret> tag = read(edit.Text(), edit.SelStart(), edit.SelLength());
-    if (tag && writesToday())
+    if (tag && dialogsBeginAnew(context().state.habits))
         tag = rightTag(read, *tag, edit.Text());
     if (tag) {
         edit.setSelStart(tag->start);

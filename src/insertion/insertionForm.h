@@ -55,8 +55,6 @@ protected:
     virtual std::optional<QString> closing() const { return std::nullopt; }
     /// Drops what outlives the dialog and would go into what it writes next, where each use is to begin anew.
     virtual void forgetLastUse() {}
-    /// Whether the dialog is to write, and read, by today's HTML.
-    bool writesToday() const;
 
     /// Runs once the markup stands in the document, for a dialog that writes at another place, too.
     virtual void afterInsertion(TextSurface &) {}

@@ -1,6 +1,6 @@
 #include "insertion/writtenMarkup.h"
 
-#include "common/fileHabits.h"
+#include "common/habitEffects.h"
 #include "common/mainWindow.h"
 #include "common/programState.h"
 #include "forms/programContext.h"
@@ -14,22 +14,12 @@ MarkupLanguage languageOfPage(const ProgramContext &context)
 }
 } // namespace
 
-bool writesTodaysMarkup(const ProgramContext &context)
-{
-    return context.state.habits.HabitMarkup;
-}
-
-bool imagesNeedSource(const ProgramContext &context)
-{
-    return ::imagesNeedSource(context.state.habits);
-}
-
 QString writtenMarkup(const ProgramContext &context, const QString &made)
 {
-    return writesTodaysMarkup(context) ? rightMarkup(made, languageOfPage(context)) : made;
+    return writesTodaysMarkup(context.state.habits) ? rightMarkup(made, languageOfPage(context)) : made;
 }
 
 MarkupPair writtenAround(const ProgramContext &context, const MarkupPair &made)
 {
-    return writesTodaysMarkup(context) ? rightMarkupAround(made, languageOfPage(context)) : made;
+    return writesTodaysMarkup(context.state.habits) ? rightMarkupAround(made, languageOfPage(context)) : made;
 }

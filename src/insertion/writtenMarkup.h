@@ -4,11 +4,6 @@
 
 struct ProgramContext;
 
-/// Whether markup is written as today's HTML wants it, and dialogs begin anew each time.
-bool writesTodaysMarkup(const ProgramContext &context);
-/// Whether an image has to have its file named.
-bool imagesNeedSource(const ProgramContext &context);
-
 /// What goes into the active document for markup that a dialog or a command has made: all of them write through here.
 /// It is `made` itself, or the same put right (see rightMarkup).
 QString writtenMarkup(const ProgramContext &context, const QString &made);

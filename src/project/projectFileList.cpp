@@ -2,7 +2,7 @@
 #include "project/modProjectFileCtrl.h"
 
 #include "common/addressText.h"
-#include "common/fileHabits.h"
+#include "common/habitEffects.h"
 #include "common/paths.h"
 #include "common/programState.h"
 #include "common/siteProject.h"

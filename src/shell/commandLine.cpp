@@ -1,6 +1,7 @@
 #include "shell/commandLine.h"
 
 #include "common/fileCommands.h"
+#include "common/habitEffects.h"
 #include "common/paths.h"
 
 #include <QDir>
@@ -159,6 +160,17 @@ QList<CommandLineFile> commandLineFiles(const QString &text, const std::function
         at += count;
     }
     return files;
+}
+
+QString commandLineOf(const QStringList &arguments, const Habits &habits)
+{
+    return takesSeveralFiles(habits) ? commandLineOfFiles(arguments) : commandLineText(arguments);
+}
+
+QList<CommandLineFile> filesOfCommandLine(const QString &line, const Habits &habits,
+                                          const std::function<bool(const QString &)> &exists)
+{
+    return takesSeveralFiles(habits) ? commandLineFiles(line, exists) : QList{commandLineFile(line)};
 }
 
 void OpenCommandLineFile(FileCommands &files, const CommandLineFile &file)

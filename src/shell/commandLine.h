@@ -37,6 +37,13 @@ QString commandLineOfFiles(const QStringList &arguments);
 /// words or the whole line.
 QList<CommandLineFile> commandLineFiles(const QString &text, const std::function<bool(const QString &)> &exists);
 
+struct Habits;
+/// What stands behind the program's name as one line, and the files that such a line names, by the rule that holds: one
+/// file, or several.
+QString commandLineOf(const QStringList &arguments, const Habits &habits);
+QList<CommandLineFile> filesOfCommandLine(const QString &line, const Habits &habits,
+                                          const std::function<bool(const QString &)> &exists);
+
 class FileCommands;
 /// Opens a file that the command line names.
 void OpenCommandLineFile(FileCommands &files, const CommandLineFile &file);
