@@ -18,6 +18,7 @@
 #include <QCalendarWidget>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
@@ -96,6 +97,16 @@ void giveArrows(const QCalendarWidget &calendar)
         if (auto *button = calendar.findChild<QToolButton *>(QLatin1String(name)))
             button->setIcon(programIcon(QLatin1String(icon), colour, colour));
     }
+}
+
+/// Takes away the date that is being typed into the calendar and hovers over it: the toolkit forgets it, memory and
+/// all, where the calendar goes first. The key has a text to be taken for one of that date in any case, and for none of
+/// the dialog's.
+void dropTypedDate(const QCalendarWidget &calendar)
+{
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, QStringLiteral("x"));
+    if (auto *days = calendar.findChild<QWidget *>(QStringLiteral("qt_calendar_calendarview")))
+        QCoreApplication::sendEvent(days, &escape);
 }
 } // namespace
 
@@ -312,6 +323,10 @@ QCalendarWidget *calendar(const QString &name, const Handler &change)
         control->setWeekdayTextFormat(day, QTextCharFormat());
     control->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     giveArrows(*control);
+    new ControlWatch(control, QEvent::Hide, [control](const QEvent &) {
+        dropTypedDate(*control);
+        return false;
+    });
     run(control, &QCalendarWidget::selectionChanged, change);
     return control;
 }

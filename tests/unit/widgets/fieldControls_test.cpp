@@ -3,13 +3,16 @@
 #include "widgets/numberField.h"
 #include "widgets/spinButton.h"
 
+#include <QCalendarWidget>
 #include <QComboBox>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QPlainTextEdit>
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolButton>
 #include <gmock/gmock.h>
+#include <memory>
 
 namespace
 {
@@ -18,6 +21,19 @@ using testing::ElementsAre;
 QString str(const char *text)
 {
     return QString::fromUtf8(text);
+}
+
+// It would outlive the calendar otherwise.
+TEST(Calendar, DropsADateThatIsBeingTypedWhenItGoes)
+{
+    const std::unique_ptr<QCalendarWidget> calendar(ui::calendar(str("monDate")));
+    calendar->show();
+    const qsizetype before = calendar->findChildren<QLabel *>().size();
+    QTest::keyClick(calendar->findChild<QWidget *>(str("qt_calendar_calendarview")), Qt::Key_1);
+    EXPECT_EQ(calendar->findChildren<QLabel *>().size(), before + 1) << "the date over the days";
+    calendar->hide();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(calendar->findChildren<QLabel *>().size(), before);
 }
 
 class SpinButtonTest : public testing::Test
