@@ -41,11 +41,17 @@ if find "$prefix" -name 'test_*' -o -name '*drive*' -o -name '*.a' | grep -q .; 
     fail "more is installed than the program"
 fi
 
+# What a build that looks for faults of memory is to pass over.
+sanitizers=()
+for name in ASAN_OPTIONS UBSAN_OPTIONS LSAN_OPTIONS; do
+    [[ -z ${!name:-} ]] || sanitizers+=("$name=${!name}")
+done
+
 # start PROGRAM...: with nothing of this machine's but a home and a page.
 start() {
     env -i PATH="$PATH" HOME="$work/home" XDG_RUNTIME_DIR="$work/run" XDG_DATA_DIRS="$prefix/share:/usr/share" \
         LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen QTWEBENGINE_CHROMIUM_FLAGS=--disable-gpu \
-        QTWEBENGINE_DISABLE_SANDBOX=1 "$@" "$work/site/page.html" >"$work/program.log" 2>&1 &
+        QTWEBENGINE_DISABLE_SANDBOX=1 "${sanitizers[@]}" "$@" "$work/site/page.html" >"$work/program.log" 2>&1 &
     pid=$!
 }
 

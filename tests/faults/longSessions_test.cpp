@@ -31,6 +31,10 @@
 #include <malloc.h>
 #include <vector>
 
+#ifdef __SANITIZE_ADDRESS__
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes(); // the compiler comes without its header
+#endif
+
 namespace
 {
 /// How often something comes and goes: a quick number, or the one that TAGWRIGHTER_LONG_SESSION=1 asks for.
@@ -95,14 +99,32 @@ qsizetype entriesOf(const char *folder)
 
 /// What the process has of the machine.
 struct Holdings {
-    double heap = 0;     ///< bytes that are allocated; 0 where nobody counts them
-    double resident = 0; ///< bytes that are in the memory
+    double heap = 0;     ///< bytes that are allocated
+    double resident = 0; ///< bytes that are in the memory; 0 where that tells nothing
     qsizetype files = 0;
     qsizetype threads = 0;
     int timers = 0;
     int runningTimers = 0;
     qsizetype widgets = 0;
 };
+
+/// The memory alone.
+Holdings memoryHeld()
+{
+    Holdings held;
+#ifdef __SANITIZE_ADDRESS__
+    // The sanitizer keeps what is given back, so what is resident tells nothing; instead it counts each byte.
+    held.heap = static_cast<double>(__sanitizer_get_current_allocated_bytes());
+#else
+    ::malloc_trim(0);
+    const struct mallinfo2 heap = ::mallinfo2();
+    held.heap = static_cast<double>(heap.uordblks) + static_cast<double>(heap.hblkhd);
+    QFile statm(QStringLiteral("/proc/self/statm"));
+    if (statm.open(QIODevice::ReadOnly))
+        held.resident = statm.readAll().split(' ').value(1).toDouble() * 4096;
+#endif
+    return held;
+}
 
 std::ostream &operator<<(std::ostream &out, const Holdings &held)
 {
@@ -159,13 +181,7 @@ protected:
     {
         m_services->worker.finish();
         settle();
-        ::malloc_trim(0);
-        const struct mallinfo2 heap = ::mallinfo2();
-        Holdings held;
-        held.heap = static_cast<double>(heap.uordblks) + static_cast<double>(heap.hblkhd);
-        QFile statm(QStringLiteral("/proc/self/statm"));
-        if (statm.open(QIODevice::ReadOnly))
-            held.resident = statm.readAll().split(' ').value(1).toDouble() * 4096;
+        Holdings held = memoryHeld();
         held.files = entriesOf("/proc/self/fd");
         held.threads = entriesOf("/proc/self/task");
         held.timers = timers.alive;
