@@ -92,6 +92,10 @@ package=/packages/${deb##*/}
 
 inside bash -c "apt-get update && apt-get install -y --no-install-recommends desktop-file-utils libglib2.0-bin procps" \
     >"$work/apt.log" 2>&1 || skip "the bare system reaches no packages ($(tail -n 1 "$work/apt.log"))"
+inside apt-get install -y --no-install-recommends --simulate "$package" >"$work/simulate.log" 2>&1 ||
+    fail "what the package needs is not there"
+inside apt-get install -y --no-install-recommends --download-only "$package" >"$work/download.log" 2>&1 ||
+    skip "the packages that it needs could not be fetched ($(tail -n 1 "$work/download.log"))"
 inside env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "$package" >"$work/install.log" 2>&1 ||
     fail "the package cannot be installed"
 did "installed, with $(inside bash -c 'dpkg-query -Wf "\${Package}\n" | wc -l') packages in all"
