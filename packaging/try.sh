@@ -40,6 +40,7 @@ work=$(mktemp -d)
 root=$work/root
 children=()
 stop() {
+    touch "$root/home/somebody/stop" 2>/dev/null || true # ends the program that is still being used
     ((${#children[@]} == 0)) || kill "${children[@]}" 2>/dev/null || true
     wait || true
     rm -rf --one-file-system "$work"
@@ -77,8 +78,8 @@ inside() {
 
 # as_user COMMAND: a line of shell, as somebody without any rights, on the display.
 as_user() {
-    inside runuser -u somebody -- env HOME=/home/somebody DISPLAY="$DISPLAY" XDG_RUNTIME_DIR=/home/somebody/run \
-        QTWEBENGINE_CHROMIUM_FLAGS=--disable-gpu bash -c "cd; $1"
+    inside runuser -u somebody -- env -u QT_QPA_PLATFORM -u QTWEBENGINE_DISABLE_SANDBOX HOME=/home/somebody \
+        DISPLAY="$DISPLAY" XDG_RUNTIME_DIR=/home/somebody/run QTWEBENGINE_CHROMIUM_FLAGS=--disable-gpu bash -c "cd; $1"
 }
 
 cp /etc/resolv.conf "$root/etc/resolv.conf"
