@@ -6,6 +6,16 @@
 #include <QWebEngineScript>
 #include <QWebEngineScriptCollection>
 
+namespace
+{
+/// Whether it may have begun with the program: a page can go on meanwhile, and send a form just then.
+bool mayBeOwn(QWebEnginePage::NavigationType type)
+{
+    return type == QWebEnginePage::NavigationTypeTyped || type == QWebEnginePage::NavigationTypeReload ||
+           type == QWebEnginePage::NavigationTypeBackForward;
+}
+} // namespace
+
 EnginePage::EnginePage(QWebEngineProfile &profile, RequestGuard &guard, PageSource &source, PageViewListener &listener,
                        QObject *parent)
     : QWebEnginePage(&profile, parent), m_guard(guard), m_source(source), m_listener(listener)
@@ -23,6 +33,7 @@ void EnginePage::refuse(const QUrl &origin, Feature feature)
 void EnginePage::letOwn(const QUrl &address)
 {
     m_isOwn = true;
+    m_isRestless = false;
     m_goesTo = isOnNetwork(address) ? address : QUrl();
     m_mayBeSent = false;
 }
@@ -36,7 +47,8 @@ void EnginePage::sendForm(std::function<void(bool)> sent)
 
 bool EnginePage::acceptNavigationRequest(const QUrl &url, NavigationType type, bool isMainFrame)
 {
-    const bool isOwn = isMainFrame && std::exchange(m_isOwn, false);
+    const bool isOwn = isMainFrame && mayBeOwn(type) && std::exchange(m_isOwn, false);
+    m_isRestless = m_isRestless || (isMainFrame && !isOwn);
     if (!isOwn)
         m_listener.navigates(!isMainFrame);
     if (isOnNetwork(url))

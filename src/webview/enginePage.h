@@ -18,6 +18,8 @@ public:
 
     /// The owner goes somewhere, as the user wants it: the next navigation is not the page's own.
     void letOwn(const QUrl &address);
+    /// Whether the page has wanted to go elsewhere itself since then.
+    bool isRestless() const { return m_isRestless; }
     /// Sends the form that was held back last; see PageView.
     void sendForm(std::function<void(bool)> sent);
 
@@ -41,7 +43,8 @@ private:
     PageSource &m_source;
     PageViewListener &m_listener;
     bool m_isOwn = false; ///< the next navigation is the owner's
-    QUrl m_goesTo;        ///< the other host to which the load under way was let
-    QUrl m_heldBack;      ///< where the form that was held back last goes
+    bool m_isRestless = false;
+    QUrl m_goesTo;   ///< the other host to which the load under way was let
+    QUrl m_heldBack; ///< where the form that was held back last goes
     bool m_mayBeSent = false;
 };

@@ -102,6 +102,7 @@ void WebEngineView::load(const QUrl &address)
     m_keepsPlace = m_page->url() == m_loaded;
     m_place = m_page->scrollPosition();
     m_loaded = m_source.servedAddress(address);
+    m_isLoading = true;
     m_page->letOwn(m_loaded);
     m_page->setUrl(m_loaded);
 }
@@ -243,11 +244,15 @@ void WebEngineView::sendForm(std::function<void(bool)> sent)
 
 void WebEngineView::endPage()
 {
-    const qint64 process = m_page ? m_page->renderProcessPid() : 0;
-    if (process > 0)
-        ::kill(static_cast<pid_t>(process), SIGKILL);
+    if (m_page && m_page->renderProcessPid() > 0)
+        killPage();
     else
         ended();
+}
+
+void WebEngineView::killPage()
+{
+    ::kill(static_cast<pid_t>(m_page->renderProcessPid()), SIGKILL);
 }
 
 void WebEngineView::loadStarted()
@@ -256,13 +261,31 @@ void WebEngineView::loadStarted()
     m_listener.loadStarted();
 }
 
-void WebEngineView::loadFinished()
+void WebEngineView::loadFinished(bool whole)
 {
     if (m_ended) // the end of the page was told already
         return;
+    if (isCutShort(whole)) {
+        loadInAnotherProcess();
+        return;
+    }
+    m_isLoading = m_isLoading && !whole;
     restorePlace();
     watchClicks();
     m_listener.loadFinished();
+}
+
+/// Each attempt of a page to go elsewhere, which it is not let, ends what loads in its place: it could stay for ever.
+bool WebEngineView::isCutShort(bool whole) const
+{
+    return m_isLoading && !whole && m_page->url() != m_loaded && m_page->isRestless() && m_page->renderProcessPid() > 0;
+}
+
+void WebEngineView::loadInAnotherProcess()
+{
+    m_isLoading = false; // once a load
+    m_comesAnew = true;
+    killPage();
 }
 
 /// The engine keeps the place of a page that is loaded again, but for a rounding that would let the page creep.
@@ -279,12 +302,27 @@ void WebEngineView::terminated(QWebEnginePage::RenderProcessTerminationStatus st
 {
     constexpr int CouldNotBeMade = -1; // has no name among the engine's own
     if (static_cast<int>(status) != CouldNotBeMade) {
-        ended();
+        if (std::exchange(m_comesAnew, false))
+            comeAnew();
+        else
+            ended();
         return;
     }
     m_ended = true;
     QMetaObject::invokeMethod(
         this, [this] { m_listener.engineEnded(); }, Qt::QueuedConnection);
+}
+
+/// From the event loop, for the same reason as below.
+void WebEngineView::comeAnew()
+{
+    const auto load = [this] {
+        if (!m_page)
+            return;
+        m_page->letOwn(m_loaded);
+        m_page->setUrl(m_loaded);
+    };
+    QMetaObject::invokeMethod(this, load, Qt::QueuedConnection);
 }
 
 /// Tells it from the event loop, as a page cannot be loaded again while its end is being dealt with.

@@ -57,7 +57,11 @@ private:
     void followPage();
     void goByHistory(QWebEnginePage::WebAction action);
     void loadStarted();
-    void loadFinished();
+    void loadFinished(bool whole);
+    bool isCutShort(bool whole) const;
+    void loadInAnotherProcess();
+    void comeAnew();
+    void killPage();
     void ended();
     void terminated(QWebEnginePage::RenderProcessTerminationStatus status);
     void restorePlace();
@@ -74,5 +78,7 @@ private:
     ElementPath m_pressedPath; ///< the element at that place; empty until the page has told it
     QPointF m_pressed;         ///< where the left button went down
     bool m_keepsPlace = false; ///< the load under way is to be scrolled there
+    bool m_isLoading = false;  ///< that; it has not come to its end
+    bool m_comesAnew = false;  ///< its process is being ended, to load in another one
     bool m_ended = false;      ///< the page's process has gone and nothing was loaded since
 };
