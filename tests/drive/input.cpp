@@ -17,10 +17,12 @@
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QElapsedTimer>
+#include <QMenu>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QTest>
+#include <QTimer>
 #include <QWidget>
 #include <QWindow>
 
@@ -79,9 +81,41 @@ void sendMouse(const QPointer<QWidget> &widget, QEvent::Type type, QPoint at, Qt
     deliver(window, event);
 }
 
+/// A button opens its menu in a loop of its own, which ends with the menu, and the script would have to wait for that.
+/// While there is one of these, such a loop is ended, and at its end the menu is on show without one.
+class MenuOfAButton
+{
+public:
+    MenuOfAButton()
+    {
+        QObject::connect(&m_inLoop, &QTimer::timeout, [this] {
+            if (QMenu *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget())) {
+                m_menu = menu;
+                m_place = menu->pos();
+                menu->hide();
+            }
+        });
+        if (!QApplication::activePopupWidget())
+            m_inLoop.start(0);
+    }
+    ~MenuOfAButton()
+    {
+        if (m_menu)
+            m_menu->popup(m_place);
+    }
+    MenuOfAButton(const MenuOfAButton &) = delete;
+    MenuOfAButton &operator=(const MenuOfAButton &) = delete;
+
+private:
+    QTimer m_inLoop; // ticks only where events are taken while the press is being dealt with
+    QPointer<QMenu> m_menu;
+    QPoint m_place;
+};
+
 void press(const QPointer<QWidget> &widget, QEvent::Type type, QPoint at, Qt::MouseButton button,
            Qt::KeyboardModifiers modifiers)
 {
+    const MenuOfAButton menu;
     sendMouse(widget, type, at, button, button, modifiers);
 }
 
