@@ -11,7 +11,8 @@ constexpr qsizetype ReadAtOnce = 65536;
 constexpr int PauseMilliseconds = 150;
 } // namespace
 
-AfterChanges::AfterChanges(EditSurface &edit, std::function<void()> act) : m_edit(edit), m_act(std::move(act))
+AfterChanges::AfterChanges(EditSurface &edit, std::function<bool()> isWanted, std::function<void()> act)
+    : m_edit(edit), m_isWanted(std::move(isWanted)), m_act(std::move(act))
 {
     m_pause.setSingleShot(true);
     connect(&m_pause, &QTimer::timeout, this, [this] { m_act(); });
@@ -20,6 +21,8 @@ AfterChanges::AfterChanges(EditSurface &edit, std::function<void()> act) : m_edi
 
 void AfterChanges::noteChange()
 {
+    if (!m_isWanted())
+        return;
     if (m_edit.textLength() <= ReadAtOnce)
         soon();
     else

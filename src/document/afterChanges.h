@@ -11,8 +11,8 @@ class EditSurface;
 class AfterChanges final : public QObject
 {
 public:
-    /// The surface has to outlive it.
-    AfterChanges(EditSurface &edit, std::function<void()> act);
+    /// The surface has to outlive it. A change after which `isWanted` says no is let pass, without a timer or an event.
+    AfterChanges(EditSurface &edit, std::function<bool()> isWanted, std::function<void()> act);
 
     void soon(); ///< at the end of the event, whatever the text's length
 
@@ -20,6 +20,7 @@ private:
     void noteChange();
 
     EditSurface &m_edit;
+    std::function<bool()> m_isWanted;
     std::function<void()> m_act;
     QTimer m_pause;
     bool m_queued = false;

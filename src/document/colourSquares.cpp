@@ -37,15 +37,25 @@ void changeColour(const ProgramContext &context, Document &document, const Colou
 } // namespace
 
 ColourSquares::ColourSquares(Document &document, EditSurface &edit, ProgramContext &context)
-    : m_document(document), m_edit(edit), m_context(context), m_afterChanges(edit, [this] { show(); })
+    : m_document(document),
+      m_edit(edit),
+      m_context(context),
+      m_afterChanges(
+          edit, [this] { return isWanted(); }, [this] { show(); })
 {
+}
+
+/// What was shown before the rule went is taken back.
+bool ColourSquares::isWanted() const
+{
+    return m_context.state.habits.HandsColours || m_shown;
 }
 
 void ColourSquares::show()
 {
-    const bool wanted = m_context.state.habits.HandsColours;
-    if (!wanted && !m_shown)
+    if (!isWanted())
         return;
+    const bool wanted = m_context.state.habits.HandsColours;
     QList<MarkedRange> marks;
     if (wanted)
         for (const ColourPlace &place : placesIn(m_document))

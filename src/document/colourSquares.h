@@ -21,6 +21,7 @@ public:
     void click(const MarkedRange &square);
 
 private:
+    bool isWanted() const;
     void show();
 
     Document &m_document;

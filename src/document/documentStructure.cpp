@@ -46,7 +46,11 @@ TreeNode treeNode(const OutlineNode &node)
 } // namespace
 
 DocumentStructure::DocumentStructure(Document &document, EditSurface &edit, ProgramContext &context)
-    : m_document(document), m_edit(edit), m_context(context), m_afterChanges(edit, [this] { show(); })
+    : m_document(document),
+      m_edit(edit),
+      m_context(context),
+      m_afterChanges(
+          edit, [this] { return isWanted(); }, [this] { show(); })
 {
 }
 
@@ -56,11 +60,17 @@ void DocumentStructure::leave()
         m_context.mainWindow->clearStructureTree();
 }
 
+/// What was marked before the rule went is taken back.
+bool DocumentStructure::isWanted() const
+{
+    return m_context.state.habits.HabitStructure || m_marked;
+}
+
 void DocumentStructure::show()
 {
-    const bool holds = m_context.state.habits.HabitStructure;
-    if (!holds && !m_marked)
+    if (!isWanted())
         return;
+    const bool holds = m_context.state.habits.HabitStructure;
     std::vector<OutlineNode> nodes;
     if (holds && commentSignsAt({}, 0, m_document.DocSavePath) == CommentSigns::Html)
         nodes = pageOutline(m_edit.Text());

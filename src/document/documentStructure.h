@@ -22,6 +22,7 @@ public:
     void leave();
 
 private:
+    bool isWanted() const;
     void show();
 
     Document &m_document;
