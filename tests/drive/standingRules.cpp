@@ -9,6 +9,7 @@
 #include "forms/formRuntime.h"
 #include "frame/application.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCursor>
 #include <QMdiArea>
@@ -95,9 +96,25 @@ QMdiSubWindow *windowOf(Document *document)
 }
 } // namespace
 
-void StandingRules::enter(Stage &, const Line &line)
+/// The commands that arrange windows are run by keys, too, from an open menu.
+void StandingRules::watchArranging(QWidget &mainWindow)
 {
+    if (m_watched == &mainWindow)
+        return;
+    m_watched = &mainWindow;
+    for (const QAction *action : mainWindow.findChildren<QAction *>())
+        if (action->objectName().startsWith(QStringLiteral("mnuWin")))
+            QObject::connect(action, &QAction::triggered, &m_onArranging, [this] { m_arranges = true; });
+}
+
+void StandingRules::enter(Stage &stage, const Line &line)
+{
+    Form *mainForm = stage.isRunning() ? stage.program().form(QStringLiteral("frmMdi")) : nullptr;
+    if (mainForm && mainForm->window())
+        watchArranging(*mainForm->window());
     m_arranges = arranges(line);
+    m_dragsDivider = m_dragsDivider || (line.command == QStringLiteral("mouse") &&
+                                        line.words.value(0).endsWith(QStringLiteral(".paneDivider")));
     m_pointsAtPreview = pointsAtPreview(line);
     m_usesMouse = line.command == QStringLiteral("mouse");
 }
@@ -149,7 +166,7 @@ void StandingRules::checkDocument(Stage &stage, QMdiSubWindow &window)
         stage.referee.fail(what + QStringLiteral(" on show"), QStringLiteral("it hidden"));
     const QRect place = surface->geometry();
     // What the program has to tell of the document stands above its text, nothing beside or below.
-    const bool low = place.height() < SmallestSurface && window.height() >= RoomForSurface;
+    const bool low = place.height() < SmallestSurface && window.height() >= RoomForSurface && !m_dragsDivider;
     if (place.width() != pane->width() || place.bottom() != pane->height() - 1 || low)
         stage.referee.fail(what + QStringLiteral(" filling its pane, %1").arg(told(pane->rect())), told(place));
     const QRect inside = placeIn(window, *surface);
