@@ -80,6 +80,9 @@ void MdiForm::bringToFront()
     const bool filled = before && before != child && before->isMaximized();
     context().forms.setActiveChild(this);
     area->setActiveSubWindow(child);
+    // The one that is left may hide what had the keyboard, which moves on within it then, and makes it active again.
+    if (area->activeSubWindow() != child)
+        area->setActiveSubWindow(child);
     if (filled)
         fillArea();
 }
