@@ -9,6 +9,7 @@
 #include <QIconEngine>
 #include <QLineEdit>
 #include <QPainter>
+#include <QPointer>
 #include <QPushButton>
 
 namespace
@@ -98,12 +99,15 @@ void ColourSelection::setUnsetColour(ColourValue colour)
     setColour(colour);
 }
 
+/// The window may go while the user picks.
 void ColourSelection::cmdChange_Click()
 {
-    if (const std::optional<ColourValue> chosen = m_pick(m_colour)) {
-        choose(*chosen);
-        m_text->setText(shownText());
-    }
+    const QPointer<ColourSelection> self(this);
+    const std::optional<ColourValue> chosen = m_pick(m_colour);
+    if (!self || !chosen)
+        return;
+    choose(*chosen);
+    m_text->setText(shownText());
 }
 
 /// A text on its way to a colour changes nothing yet, and leaves no trace when the field is left.

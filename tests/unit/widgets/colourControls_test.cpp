@@ -8,6 +8,7 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <gmock/gmock.h>
+#include <utility>
 
 namespace
 {
@@ -45,6 +46,17 @@ protected:
     ColourSelection picker{[this](ColourValue initial) { return dialogs.pick(initial); }};
     QSignalSpy changes{&picker, &ColourSelection::colourChanged};
 };
+
+TEST(ColourSelection, LeavesAPickAloneThatTookItAway)
+{
+    ColourSelection *picker = nullptr;
+    picker = new ColourSelection([&](ColourValue) {
+        delete std::exchange(picker, nullptr);
+        return std::optional<ColourValue>(255);
+    });
+    picker->changeButton()->click();
+    EXPECT_EQ(picker, nullptr);
+}
 
 TEST_F(ColourSelectionTest, StartsBlackAndTellsNoChangeOfTheProgram)
 {
