@@ -161,11 +161,10 @@ void frmMdi::showRecentFiles(const QStringList &captions)
 
 void frmMdi::addDocumentTab(const QString &key, const QString &caption)
 {
-    if (tabDocSel->addKeyedTab(key, caption, programIcon(QStringLiteral("file-code")))) {
-        tabDocSel->setTabToolTip(tabDocSel->count() - 1, caption);
-        if (tabsKeepTheirPlace(context().state.habits) && key == m_removedTab.key)
-            tabDocSel->moveTab(tabDocSel->count() - 1, m_removedTab.place);
-    }
+    const bool comesBack = tabsKeepTheirPlace(context().state.habits) && key == m_removedTab.key;
+    const int place = comesBack ? m_removedTab.place : tabDocSel->count();
+    if (tabDocSel->addKeyedTab(key, caption, programIcon(QStringLiteral("file-code")), place))
+        tabDocSel->setTabToolTip(*tabDocSel->find(key), caption);
     m_documentSwitch->list();
 }
 

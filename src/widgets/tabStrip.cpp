@@ -12,12 +12,12 @@ TabStrip::TabStrip(QWidget *parent) : QTabBar(parent)
     setFocusPolicy(Qt::TabFocus); // a click leaves the focus where the user works
 }
 
-bool TabStrip::addKeyedTab(const QString &key, const QString &caption, const QIcon &image)
+bool TabStrip::addKeyedTab(const QString &key, const QString &caption, const QIcon &image, int place)
 {
     if (find(key))
         return false;
     QString shown = caption;
-    setTabData(addTab(image, shown.replace(u'&', QStringLiteral("&&"))), key);
+    setTabData(insertTab(place, image, shown.replace(u'&', QStringLiteral("&&"))), key);
     return true;
 }
 

@@ -10,8 +10,9 @@ class TabStrip final : public QTabBar
 public:
     explicit TabStrip(QWidget *parent = nullptr);
 
-    /// Adds a tab at the end, without selecting it unless it is the only one. False, and no tab, if the key is there.
-    bool addKeyedTab(const QString &key, const QString &caption, const QIcon &image = {});
+    /// Adds a tab at a place, from 0, or at the end (-1 or a place behind it), without selecting it unless it is the
+    /// only one. False, and no tab, if the key is there.
+    bool addKeyedTab(const QString &key, const QString &caption, const QIcon &image = {}, int place = -1);
     bool removeKeyedTab(const QString &key); ///< false if there is none
     bool selectKey(const QString &key);      ///< false if there is none; not a click
     QString selectedKey() const;             ///< empty without a tab
