@@ -53,6 +53,11 @@ QString placeScript(const QString &text)
 }
 } // namespace
 
+namespace
+{
+constexpr int MostAttempts = 3; ///< to get past a page that ends each load in its place
+}
+
 WebEngineView::WebEngineView(QWebEngineProfile &profile, RequestGuard &guard, PageSource &source,
                              PageViewListener &listener, QWidget *parent)
     : m_source(source),
@@ -103,6 +108,8 @@ void WebEngineView::load(const QUrl &address)
     m_place = m_page->scrollPosition();
     m_loaded = m_source.servedAddress(address);
     m_isLoading = true;
+    m_attempts = MostAttempts;
+    m_left = m_page->url();
     m_page->letOwn(m_loaded);
     m_page->setUrl(m_loaded);
 }
@@ -265,25 +272,26 @@ void WebEngineView::loadFinished(bool whole)
 {
     if (m_ended) // the end of the page was told already
         return;
-    if (isCutShort(whole)) {
+    if (isCutShort()) {
         loadInAnotherProcess();
         return;
     }
-    m_isLoading = m_isLoading && !whole;
+    m_isLoading = m_isLoading && !(whole && m_page->url() != m_left);
     restorePlace();
     watchClicks();
     m_listener.loadFinished();
 }
 
 /// Each attempt of a page to go elsewhere, which it is not let, ends what loads in its place: it could stay for ever.
-bool WebEngineView::isCutShort(bool whole) const
+bool WebEngineView::isCutShort() const
 {
-    return m_isLoading && !whole && m_page->url() != m_loaded && m_page->isRestless() && m_page->renderProcessPid() > 0;
+    return m_isLoading && m_left != m_loaded && m_page->url() == m_left && m_page->isRestless() &&
+           m_page->renderProcessPid() > 0;
 }
 
 void WebEngineView::loadInAnotherProcess()
 {
-    m_isLoading = false; // once a load
+    m_isLoading = --m_attempts > 0;
     m_comesAnew = true;
     killPage();
 }

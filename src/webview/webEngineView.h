@@ -58,7 +58,7 @@ private:
     void goByHistory(QWebEnginePage::WebAction action);
     void loadStarted();
     void loadFinished(bool whole);
-    bool isCutShort(bool whole) const;
+    bool isCutShort() const;
     void loadInAnotherProcess();
     void comeAnew();
     void killPage();
@@ -72,6 +72,7 @@ private:
     QPointer<EnginePage> m_page;
     QPointer<QWebEngineView> m_view;
     QUrl m_loaded;   ///< what the owner asked for last, as it is served
+    QUrl m_left;     ///< what was on show then
     QPointF m_place; ///< where the page before was scrolled to
     int m_presses = 0;
     bool m_isClick = false;    ///< the button has come up where it went down
@@ -79,6 +80,7 @@ private:
     QPointF m_pressed;         ///< where the left button went down
     bool m_keepsPlace = false; ///< the load under way is to be scrolled there
     bool m_isLoading = false;  ///< that; it has not come to its end
+    int m_attempts = 0;        ///< that are left to load in another process
     bool m_comesAnew = false;  ///< its process is being ended, to load in another one
     bool m_ended = false;      ///< the page's process has gone and nothing was loaded since
 };
