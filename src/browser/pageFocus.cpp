@@ -51,6 +51,13 @@ bool PageFocus::eventFilter(QObject *watched, QEvent *event)
         else
             m_handedOn = isHandedOn(reason);
     }
+    // A part that the engine is done with does not hand its keyboard on: that would be gone with it.
+    if (event->type() == QEvent::Hide && watched != parent() && isInView(watched)) {
+        const auto *part = qobject_cast<QWidget *>(watched);
+        const QWidget *keyboard = part ? part->window()->focusWidget() : nullptr;
+        if (keyboard && (keyboard == part || part->isAncestorOf(keyboard)))
+            QMetaObject::invokeMethod(this, &PageFocus::putBack, Qt::QueuedConnection);
+    }
     return QObject::eventFilter(watched, event);
 }
 
@@ -65,4 +72,14 @@ void PageFocus::focusCame(Qt::FocusReason reason)
     // From the event loop: whoever moves the focus now is still at it.
     if (!m_held)
         QMetaObject::invokeMethod(this, &PageFocus::taken, Qt::QueuedConnection);
+}
+
+/// To what stands in the page now. Meanwhile the keyboard may have gone elsewhere, or the page out of sight.
+void PageFocus::putBack()
+{
+    auto *view = static_cast<QWidget *>(parent());
+    const QWidget *keyboard = view->window()->focusWidget();
+    const bool isLost = !keyboard || (isInView(keyboard) && !keyboard->isVisible());
+    if (isLost && view->isVisible())
+        view->setFocus(Qt::OtherFocusReason);
 }

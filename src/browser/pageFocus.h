@@ -5,7 +5,8 @@
 class QWidget;
 
 /// Tells a keyboard that the user has moved into a page from one that the engine takes by itself, as it does where it
-/// makes a page's process anew.
+/// makes a page's process anew; and keeps it in the page when the engine puts another part in place of the one that
+/// had it.
 class PageFocus final : public QObject
 {
     Q_OBJECT
@@ -30,6 +31,7 @@ private:
     bool isHandedOn(Qt::FocusReason reason) const;
     bool isInView(const QObject *watched) const;
     void focusCame(Qt::FocusReason reason);
+    void putBack();
 
     bool m_handedOn = false;   ///< the part that has the keyboard outside the view got it from a window on its way back
     bool m_tabPressed = false; ///< a Tab is down

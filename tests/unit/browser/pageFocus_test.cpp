@@ -77,3 +77,57 @@ TEST_F(PageFocusTest, TakesAWindowThatHandsItsKeyboardOnForNobodysWish)
         EXPECT_FALSE(focus.isHeld());
     }
 }
+
+/// As the engine's own: it does not know where the keyboard goes on to.
+class KeepingPart : public QWidget
+{
+public:
+    using QWidget::QWidget;
+
+protected:
+    bool focusNextPrevChild(bool) override { return true; }
+};
+
+/// What the engine does where a page gets a process of its own.
+TEST_F(PageFocusTest, KeepsTheKeyboardInThePageWhenItsPartIsReplaced)
+{
+    for (const bool isDeleted : {false, true}) {
+        auto *before = new KeepingPart(&view);
+        before->setFocusPolicy(Qt::StrongFocus);
+        before->show();
+        before->setFocus(Qt::MouseFocusReason);
+        ASSERT_TRUE(before->hasFocus());
+        auto *behind = new KeepingPart(&view);
+        behind->setFocusPolicy(Qt::StrongFocus);
+        before->hide();
+        view.setFocusProxy(behind);
+        behind->show();
+        if (isDeleted)
+            delete before;
+        QApplication::processEvents();
+        EXPECT_TRUE(behind->hasFocus()) << isDeleted;
+        EXPECT_TRUE(focus.isHeld());
+    }
+}
+
+TEST_F(PageFocusTest, LeavesTheKeyboardWhereItWentWhenAPartOfThePageGoes)
+{
+    auto *part = new KeepingPart(&view);
+    part->setFocusPolicy(Qt::StrongFocus);
+    part->show();
+    part->setFocus(Qt::MouseFocusReason);
+    part->hide();
+    field.setFocus(Qt::MouseFocusReason);
+    QApplication::processEvents();
+    EXPECT_TRUE(field.hasFocus());
+
+    part->hide(); // without the keyboard
+    QApplication::processEvents();
+    EXPECT_TRUE(field.hasFocus());
+
+    part->show();
+    part->setFocus(Qt::MouseFocusReason);
+    view.hide();
+    QApplication::processEvents();
+    EXPECT_FALSE(view.hasFocus());
+}
