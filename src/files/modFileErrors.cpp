@@ -12,6 +12,13 @@ constexpr int ControlOutOfMemoryError = 31001; // as an edit surface says it
 constexpr MessageIcon Stop = MessageIcon::Critical;
 constexpr MessageIcon Exclamation = MessageIcon::Exclamation;
 
+struct FileErrorMessage {
+    int code;
+    const char *title;
+    const char *text; ///< lines parted by CR LF
+    MessageIcon icon;
+};
+
 // clang-format off
 constexpr std::array table{
     FileErrorMessage{7, "Out of Memory", "There is not enough memory to complete the operation.\r\nPlease close some applications, and then try again.", Exclamation},
@@ -42,11 +49,6 @@ MessageBox unknownErrorBox(int errorNumber, const QString &description)
             .buttons = MessageButtons::OK};
 }
 } // namespace
-
-std::span<const FileErrorMessage> fileErrorMessages()
-{
-    return table;
-}
 
 MessageBox fileErrorBox(int errorNumber, const QString &description)
 {

@@ -28,7 +28,6 @@ public:
     QRectF place() const { return m_place; }
 
     void setWeight(MapWeight weight);
-    MapWeight weight() const { return m_weight; }
     void setChosen(bool chosen);
     /// Its file is one of the project's and is not on the disk: drawn with cut corners and a broken outline.
     void setMissing(bool missing);

@@ -24,7 +24,6 @@ public:
 
     void setWeight(int line, MapWeight weight);
     void setWeights(MapWeight weight); ///< of all
-    MapWeight weight(int line) const { return m_lines[line].weight; }
     /// The look that was given at first has changed.
     void lookChanged();
 

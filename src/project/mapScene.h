@@ -25,8 +25,6 @@ public:
     const SiteMap &map() const { return *m_map; }
     QRectF place(int box) const { return m_boxes[box]->place(); }
     std::optional<int> boxAt(const QPointF &point) const; ///< the one on top
-    MapWeight boxWeight(int box) const { return m_boxes[box]->weight(); }
-    MapWeight lineWeight(int line) const { return m_lines->weight(line); }
     bool isMissing(int box) const { return m_missing[box]; }
 
     /// Lets a box take the size of its text, and gives all boxes their usual size again.

@@ -80,10 +80,6 @@ public:
     qsizetype characterFromPosition(const QPoint &point) const;
     /// Where the caret stands in front of a character, in the surface's own coordinates.
     QRect positionOfCharacter(qsizetype position) const;
-    /// The colour that a character is drawn with, which depends on the ground.
-    QColor drawnColour(qsizetype position) const;
-    /// How far apart the stops of the tabs are, in pixels.
-    qreal tabStopDistance() const;
 
     /// A source line as far as it is on view: its number from 0, its top in the viewport and its first row's height.
     struct VisibleLine {

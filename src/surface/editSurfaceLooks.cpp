@@ -67,11 +67,6 @@ void EditSurface::setFormats(const QList<FormatRange> &ranges)
         viewport()->update(); // the margins follow if a row turns out to be as high as none before
 }
 
-QColor EditSurface::drawnColour(qsizetype position) const
-{
-    return colourFor(m_looks.lookAt(position).colour);
-}
-
 /// What a character that is put in at a position looks like: as the one in front of it, and at the start of a line as
 /// the one behind it.
 Look EditSurface::lookForText(qsizetype position) const

@@ -360,11 +360,6 @@ void EditSurface::followFont()
     followView();
 }
 
-qreal EditSurface::tabStopDistance() const
-{
-    return m_view.layouts().style().tabDistance;
-}
-
 void EditSurface::setTabWidth(int characters)
 {
     m_tabWidth = characters;

@@ -83,7 +83,6 @@ QList<PageProblem> PageChecker::check(const QString &text, const PageCheckContex
     m_text = text;
     m_vocabulary = &vocabulary;
     m_files = files;
-    m_read = 0;
     if (anew)
         m_parts.assign(1, {});
     if (anew)
@@ -109,7 +108,6 @@ void PageChecker::readFrom(size_t part, const PageShift &shift)
     PageReader reader(m_text, m_rules, *m_vocabulary, m_files, problems);
     Part current{older.front().start, older.front().state, {}, {}, {}, {}};
     reader.begin(current.start, current.state);
-    m_read -= current.start;
     const auto close = [&] {
         current.problems = problems.takeFound();
         current.refused = problems.takeRefused();
@@ -129,7 +127,6 @@ void PageChecker::readFrom(size_t part, const PageShift &shift)
                 m_parts.push_back(std::move(*next));
             }
             shift.move(m_end.first);
-            m_read += position;
             return;
         }
         if (position - current.start >= LeastPart && reader.depth() <= DeepestPart) {
@@ -141,7 +138,6 @@ void PageChecker::readFrom(size_t part, const PageShift &shift)
     reader.finish();
     close();
     m_end = {last.first, last.doctype, last.tree.wholePage};
-    m_read += m_text.size();
 }
 
 /// Reads a part again, of whose problems there is room for more than before.
@@ -158,7 +154,6 @@ void PageChecker::readAgain(size_t part, const Counts &counts)
         reader.finish();
     again.problems = problems.takeFound();
     again.refused = problems.takeRefused();
-    m_read += (end < 0 ? m_text.size() : end) - again.start;
 }
 
 Counts PageChecker::countsBefore(size_t part) const

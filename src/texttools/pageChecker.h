@@ -15,8 +15,6 @@ public:
 
     /// As checkPage() does.
     QList<PageProblem> check(const QString &text, const PageCheckContext &context);
-    /// How many characters the last check has read, of as many as the text has.
-    qsizetype charactersRead() const { return m_read; }
 
 private:
     /// A stretch of the page, from behind an end tag to behind another one.
@@ -51,5 +49,4 @@ private:
     bool m_files = false; ///< the files that the page names are gathered
     std::vector<Part> m_parts;
     End m_end;
-    qsizetype m_read = 0;
 };

@@ -15,7 +15,6 @@ public:
     /// At least one colour; the rows are `columns` long.
     ColourPalette(const QList<ColourValue> &colours, int columns, QWidget *parent = nullptr);
 
-    int currentCell() const { return m_current; }
     void setCurrentCell(int cell); ///< nothing for a cell that is not there
     ColourValue currentColour() const { return m_colours[m_current]; }
     /// The colour under the mouse; nothing away from it.

@@ -1,5 +1,6 @@
 // Transfers with real servers on this machine.
 #include "unit/desktop/transfersTest.h"
+#include "unit/support/processorTime.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -7,7 +8,6 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QTimer>
-#include <ctime>
 
 namespace
 {
@@ -147,14 +147,6 @@ TEST_F(TransfersTest, StopAtTheMostTheyTake)
     write("endless.htm.answer", "200 OK\r\nX-Endless: yes\r\n\r\n" + QByteArray(1000, 'x'));
     EXPECT_EQ(get(webAddress("/endless.htm")).end.failure,
               q("It is larger than 64 MiB, which is more than can be opened."));
-}
-
-/// What this thread has taken of the processor, in milliseconds: on a busy machine a turn may last far longer.
-double processorMilliseconds()
-{
-    timespec taken = {};
-    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &taken);
-    return double(taken.tv_sec) * 1e3 + double(taken.tv_nsec) * 1e-6;
 }
 
 TEST_F(TransfersTest, LeaveTheWindowItsTurns)

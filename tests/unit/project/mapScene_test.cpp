@@ -5,6 +5,7 @@
 #include "widgets/contrast.h"
 
 #include <QImage>
+#include <QPainter>
 #include <QPalette>
 #include <QXmlStreamReader>
 #include <algorithm>
@@ -18,6 +19,35 @@ using testing::IsEmpty;
 QString q(const char *text)
 {
     return QString::fromUtf8(text);
+}
+
+QImage pictureOf(MapScene &scene)
+{
+    QImage image(scene.sceneRect().size().toSize(), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    scene.render(&painter);
+    return image;
+}
+
+/// How much a part of a picture differs from white, a pixel on average.
+double inkIn(const QImage &image, const QRectF &place)
+{
+    const QRect part = place.toAlignedRect();
+    double ink = 0;
+    for (int y = part.top(); y <= part.bottom(); ++y)
+        for (int x = part.left(); x <= part.right(); ++x) {
+            const QColor colour = image.pixelColor(x, y);
+            ink += 3 * 255 - colour.red() - colour.green() - colour.blue();
+        }
+    return ink / part.width() / part.height();
+}
+
+/// A few pixels in the middle of the way between two boxes.
+QRectF halfWay(const QRectF &from, const QRectF &to)
+{
+    const QPointF middle = (from.center() + to.center()) / 2;
+    return {middle - QPointF(3, 3), QSizeF(6, 6)};
 }
 
 /// A map of pages "0", "1", … that can be joined by their numbers.
@@ -115,18 +145,26 @@ TEST_F(MapSceneTest, MakesAllButTheLinesOfTheChosenBoxFaint)
     link(0, 1);
     link(2, 1);
     MapScene &drawn = scene();
-    const auto weights = [&drawn] {
-        return QList<MapWeight>{drawn.boxWeight(0), drawn.boxWeight(1), drawn.boxWeight(2), drawn.lineWeight(0),
-                                drawn.lineWeight(1)};
+    const QImage usual = pictureOf(drawn);
+    const QList<QRectF> places{drawn.place(0), drawn.place(1), drawn.place(2), halfWay(drawn.place(0), drawn.place(1)),
+                               halfWay(drawn.place(2), drawn.place(1))};
+    const auto inkOfEach = [&places](const QImage &image) {
+        QList<double> ink;
+        for (const QRectF &place : places)
+            ink.append(inkIn(image, place));
+        return ink;
     };
-    const QList<MapWeight> usual(5, MapWeight::Usual);
-    EXPECT_EQ(weights(), usual);
+    const QList<double> before = inkOfEach(usual);
     drawn.choose(0);
     EXPECT_EQ(drawn.chosen(), 0);
-    EXPECT_EQ(weights(), (QList<MapWeight>{MapWeight::Strong, MapWeight::Strong, MapWeight::Faint, MapWeight::Strong,
-                                           MapWeight::Faint}));
+    const QList<double> after = inkOfEach(pictureOf(drawn));
+    EXPECT_GE(after[0], before[0]);
+    EXPECT_GE(after[1], before[1]);
+    EXPECT_LT(after[2], before[2] / 2);
+    EXPECT_GT(after[3], before[3]);
+    EXPECT_LT(after[4], before[4]);
     drawn.choose(std::nullopt);
-    EXPECT_EQ(weights(), usual);
+    EXPECT_EQ(pictureOf(drawn), usual);
 }
 
 TEST_F(MapSceneTest, LetsABoxGrowAboutItsMiddleAndShrinkAgain)

@@ -377,16 +377,16 @@ TEST_F(EditSurfaceTest, SelTextOverASelectionTakesTheFormatOfItsFirstCharacter)
 
 TEST_F(EditSurfaceTest, TheThemesTextColourFollowsThePalette)
 {
-    surface.setText(QStringLiteral("a"));
+    surface.setText(QStringLiteral("\u2588"));
     surface.setFormat(0, 1, {red, {}, {}});
-    EXPECT_EQ(surface.drawnColour(0), QColor(255, 0, 0));
+    EXPECT_EQ(drawnColour(0), QColor(255, 0, 0));
     surface.setFormat(0, 1, {navy, {}, {}});
-    EXPECT_EQ(surface.drawnColour(0), QColor(0, 0, 128));
+    EXPECT_EQ(drawnColour(0), QColor(0, 0, 128));
     surface.setFormat(0, 1, {WindowTextColour, {}, {}});
     QPalette green = surface.palette();
     green.setColor(QPalette::Text, Qt::green);
     surface.setPalette(green);
-    EXPECT_EQ(surface.drawnColour(0), QColor(Qt::green));
+    EXPECT_EQ(drawnColour(0), QColor(Qt::green));
 }
 
 TEST_F(EditSurfaceTest, NothingIsUndoneByTheWidgetItself)

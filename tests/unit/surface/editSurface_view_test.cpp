@@ -335,12 +335,13 @@ TEST_F(EditSurfaceView, AColourIsPainted)
 TEST_F(EditSurfaceView, TabsAreFourCharactersWide)
 {
     surface.setText(QStringLiteral("\tx\ty"));
-    const double blank = QFontMetricsF(surface.font()).horizontalAdvance(u' ');
-    const int start = surface.positionOfCharacter(0).left();
-    EXPECT_NEAR(surface.positionOfCharacter(1).left() - start, 4 * blank, 1);
-    EXPECT_NEAR(surface.positionOfCharacter(3).left() - start, 8 * blank, 1);
-    surface.setFont(QFont(surface.font().family(), 20));
-    EXPECT_NEAR(surface.tabStopDistance(), 4 * QFontMetricsF(surface.font()).horizontalAdvance(u' '), 1);
+    for (const int size : {surface.font().pointSize(), 20}) {
+        surface.setFont(QFont(surface.font().family(), size));
+        const double blank = QFontMetricsF(surface.font()).horizontalAdvance(u' ');
+        const int start = surface.positionOfCharacter(0).left();
+        EXPECT_NEAR(surface.positionOfCharacter(1).left() - start, 4 * blank, 1) << size;
+        EXPECT_NEAR(surface.positionOfCharacter(3).left() - start, 8 * blank, 1) << size;
+    }
 }
 
 TEST_F(EditSurfaceView, TheFontHasOneWidthForAllCharacters)
@@ -352,8 +353,8 @@ TEST_F(EditSurfaceView, DefaultColoursFollowTheGroundAndAnUsersOwnStay)
 {
     constexpr ColourValue Navy = 8388608;
     constexpr ColourValue Own = 255;
-    const auto drawn = [this](int position) { return surface.drawnColour(position); };
-    surface.setText(QStringLiteral("ab"));
+    const auto drawn = [this](int position) { return drawnColour(position); };
+    surface.setText(QStringLiteral("\u2588\u2588"));
     surface.setFormat(0, 1, {Navy, true, {}});
     surface.setFormat(1, 1, {Own, {}, {}});
     EXPECT_EQ(drawn(0), QColor(0, 0, 128));

@@ -40,6 +40,13 @@ protected:
         EXPECT_TRUE(surface.setSelStart(start));
         EXPECT_TRUE(surface.setSelLength(length));
     }
+    /// The colour in the middle of a character, which has to be a full block: any other leaves some of its ground free.
+    QColor drawnColour(qsizetype position)
+    {
+        const QRect caret = surface.positionOfCharacter(position);
+        const int half = surface.fontMetrics().horizontalAdvance(QChar(0x2588)) / 2;
+        return surface.grab().toImage().pixelColor(caret.left() + half, caret.center().y());
+    }
     std::pair<qsizetype, qsizetype> selection() const { return {surface.SelStart(), surface.SelLength()}; }
 
     EditSurface surface;

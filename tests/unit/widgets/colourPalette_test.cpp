@@ -52,19 +52,19 @@ TEST_F(ColourPaletteTest, PicksNothingWhereThePressWasOnAnotherCell)
     QTest::mouseRelease(&palette, Qt::LeftButton, {}, palette.rectOf(2).center());
     QTest::mouseClick(&palette, Qt::RightButton, {}, palette.rectOf(2).center());
     EXPECT_EQ(picks.count(), 0);
-    EXPECT_EQ(palette.currentCell(), 0);
+    EXPECT_EQ(palette.currentColour(), 10U);
 }
 
 TEST_F(ColourPaletteTest, FollowsTheArrowKeysAsFarAsThereAreCells)
 {
     const struct {
         Qt::Key key;
-        int cell;
-    } steps[] = {{Qt::Key_Left, 0}, {Qt::Key_Up, 0},   {Qt::Key_Right, 1}, {Qt::Key_Down, 4},
-                 {Qt::Key_Down, 4}, {Qt::Key_Left, 3}, {Qt::Key_Down, 6},  {Qt::Key_Right, 6}};
+        ColourValue colour;
+    } steps[] = {{Qt::Key_Left, 10}, {Qt::Key_Up, 10},   {Qt::Key_Right, 20}, {Qt::Key_Down, 50},
+                 {Qt::Key_Down, 50}, {Qt::Key_Left, 40}, {Qt::Key_Down, 70},  {Qt::Key_Right, 70}};
     for (const auto &step : steps) {
         QTest::keyClick(&palette, step.key);
-        EXPECT_EQ(palette.currentCell(), step.cell);
+        EXPECT_EQ(palette.currentColour(), step.colour);
     }
     EXPECT_EQ(picks.count(), 0);
     QTest::keyClick(&palette, Qt::Key_Return);
@@ -79,7 +79,7 @@ TEST_F(ColourPaletteTest, TellsTheColourUnderTheMouse)
     EXPECT_FALSE(palette.pointedColour());
     QTest::mouseMove(&palette, palette.rectOf(2).center());
     EXPECT_EQ(palette.pointedColour(), 30U);
-    EXPECT_EQ(palette.currentCell(), 0) << "the mouse alone chooses nothing";
+    EXPECT_EQ(palette.currentColour(), 10U) << "the mouse alone chooses nothing";
     QEvent leave(QEvent::Leave);
     QCoreApplication::sendEvent(&palette, &leave);
     EXPECT_FALSE(palette.pointedColour());
