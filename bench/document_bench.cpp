@@ -126,7 +126,9 @@ double worstScreenTime(const QString &text)
     double worst = 0;
     for (int i = 0; i < Places; ++i) {
         const qsizetype at = i * qsizetype(7'654'321) % (text.size() - Screen);
-        worst = std::max(worst, medianTime(3, [&] { formatsNearby(text, at, at + Screen, ColouringOptions(), true); }));
+        worst = std::max(worst, medianTime(3, [&] {
+                             formatsNearby(text, at, at + Screen, ColouringOptions(), {.HabitScripts = true});
+                         }));
     }
     return worst;
 }

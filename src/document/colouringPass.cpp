@@ -1,6 +1,5 @@
 #include "document/colouringPass.h"
 
-#include "common/habitEffects.h"
 #include "common/mainWindow.h"
 #include "common/programState.h"
 #include "document/frmWrite.h"
@@ -114,9 +113,10 @@ void ColouringPass::paint()
 QList<FormatRange> ColouringPass::formats() const
 {
     const ColouringOptions &options = m_context.mainWindow->colouring;
-    const bool asPage =
-        coloursScripts(m_context.state.habits) && m_edit->textLength() < UncolouredLength && !m_form->CancelColouring;
-    return asPage ? pageFormats(m_edit->Text(), options) : m_scanner.paints().formats(options);
+    if (m_edit->textLength() < UncolouredLength && !m_form->CancelColouring)
+        if (const auto asPage = pageFormats(m_edit->Text(), options, m_context.state.habits))
+            return *asPage;
+    return m_scanner.paints().formats(options);
 }
 
 void ColouringPass::restoreView()

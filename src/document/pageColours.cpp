@@ -51,8 +51,8 @@ qsizetype behindReference(QStringView text, qsizetype from)
 }
 } // namespace
 
-PageColours::PageColours(const QString &text, const ColouringOptions &options, bool readsScripts)
-    : m_text(text), m_options(options), m_readsScripts(readsScripts)
+PageColours::PageColours(const QString &text, const ColouringOptions &options, const Habits &habits)
+    : m_text(text), m_options(options), m_readsScripts(habits.HabitScripts)
 {
 }
 
@@ -246,10 +246,10 @@ QList<FormatRange> PageColours::formats(qsizetype from) const
 }
 
 QList<FormatRange> formatsNearby(const QString &text, qsizetype from, qsizetype to, const ColouringOptions &options,
-                                 bool readsScripts)
+                                 const Habits &habits)
 {
     const qsizetype start = std::max<qsizetype>(0, from - Nearby);
-    PageColours page(text.mid(start, to - start + Ahead), options, readsScripts);
+    PageColours page(text.mid(start, to - start + Ahead), options, habits);
     page.startNear(from - start);
     QList<FormatRange> formats = page.advance(to - start, from - start);
     for (FormatRange &range : formats)
@@ -261,7 +261,10 @@ QList<FormatRange> formatsNearby(const QString &text, qsizetype from, qsizetype 
     return formats;
 }
 
-QList<FormatRange> pageFormats(const QString &text, const ColouringOptions &options)
+std::optional<QList<FormatRange>> pageFormats(const QString &text, const ColouringOptions &options,
+                                              const Habits &habits)
 {
-    return PageColours(text, options, true).advance(text.size());
+    if (!habits.HabitScripts)
+        return std::nullopt;
+    return PageColours(text, options, habits).advance(text.size());
 }

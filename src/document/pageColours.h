@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/colouringOptions.h"
+#include "common/habits.h"
 #include "common/html/tokenizer.h"
 #include "document/codeColours.h"
 
@@ -11,9 +12,9 @@
 class PageColours
 {
 public:
-    /// With `readsScripts`, scripts and styles are coloured as what they are, and character references, too; without,
-    /// what stands in them is taken for markup.
-    PageColours(const QString &text, const ColouringOptions &options, bool readsScripts);
+    /// The rules say whether scripts and styles are coloured as what they are, and character references, too; else what
+    /// stands in them is taken for markup.
+    PageColours(const QString &text, const ColouringOptions &options, const Habits &habits);
 
     /// Goes to a place in front of `position` from which on, as far as can be told from what is nearby, the text can be
     /// read as from its start.
@@ -56,7 +57,9 @@ private:
 /// The formats from the start of a line to another place of a text, as far as they can be told from what is nearby.
 /// However long the text, or any one thing in it, no more is looked at.
 QList<FormatRange> formatsNearby(const QString &text, qsizetype from, qsizetype to, const ColouringOptions &options,
-                                 bool readsScripts);
+                                 const Habits &habits);
 
-/// The same for the whole text at once.
-QList<FormatRange> pageFormats(const QString &text, const ColouringOptions &options);
+/// The same for the whole text at once; nothing where scripts are taken for markup, which the pass over a whole text
+/// has its own way of doing.
+std::optional<QList<FormatRange>> pageFormats(const QString &text, const ColouringOptions &options,
+                                              const Habits &habits);

@@ -1,6 +1,5 @@
 #include "document/slicedColouring.h"
 
-#include "common/habitEffects.h"
 #include "common/mainWindow.h"
 #include "common/programState.h"
 #include "document/pageColours.h"
@@ -47,8 +46,7 @@ void SlicedColouring::begin()
     tmrColourSoon->setEnabled(false);
     if (!m_edit)
         return;
-    m_page = std::make_unique<PageColours>(m_edit->Text(), m_context.mainWindow->colouring,
-                                           coloursScripts(m_context.state.habits));
+    m_page = std::make_unique<PageColours>(m_edit->Text(), m_context.mainWindow->colouring, m_context.state.habits);
     if (m_page->text().size() <= AtOnce) {
         m_edit->setFormats(m_page->advance(AtOnce));
         m_page.reset();
@@ -99,6 +97,6 @@ void SlicedColouring::colourView()
         std::min(from + longest, m_edit->characterFromLine(lines.constLast().line + 1).value_or(m_page->text().size()));
     if (to <= m_page->place())
         return;
-    m_edit->setFormats(formatsNearby(m_page->text(), from, to, m_context.mainWindow->colouring,
-                                     coloursScripts(m_context.state.habits)));
+    m_edit->setFormats(
+        formatsNearby(m_page->text(), from, to, m_context.mainWindow->colouring, m_context.state.habits));
 }

@@ -2,8 +2,8 @@
 #include "files/documentFiles.h"
 
 #include "common/document.h"
+#include "common/fileBook.h"
 #include "common/fileFormatText.h"
-#include "common/habitEffects.h"
 #include "common/mainWindow.h"
 #include "common/pageCharset.h"
 #include "common/paths.h"
@@ -76,7 +76,7 @@ void DocumentFiles::ShowOpenDialog()
                                                    .FilterIndex = PreselectedRow,
                                                    .InitDir = workingFolder(m_context.services),
                                                    .FileName = {},
-                                                   .severalFiles = takesSeveralFiles(m_context.state.habits),
+                                                   .severalFiles = fileBook(m_context.state.habits).severalFiles,
                                                    .NearDir = folderInFront()});
     if (!chosen)
         return;

@@ -1,5 +1,4 @@
 // The main window's bars: showing and hiding them, the status bar, the document selector and the lists.
-#include "common/habitEffects.h"
 #include "common/programState.h"
 #include "frame/frmMdi.h"
 
@@ -161,7 +160,7 @@ void frmMdi::showRecentFiles(const QStringList &captions)
 
 void frmMdi::addDocumentTab(const QString &key, const QString &caption)
 {
-    const bool comesBack = tabsKeepTheirPlace(context().state.habits) && key == m_removedTab.key;
+    const bool comesBack = context().state.habits.HabitScripts && key == m_removedTab.key;
     const int place = comesBack ? m_removedTab.place : tabDocSel->count();
     if (tabDocSel->addKeyedTab(key, caption, programIcon(QStringLiteral("file-code")), place))
         tabDocSel->setTabToolTip(*tabDocSel->find(key), caption);

@@ -1,6 +1,5 @@
 #include "insertion/frmInsHyperlink.h"
 
-#include "common/habitEffects.h"
 #include "common/programState.h"
 #include "insertion/attributeText.h"
 #include "insertion/imageFilter.h"
@@ -166,7 +165,7 @@ void frmInsHyperlink::Command3_Click()
 
 std::optional<QString> frmInsHyperlink::markup()
 {
-    if (imagesNeedSource(context().state.habits) && Option2->isChecked() && txtImagePath->text().isEmpty())
+    if (Option2->isChecked() && lacksSource(txtImagePath->text()))
         return refused(QStringLiteral("No image path has been specified"), txtImagePath);
     cboUrl->setEditText(m_pathRules.applied(cboUrl->currentText()));
     return hyperlinkMarkup({.kind = cboLinkType->currentText(),

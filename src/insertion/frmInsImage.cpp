@@ -1,9 +1,6 @@
 #include "insertion/frmInsImage.h"
 
-#include "common/habitEffects.h"
 #include "common/mainWindow.h"
-#include "common/numbers.h"
-#include "common/programState.h"
 #include "insertion/imageFilter.h"
 #include "insertion/tagValues.h"
 #include "project/modProjectFileCtrl.h"
@@ -122,11 +119,9 @@ void frmInsImage::readTag()
     const std::optional<TagUnderCaret> tag = takeTag(readImageTag);
     if (!tag)
         return;
-    LeftoverAttributes = tag->leftoverAttributes;
-    const bool complete = imageFieldsAreComplete(context().state.habits);
-    if (complete)
-        LeftoverAttributes.remove(QLatin1String(" alt=\"\"")); // the field has it
-    showFields(complete ? imageFieldsWithTheirUnits(*tag) : imageFields(*tag));
+    const ImageFields fields = book().imageFields(*tag);
+    LeftoverAttributes = fields.leftoverAttributes;
+    showFields(fields);
     m_knownSrc = cboSrc->currentText();
     previewOnceShown();
 }
@@ -164,7 +159,7 @@ ImageFields frmInsImage::fields() const
 
 std::optional<QString> frmInsImage::markup()
 {
-    if (imagesNeedSource(context().state.habits) && cboSrc->currentText().isEmpty())
+    if (lacksSource(cboSrc->currentText()))
         return refused(QStringLiteral("No image path has been specified"), cboSrc);
     cboSrc->setEditText(m_pathRules.applied(cboSrc->currentText()));
     return imageMarkup(fields());
@@ -194,9 +189,7 @@ void frmInsImage::cmdUseActual_Click()
 
 void frmInsImage::leaveSize(NumberField *field)
 {
-    const bool hasItsUnit = imageFieldsAreComplete(context().state.habits) && field->text().endsWith(u'%');
-    if (!field->text().isEmpty() && !hasItsUnit)
-        field->setText(QString::number(wholeNumber(field->text())));
+    field->setText(book().sizeLeft(field->text()));
 }
 
 /// A relative path starts at the document's folder, as a browser takes it.

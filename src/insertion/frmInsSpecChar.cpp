@@ -1,9 +1,10 @@
 #include "insertion/frmInsSpecChar.h"
 
-#include "common/habitEffects.h"
 #include "common/mainWindow.h"
 #include "common/programState.h"
 #include "forms/modLaunchHTMLHelp.h"
+#include "insertion/characterEntity.h"
+#include "insertion/markupBook.h"
 #include "widgets/characterGrid.h"
 #include "widgets/layout.h"
 
@@ -12,20 +13,13 @@
 
 namespace
 {
-constexpr int FirstCode = 32;
-constexpr int LastCode = 255;
 constexpr int Columns = 19;
 const QString HelpTopic = QStringLiteral("::/topics/using/Function_Insert_SpecialChar.htm");
-
-constexpr bool hasEntity(int code)
-{
-    return (code >= FirstCode && code < 127) || (code > 160 && code <= LastCode);
-}
 
 QString gridCharacters()
 {
     QString characters;
-    for (int code = FirstCode; code <= LastCode; ++code)
+    for (int code = FirstEntityCode; code <= LastEntityCode; ++code)
         characters += hasEntity(code) ? QChar(code) : CharacterGrid::NoCharacter;
     return characters;
 }
@@ -39,26 +33,6 @@ QLabel *largeLabel(const QString &name)
     return label;
 }
 } // namespace
-
-QString characterEntity(QChar character)
-{
-    constexpr int FirstUnclosed = 252;
-    const int code = character.unicode();
-    if (!hasEntity(code))
-        return {};
-    if (code == FirstCode)
-        return QStringLiteral("$#160;");
-    return QStringLiteral("&#%1").arg(code) + (code < FirstUnclosed ? QStringLiteral(";") : QString());
-}
-
-QString rightCharacterEntity(QChar character)
-{
-    if (!hasEntity(character.unicode()))
-        return {};
-    if (character == u' ')
-        return QStringLiteral("&nbsp;");
-    return QStringLiteral("&#%1;").arg(character.unicode());
-}
 
 frmInsSpecChar::frmInsSpecChar(ProgramContext &context) : DialogForm(context, QStringLiteral("frmInsSpecChar"))
 {
@@ -92,8 +66,8 @@ void frmInsSpecChar::grdCharacters_Click()
 {
     const QString character = grdCharacters->selectedCharacter();
     lblCharacter->setText(character);
-    const auto entity = writesTodaysMarkup(context().state.habits) ? rightCharacterEntity : characterEntity;
-    lblDecChr->setText(character.isEmpty() ? QString() : entity(character[0]));
+    const MarkupBook &book = markupBook(context().state.habits);
+    lblDecChr->setText(character.isEmpty() ? QString() : book.entity(character[0]));
 }
 
 /// A cell without an entity inserts nothing: what is selected in the document stays.

@@ -7,12 +7,6 @@
 class CharacterGrid;
 class QLabel;
 
-/// The entity that the dialog writes for a character: nothing for codes that have none. By intent the blank has a
-/// dollar sign where the others have an ampersand, and the last four codes go without their semicolon.
-QString characterEntity(QChar character);
-/// The same as it has to be: all of them closed, and the blank by its name.
-QString rightCharacterEntity(QChar character);
-
 /// The characters of the codes 32 to 255, to be written as entities one after the other.
 class frmInsSpecChar final : public DialogForm
 {

@@ -1,6 +1,5 @@
 #include "insertion/frmInsVideo.h"
 
-#include "common/habitEffects.h"
 #include "common/programState.h"
 #include "insertion/attributeText.h"
 #include "insertion/sizeAttribute.h"
@@ -190,7 +189,7 @@ std::optional<QString> frmInsVideo::markup()
                         .verticalSpacing = txtVrtSpace->text(),
                         .startsOnOpen = chkFileOpen->isChecked(),
                         .startsOnMouseOver = chkMouseOver->isChecked(),
-                        .closesStart = closesVideoStart(context().state.habits),
+                        .closesStart = book().closesVideoStart(),
                         .controls = chkControls->isChecked(),
                         .repeatsForever = chkRptEver->isChecked(),
                         .loop = txtLoop->text(),

@@ -66,6 +66,7 @@ ImageFields imageFields(const TagUnderCaret &tag)
 ImageFields imageFieldsWithTheirUnits(const TagUnderCaret &tag)
 {
     ImageFields fields = imageFields(tag);
+    fields.leftoverAttributes.remove(QLatin1String(" alt=\"\"")); // the field has it
     fields.width = tag.value(QStringLiteral("width"));
     fields.height = tag.value(QStringLiteral("height"));
     const auto canBePercent = [](const QString &size) { return size.isEmpty() || size.endsWith(u'%'); };

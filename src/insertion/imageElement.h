@@ -27,5 +27,5 @@ std::optional<TagUnderCaret> readImageTag(const QString &text, qsizetype selStar
 /// as it was read makes pixels of a percentage, and the reverse. Width and height share the unit; the height decides.
 ImageFields imageFields(const TagUnderCaret &tag);
 /// The same with the units that the tag has. Where width and height have a unit each, the one in percent keeps its sign
-/// and the unit of both is pixels.
+/// and the unit of both is pixels. An empty `alt` is the field's, and left over no more.
 ImageFields imageFieldsWithTheirUnits(const TagUnderCaret &tag);

@@ -1,6 +1,6 @@
 #include "insertion/insertionForm.h"
 
-#include "common/habitEffects.h"
+#include "common/fileBook.h"
 #include "common/mainWindow.h"
 #include "common/paths.h"
 #include "common/programState.h"
@@ -17,16 +17,6 @@
 namespace
 {
 constexpr int CharactersOfAPath = 40;
-
-/// The same tag as it is once it is put right: values without quotes, or in single ones, are known then, too.
-TagUnderCaret rightTag(InsertionForm::TagReader read, const TagUnderCaret &tag, const QString &text)
-{
-    const QString right = rightMarkup(text.sliced(tag.start, tag.length), MarkupLanguage::Html);
-    TagUnderCaret again = read(right, 1, 0).value_or(tag);
-    again.start = tag.start;
-    again.length = tag.length;
-    return again;
-}
 } // namespace
 
 InsertionForm::InsertionForm(ProgramContext &context, const Design &design)
@@ -39,8 +29,18 @@ void InsertionForm::prepareLoad()
 {
     DialogForm::prepareLoad();
     setCaption(m_design.caption);
-    if (dialogsBeginAnew(context().state.habits))
+    if (book().dialogsBeginAnew())
         forgetLastUse();
+}
+
+const MarkupBook &InsertionForm::book() const
+{
+    return markupBook(context().state.habits);
+}
+
+bool InsertionForm::lacksSource(const QString &image) const
+{
+    return image.isEmpty() && (book().imagesNeedSource() || fileBook(context().state.habits).imagesNeedSource);
 }
 
 ui::Node InsertionForm::dialogButtons()
@@ -88,9 +88,8 @@ std::optional<TagUnderCaret> InsertionForm::takeTag(TagReader read)
         return std::nullopt;
     TextSurface &edit = document->txtEdit();
     std::optional<TagUnderCaret> tag = read(edit.Text(), edit.SelStart(), edit.SelLength());
-    if (tag && dialogsBeginAnew(context().state.habits))
-        tag = rightTag(read, *tag, edit.Text());
     if (tag) {
+        tag = book().tagForFields(*tag, read, edit.Text());
         edit.setSelStart(tag->start);
         edit.setSelLength(tag->length);
     }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "forms/dialogForm.h"
-#include "insertion/tagUnderCaret.h"
+#include "insertion/markupBook.h"
 
 #include <functional>
 #include <optional>
@@ -42,10 +42,14 @@ public:
     InsertionForm(ProgramContext &context, const Design &design);
 
     /// How a dialog that edits what it finds reads the element around the caret of a text: see ReadTagUnderCaret.
-    using TagReader = std::optional<TagUnderCaret> (*)(const QString &text, qsizetype selStart, qsizetype selLength);
+    using TagReader = MarkupBook::TagReader;
 
 protected:
     void prepareLoad() override;
+
+    const MarkupBook &book() const; ///< that holds now
+    /// Whether an image has to have its file named, and has not.
+    bool lacksSource(const QString &image) const;
 
     /// Applies the path rules where the dialog has them and builds the markup from the fields. Nothing keeps the dialog
     /// open, as where a field is missing; then the user has been told.

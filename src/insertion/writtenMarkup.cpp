@@ -1,25 +1,25 @@
 #include "insertion/writtenMarkup.h"
 
-#include "common/habitEffects.h"
 #include "common/mainWindow.h"
 #include "common/programState.h"
 #include "forms/programContext.h"
+#include "insertion/markupBook.h"
 
 namespace
 {
-MarkupLanguage languageOfPage(const ProgramContext &context)
+QString activePage(const ProgramContext &context)
 {
     Document *document = context.mainWindow->activeDocument();
-    return document ? markupLanguage(document->txtEdit().Text()) : MarkupLanguage::Html;
+    return document ? document->txtEdit().Text() : QString();
 }
 } // namespace
 
 QString writtenMarkup(const ProgramContext &context, const QString &made)
 {
-    return writesTodaysMarkup(context.state.habits) ? rightMarkup(made, languageOfPage(context)) : made;
+    return markupBook(context.state.habits).written(made, activePage(context));
 }
 
 MarkupPair writtenAround(const ProgramContext &context, const MarkupPair &made)
 {
-    return writesTodaysMarkup(context.state.habits) ? rightMarkupAround(made, languageOfPage(context)) : made;
+    return markupBook(context.state.habits).writtenAround(made, activePage(context));
 }

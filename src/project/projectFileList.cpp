@@ -2,7 +2,7 @@
 #include "project/modProjectFileCtrl.h"
 
 #include "common/addressText.h"
-#include "common/habitEffects.h"
+#include "common/fileBook.h"
 #include "common/paths.h"
 #include "common/programState.h"
 #include "common/siteProject.h"
@@ -17,8 +17,7 @@ QStringList extensionsOf(ProjectFiles kind, const Habits &habits)
 {
     if (kind == ProjectFiles::Pages)
         return {QStringLiteral("htm"), QStringLiteral("html")};
-    const QString everyKind = knowsEveryPicture(habits) ? QStringLiteral(" png svg webp avif apng") : QString();
-    return (QStringLiteral("gif jpg jpeg bmp dib ico cur") + everyKind).split(u' ');
+    return fileBook(habits).pictureKinds;
 }
 
 /// The same files as addresses from the root of the site, which the project's folder is; those elsewhere have none.

@@ -1,7 +1,7 @@
 #include "shell/commandLine.h"
 
+#include "common/fileBook.h"
 #include "common/fileCommands.h"
-#include "common/habitEffects.h"
 #include "common/paths.h"
 
 #include <QDir>
@@ -164,13 +164,13 @@ QList<CommandLineFile> commandLineFiles(const QString &text, const std::function
 
 QString commandLineOf(const QStringList &arguments, const Habits &habits)
 {
-    return takesSeveralFiles(habits) ? commandLineOfFiles(arguments) : commandLineText(arguments);
+    return fileBook(habits).severalFiles ? commandLineOfFiles(arguments) : commandLineText(arguments);
 }
 
 QList<CommandLineFile> filesOfCommandLine(const QString &line, const Habits &habits,
                                           const std::function<bool(const QString &)> &exists)
 {
-    return takesSeveralFiles(habits) ? commandLineFiles(line, exists) : QList{commandLineFile(line)};
+    return fileBook(habits).severalFiles ? commandLineFiles(line, exists) : QList{commandLineFile(line)};
 }
 
 void OpenCommandLineFile(FileCommands &files, const CommandLineFile &file)

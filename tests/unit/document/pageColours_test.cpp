@@ -5,6 +5,7 @@
 namespace
 {
 const ColouringOptions Options;
+const Habits Today{.HabitScripts = true};
 
 /// A letter for each character of a text: T tag, A attribute, V value, C comment, S server code, L link, "." text.
 QString lettersOf(const QList<FormatRange> &formats, qsizetype length)
@@ -28,7 +29,7 @@ QString lettersOf(const QList<FormatRange> &formats, qsizetype length)
 QString letters(const char *text)
 {
     const QString page = QString::fromLatin1(text);
-    return lettersOf(pageFormats(page, Options), page.size());
+    return lettersOf(*pageFormats(page, Options, Today), page.size());
 }
 
 struct Row {
@@ -88,7 +89,7 @@ TEST(PageColours, OfStyles)
 TEST(PageColours, TakeScriptsForMarkupWhereTheyAreNotRead)
 {
     const QString page = QStringLiteral("<script>a<b>c</script>");
-    PageColours colours(page, Options, false);
+    PageColours colours(page, Options, Habits());
     EXPECT_EQ(lettersOf(colours.advance(page.size()), page.size()), QStringLiteral("TTTTTTTT.TTT.TTTTTTTTT"));
 }
 
@@ -100,16 +101,16 @@ TEST(PageColours, AreTheSameInPiecesAndFromNearby)
             QStringLiteral("<p class=\"c%1\">text &amp; more</p>\r\n<script>\r\nvar a = \"<b>\"; // %1\r\n</script>\r\n"
                            "<!-- <i>\r\n%1 -->\r\n<style>\r\na { b: c }\r\n</style>\r\n")
                 .arg(i);
-    const QString whole = lettersOf(pageFormats(page, Options), page.size());
+    const QString whole = lettersOf(*pageFormats(page, Options, Today), page.size());
     for (const qsizetype piece : {1, 7, 100, 5000}) {
-        PageColours colours(page, Options, true);
+        PageColours colours(page, Options, Today);
         QList<FormatRange> formats;
         while (!colours.isAtEnd())
             formats += colours.advance(colours.place() + piece);
         EXPECT_EQ(lettersOf(formats, page.size()), whole) << piece;
     }
     for (qsizetype at = 0; at < page.size(); at += 997) {
-        PageColours colours(page, Options, true);
+        PageColours colours(page, Options, Today);
         colours.startNear(at);
         EXPECT_LE(colours.place(), at);
         const qsizetype from = colours.place();
@@ -125,11 +126,11 @@ TEST(FormatsNearby, AreThoseOfTheWholeTextAndNoOthers)
         page += QStringLiteral("<p class=\"c%1\">text <%= %1 %> more</p>\r\n<SCRIPT>\r\nvar a = \"<b>\"; // %1\r\n"
                                "</SCRIPT>\r\n<!-- <i>\r\n%1 www.a -->\r\n")
                     .arg(i);
-    const QString whole = lettersOf(pageFormats(page, Options), page.size());
+    const QString whole = lettersOf(*pageFormats(page, Options, Today), page.size());
     for (qsizetype at = 0; at < page.size(); at += 997) {
         const qsizetype from = page.lastIndexOf(u'\n', at) + 1;
         const qsizetype to = std::min(from + 3000, page.size());
-        const QList<FormatRange> formats = formatsNearby(page, from, to, Options, true);
+        const QList<FormatRange> formats = formatsNearby(page, from, to, Options, Today);
         qsizetype covered = from;
         for (const FormatRange &range : formats) {
             EXPECT_EQ(range.start, covered);
@@ -146,7 +147,7 @@ TEST(FormatsNearby, EndWithinOneLongThing)
     for (const char *opening : {"<!--", "<p id=\"", "<script>", "<p>", "<% "}) {
         const QString page = QLatin1String(opening) + filler;
         for (const qsizetype from : {0, 1000, 200'000}) {
-            const QList<FormatRange> formats = formatsNearby(page, from, from + 5000, Options, true);
+            const QList<FormatRange> formats = formatsNearby(page, from, from + 5000, Options, Today);
             ASSERT_FALSE(formats.isEmpty()) << opening;
             EXPECT_EQ(formats.first().start, from) << opening;
             EXPECT_EQ(formats.last().start + formats.last().length, from + 5000) << opening;
@@ -160,7 +161,7 @@ TEST(PageColours, GoOnWhereAPageHoldsOneLongThing)
     const QString page = QStringLiteral("<!--") + filler + QStringLiteral("--><p id=\"") + filler +
                          QStringLiteral("\">") + filler + QStringLiteral("<script>'a';") + filler +
                          QStringLiteral("</script><i");
-    PageColours colours(page, Options, true);
+    PageColours colours(page, Options, Today);
     qsizetype covered = 0;
     while (!colours.isAtEnd())
         for (const FormatRange &range : colours.advance(colours.place() + 1000)) {

@@ -13,7 +13,7 @@ QString textOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-/// What stands before the brackets of a declaration, or behind its type.
+/// What a pattern finds in a header.
 QStringList namesIn(const QString &header, const QString &pattern)
 {
     QStringList names;
@@ -52,21 +52,6 @@ TEST(Habits, AreEachAskedForInTwoFilesAtMost)
     for (const QString &rule : rules) {
         EXPECT_GE(files[rule].size(), 1) << qPrintable(rule) << " changes nothing";
         EXPECT_LE(files[rule].size(), 2) << qPrintable(rule + QStringLiteral(": ") + files[rule].join(u' '));
-    }
-}
-
-/// Rules with several effects: each of these has a name of its own.
-TEST(Habits, AreAskedForByTheirEffectsInTwoFilesAtMost)
-{
-    const QStringList effects =
-        namesIn(QStringLiteral("common/habitEffects.h"), QStringLiteral("constexpr bool (\\w+)\\("));
-    EXPECT_GE(effects.size(), 10);
-    const QMap<QString, QStringList> files = filesThatAsk(effects);
-    for (const QString &effect : effects) {
-        QStringList asking = files[effect];
-        asking.removeAll(QStringLiteral("common/habitEffects.h"));
-        EXPECT_GE(asking.size(), 1) << qPrintable(effect) << " changes nothing";
-        EXPECT_LE(asking.size(), 2) << qPrintable(effect + QStringLiteral(": ") + asking.join(u' '));
     }
 }
 

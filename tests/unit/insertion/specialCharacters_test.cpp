@@ -1,4 +1,4 @@
-#include "insertion/frmInsSpecChar.h"
+#include "insertion/characterEntity.h"
 #include "insertion/modColourProcesses.h"
 
 #include <QSet>
