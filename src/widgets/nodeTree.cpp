@@ -20,8 +20,10 @@ NodeTree::NodeTree(QWidget *parent) : QTreeView(parent), m_own(std::make_shared<
     header()->setSectionResizeMode(QHeaderView::ResizeToContents); // long texts scroll sideways
     header()->setStretchLastSection(false);
     connect(this, &QTreeView::clicked, this, [this](const QModelIndex &index) { Q_EMIT nodeClicked(nodeOf(index)); });
-    connect(this, &QTreeView::doubleClicked, this,
-            [this](const QModelIndex &index) { Q_EMIT nodeDoubleClicked(nodeOf(index)); });
+    connect(this, &QTreeView::doubleClicked, this, [this](const QModelIndex &index) {
+        if (index.isValid()) // the view tells of clicks beside a row's text, too
+            Q_EMIT nodeDoubleClicked(nodeOf(index));
+    });
 }
 
 NodeTree::~NodeTree()

@@ -176,6 +176,19 @@ TEST_F(NodeTreeTest, TellsClicksDoubleClicksAndEnter)
     EXPECT_EQ(enters[0][0].toInt(), 0);
 }
 
+TEST_F(NodeTreeTest, TellsNothingOfClicksBesideARow)
+{
+    QSignalSpy clicks(&tree, &NodeTree::nodeClicked);
+    QSignalSpy doubleClicks(&tree, &NodeTree::nodeDoubleClicked);
+    const QPoint beside(tree.viewport()->width() - 5, pointOf(3).y());
+    ASSERT_FALSE(tree.indexAt(beside).isValid());
+    QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, beside);
+    QTest::mouseDClick(tree.viewport(), Qt::LeftButton, {}, beside);
+    QTest::mouseDClick(tree.viewport(), Qt::LeftButton, {}, {5, tree.viewport()->height() - 5});
+    EXPECT_EQ(clicks.count(), 0);
+    EXPECT_EQ(doubleClicks.count(), 0);
+}
+
 TEST_F(NodeTreeTest, FoldsAndUnfoldsByKeyboard)
 {
     tree.selectNode(0);
