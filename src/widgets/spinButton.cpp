@@ -32,7 +32,7 @@ QToolButton *SpinButton::arrow(Qt::ArrowType type, const QString &name, int step
     button->setAutoRepeat(true);
     button->setFocusPolicy(Qt::NoFocus);
     button->setAccessibleName(name);
-    connect(button, &QToolButton::clicked, this, [this, step] { setValue(Value() + step); });
+    connect(button, &QToolButton::clicked, this, [this, step] { count(step); });
     return button;
 }
 
@@ -56,6 +56,13 @@ void SpinButton::setValue(int value)
         m_buddy->setText(QString::number(std::clamp(value, m_minimum, m_maximum)));
 }
 
+/// The largest number goes no further.
+void SpinButton::count(int step)
+{
+    const qlonglong next = qlonglong(Value()) + step;
+    setValue(static_cast<int>(std::clamp<qlonglong>(next, m_minimum, m_maximum)));
+}
+
 QWidget *SpinButton::upButton() const
 {
     return m_up;
@@ -72,7 +79,7 @@ bool SpinButton::eventFilter(QObject *watched, QEvent *event)
         const auto *key = static_cast<QKeyEvent *>(event);
         const bool up = key->key() == Qt::Key_Up;
         if ((up || key->key() == Qt::Key_Down) && !(key->modifiers() & ~Qt::KeypadModifier)) {
-            setValue(Value() + (up ? 1 : -1));
+            count(up ? 1 : -1);
             return true;
         }
     }

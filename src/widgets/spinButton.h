@@ -29,6 +29,7 @@ protected:
 private:
     QToolButton *arrow(Qt::ArrowType type, const QString &name, int step);
     void sizeArrows();
+    void count(int step);
 
     QPointer<QLineEdit> m_buddy;
     int m_minimum;

@@ -85,6 +85,20 @@ TEST_F(SpinButtonTest, CountsFromTheLimitsWhereTheBuddyIsOutsideThem)
     EXPECT_EQ(spin.Value(), 3) << "more than the limits could hold";
 }
 
+TEST(SpinButton, CountsNoFurtherThanItsLimitsWhereTheseAreTheLargestNumbers)
+{
+    NumberField field(20);
+    SpinButton spin(&field, INT_MIN, INT_MAX);
+    field.setText(str("99999999999"));
+    QTest::mouseClick(spin.upButton(), Qt::LeftButton);
+    EXPECT_EQ(field.text(), str("2147483647"));
+    QTest::mouseClick(spin.downButton(), Qt::LeftButton);
+    EXPECT_EQ(field.text(), str("2147483646"));
+    field.setText(str("-99999999999"));
+    QTest::keyClick(&field, Qt::Key_Down);
+    EXPECT_EQ(field.text(), str("-2147483648"));
+}
+
 TEST(NumberField, TakesDigitsFromTheKeyboardOnly)
 {
     NumberField field(3);
