@@ -23,20 +23,27 @@ bool isOfAscii(char c)
 bool isAscii(QByteArrayView bytes)
 {
     constexpr quint64 highBits = 0x8080808080808080U;
-    const char *place = bytes.begin();
-    for (quint64 eight = 0; bytes.end() - place >= qsizetype(sizeof eight); place += sizeof eight) {
+    quint64 eight = 0;
+    constexpr qsizetype step = sizeof eight;
+    if (bytes.size() < step)
+        return std::all_of(bytes.begin(), bytes.end(), isOfAscii);
+    // The last eight overlap those in front of them, rather than being looked at one by one.
+    for (const char *place = bytes.begin(), *last = bytes.end() - step;; place = std::min(place + step, last)) {
         std::memcpy(&eight, place, sizeof eight);
         if (eight & highBits)
             return false;
+        if (place == last)
+            return true;
     }
-    return std::all_of(place, bytes.end(), isOfAscii);
 }
 
-/// The first of a character from a place on; the end if there is none.
-const char *next(char character, const char *place, const char *end)
+/// The next place from one on at which a line ends; the end if there is none. Lines are short, and there are tens of
+/// thousands of them at a start: most characters are told from an end by one comparison.
+const char *nextEnd(const char *place, const char *end)
 {
-    const void *found = std::memchr(place, character, static_cast<size_t>(end - place));
-    return found ? static_cast<const char *>(found) : end;
+    while (place != end && (static_cast<uchar>(*place) > '\r' || !endsLine(*place)))
+        ++place;
+    return place;
 }
 } // namespace
 
@@ -47,19 +54,14 @@ OwnLines::OwnLines(const QByteArray &bytes) : m_bytes(bytes)
         m_bytes = decodeOwnFile(bytes).toUtf8();
         m_utf8 = true;
     }
-    m_starts.reserve(static_cast<size_t>(std::count(m_bytes.cbegin(), m_bytes.cend(), '\n')) + 2);
+    constexpr qsizetype usualLine = 16; // bytes; to count the lines takes as long as to find them
+    m_starts.reserve(static_cast<size_t>(m_bytes.size() / usualLine) + 2);
     m_starts.push_back(0);
     const char *const start = m_bytes.constData();
     const char *const end = start + m_bytes.size();
-    const char *feed = start; // the next of each; both are looked for by what a processor does fastest
-    const char *carriage = start;
     for (const char *place = start; place != end;) {
-        if (feed <= place)
-            feed = next('\n', place, end);
-        if (carriage <= place)
-            carriage = next('\r', place, end);
-        const char *const found = std::min(feed, carriage);
-        const bool pair = feed != end && feed == carriage + 1;
+        const char *const found = nextEnd(place, end);
+        const bool pair = end - found > 1 && found[0] == '\r' && found[1] == '\n';
         place = found + (pair ? 2 : found == end ? 0 : 1);
         m_starts.push_back(static_cast<int>(place - start));
     }
@@ -69,9 +71,10 @@ QByteArrayView OwnLines::bytesOf(int line) const
 {
     const int start = m_starts[static_cast<size_t>(line)];
     int end = m_starts[static_cast<size_t>(line) + 1];
-    while (end > start && endsLine(m_bytes[end - 1]))
+    const char *const bytes = m_bytes.constData();
+    while (end > start && endsLine(bytes[end - 1]))
         --end;
-    return QByteArrayView(m_bytes).sliced(start, end - start);
+    return {bytes + start, end - start};
 }
 
 QString OwnLines::text(int line) const
