@@ -4,6 +4,7 @@
 #include "widgets/lateIcon.h"
 
 #include <QApplication>
+#include <QGroupBox>
 #include <QPainter>
 #include <QPointer>
 #include <QStyleFactory>
@@ -15,6 +16,8 @@ namespace
 constexpr int RoomBesideCaption = 9;  ///< pixels between a button's caption and its edge, at least
 constexpr double LeastContrast = 3.5; ///< the guidelines ask 3 of the edges of controls; smoothing takes a little off
 constexpr double LeastOfDisabled = 1.8;
+constexpr double LeastOfGroup = 1.4; ///< on light ground
+constexpr int RoomAboveGroup = 3;    ///< pixels between its title and its frame
 
 /// The toolkit's own style highlights the frame of the control that has the focus, and the button that Enter presses.
 bool isLitUp(const QStyleOption &option)
@@ -83,6 +86,21 @@ void outlineTab(QPainter &painter, const QStyleOptionTab &tab)
     painter.restore();
 }
 
+/// The toolkit draws it with a picture, which brings all readers of pictures into memory, and on black leaves hardly a
+/// trace.
+void drawGroup(QPainter &painter, const QPalette &palette, const QRect &frame)
+{
+    constexpr int ShadeOfInside = 5; // of 255
+    QColor inside = palette.color(QPalette::WindowText);
+    inside.setAlpha(ShadeOfInside);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(groupOutline(palette));
+    painter.setBrush(inside);
+    painter.drawRoundedRect(edgeOf(frame), 2, 2);
+    painter.restore();
+}
+
 /// The circle that the toolkit's style draws of an option.
 QRectF circleIn(const QRect &rect)
 {
@@ -128,9 +146,23 @@ QColor focusOnDark(const QPalette &palette)
                      {palette.color(QPalette::Base), palette.color(QPalette::Window)}, LeastOfFocus);
 }
 
+QColor groupOutline(const QPalette &palette)
+{
+    const QColor around = palette.color(QPalette::Window);
+    return toldApart(around, palette.color(QPalette::WindowText), {around},
+                     isDark(palette) ? LeastOfDisabled : LeastOfGroup);
+}
+
 void ReadableStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                                   const QWidget *widget) const
 {
+    if (option && element == PE_FrameGroupBox) {
+        const auto *group = qobject_cast<const QGroupBox *>(widget);
+        const bool isTitled = !group || group->isCheckable() || !group->title().isEmpty();
+        const int title = std::max(pixelMetric(PM_IndicatorHeight, option, widget), option->fontMetrics.height());
+        drawGroup(*painter, option->palette, option->rect.adjusted(0, RoomAboveGroup + (isTitled ? title : 0), 0, 0));
+        return;
+    }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     if (!option || !isDark(option->palette))
         return;
@@ -174,16 +206,15 @@ QSize ReadableStyle::sizeFromContents(ContentsType type, const QStyleOption *opt
 QIcon ReadableStyle::standardIcon(StandardPixmap icon, const QStyleOption *option, const QWidget * /*widget*/) const
 {
     const Qt::LayoutDirection direction = option ? option->direction : QApplication::layoutDirection();
-    QIcon &kept = m_icons[{icon, direction}];
-    if (kept.isNull()) {
-        kept = lateIcon([style = QPointer(this), icon, direction] {
-            QStyleOption asked;
-            asked.direction = direction;
-            return style ? style->QProxyStyle::standardIcon(icon, &asked)
-                         : QApplication::style()->standardIcon(icon, &asked);
-        });
-    }
-    return kept;
+    const auto kept = m_icons.constFind({icon, direction});
+    if (kept != m_icons.constEnd()) // whether it is an empty one is not asked: that would make it
+        return *kept;
+    return *m_icons.insert({icon, direction}, lateIcon([style = QPointer(this), icon, direction] {
+                               QStyleOption asked;
+                               asked.direction = direction;
+                               return style ? style->QProxyStyle::standardIcon(icon, &asked)
+                                            : QApplication::style()->standardIcon(icon, &asked);
+                           }));
 }
 
 void ReadableStyle::polish(QPalette &palette)

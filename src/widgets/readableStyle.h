@@ -12,6 +12,8 @@ bool isDark(const QPalette &palette);
 
 /// The colour of an outline that is to be told from a control's ground and from the window around it, on a dark theme.
 QColor outlineOnDark(const QPalette &palette);
+/// The colour of the frame about a group of controls, on whatever ground.
+QColor groupOutline(const QPalette &palette);
 
 /// The colour of the outline of what has the focus, likewise.
 QColor focusOnDark(const QPalette &palette);

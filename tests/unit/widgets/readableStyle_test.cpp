@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QImage>
 #include <QLineEdit>
 #include <QPainter>
@@ -176,6 +177,43 @@ TEST_F(ReadableStyleTest, GivesTheSameIconUntilThePaletteChanges)
     QPalette palette = theme(true);
     style.polish(palette);
     EXPECT_NE(style.standardIcon(QStyle::SP_TitleBarCloseButton).cacheKey(), first.cacheKey());
+}
+
+/// Each icon is read from a file, and the first one brings the readers of all kinds of pictures along.
+class CountingStyle final : public QProxyStyle
+{
+public:
+    QIcon standardIcon(StandardPixmap icon, const QStyleOption *option, const QWidget *widget) const override
+    {
+        ++icons;
+        return QProxyStyle::standardIcon(icon, option, widget);
+    }
+    mutable int icons = 0;
+};
+
+TEST_F(ReadableStyleTest, MakesAnIconWhenItIsSeenAndNotBefore)
+{
+    auto *base = new CountingStyle;
+    style.setBaseStyle(base);
+    const QIcon asked = style.standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton);
+    style.standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton);
+    EXPECT_EQ(base->icons, 0);
+    EXPECT_FALSE(asked.pixmap(16).isNull());
+    EXPECT_EQ(base->icons, 1);
+}
+
+TEST_F(ReadableStyleTest, ShowsWhatIsGroupedOnEitherGround)
+{
+    for (const bool dark : {false, true}) {
+        QGroupBox group(QStringLiteral("Size"));
+        group.setMinimumSize(100, 100);
+        const double frame = edgeContrast(pictureOf(group, style, dark), dark);
+        EXPECT_GE(frame, dark ? 1.5 : 1.2) << dark;
+        EXPECT_LT(frame, 3.0) << "it is no field";
+    }
+    QPalette black = theme(true);
+    black.setColor(QPalette::Window, Qt::black);
+    EXPECT_GE(contrast(groupOutline(black), Qt::black), 1.5);
 }
 
 TEST_F(ReadableStyleTest, TellsTheButtonThatEnterPressesInTheDark)
