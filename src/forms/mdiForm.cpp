@@ -28,13 +28,17 @@ protected:
         QCoreApplication::sendEvent(this, &changed);
     }
 
-    /// A window that has filled the area from its beginning has no other place yet to go back to.
+    /// A window that has filled the area from its beginning has no other place yet to go back to. One that was made
+    /// small, as a tile of many, stays so: it changes its state when it becomes active, too.
     void changeEvent(QEvent *event) override
     {
         QMdiSubWindow::changeEvent(event);
-        const bool isNormal = !isMaximized() && !isMinimized();
+        if (event->type() != QEvent::WindowStateChange)
+            return;
+        const Qt::WindowStates before = static_cast<QWindowStateChangeEvent *>(event)->oldState();
+        const bool comesBack = before & (Qt::WindowMaximized | Qt::WindowMinimized) && !isMaximized() && !isMinimized();
         const bool collapsed = height() < SmallestSize.height() || width() < SmallestSize.width();
-        if (event->type() == QEvent::WindowStateChange && isNormal && collapsed && mdiArea())
+        if (comesBack && collapsed && mdiArea())
             setGeometry(usualPlace(*mdiArea(), numberOf(*mdiArea())));
     }
 

@@ -8,6 +8,7 @@
 
 class Form;
 class QMimeData;
+class QObject;
 class QWidget;
 
 /// The user's hands: everything here reaches the program as events of the desktop do, shortcuts, focus and modal boxes
