@@ -54,8 +54,8 @@ OwnLines::OwnLines(const QByteArray &bytes) : m_bytes(bytes)
         m_bytes = decodeOwnFile(bytes).toUtf8();
         m_utf8 = true;
     }
-    constexpr qsizetype usualLine = 16; // bytes; to count the lines takes as long as to find them
-    m_starts.reserve(static_cast<size_t>(m_bytes.size() / usualLine) + 2);
+    constexpr qsizetype shortLine = 10; // bytes; to count the lines would take as long as to find them
+    m_starts.reserve(static_cast<size_t>(m_bytes.size() / shortLine) + 2);
     m_starts.push_back(0);
     const char *const start = m_bytes.constData();
     const char *const end = start + m_bytes.size();
@@ -65,6 +65,7 @@ OwnLines::OwnLines(const QByteArray &bytes) : m_bytes(bytes)
         place = found + (pair ? 2 : found == end ? 0 : 1);
         m_starts.push_back(static_cast<int>(place - start));
     }
+    m_starts.shrink_to_fit();
 }
 
 QByteArrayView OwnLines::bytesOf(int line) const
