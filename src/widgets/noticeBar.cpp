@@ -50,17 +50,28 @@ protected:
 };
 } // namespace
 
-NoticeBar::NoticeBar(QWidget *parent) : QFrame(parent), m_layout(new NoticeLayout(this)), m_text(new QLabel(this))
+NoticeBar::NoticeBar(QWidget *parent) : QScrollArea(parent), m_layout(new NoticeLayout), m_text(new QLabel)
 {
     setObjectName(QStringLiteral("picNotice"));
-    setAutoFillBackground(true);
-    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // it follows the width that there is
+    setFrameShape(NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setWidgetResizable(true);
+    QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Preferred); // it follows the width that there is
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+    auto *inside = new QWidget;
+    inside->setLayout(m_layout);
     m_layout->setContentsMargins(StripeWidth + 2 * Padding, Padding, 2 * Padding, Padding);
     m_text->setObjectName(QStringLiteral("lblNotice"));
     m_text->setTextFormat(Qt::PlainText);
     m_text->setWordWrap(true);
     m_layout->addWidget(m_text);
+    setWidget(inside);
+    inside->setAutoFillBackground(false); // the ground and its stripe stay where they are when it scrolls
+    viewport()->setBackgroundRole(QPalette::Window);
     followTheme();
+    followParent();
     hide();
 }
 
@@ -93,7 +104,23 @@ bool NoticeBar::takeFocus()
     if (first == m_buttons.end())
         return false;
     (*first)->setFocus(Qt::TabFocusReason);
+    ensureWidgetVisible(*first, 0, Padding);
     return true;
+}
+
+int NoticeBar::heightForWidth(int width) const
+{
+    return m_layout->totalHeightForWidth(width);
+}
+
+QSize NoticeBar::sizeHint() const
+{
+    return m_layout->totalSizeHint();
+}
+
+QSize NoticeBar::minimumSizeHint() const
+{
+    return m_layout->totalMinimumSize();
 }
 
 void NoticeBar::showButtons(const QList<Button> &buttons)
@@ -110,7 +137,7 @@ void NoticeBar::showButtons(const QList<Button> &buttons)
 
 QPushButton *NoticeBar::makeButton(int index)
 {
-    auto *button = new PlainButton(this);
+    auto *button = new PlainButton(widget());
     button->setObjectName(QStringLiteral("cmdNotice(%1)").arg(index));
     button->setFocusPolicy(Qt::TabFocus); // a click leaves the keyboard where it is
     button->setAutoDefault(false);
@@ -125,9 +152,50 @@ void NoticeBar::announce()
     QAccessible::updateAccessibility(&event);
 }
 
+bool NoticeBar::event(QEvent *event)
+{
+    if (event->type() == QEvent::ParentChange)
+        followParent();
+    return QScrollArea::event(event);
+}
+
+void NoticeBar::followParent()
+{
+    if (m_watched)
+        m_watched->removeEventFilter(this);
+    m_watched = parentWidget();
+    if (!m_watched)
+        return;
+    m_watched->installEventFilter(this);
+    setMaximumHeight(m_watched->height() / 2);
+}
+
+bool NoticeBar::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_watched && event->type() == QEvent::Resize)
+        setMaximumHeight(m_watched->height() / 2);
+    if (watched == widget() && event->type() == QEvent::LayoutRequest) {
+        updateGeometry(); // a larger letter, a longer word
+        showScrollBar();
+    }
+    return QScrollArea::eventFilter(watched, event);
+}
+
+void NoticeBar::resizeEvent(QResizeEvent *event)
+{
+    showScrollBar();
+    QScrollArea::resizeEvent(event);
+}
+
+/// Where it is needed without one: left to itself the area keeps the one that it has, for beside it the text is longer.
+void NoticeBar::showScrollBar()
+{
+    setVerticalScrollBarPolicy(heightForWidth(width()) > height() ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+}
+
 void NoticeBar::changeEvent(QEvent *event)
 {
-    QFrame::changeEvent(event);
+    QScrollArea::changeEvent(event);
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ThemeChange)
         followTheme();
 }
@@ -151,12 +219,13 @@ void NoticeBar::keyPressEvent(QKeyEvent *event)
     if (event->key() == Qt::Key_Escape)
         Q_EMIT left();
     else
-        QFrame::keyPressEvent(event);
+        QScrollArea::keyPressEvent(event);
 }
 
 void NoticeBar::paintEvent(QPaintEvent *)
 {
-    QPainter painter(this);
-    painter.fillRect(0, 0, StripeWidth, height(), palette().color(QPalette::Highlight));
-    painter.fillRect(0, height() - 1, width(), 1, palette().color(QPalette::Mid));
+    QPainter painter(viewport());
+    const QRect ground = viewport()->rect();
+    painter.fillRect(0, 0, StripeWidth, ground.height(), palette().color(QPalette::Highlight));
+    painter.fillRect(0, ground.height() - 1, ground.width(), 1, palette().color(QPalette::Mid));
 }

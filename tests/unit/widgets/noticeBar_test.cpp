@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <QVBoxLayout>
@@ -156,6 +157,52 @@ TEST_F(NoticeBarTest, NeverMakesItsWindowWider)
     QApplication::processEvents();
     EXPECT_EQ(window.width(), 300);
     EXPECT_EQ(bar->width(), 300);
+}
+
+TEST_F(NoticeBarTest, LeavesHalfOfALowWindowAndScrolls)
+{
+    window.resize(260, 100);
+    tell(words + QStringLiteral(" Its file has changed on the disk since."));
+    EXPECT_EQ(bar->height(), 50);
+    EXPECT_EQ(field->height(), 50);
+    EXPECT_TRUE(bar->verticalScrollBar()->isVisible());
+    const auto shown = [&](int index) {
+        const QRect place(button(index)->mapTo(bar->viewport(), QPoint()), button(index)->size());
+        return bar->viewport()->rect().contains(place);
+    };
+    EXPECT_FALSE(shown(0));
+    EXPECT_TRUE(bar->takeFocus());
+    EXPECT_TRUE(shown(0));
+    QTest::keyClick(button(0), Qt::Key_Tab);
+    QTest::keyClick(button(1), Qt::Key_Tab);
+    EXPECT_TRUE(button(2)->hasFocus());
+    EXPECT_TRUE(shown(2));
+}
+
+TEST_F(NoticeBarTest, IsWholeAgainInAWindowThatGrows)
+{
+    window.resize(260, 60);
+    tell(words);
+    ASSERT_TRUE(bar->verticalScrollBar()->isVisible());
+    window.resize(260, 400);
+    QApplication::processEvents();
+    EXPECT_FALSE(bar->verticalScrollBar()->isVisible());
+    EXPECT_LE(button(2)->geometry().bottom(), bar->height());
+    EXPECT_EQ(field->height(), 400 - bar->height());
+}
+
+TEST_F(NoticeBarTest, GrowsWithItsLetters)
+{
+    window.resize(260, 400);
+    tell(words);
+    const int before = bar->height();
+    QFont large = text()->font();
+    large.setPixelSize(24);
+    text()->setFont(large);
+    QApplication::processEvents(); // its own layout
+    QApplication::processEvents(); // the window's
+    EXPECT_GT(bar->height(), before);
+    EXPECT_FALSE(bar->verticalScrollBar()->isVisible());
 }
 
 TEST_F(NoticeBarTest, IsReadableOnLightAndDarkGround)
