@@ -211,13 +211,30 @@ TreeNode CodeBranch::node(int number) const
 {
     if (number > 0)
         return m_html ? htmlNode(number) : cssNode(number);
-    if (m_html)
+    return root(m_html);
+}
+
+TreeNode CodeBranch::root(bool html)
+{
+    if (html)
         return {QStringLiteral("HyperText Markup Language"), htmlKey, QStringLiteral("ImgNode1"), -1};
     return {QStringLiteral("Cascading Style Sheets"), cssKey, QStringLiteral("ImgNodeCSS1"), -1};
 }
 
+TreeNode CodeBranch::outerNode(bool html, const QString &line)
+{
+    if (html) {
+        const HtmlLine element = htmlLine(line);
+        return {element.text, {}, imageOf(element), 0};
+    }
+    const QString property = cssLine(line).text;
+    return {property + u':', property, QStringLiteral("ImgNodeCSSProperty"), 0};
+}
+
 TreeNode CodeBranch::htmlNode(int number) const
 {
+    if (parentOf(number) == 0)
+        return outerNode(true, lineOf(number));
     const HtmlLine line = htmlLine(lineOf(number));
     const QString text = line.kind() == HtmlLine::Attribute ? attributeText(line.text).name
                          : isInner(number)                  ? elementText(line.text).name
@@ -227,8 +244,7 @@ TreeNode CodeBranch::htmlNode(int number) const
 
 TreeNode CodeBranch::cssNode(int number) const
 {
-    const CssLine line = cssLine(lineOf(number));
-    if (line.isValue)
-        return {line.text, {}, QStringLiteral("ImgNodeCSSValue"), parentOf(number)};
-    return {line.text + u':', line.text, QStringLiteral("ImgNodeCSSProperty"), parentOf(number)};
+    if (parentOf(number) == 0)
+        return outerNode(false, lineOf(number));
+    return {cssLine(lineOf(number)).text, {}, QStringLiteral("ImgNodeCSSValue"), parentOf(number)};
 }

@@ -27,6 +27,9 @@ public:
 
     int size() const { return static_cast<int>(m_parents.size()); }
     TreeNode node(int number) const;
+    static TreeNode root(bool html);
+    /// The node of a line that stands right under the root.
+    static TreeNode outerNode(bool html, const QString &line);
     int parentOf(int number) const { return m_parents[static_cast<size_t>(number)]; } ///< -1 for the root's
     int childCount(int number) const;
     int child(int number, int row) const; ///< the row counts from 0

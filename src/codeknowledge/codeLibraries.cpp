@@ -19,6 +19,7 @@ std::optional<QByteArray> bytesOf(FileSystem &files, const QString &path)
         return std::nullopt;
     return std::move(file.bytes);
 }
+
 CodeElements elementsOf(const CodeBranch &html)
 {
     CodeElements elements;
@@ -34,16 +35,49 @@ CodeElements elementsOf(const CodeBranch &html)
     return elements;
 }
 
+/// Nothing if the file cannot be read.
+std::optional<quint64> digestOf(FileSystem &files, const QString &path, qint64 size)
+{
+    constexpr qint64 piece = 64 * 1024; // small enough for memory that is taken again and again
+    static_assert(piece % FileDigest::Step == 0);
+    FileDigest digest;
+    for (qint64 offset = 0; offset < size; offset += piece) {
+        const FileContents part = files.readPart(path, offset, piece);
+        if (part.error)
+            return std::nullopt;
+        digest.add(part.bytes);
+    }
+    return digest.value();
+}
+
+CodeBranch wholeBranch(FileSystem &files, const QString &path, bool html)
+{
+    const auto bytes = bytesOf(files, path);
+    if (!bytes)
+        return {};
+    return html ? CodeBranch::ofHtml(*bytes) : CodeBranch::ofCss(*bytes);
+}
+
+/// The file that came with the program is not read before more is asked for than its outline tells.
+LazyCodeBranch branchOf(FileSystem &files, const QString &path, bool html)
+{
+    auto outline = CodeOutline::shipped(html ? QStringLiteral("Html.tcb") : QStringLiteral("Css.tcb"));
+    if (!outline || files.size(path) != outline->fileSize())
+        return wholeBranch(files, path, html);
+    const auto digest = digestOf(files, path, outline->fileSize());
+    if (!digest)
+        return {};
+    if (*digest != outline->fileDigest())
+        return wholeBranch(files, path, html);
+    return {html, std::move(*outline), [&files, path, html] { return wholeBranch(files, path, html); }};
+}
+
 CodeTree readCodes(FileSystem &files, const QString &htmlFile, const QString &cssFile)
 {
-    const auto html = bytesOf(files, htmlFile);
-    if (!html)
-        return {{}, {}};
-    CodeBranch branch = CodeBranch::ofHtml(*html);
-    if (!branch.isComplete())
-        return {std::move(branch), {}};
-    const auto css = bytesOf(files, cssFile);
-    return {std::move(branch), css ? CodeBranch::ofCss(*css) : CodeBranch()};
+    LazyCodeBranch html = branchOf(files, htmlFile, true);
+    if (html.size() == 0 || !html.isComplete())
+        return {std::move(html), {}};
+    return {std::move(html), branchOf(files, cssFile, false)};
 }
 } // namespace
 
@@ -68,7 +102,7 @@ public:
     const CodeElements &elements()
     {
         if (!m_elements)
-            m_elements = elementsOf(codes().html());
+            m_elements = elementsOf(codes().html().whole());
         return *m_elements;
     }
 
@@ -117,13 +151,13 @@ bool CodeLibraries::isComplete() const
 
 int CodeLibraries::HtmlCodeNodeCount() const
 {
-    const CodeBranch &html = codes().html();
+    const LazyCodeBranch &html = codes().html();
     return html.isComplete() ? html.size() : 0;
 }
 
 int CodeLibraries::syntaxCount() const
 {
-    const CodeBranch &html = codes().html();
+    const CodeBranch &html = codes().html().whole();
     const int elements = html.elementCount();
     return html.isComplete() ? elements : std::max(elements - 1, 0); // written once the next element comes, or the end
 }
@@ -132,7 +166,7 @@ QString CodeLibraries::lstCodeAssistantSyntax(int row) const
 {
     if (row < 0 || row >= syntaxCount())
         return {};
-    const CodeBranch &html = codes().html();
+    const CodeBranch &html = codes().html().whole();
     const int element = html.element(row);
     QString syntax = u'<' + html.node(element).text;
     for (const int number : html.attributesOf(element)) {

@@ -10,7 +10,7 @@ class NodeTreeModel;
 
 /// The program's knowledge of HTML and CSS, from the data files `Html.tcb` and `Css.tcb` in the program's folder. They
 /// are read when something first asks for it, so that a start does not wait for them, and kept as they are: some 1.5
-/// MiB.
+/// MiB. Of those that came with the program the tree's first rows are known without.
 class CodeLibraries final : public CodeKnowledge
 {
 public:

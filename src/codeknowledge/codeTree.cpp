@@ -42,7 +42,7 @@ int CodeTree::child(int number, int row) const
 
 std::optional<int> CodeTree::find(const QString &key) const
 {
-    for (const CodeBranch *branch : {&m_html, &m_css}) {
+    for (const LazyCodeBranch *branch : {&m_html, &m_css}) {
         const int offset = branch == &m_html ? 0 : m_html.size();
         if (branch->size() > 0 && branch->node(0).key == key)
             return offset;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "codeknowledge/codeBranch.h"
+#include "codeknowledge/lazyCodeBranch.h"
 
 #include <optional>
 
@@ -9,10 +9,10 @@ class CodeTree
 {
 public:
     /// A branch of no nodes is not in the tree.
-    CodeTree(CodeBranch html, CodeBranch css) : m_html(std::move(html)), m_css(std::move(css)) {}
+    CodeTree(LazyCodeBranch html, LazyCodeBranch css) : m_html(std::move(html)), m_css(std::move(css)) {}
 
-    const CodeBranch &html() const { return m_html; }
-    const CodeBranch &css() const { return m_css; }
+    const LazyCodeBranch &html() const { return m_html; }
+    const LazyCodeBranch &css() const { return m_css; }
 
     int size() const { return m_html.size() + m_css.size(); }
     TreeNode node(int number) const;
@@ -26,6 +26,6 @@ public:
 private:
     bool isHtml(int number) const { return number < m_html.size(); }
 
-    CodeBranch m_html;
-    CodeBranch m_css;
+    LazyCodeBranch m_html;
+    LazyCodeBranch m_css;
 };

@@ -56,6 +56,13 @@ FileContents ScriptedFiles::readAll(const QString &path)
     return m_real.readAll(path);
 }
 
+FileContents ScriptedFiles::readPart(const QString &path, qint64 offset, qint64 length)
+{
+    if (const auto error = failure(path, Act::Read))
+        return {{}, error};
+    return m_real.readPart(path, offset, length);
+}
+
 std::optional<FileError> ScriptedFiles::checkReadable(const QString &path)
 {
     // A bad disk or too little memory is met by the reading itself: the file can be opened.

@@ -80,6 +80,7 @@ public:
     const QList<Failing> &failing() const { return m_failing; }
 
     FileContents readAll(const QString &path) override;
+    FileContents readPart(const QString &path, qint64 offset, qint64 length) override;
     std::optional<FileError> checkReadable(const QString &path) override;
     std::optional<FileError> writeWhole(const QString &path, const QByteArray &bytes) override;
     std::optional<FileError> writeScratch(const QString &path, const QByteArray &bytes) override;

@@ -2,6 +2,7 @@
 
 #include "codeknowledge/codeInsertion.h"
 #include "storage/localFileSystem.h"
+#include "support/fakes.h"
 #include "widgets/nodeTreeModel.h"
 
 #include <QFile>
@@ -183,9 +184,65 @@ TEST_F(CodeLibrariesTest, KeepsTheShippedFilesInLittleMemory)
     codes.LoadCodeLibraries(files, QStringLiteral(TEST_SOURCE_DIR "/data"));
     const auto before = mallinfo2().uordblks + mallinfo2().hblkhd;
     ASSERT_GT(codes.nodeCount(), 60'000);
+    EXPECT_EQ(codes.node(codes.nodeCount() - 1).imageKey, QStringLiteral("ImgNodeCSSValue"));
+    EXPECT_FALSE(codes.elements().htmlNames.isEmpty());
     const auto taken = mallinfo2().uordblks + mallinfo2().hblkhd - before;
     EXPECT_LT(taken, 3U << 20U);
-    EXPECT_EQ(codes.node(codes.nodeCount() - 1).imageKey, QStringLiteral("ImgNodeCSSValue"));
+}
+
+TEST_F(CodeLibrariesTest, ShowsTheFirstRowsOfTheShippedFilesInHardlyAny)
+{
+    codes.LoadCodeLibraries(files, QStringLiteral(TEST_SOURCE_DIR "/data"));
+    const auto before = mallinfo2().uordblks + mallinfo2().hblkhd;
+    const auto tree = codes.tree();
+    EXPECT_TRUE(codes.isComplete());
+    ASSERT_EQ(tree->rowCount(), 2);
+    for (int root = 0; root < 2; ++root) {
+        const QModelIndex parent = tree->index(root, 0);
+        ASSERT_GT(tree->rowCount(parent), 100);
+        for (int row = 0; row < tree->rowCount(parent); ++row) {
+            const QModelIndex index = tree->index(row, 0, parent);
+            EXPECT_FALSE(index.data().toString().isEmpty());
+            EXPECT_EQ(index.parent(), parent);
+            EXPECT_TRUE(tree->rowCount(index) > 0 || root == 0) << "an element may have no attributes";
+        }
+    }
+    EXPECT_LT(mallinfo2().uordblks + mallinfo2().hblkhd - before, 100U << 10U);
+}
+
+TEST_F(CodeLibrariesTest, ReadsAFileThatIsNotTheShippedOneToTheByte)
+{
+    const auto copy = [&](const char *name, const auto &change) {
+        QFile shipped(QStringLiteral(TEST_SOURCE_DIR "/data/") + QLatin1String(name));
+        ASSERT_TRUE(shipped.open(QIODevice::ReadOnly));
+        QByteArray bytes = shipped.readAll();
+        change(bytes);
+        QFile file(folder.filePath(QLatin1String(name)));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    };
+    copy("Html.tcb", [](QByteArray &bytes) {
+        bytes.replace(bytes.indexOf("\xBB"
+                                    "abbr\r"),
+                      5,
+                      "\xBB"
+                      "abbs");
+    });
+    copy("Css.tcb", [](QByteArray &bytes) { bytes.chop(2); });
+    load();
+    const auto tree = codes.tree();
+    const QModelIndex html = tree->index(0, 0);
+    EXPECT_EQ(tree->index(2, 0, html).data().toString(), QStringLiteral("abbs"));
+    EXPECT_TRUE(codes.isComplete());
+}
+
+TEST_F(CodeLibrariesTest, HasNothingOfAShippedFileThatCannotBeRead)
+{
+    FailingFiles failing;
+    failing.readFailure = FileError{75, 0, QStringLiteral("Path/File access error")};
+    codes.LoadCodeLibraries(failing, QStringLiteral(TEST_SOURCE_DIR "/data"));
+    EXPECT_EQ(codes.tree()->rowCount(), 0);
+    EXPECT_FALSE(codes.isComplete());
 }
 
 class ChosenCodeTest : public CodeLibrariesTest
