@@ -3,6 +3,7 @@
 #include "codeknowledge/codeFiles.h"
 #include "codeknowledge/codeTreeModel.h"
 #include "common/paths.h"
+#include "common/quickDigest.h"
 #include "services/fileSystem.h"
 
 #include <algorithm>
@@ -39,8 +40,8 @@ CodeElements elementsOf(const CodeBranch &html)
 std::optional<quint64> digestOf(FileSystem &files, const QString &path, qint64 size)
 {
     constexpr qint64 piece = 64 * 1024; // small enough for memory that is taken again and again
-    static_assert(piece % FileDigest::Step == 0);
-    FileDigest digest;
+    static_assert(piece % QuickDigest::Step == 0);
+    QuickDigest digest;
     for (qint64 offset = 0; offset < size; offset += piece) {
         const FileContents part = files.readPart(path, offset, piece);
         if (part.error)

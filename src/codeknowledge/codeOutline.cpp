@@ -1,12 +1,11 @@
 #include "codeknowledge/codeOutline.h"
 
 #include "codeknowledge/codeBranch.h"
+#include "common/quickDigest.h"
 
 #include <QResource>
-#include <QtEndian>
 #include <algorithm>
 #include <charconv>
-#include <cstring>
 
 namespace
 {
@@ -58,10 +57,8 @@ std::optional<CodeOutline> CodeOutline::read(QByteArrayView bytes)
 
 QByteArray CodeOutline::written(const CodeBranch &branch, const QByteArray &file)
 {
-    FileDigest digest;
-    digest.add(file);
     const int count = branch.childCount(0);
-    QByteArray text = QByteArray::number(file.size()) + ' ' + QByteArray::number(digest.value(), 16) + ' ' +
+    QByteArray text = QByteArray::number(file.size()) + ' ' + QByteArray::number(QuickDigest::of(file), 16) + ' ' +
                       QByteArray::number(branch.size()) + ' ' + QByteArray::number(count) + '\n';
     for (int row = 0; row < count; ++row) {
         const int number = branch.child(0, row);
@@ -83,26 +80,4 @@ std::optional<int> CodeOutline::find(int number) const
 QString CodeOutline::line(int row) const
 {
     return QString::fromUtf8(m_rows[static_cast<size_t>(row)].line);
-}
-
-void FileDigest::add(QByteArrayView bytes)
-{
-    quint64 word = 0;
-    const char *place = bytes.begin();
-    for (; bytes.end() - place >= Step; place += Step) { // of a fixed length, which is one instruction
-        std::memcpy(&word, place, Step);
-        addWord(word);
-    }
-    if (place == bytes.end())
-        return;
-    word = 0;
-    std::memcpy(&word, place, static_cast<size_t>(bytes.end() - place));
-    addWord(word);
-}
-
-void FileDigest::addWord(quint64 word)
-{
-    constexpr quint64 factor = 0x9E3779B97F4A7C15U; // odd, its bits evenly mixed
-    m_value = (m_value ^ qFromLittleEndian(word)) * factor;
-    m_value ^= m_value >> 32U;
 }

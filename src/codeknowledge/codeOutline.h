@@ -26,7 +26,7 @@ public:
     static QByteArray written(const CodeBranch &branch, const QByteArray &file);
 
     qsizetype fileSize() const { return m_fileSize; }
-    quint64 fileDigest() const { return m_fileDigest; } ///< as FileDigest has it
+    quint64 fileDigest() const { return m_fileDigest; } ///< as QuickDigest has it
     int size() const { return m_size; }                 ///< the branch's nodes, its root included
     int count() const { return static_cast<int>(m_rows.size()); }
     const Row &row(int row) const { return m_rows[static_cast<size_t>(row)]; } ///< from 0, by their numbers
@@ -38,21 +38,4 @@ private:
     quint64 m_fileDigest = 0;
     int m_size = 0;
     std::vector<Row> m_rows;
-};
-
-/// Tells one file from another: two that differ have the same digest by accident alone, once in 2^64. It is no guard
-/// against somebody who wants it so.
-class FileDigest
-{
-public:
-    static constexpr qsizetype Step = 8; ///< bytes
-
-    /// Adds the next bytes; but for the last ones their number is to be a multiple of Step.
-    void add(QByteArrayView bytes);
-    quint64 value() const { return m_value; }
-
-private:
-    void addWord(quint64 word);
-
-    quint64 m_value = 0xCBF29CE484222325U;
 };

@@ -1,15 +1,20 @@
 #include "common/keptPage.h"
 
+#include "common/quickDigest.h"
+
 #include <QCryptographicHash>
 #include <QDataStream>
 #include <QIODevice>
+#include <QtEndian>
 
 namespace
 {
-constexpr QByteArrayView Mark("Tagwrighter kept page 2\n");
-constexpr QByteArrayView EarlierMark("Tagwrighter kept page 1\n"); ///< without the two that were added last
-static_assert(Mark.size() == EarlierMark.size());
-constexpr qsizetype DigestSize = 32; ///< bytes of SHA-256
+constexpr QByteArrayView Mark("Tagwrighter kept page 3\n");
+constexpr QByteArrayView SecondMark("Tagwrighter kept page 2\n"); ///< numbers the other way round, SHA-256
+constexpr QByteArrayView FirstMark("Tagwrighter kept page 1\n");  ///< like it, without the two that were added last
+static_assert(Mark.size() == FirstMark.size() && Mark.size() == SecondMark.size());
+constexpr qsizetype DigestSize = sizeof(quint64);
+constexpr qsizetype EarlierDigestSize = 32; ///< bytes of SHA-256
 constexpr QDataStream::Version StreamVersion = QDataStream::Qt_6_0;
 
 /// A number that stands for a choice; nothing for one that is no such choice.
@@ -27,26 +32,46 @@ QByteArray digestOf(const QByteArray &bytes)
 
 QByteArray keptPageBytes(const KeptPage &page)
 {
-    QByteArray body;
-    QDataStream stream(&body, QIODevice::WriteOnly);
-    stream.setVersion(StreamVersion);
+    constexpr qsizetype Rest = 1024; ///< about what the rest takes
     const FileStamp stamp = page.stamp.value_or(FileStamp{});
+    QByteArray bytes = Mark.toByteArray() + QByteArray(DigestSize, '\0');
+    bytes.reserve(bytes.size() + page.text.size() * qsizetype(sizeof(QChar)) + Rest);
+    QDataStream stream(&bytes, QIODevice::Append);
+    stream.setVersion(StreamVersion);
+    stream.setByteOrder(QDataStream::LittleEndian); // as the text stands in the memory of most
     stream << page.order << page.path << page.newDoc << page.unicode << static_cast<quint8>(page.format.encoding)
            << static_cast<quint8>(page.format.lineEnd) << page.format.charset << static_cast<quint8>(page.plainEncoding)
            << page.mixedLineEnds << page.internetOrigin << page.selStart << page.selLength << page.stamp.has_value()
            << stamp.size << stamp.modifiedNanoseconds << stamp.inode << page.fileDigest << page.text << page.changed
            << page.startsAnew;
-    return Mark.toByteArray() + digestOf(body) + body;
+    const QByteArrayView body = QByteArrayView(bytes).sliced(Mark.size() + DigestSize);
+    qToLittleEndian(QuickDigest::of(body), bytes.data() + Mark.size());
+    return bytes;
 }
+
+namespace
+{
+/// The bytes behind mark and digest, if they are those that the digest is of; this also holds for what was cut short.
+std::optional<QByteArrayView> bodyOf(QByteArrayView bytes)
+{
+    if (bytes.startsWith(Mark) && bytes.size() >= Mark.size() + DigestSize) {
+        const QByteArrayView body = bytes.sliced(Mark.size() + DigestSize);
+        const auto digest = qFromLittleEndian<quint64>(bytes.data() + Mark.size());
+        return digest == QuickDigest::of(body) ? std::optional(body) : std::nullopt;
+    }
+    const bool isEarlier = bytes.startsWith(FirstMark) || bytes.startsWith(SecondMark);
+    if (!isEarlier || bytes.size() < Mark.size() + EarlierDigestSize)
+        return std::nullopt;
+    const QByteArrayView body = bytes.sliced(Mark.size() + EarlierDigestSize);
+    const QByteArrayView digest = bytes.sliced(Mark.size(), EarlierDigestSize);
+    return digest == QCryptographicHash::hash(body, QCryptographicHash::Sha256) ? std::optional(body) : std::nullopt;
+}
+} // namespace
 
 std::optional<KeptPage> keptPageOf(const QByteArray &bytes)
 {
-    const bool isEarlier = bytes.startsWith(EarlierMark);
-    if (!isEarlier && !bytes.startsWith(Mark))
-        return std::nullopt;
-    const QByteArray digest = bytes.mid(Mark.size(), DigestSize);
-    const QByteArray body = bytes.mid(Mark.size() + DigestSize);
-    if (digestOf(body) != digest) // which also holds for what was cut short
+    const auto body = bodyOf(bytes);
+    if (!body)
         return std::nullopt;
     KeptPage page;
     FileStamp stamp;
@@ -54,12 +79,13 @@ std::optional<KeptPage> keptPageOf(const QByteArray &bytes)
     quint8 lineEnd = 0;
     quint8 plainEncoding = 0;
     bool stamped = false;
-    QDataStream stream(body);
+    QDataStream stream(QByteArray::fromRawData(body->data(), body->size()));
     stream.setVersion(StreamVersion);
+    stream.setByteOrder(bytes.startsWith(Mark) ? QDataStream::LittleEndian : QDataStream::BigEndian);
     stream >> page.order >> page.path >> page.newDoc >> page.unicode >> encoding >> lineEnd >> page.format.charset >>
         plainEncoding >> page.mixedLineEnds >> page.internetOrigin >> page.selStart >> page.selLength >> stamped >>
         stamp.size >> stamp.modifiedNanoseconds >> stamp.inode >> page.fileDigest >> page.text;
-    if (!isEarlier)
+    if (!bytes.startsWith(FirstMark))
         stream >> page.changed >> page.startsAnew;
     const auto read = choiceOf(encoding, Encoding::Other);
     const auto ends = choiceOf(lineEnd, LineEnd::Cr);

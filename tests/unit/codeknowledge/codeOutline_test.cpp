@@ -1,6 +1,7 @@
 #include "codeknowledge/codeOutline.h"
 
 #include "codeknowledge/codeBranch.h"
+#include "common/quickDigest.h"
 
 #include <QFile>
 #include <gtest/gtest.h>
@@ -13,44 +14,10 @@ QByteArray file(const char *lines)
     return QByteArray(lines).replace('+', '\xBB').replace("\n", "\r\n");
 }
 
-quint64 digestOf(QByteArrayView bytes)
-{
-    FileDigest digest;
-    digest.add(bytes);
-    return digest.value();
-}
-
 QByteArray shipped(const char *name)
 {
     QFile data(QStringLiteral(TEST_SOURCE_DIR "/data/") + QLatin1String(name));
     return data.open(QIODevice::ReadOnly) ? data.readAll() : QByteArray();
-}
-
-TEST(FileDigest, IsTheSameInPieces)
-{
-    const QByteArray bytes("an element, an attribute, a value");
-    FileDigest pieces;
-    pieces.add(bytes.first(8));
-    pieces.add(bytes.sliced(8, 16));
-    pieces.add(bytes.sliced(24));
-    EXPECT_EQ(pieces.value(), digestOf(bytes));
-}
-
-TEST(FileDigest, IsAnotherOneForEveryBitThatDiffers)
-{
-    QByteArray bytes("an element, an attribute");
-    const quint64 before = digestOf(bytes);
-    for (qsizetype place = 0; place < bytes.size(); ++place)
-        for (int bit = 0; bit < 8; ++bit) {
-            bytes[place] = static_cast<char>(bytes[place] ^ (1 << bit));
-            EXPECT_NE(digestOf(bytes), before) << place << ' ' << bit;
-            bytes[place] = static_cast<char>(bytes[place] ^ (1 << bit));
-        }
-}
-
-TEST(FileDigest, KnowsTheOrder)
-{
-    EXPECT_NE(digestOf("one-----two-----"), digestOf("two-----one-----"));
 }
 
 TEST(CodeOutline, HasWhatStandsRightUnderTheRoot)
@@ -60,7 +27,7 @@ TEST(CodeOutline, HasWhatStandsRightUnderTheRoot)
     const auto outline = CodeOutline::read(text);
     ASSERT_TRUE(outline);
     EXPECT_EQ(outline->fileSize(), bytes.size());
-    EXPECT_EQ(outline->fileDigest(), digestOf(bytes));
+    EXPECT_EQ(outline->fileDigest(), QuickDigest::of(bytes));
     EXPECT_EQ(outline->size(), 9);
     ASSERT_EQ(outline->count(), 2);
     EXPECT_EQ(outline->row(0).number, 1);
@@ -91,7 +58,7 @@ TEST(CodeOutline, OfTheShippedFilesIsInTheProgram)
         const auto outline = CodeOutline::shipped(QLatin1String(name));
         ASSERT_TRUE(outline) << name;
         EXPECT_EQ(outline->fileSize(), bytes.size());
-        EXPECT_EQ(outline->fileDigest(), digestOf(bytes));
+        EXPECT_EQ(outline->fileDigest(), QuickDigest::of(bytes));
     }
     EXPECT_FALSE(CodeOutline::shipped(QStringLiteral("Other.tcb")));
 }

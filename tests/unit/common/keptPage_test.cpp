@@ -1,5 +1,6 @@
 #include "common/keptPage.h"
 
+#include <QCryptographicHash>
 #include <QRandomGenerator>
 #include <gtest/gtest.h>
 
@@ -68,17 +69,56 @@ TEST(KeptPage, KnowsWhyItWasKept)
     EXPECT_TRUE(keptPageOf(keptPageBytes(page))->startsAnew);
 }
 
-TEST(KeptPage, ReadsWhatAnEarlierVersionKept)
+TEST(KeptPage, ReadsWhatEarlierVersionsKept)
 {
-    const QByteArray mark("Tagwrighter kept page 2\n");
-    const QByteArray now = keptPageBytes(samplePage());
-    const QByteArray body = now.mid(mark.size() + 32).chopped(2); // the two Booleans came with the second version
-    const std::optional<KeptPage> read = keptPageOf("Tagwrighter kept page 1\n" + digestOf(body) + body);
-    ASSERT_TRUE(read);
-    EXPECT_EQ(read->text, samplePage().text);
-    EXPECT_TRUE(read->changed);
-    EXPECT_FALSE(read->startsAnew);
-    EXPECT_FALSE(keptPageOf(mark + digestOf(body) + body));
+    const QByteArray first = QByteArray::fromHex("00000007" // the order
+                                                 "00000004"
+                                                 "002F0061" // the path "/a"
+                                                 "00"
+                                                 "01"
+                                                 "00"
+                                                 "01" // of a file, UTF-16, encoding and line end
+                                                 "FFFFFFFF"
+                                                 "02"
+                                                 "01"       // no charset, plain encoding, mixed ends
+                                                 "00000000" // no origin
+                                                 "0000000000000003"
+                                                 "0000000000000002" // the selection
+                                                 "01"
+                                                 "000000000000000C"
+                                                 "0000000000000022"
+                                                 "0000000000000038"
+                                                 "00000003"
+                                                 "6F6C64" // the digest of its file
+                                                 "00000004"
+                                                 "003C20AC"); // the text
+    const QByteArray second = first + QByteArray::fromHex("0001");
+    const auto read = [](const char *mark, const QByteArray &body) {
+        return keptPageOf(mark + QCryptographicHash::hash(body, QCryptographicHash::Sha256) + body);
+    };
+    const auto old = read("Tagwrighter kept page 1\n", first);
+    const auto later = read("Tagwrighter kept page 2\n", second);
+    ASSERT_TRUE(old);
+    ASSERT_TRUE(later);
+    for (const KeptPage &page : {*old, *later}) {
+        EXPECT_EQ(page.order, 7);
+        EXPECT_EQ(page.path, QStringLiteral("/a"));
+        EXPECT_TRUE(page.unicode);
+        EXPECT_TRUE(page.mixedLineEnds);
+        EXPECT_EQ(page.text, QStringLiteral("<\u20AC"));
+        EXPECT_EQ(page.selStart, 3);
+        EXPECT_EQ(page.selLength, 2);
+        EXPECT_EQ(page.stamp, (FileStamp{12, 34, 56}));
+        EXPECT_EQ(page.fileDigest, "old");
+    }
+    EXPECT_TRUE(old->changed);
+    EXPECT_FALSE(old->startsAnew);
+    EXPECT_FALSE(later->changed);
+    EXPECT_TRUE(later->startsAnew);
+    EXPECT_FALSE(read("Tagwrighter kept page 2\n", first));
+    EXPECT_FALSE(read("Tagwrighter kept page 1\n", second));
+    EXPECT_FALSE(keptPageOf("Tagwrighter kept page 2\n" + QByteArray(32, 'x') + second));
+    EXPECT_FALSE(keptPageOf("Tagwrighter kept page 2\nx"));
 }
 
 TEST(KeptPage, RefusesWhatIsCutShortOrChanged)
