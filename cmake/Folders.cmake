@@ -2,15 +2,22 @@
 # their place, so that a new file needs no second mention; a folder that holds no source yet is an interface library, so
 # that its users can name it already.
 #
-# Parsing the headers of Qt is most of what compiling costs, so it is done once for all folders with widgets, and once for
-# those below them that know none.
+# Parsing the headers of Qt is most of what compiling costs, so it is done once for all folders with widgets, once for
+# those below them that know none, and once more for those that are built for size, if any are.
 set(plainFolders common services storage)
-foreach(kind plain widgets)
+foreach(kind plain widgets small)
+    if(kind STREQUAL "small" AND NOT CMAKE_BUILD_TYPE STREQUAL "Release")
+        continue()
+    endif()
     add_library(tagwrighter_precompiled_${kind} STATIC ${PROJECT_SOURCE_DIR}/cmake/precompiled.cpp)
     target_precompile_headers(tagwrighter_precompiled_${kind} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/precompiled.h)
 endforeach()
 target_link_libraries(tagwrighter_precompiled_plain PRIVATE tagwrighter_options Qt6::Gui)
 target_link_libraries(tagwrighter_precompiled_widgets PRIVATE tagwrighter_options Qt6::Widgets)
+if(TARGET tagwrighter_precompiled_small)
+    target_link_libraries(tagwrighter_precompiled_small PRIVATE tagwrighter_options Qt6::Widgets)
+    target_compile_options(tagwrighter_precompiled_small PRIVATE -Os)
+endif()
 
 # tagwrighter_folder(FOLDER LINK...): the library tagwrighter_FOLDER.
 function(tagwrighter_folder folder)
@@ -27,9 +34,14 @@ function(tagwrighter_folder folder)
     add_library(${name} STATIC ${sources})
     target_link_libraries(${name} PUBLIC tagwrighter_options ${ARGN})
     target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+    tagwrighter_is_small(${folder} small)
     if(folder IN_LIST plainFolders)
         target_link_libraries(${name} PUBLIC Qt6::Gui)
         target_precompile_headers(${name} REUSE_FROM tagwrighter_precompiled_plain)
+    elseif(small)
+        target_link_libraries(${name} PUBLIC Qt6::Widgets)
+        target_compile_options(${name} PRIVATE -Os)
+        target_precompile_headers(${name} REUSE_FROM tagwrighter_precompiled_small)
     else()
         target_link_libraries(${name} PUBLIC Qt6::Widgets)
         target_precompile_headers(${name} REUSE_FROM tagwrighter_precompiled_widgets)
