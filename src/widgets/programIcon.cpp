@@ -4,12 +4,13 @@
 
 #include <QApplication>
 #include <QFile>
-#include <QHash>
 #include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
 #include <QResource>
 #include <QSvgRenderer>
+#include <algorithm>
+#include <vector>
 
 namespace
 {
@@ -48,6 +49,12 @@ public:
     bool isNull() override { return false; }
 
 private:
+    struct Drawn {
+        QSize size;
+        QColor colour;
+        QPixmap picture;
+    };
+
     QColor colourFor(QIcon::Mode mode) const
     {
         const QPalette palette = QApplication::palette();
@@ -64,11 +71,11 @@ private:
 
     QPixmap drawn(const QSize &size, const QColor &colour)
     {
-        const QString key = QStringLiteral("%1x%2 %3").arg(size.width()).arg(size.height()).arg(colour.name());
-        const auto found = m_pictures.constFind(key);
-        if (found != m_pictures.constEnd())
-            return *found;
-        return *m_pictures.insert(key, draw(size, colour));
+        const auto isWanted = [&](const Drawn &one) { return one.size == size && one.colour == colour; };
+        const auto found = std::find_if(m_pictures.begin(), m_pictures.end(), isWanted);
+        if (found == m_pictures.end())
+            return m_pictures.emplace_back(Drawn{size, colour, draw(size, colour)}).picture;
+        return found->picture;
     }
 
     QPixmap draw(const QSize &size, const QColor &colour)
@@ -98,7 +105,7 @@ private:
     QColor m_light;
     QColor m_dark;
     QByteArray m_drawing;
-    QHash<QString, QPixmap> m_pictures;
+    std::vector<Drawn> m_pictures; ///< few: a table would take a hundred times the room
 };
 } // namespace
 
