@@ -22,13 +22,13 @@ const CodeBranch &LazyCodeBranch::whole() const
 CodeBranch LazyCodeBranch::standIn() const
 {
     const QString deeper = QString(2, QChar(codeMark)); // an attribute, or a value in CSS
-    QStringList lines;
+    QString lines;
     for (int number = 1, row = 0; number < m_outline->size(); ++number) {
         const bool outer = row < m_outline->count() && m_outline->row(row).number == number;
-        lines.append(outer ? m_outline->line(row) : deeper);
+        lines.append(outer ? m_outline->line(row) : deeper).append(u'\n');
         row += static_cast<int>(outer);
     }
-    const QByteArray bytes = "\xEF\xBB\xBF" + lines.join(u'\n').toUtf8();
+    const QByteArray bytes = "\xEF\xBB\xBF" + lines.toUtf8();
     return m_html ? CodeBranch::ofHtml(bytes) : CodeBranch::ofCss(bytes);
 }
 

@@ -12,11 +12,12 @@ QByteArray file(const char *lines)
 
 const QByteArray html = file("+p\n++align=\n+++left\n-u\n++id=\n+p>x\n++y=\n+p\n");
 const QByteArray css = file("+color\n++red\n++blue\n+float\n++left\n");
+const QByteArray emptyEnd = file("+color\n++red\n\n\n"); // two properties without a name
 
 class LazyCodeBranchTest : public testing::Test
 {
 protected:
-    static CodeBranch whole(const QByteArray &bytes) { return &bytes == &css ? ofCss(bytes) : ofHtml(bytes); }
+    static CodeBranch whole(const QByteArray &bytes) { return &bytes == &html ? ofHtml(bytes) : ofCss(bytes); }
     static CodeBranch ofCss(const QByteArray &bytes) { return CodeBranch::ofCss(bytes); }
     static CodeBranch ofHtml(const QByteArray &bytes) { return CodeBranch::ofHtml(bytes); }
 
@@ -86,7 +87,7 @@ TEST_F(LazyCodeBranchTest, IsNotReadForItsFirstRows)
 TEST_F(LazyCodeBranchTest, KeepsItsNodesWhereTheFileHasBecomeAnotherOne)
 {
     const QByteArray others[] = {{}, file("+p\n"), file("++align=\n"), html + file("+q\n++z=\n"), file("+p\n")};
-    for (const QByteArray *bytes : {&html, &css})
+    for (const QByteArray *bytes : {&html, &css, &emptyEnd})
         for (const QByteArray &other : others) {
             const LazyCodeBranch branch = lazy(*bytes, other);
             const CodeBranch expected = whole(*bytes);
