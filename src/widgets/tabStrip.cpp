@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWheelEvent>
+#include <utility>
 
 TabStrip::TabStrip(QWidget *parent) : QTabBar(parent)
 {
@@ -66,12 +67,22 @@ QSize TabStrip::minimumTabSizeHint(int tab) const
     return {whole.width() - qMax(0, name - kept), whole.height()};
 }
 
+/// The press selects the tab, which comes whole into sight and may leave the mouse by that.
+void TabStrip::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        m_pressed = keyAt(tabAt(event->position().toPoint()));
+    QTabBar::mousePressEvent(event);
+}
+
 void TabStrip::mouseReleaseEvent(QMouseEvent *event)
 {
-    const int tab = tabAt(event->position().toPoint());
     QTabBar::mouseReleaseEvent(event);
-    if (event->button() == Qt::LeftButton && tab >= 0 && tab == currentIndex())
-        Q_EMIT tabClicked(tab);
+    if (event->button() != Qt::LeftButton)
+        return;
+    const QString pressed = std::exchange(m_pressed, {});
+    if (!pressed.isEmpty() && pressed == selectedKey())
+        Q_EMIT tabClicked(currentIndex());
 }
 
 void TabStrip::keyPressEvent(QKeyEvent *event)

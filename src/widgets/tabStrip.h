@@ -25,6 +25,7 @@ Q_SIGNALS:
 
 protected:
     QSize minimumTabSizeHint(int tab) const override;
+    void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
@@ -32,4 +33,6 @@ protected:
 private:
     template <class Handling>
     void watched(const Handling &handling);
+
+    QString m_pressed; ///< the key of the tab that the mouse is held on; empty: none
 };

@@ -225,6 +225,41 @@ TEST_F(TabStripTest, TellsClicksOnTheSelectedTabToo)
     EXPECT_EQ(clicks[1][0].toInt(), 1);
 }
 
+TEST_F(TabStripTest, TellsEachClickOfTwo)
+{
+    const QPoint place = strip.tabRect(1).center();
+    QTest::mouseClick(&strip, Qt::LeftButton, {}, place);
+    QTest::mouseDClick(&strip, Qt::LeftButton, {}, place);
+    QTest::mouseRelease(&strip, Qt::LeftButton, {}, place);
+    EXPECT_EQ(clicks.count(), 2);
+}
+
+TEST_F(TabStripTest, TellsAClickOnATabThatMovesIntoSightByIt)
+{
+    strip.resize(strip.tabRect(0).width() + strip.tabRect(1).width() + 20, strip.height()); // buttons at its end
+    strip.selectKey(str("2Key"));
+    QApplication::processEvents();
+    const QRect half = strip.tabRect(0);
+    ASSERT_LT(half.left(), 0);
+    ASSERT_GT(half.right(), 2);
+    const QPoint edge(half.right() - 2, half.center().y());
+    QTest::mousePress(&strip, Qt::LeftButton, {}, edge);
+    EXPECT_EQ(strip.selectedKey(), str("1Key"));
+    QTest::mouseRelease(&strip, Qt::LeftButton, {}, edge);
+    ASSERT_EQ(clicks.count(), 1);
+    EXPECT_EQ(clicks[0][0].toInt(), 0);
+}
+
+TEST_F(TabStripTest, TellsAPressThatIsReleasedElsewhere)
+{
+    QTest::mousePress(&strip, Qt::LeftButton, {}, strip.tabRect(1).center());
+    QTest::mouseRelease(&strip, Qt::LeftButton, {}, strip.tabRect(2).center());
+    ASSERT_EQ(clicks.count(), 1) << "the strip shows it as selected";
+    EXPECT_EQ(clicks[0][0].toInt(), 1);
+    QTest::mouseRelease(&strip, Qt::LeftButton, {}, strip.tabRect(1).center());
+    EXPECT_EQ(clicks.count(), 1);
+}
+
 TEST_F(TabStripTest, IsMovedByTheKeyboard)
 {
     QTest::keyClick(&strip, Qt::Key_Right);
