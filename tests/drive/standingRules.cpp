@@ -8,6 +8,7 @@
 #include "forms/form.h"
 #include "forms/formRuntime.h"
 #include "frame/application.h"
+#include "widgets/tabStrip.h"
 
 #include <QAction>
 #include <QApplication>
@@ -134,8 +135,23 @@ void StandingRules::check(Stage &stage)
         stage.referee.fail(QStringLiteral("the active document on show"), QStringLiteral("its window hidden"));
     }
     m_filled = window && window->isMaximized();
+    checkTabs(stage, *mainForm->window());
     checkFocus(stage, window);
     checkForms(stage);
+}
+
+/// Each document has a tab, and that of the active one is selected.
+void StandingRules::checkTabs(Stage &stage, const QWidget &mainWindow)
+{
+    const auto *tabs = mainWindow.findChild<const TabStrip *>(QStringLiteral("tabDocSel"));
+    const MainWindow &program = *stage.program().context().mainWindow;
+    const Document *active = program.activeDocument();
+    if (tabs && active && tabs->selectedKey() != active->DocKeyDescription)
+        stage.referee.fail(QStringLiteral("the tab of the active document selected, %1").arg(active->DocKeyDescription),
+                           tabs->selectedKey());
+    if (tabs && tabs->count() != program.openDocuments().size())
+        stage.referee.fail(QStringLiteral("a tab for each of %1 documents").arg(program.openDocuments().size()),
+                           QString::number(tabs->count()));
 }
 
 void StandingRules::checkFilling(Stage &stage, QMdiSubWindow &window)

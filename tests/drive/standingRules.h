@@ -35,6 +35,7 @@ private:
     void checkFilling(Stage &stage, QMdiSubWindow &window);
     void checkFocus(Stage &stage, QMdiSubWindow *window);
     void checkPreviewFocus(Stage &stage, QWidget &focused);
+    void checkTabs(Stage &stage, const QWidget &mainWindow);
     void checkForms(Stage &stage);
 
     bool m_arranges = false; ///< the command is one that may change the windows' places
