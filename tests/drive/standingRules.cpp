@@ -118,6 +118,8 @@ void StandingRules::enter(Stage &stage, const Line &line)
                                         line.words.value(0).endsWith(QStringLiteral(".paneDivider")));
     m_pointsAtPreview = pointsAtPreview(line);
     m_usesMouse = line.command == QStringLiteral("mouse");
+    if (m_usesMouse && line.words.value(1) != QStringLiteral("move"))
+        m_holdsMouse = line.words.value(1) == QStringLiteral("press");
 }
 
 void StandingRules::check(Stage &stage)
@@ -140,13 +142,13 @@ void StandingRules::check(Stage &stage)
     checkForms(stage);
 }
 
-/// Each document has a tab, and that of the active one is selected.
+/// Each document has a tab, and that of the active one is selected, unless another one is being pressed.
 void StandingRules::checkTabs(Stage &stage, const QWidget &mainWindow)
 {
     const auto *tabs = mainWindow.findChild<const TabStrip *>(QStringLiteral("tabDocSel"));
     const MainWindow &program = *stage.program().context().mainWindow;
     const Document *active = program.activeDocument();
-    if (tabs && active && tabs->selectedKey() != active->DocKeyDescription)
+    if (tabs && active && !m_holdsMouse && tabs->selectedKey() != active->DocKeyDescription)
         stage.referee.fail(QStringLiteral("the tab of the active document selected, %1").arg(active->DocKeyDescription),
                            tabs->selectedKey());
     if (tabs && tabs->count() != program.openDocuments().size())
