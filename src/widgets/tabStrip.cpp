@@ -9,8 +9,8 @@ TabStrip::TabStrip(QWidget *parent) : QTabBar(parent)
 {
     setExpanding(false);
     setUsesScrollButtons(true);
-    setElideMode(Qt::ElideRight);
-    setFocusPolicy(Qt::TabFocus); // a click leaves the focus where the user works
+    setElideMode(Qt::ElideMiddle); // pages of a site often begin alike
+    setFocusPolicy(Qt::TabFocus);  // a click leaves the focus where the user works
 }
 
 bool TabStrip::addKeyedTab(const QString &key, const QString &caption, const QIcon &image, int place)
