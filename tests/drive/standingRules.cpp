@@ -118,8 +118,8 @@ void StandingRules::enter(Stage &stage, const Line &line)
                                         line.words.value(0).endsWith(QStringLiteral(".paneDivider")));
     m_pointsAtPreview = pointsAtPreview(line);
     m_usesMouse = line.command == QStringLiteral("mouse");
-    if (m_usesMouse && line.words.value(1) != QStringLiteral("move"))
-        m_holdsMouse = line.words.value(1) == QStringLiteral("press");
+    const QString act = m_usesMouse ? line.words.value(1) : QString();
+    m_holdsMouse = act == QStringLiteral("press") || (m_holdsMouse && act != QStringLiteral("release"));
 }
 
 void StandingRules::check(Stage &stage)
