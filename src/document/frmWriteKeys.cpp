@@ -356,7 +356,9 @@ void frmWrite::txtEdit_GotFocus()
     m_browser->releaseFocus();
     if (!ColouringActive)
         frmMdi().SetStatusReady();
-    frmMdi().selectDocumentTab(DocKeyDescription);
+    // While documents change places, the one that is left can have the keyboard for a moment yet.
+    if (frmMdi().activeDocument() == this)
+        frmMdi().selectDocumentTab(DocKeyDescription);
     if (context().files)
         context().files->lookAtFile(*this);
     txtEdit_KeyUp();
