@@ -19,6 +19,7 @@ struct Line;
 ///   inside its window.
 /// - Where the documents fill their area, the active one goes on filling it, until the script arranges the windows.
 /// - Its surface is high enough to write in, unless the script has dragged the divider under it.
+/// - Each document has a tab, and that of the active one is selected.
 /// - The keyboard is in a control that is on show, in the active document if it is in one; and in a preview only where
 ///   the script has put it there.
 /// - No form is off the screen.
