@@ -17,7 +17,8 @@ namespace
 {
 constexpr int StripeWidth = 4;
 constexpr int Padding = 4;
-constexpr qreal Tint = 0.16; ///< how much of the mark's colour the line's ground has
+constexpr int LargestPart = 3; ///< it takes one of so many parts of its parent's height at the most
+constexpr qreal Tint = 0.16;   ///< how much of the mark's colour the line's ground has
 
 /// A button whose caption is plain text: a "&" in it is a "&" and no key's mark.
 class PlainButton final : public QPushButton
@@ -167,13 +168,13 @@ void NoticeBar::followParent()
     if (!m_watched)
         return;
     m_watched->installEventFilter(this);
-    setMaximumHeight(m_watched->height() / 2);
+    setMaximumHeight(m_watched->height() / LargestPart);
 }
 
 bool NoticeBar::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_watched && event->type() == QEvent::Resize)
-        setMaximumHeight(m_watched->height() / 2);
+        setMaximumHeight(m_watched->height() / LargestPart);
     if (watched == widget() && event->type() == QEvent::LayoutRequest) {
         updateGeometry(); // a larger letter, a longer word
         showScrollBar();

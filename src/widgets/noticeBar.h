@@ -10,8 +10,8 @@ class QPushButton;
 
 /// A line that tells something and offers answers, above what it is about: `picNotice` with `lblNotice` and the buttons
 /// `cmdNotice(0)`, `cmdNotice(1)` and so on. It takes no focus by itself and by no click; where it is too narrow for
-/// one line, its text wraps and the buttons go below. It leaves half of its parent's height to what it is about, and
-/// scrolls where that is too little for it.
+/// one line, its text wraps and the buttons go below. It takes a third of its parent's height at the most, and scrolls
+/// where that is too little for it: what it is about may be a text and its preview, which share the rest.
 class NoticeBar final : public QScrollArea
 {
     Q_OBJECT

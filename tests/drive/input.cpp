@@ -272,8 +272,25 @@ void moveRealMouse(RealInput &input, const QWidget &target, MouseAct act, QPoint
     });
 }
 
+/// The window in which the mouse was pressed and not let go yet.
+QPointer<QWidget> &holdingWindow()
+{
+    static QPointer<QWidget> window;
+    return window;
+}
+
+bool isMouseHeld()
+{
+    return !holdingWindow().isNull();
+}
+
 void moveMouse(QWidget &target, MouseAct act, QPoint at, Qt::KeyboardModifiers modifiers)
 {
+    const QPointer<QWidget> holder = holdingWindow();
+    if (act == MouseAct::Press)
+        holdingWindow() = target.window();
+    else if (act == MouseAct::Release)
+        holdingWindow().clear();
     if (RealInput *input = RealInput::onThisDisplay()) {
         moveRealMouse(*input, target, act, at, modifiers);
         return;
@@ -289,7 +306,9 @@ void moveMouse(QWidget &target, MouseAct act, QPoint at, Qt::KeyboardModifiers m
     if (act != MouseAct::Release)
         press(widget, QEvent::MouseButtonPress, at, button, modifiers);
     QTestPrivate::qtestMouseButtons.setFlag(Qt::LeftButton, act == MouseAct::Press);
-    if (act != MouseAct::Press)
+    if (act == MouseAct::Release && holder) // a window that was pressed is told of the release, wherever it comes
+        release(holder, holder->mapFromGlobal(widget->mapToGlobal(at)), button, modifiers);
+    else if (act != MouseAct::Press)
         release(widget, at, button, modifiers);
     if (act == MouseAct::DoubleClick) {
         press(widget, QEvent::MouseButtonDblClick, at, button, modifiers);

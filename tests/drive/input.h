@@ -40,6 +40,8 @@ void typeText(Stage &stage, const QString &text);
 enum class MouseAct { Press, Release, Move, Click, DoubleClick, RightClick };
 /// `at` is in the widget's own coordinates, in logical pixels.
 void moveMouse(QWidget &target, MouseAct act, QPoint at, Qt::KeyboardModifiers modifiers);
+/// Whether a press of it has not been followed by a release yet.
+bool isMouseHeld();
 
 /// Drags data onto a place of the widget, or its middle, and drops it, unless the program refuses it.
 void dropOn(QWidget &widget, const QMimeData &data, std::optional<QPoint> place = {});

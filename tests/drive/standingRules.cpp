@@ -3,6 +3,7 @@
 #include "browser/webBrowser.h"
 #include "common/document.h"
 #include "common/mainWindow.h"
+#include "drive/input.h"
 #include "drive/script.h"
 #include "drive/stage.h"
 #include "forms/form.h"
@@ -118,8 +119,6 @@ void StandingRules::enter(Stage &stage, const Line &line)
                                         line.words.value(0).endsWith(QStringLiteral(".paneDivider")));
     m_pointsAtPreview = pointsAtPreview(line);
     m_usesMouse = line.command == QStringLiteral("mouse");
-    const QString act = m_usesMouse ? line.words.value(1) : QString();
-    m_holdsMouse = act == QStringLiteral("press") || (m_holdsMouse && act != QStringLiteral("release"));
 }
 
 void StandingRules::check(Stage &stage)
@@ -148,7 +147,7 @@ void StandingRules::checkTabs(Stage &stage, const QWidget &mainWindow)
     const auto *tabs = mainWindow.findChild<const TabStrip *>(QStringLiteral("tabDocSel"));
     const MainWindow &program = *stage.program().context().mainWindow;
     const Document *active = program.activeDocument();
-    if (tabs && active && !m_holdsMouse && tabs->selectedKey() != active->DocKeyDescription)
+    if (tabs && active && !isMouseHeld() && tabs->selectedKey() != active->DocKeyDescription)
         stage.referee.fail(QStringLiteral("the tab of the active document selected, %1").arg(active->DocKeyDescription),
                            tabs->selectedKey());
     if (tabs && tabs->count() != program.openDocuments().size())

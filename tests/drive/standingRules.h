@@ -45,7 +45,6 @@ private:
     bool m_dragsDivider = false;         ///< the script has had the divider of a document under the mouse
     bool m_pointsAtPreview = false;      ///< the command may move the keyboard into a preview
     bool m_usesMouse = false;            ///< the line moves or presses the mouse
-    bool m_holdsMouse = false;           ///< a line has pressed it, and none has let it go
     bool m_filled = false;               ///< the active document filled the area after the command before
     QList<QPointer<QWidget>> m_previews; ///< those that the script has put the keyboard into
 };

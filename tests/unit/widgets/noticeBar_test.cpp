@@ -159,12 +159,12 @@ TEST_F(NoticeBarTest, NeverMakesItsWindowWider)
     EXPECT_EQ(bar->width(), 300);
 }
 
-TEST_F(NoticeBarTest, LeavesHalfOfALowWindowAndScrolls)
+TEST_F(NoticeBarTest, LeavesTwoThirdsOfALowWindowAndScrolls)
 {
-    window.resize(260, 100);
+    window.resize(260, 150);
     tell(words + QStringLiteral(" Its file has changed on the disk since."));
     EXPECT_EQ(bar->height(), 50);
-    EXPECT_EQ(field->height(), 50);
+    EXPECT_EQ(field->height(), 100);
     EXPECT_TRUE(bar->verticalScrollBar()->isVisible());
     const auto shown = [&](int index) {
         const QRect place(button(index)->mapTo(bar->viewport(), QPoint()), button(index)->size());
@@ -184,16 +184,16 @@ TEST_F(NoticeBarTest, IsWholeAgainInAWindowThatGrows)
     window.resize(260, 60);
     tell(words);
     ASSERT_TRUE(bar->verticalScrollBar()->isVisible());
-    window.resize(260, 400);
+    window.resize(260, 600);
     QApplication::processEvents();
     EXPECT_FALSE(bar->verticalScrollBar()->isVisible());
     EXPECT_LE(button(2)->geometry().bottom(), bar->height());
-    EXPECT_EQ(field->height(), 400 - bar->height());
+    EXPECT_EQ(field->height(), 600 - bar->height());
 }
 
 TEST_F(NoticeBarTest, GrowsWithItsLetters)
 {
-    window.resize(260, 400);
+    window.resize(260, 900);
     tell(words);
     const int before = bar->height();
     QFont large = text()->font();
