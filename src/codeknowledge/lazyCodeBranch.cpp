@@ -12,10 +12,20 @@ const CodeBranch &LazyCodeBranch::whole() const
     if (m_whole)
         return *m_whole;
     m_whole = m_read();
-    // The nodes that somebody holds by their numbers have to stay, whatever became of the file.
-    if (!m_whole->isComplete() || m_whole->size() != m_outline->size())
+    if (!isOutlined(*m_whole))
         m_whole = standIn();
     return *m_whole;
+}
+
+/// The nodes that somebody holds by their numbers have to stay, whatever became of the file.
+bool LazyCodeBranch::isOutlined(const CodeBranch &branch) const
+{
+    if (!branch.isComplete() || branch.size() != m_outline->size() || branch.childCount(0) != m_outline->count())
+        return false;
+    for (int row = 0; row < m_outline->count(); ++row)
+        if (branch.child(0, row) != m_outline->row(row).number)
+            return false;
+    return true;
 }
 
 /// A branch of as many nodes, of which only those of the outline have a text.

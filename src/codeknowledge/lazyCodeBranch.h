@@ -31,6 +31,7 @@ public:
     bool isElement(int number) const;
 
 private:
+    bool isOutlined(const CodeBranch &branch) const;
     CodeBranch standIn() const;
 
     bool m_html = true;

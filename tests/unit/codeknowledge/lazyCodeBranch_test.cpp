@@ -86,7 +86,14 @@ TEST_F(LazyCodeBranchTest, IsNotReadForItsFirstRows)
 
 TEST_F(LazyCodeBranchTest, KeepsItsNodesWhereTheFileHasBecomeAnotherOne)
 {
-    const QByteArray others[] = {{}, file("+p\n"), file("++align=\n"), html + file("+q\n++z=\n"), file("+p\n")};
+    const QByteArray others[] = {{},
+                                 file("+p\n"),
+                                 file("++align=\n"),
+                                 html + file("+q\n++z=\n"),
+                                 file("+1\n+2\n+3\n+4\n+5\n+6\n+7\n+8\n"), // as many nodes as the first has
+                                 file("+p\n+q\n++align=\n+u\n++id=\n++x\n++y=\n++z\n"),
+                                 file("+1\n+2\n+3\n+4\n+5\n"),
+                                 file("+1\n+2\n+3\n+4\n")};
     for (const QByteArray *bytes : {&html, &css, &emptyEnd})
         for (const QByteArray &other : others) {
             const LazyCodeBranch branch = lazy(*bytes, other);
