@@ -3,6 +3,7 @@
 #include "browser/webBrowser.h"
 #include "common/document.h"
 #include "common/mainWindow.h"
+#include "drive/events.h"
 #include "drive/input.h"
 #include "drive/script.h"
 #include "drive/stage.h"
@@ -220,9 +221,15 @@ void StandingRules::checkPreviewFocus(Stage &stage, QWidget &focused)
         return;
     // In the place of the source, the preview is what the keyboard goes on to.
     const bool pointsAtIt = m_pointsAtPreview || (m_usesMouse && isUnderMouse(*preview));
-    if (!pointsAtIt && isSourceShown(*preview))
+    if (!pointsAtIt && isSourceShown(*preview)) {
+        // The engine asks for the keyboard from a process of its own, at any time; the program refuses in the next turn
+        // of the event loop.
+        settle();
+        if (ancestorPreview(QApplication::focusWidget()) != preview)
+            return;
         stage.referee.fail(QStringLiteral("the keyboard outside the preview, where no command has put it"),
                            QStringLiteral("it in the preview"));
+    }
     m_previews.append(preview);
 }
 

@@ -32,6 +32,13 @@ protected:
                 }};
     }
 
+    static void expectSameChildren(const LazyCodeBranch &branch, const CodeBranch &expected, int number)
+    {
+        ASSERT_EQ(branch.childCount(number), expected.childCount(number)) << number;
+        for (int row = 0; row < expected.childCount(number); ++row)
+            EXPECT_EQ(branch.child(number, row), expected.child(number, row)) << number << ' ' << row;
+    }
+
     static void expectSame(const LazyCodeBranch &branch, const CodeBranch &expected)
     {
         ASSERT_EQ(branch.size(), expected.size());
@@ -41,9 +48,7 @@ protected:
             EXPECT_EQ(branch.parentOf(number), expected.parentOf(number)) << number;
             EXPECT_EQ(branch.rowOf(number), expected.rowOf(number)) << number;
             EXPECT_EQ(branch.isElement(number), expected.isElement(number)) << number;
-            ASSERT_EQ(branch.childCount(number), expected.childCount(number)) << number;
-            for (int row = 0; row < expected.childCount(number); ++row)
-                EXPECT_EQ(branch.child(number, row), expected.child(number, row)) << number << ' ' << row;
+            expectSameChildren(branch, expected, number);
         }
     }
 
