@@ -4,6 +4,7 @@
 #include "common/quickDigest.h"
 
 #include <QResource>
+#include <QStringDecoder>
 #include <algorithm>
 #include <charconv>
 
@@ -79,5 +80,7 @@ std::optional<int> CodeOutline::find(int number) const
 
 QString CodeOutline::line(int row) const
 {
-    return QString::fromUtf8(m_rows[static_cast<size_t>(row)].line);
+    // A line may begin with a mark of its own, which is part of it.
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+    return decoder.decode(m_rows[static_cast<size_t>(row)].line);
 }
