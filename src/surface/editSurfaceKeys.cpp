@@ -223,9 +223,10 @@ void EditSurface::moveByPage(bool down, bool keepAnchor)
         const auto cut = std::find_if(rows.begin(), rows.end(), [&](const ShownRow &row) {
             return row.top + row.height > m_view.size().height();
         });
-        ends = cut == rows.end();
+        RowPlace behind = rows.back().place; // which begins the next page where no row is cut
+        ends = cut == rows.end() && !m_view.next(behind);
         if (!ends)
-            top = cut->place;
+            top = cut == rows.end() ? behind : cut->place;
     } else {
         RowPlace row = top;
         ends = top == RowPlace();

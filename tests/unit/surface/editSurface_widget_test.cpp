@@ -83,6 +83,27 @@ TEST_F(EditSurfaceWidget, PagesKeepTheColumnAndThePlaceOnView)
     EXPECT_EQ(surface.firstVisibleLine(), 0);
 }
 
+TEST_F(EditSurfaceWidget, APageOfWholeRowsIsFollowedByTheNextOne)
+{
+    surface.setText(QStringLiteral("line\n").repeated(100));
+    settle();
+    const int first = surface.positionOfCharacter(0).top() - surface.viewport()->y();
+    const int height = surface.positionOfCharacter(6).top() - surface.positionOfCharacter(0).top();
+    constexpr int rows = 10;
+    surface.resize(500, first + rows * height + surface.height() - surface.viewport()->height());
+    settle();
+    ASSERT_EQ(surface.viewport()->height(), first + rows * height) << "the last row is no row that is cut";
+    sendKey(Qt::Key_PageDown, {}, QString());
+    EXPECT_EQ(surface.firstVisibleLine(), rows);
+    sendKey(Qt::Key_PageDown, {}, QString());
+    EXPECT_EQ(surface.firstVisibleLine(), 2 * rows);
+    sendKey(Qt::Key_PageUp, {}, QString());
+    EXPECT_EQ(surface.firstVisibleLine(), rows);
+    for (int i = 0; i < 100 / rows; ++i)
+        sendKey(Qt::Key_PageDown, {}, QString());
+    EXPECT_EQ(surface.SelStart(), surface.textLength()); // where a page ends with the text, its caret goes there
+}
+
 TEST_F(EditSurfaceWidget, CharactersThatBelongTogetherArePassedInOne)
 {
     const QString family = QStringLiteral("\U0001F468\u200D\U0001F469\u200D\U0001F467");
