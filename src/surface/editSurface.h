@@ -194,6 +194,7 @@ private:
     void updateMargins();
     void followRows(const std::vector<ShownRow> &rows);
     void updateLines(qsizetype first, qsizetype last);
+    qreal reachOf(const ShownRow &row) const;
     void paintRow(QPainter &painter, const ShownRow &row, const QRect &clip);
     void paintSelectedBreaks(QPainter &painter, const std::vector<ShownRow> &rows);
     QList<QTextLayout::FormatRange> drawnOver(qsizetype line, const LinePiece &piece) const;
@@ -257,9 +258,10 @@ private:
     bool m_wrap = false;
     bool m_locked = false;
     bool m_hideSelection = false;
-    bool m_held = false;             ///< nothing is to be painted
-    bool m_marginsHeld = false;      ///< and the margins will have to be
-    std::vector<ShownRow> m_painted; ///< those that the margins stand beside
+    bool m_held = false;               ///< nothing is to be painted
+    bool m_marginsHeld = false;        ///< and the margins will have to be
+    std::vector<ShownRow> m_painted;   ///< those that the margins stand beside
+    std::vector<qsizetype> m_reaching; ///< the lines of these that may stand out of their rows
     QBasicTimer m_blink;
     bool m_caretShown = false;
     int m_blinksLeft = 0; ///< until the caret stays, so that a desktop at rest is not woken

@@ -206,9 +206,19 @@ void EditSurface::followRows(const std::vector<ShownRow> &rows)
 void EditSurface::updateLines(qsizetype first, qsizetype last)
 {
     for (const ShownRow &row : m_view.rows()) {
-        if (row.place.line >= first && row.place.line <= last)
-            viewport()->update(QRectF(0, row.top, viewport()->width(), row.height).toAlignedRect());
+        if (row.place.line < first || row.place.line > last)
+            continue;
+        const bool didReach = std::find(m_reaching.begin(), m_reaching.end(), row.place.line) != m_reaching.end();
+        const qreal reach = didReach ? m_view.layouts().farthestReach() : reachOf(row);
+        viewport()->update(
+            QRectF(0, row.top, viewport()->width(), row.height).adjusted(0, -reach, 0, reach).toAlignedRect());
     }
+}
+
+/// How far what is drawn of a row may stand out of it, above and below, in pixels.
+qreal EditSurface::reachOf(const ShownRow &row) const
+{
+    return m_view.layouts().reachOf(row.place.line, devicePixelRatioF());
 }
 
 void EditSurface::paintEvent(QPaintEvent *event)
@@ -219,12 +229,17 @@ void EditSurface::paintEvent(QPaintEvent *event)
     for (const ShownRow &row : rows)
         paintGround(painter, row);
     RowPlace drawn{-1, 0, 0};
+    m_reaching.clear();
     for (const ShownRow &row : rows) {
         const bool sameLayout = row.place.line == drawn.line && row.place.piece == drawn.piece;
-        const bool isHit = row.top <= event->rect().bottom() && row.top + row.height >= event->rect().top();
+        const auto reach = static_cast<int>(reachOf(row));
+        if (reach > 0)
+            m_reaching.push_back(row.place.line);
+        const QRect seen = event->rect().adjusted(0, -reach, 0, reach);
+        const bool isHit = row.top <= seen.bottom() && row.top + row.height >= seen.top();
         if (sameLayout || !isHit)
             continue;
-        paintRow(painter, row, event->rect());
+        paintRow(painter, row, seen);
         drawn = row.place;
     }
     paintSelectedBreaks(painter, rows);

@@ -118,8 +118,10 @@ LineLayouts::LineLayouts(const SurfaceText &text, const FormatRuns &looks, const
 
 void LineLayouts::setStyle(const LayoutStyle &style)
 {
-    if (style.font != m_style.font)
+    if (style.font != m_style.font) {
         m_plainFont.reset();
+        m_asciiFits.reset();
+    }
     m_style = style;
     m_advance = std::max(QFontMetricsF(style.font).horizontalAdvance(u'x'), 1.0);
     QTextLayout empty(QString(), style.font);
@@ -194,6 +196,7 @@ LinePiece LineLayouts::laidOut(qsizetype line, int number) const
     const qsizetype before = std::min(piece.start, mostMarks);
     const QString text =
         drawnText(m_text.mid(m_text.lineStart(line) + piece.start - before, before + piece.length), before);
+    piece.onlyAscii = std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
     piece.layout = std::make_unique<QTextLayout>(text, fontFor(text));
     QTextLayout &layout = *piece.layout;
     layout.setCacheEnabled(true);
@@ -305,6 +308,36 @@ qreal LineLayouts::heightOf(qsizetype line)
             height = std::max(height, piece.height);
     }
     return height;
+}
+
+qreal LineLayouts::reachOf(qsizetype line, qreal ratio) const
+{
+    const Line *kept = known(line);
+    const bool keepsIn =
+        kept && pieceCount(line) == 1 && std::all_of(kept->pieces.begin(), kept->pieces.end(), [](const auto &piece) {
+            return piece.second.onlyAscii && piece.second.preeditAt < 0;
+        });
+    return keepsIn && asciiFits(ratio) ? 0 : farthestReach();
+}
+
+/// Whether no letter or sign of ASCII is higher than a row has room for. Between whole ratios that depends on the row.
+bool LineLayouts::asciiFits(qreal ratio) const
+{
+    if (m_asciiFits && m_asciiFits->first == ratio)
+        return m_asciiFits->second;
+    QString signs;
+    for (char16_t sign = u'!'; sign <= u'~'; ++sign)
+        signs += QChar(sign);
+    const auto fits = [&](const QFont &font) {
+        const QFontMetricsF metrics(font);
+        const QRectF ink = metrics.tightBoundingRect(signs);
+        const qreal base = std::round(metrics.ascent() * ratio);
+        return std::ceil(-ink.top() * ratio) <= base && base + std::ceil(ink.bottom() * ratio) <= m_rowHeight * ratio;
+    };
+    QFont bold = m_style.font;
+    bold.setBold(true);
+    m_asciiFits = {ratio, ratio == std::floor(ratio) && fits(m_style.font) && fits(bold)};
+    return m_asciiFits->second;
 }
 
 int LineLayouts::estimatedRows(qsizetype length) const

@@ -35,6 +35,7 @@ struct LinePiece {
     qsizetype start = 0; ///< in its line
     qsizetype length = 0;
     qsizetype preeditAt = -1; ///< where in the piece text is composed; -1: nowhere
+    bool onlyAscii = false;
     std::unique_ptr<QTextLayout> layout;
     qreal width = 0;  ///< of its widest row, in pixels
     qreal height = 0; ///< of all its rows
@@ -76,7 +77,11 @@ public:
     int pieceAtPixel(qsizetype line, qreal x);
     qreal lineWidth(qsizetype line) const; ///< in pixels, as far as is known
     qreal heightOf(qsizetype line);        ///< of a row that is not wrapped
-    int rowsOf(qsizetype line) const;      ///< of a wrapped line, as far as is known
+    /// How far what is drawn of a line may stand out of its rows, above and below, in pixels: fonts have signs that are
+    /// higher than the rows that they ask for. `ratio`: of the screen's pixels to these.
+    qreal reachOf(qsizetype line, qreal ratio) const;
+    qreal farthestReach() const { return std::ceil(m_rowHeight / 3); }
+    int rowsOf(qsizetype line) const; ///< of a wrapped line, as far as is known
     int rowsBefore(qsizetype line, int piece) const;
     int estimatedRows(qsizetype length) const; ///< of a line of that many characters
 
@@ -102,6 +107,7 @@ private:
     };
 
     const QFont &fontFor(const QString &text) const;
+    bool asciiFits(qreal ratio) const;
     LinePiece laidOut(qsizetype line, int number) const;
     QList<QTextLayout::FormatRange> formatsOf(qsizetype line, const LinePiece &piece) const;
     const Line *known(qsizetype line) const;
@@ -111,7 +117,8 @@ private:
     const TextMarks &m_marks;
     std::function<QColor(ColourValue)> m_colour;
     LayoutStyle m_style;
-    mutable std::optional<QFont> m_plainFont; ///< for text that needs no shaper, once it is asked for
+    mutable std::optional<QFont> m_plainFont;                  ///< for text that needs no shaper, once it is asked for
+    mutable std::optional<std::pair<qreal, bool>> m_asciiFits; ///< for a ratio, once it is asked for
     Preedit m_preedit;
     quint64 m_laidOut = 0;
     qreal m_rowHeight = 1;

@@ -32,6 +32,42 @@ protected:
         EXPECT_EQ(onScreen.convertToFormat(QImage::Format_RGB32), anew.convertToFormat(QImage::Format_RGB32)) << after;
     }
 
+    void typeAndLook()
+    {
+        surface.setText(QStringLiteral("one gjpq\r\ntwo gjpq \u00C4\u00C5\r\nthree gjpq\r\nfour\r\n").repeated(10));
+        surface.setFormat(10, 3, {.colour = 0xff, .bold = true, .underline = true});
+        expectNoTraces("the text");
+        surface.setSelStart(14);
+        expectNoTraces("a jump");
+        for (const QChar c : QStringLiteral("gj\u00C5"))
+            sendCharacter(c);
+        expectNoTraces("letters");
+        sendKey(Qt::Key_Backspace, {}, QStringLiteral("\b"));
+        expectNoTraces("a high letter that is gone");
+        sendKey(Qt::Key_Down, {}, QString());
+        expectNoTraces("a move");
+        sendKey(Qt::Key_Left, Qt::ShiftModifier, QString());
+        expectNoTraces("a selection");
+        sendKey(Qt::Key_Right, {}, QString());
+        sendKey(Qt::Key_Backspace, {}, QStringLiteral("\b"));
+        expectNoTraces("a removal");
+        sendCharacter(u'\r');
+        expectNoTraces("a new line");
+        surface.setMarkedRanges(MarkOwner::Tags, {{10, 3, MarkKind::Pair}});
+        sendCharacter(u'x');
+        expectNoTraces("marks");
+        surface.setText(QStringLiteral("one\r\ntwo\r\nthree\r\n"));
+        surface.setSelStart(6);
+        surface.setSelText(QStringLiteral("a\u0302\u0301\u0323\u0331")); // marks above one another and below
+        expectNoTraces("a letter with marks");
+        sendCharacter(u' ');
+        expectNoTraces("a blank behind it");
+        surface.setSelLength(0);
+        sendKey(Qt::Key_Up, {}, QString());
+        sendCharacter(u'j');
+        expectNoTraces("a letter above it");
+    }
+
     int flash;
 };
 
@@ -56,25 +92,12 @@ TEST_F(EditSurfaceScale, EachCharacterIsFoundWhereItStands)
 
 TEST_F(EditSurfaceScale, KeysLeaveNoTraces)
 {
-    surface.setText(QStringLiteral("one gjpq\r\ntwo gjpq \u00C4\u00C5\r\nthree gjpq\r\nfour\r\n").repeated(10));
-    surface.setFormat(10, 3, {.colour = 0xff, .bold = true, .underline = true});
-    expectNoTraces("the text");
-    surface.setSelStart(14);
-    expectNoTraces("a jump");
-    for (const QChar c : QStringLiteral("gj\u00C5"))
-        sendCharacter(c);
-    expectNoTraces("letters");
-    sendKey(Qt::Key_Down, {}, QString());
-    expectNoTraces("a move");
-    sendKey(Qt::Key_Left, Qt::ShiftModifier, QString());
-    expectNoTraces("a selection");
-    sendKey(Qt::Key_Right, {}, QString());
-    sendKey(Qt::Key_Backspace, {}, QStringLiteral("\b"));
-    expectNoTraces("a removal");
-    sendCharacter(u'\r');
-    expectNoTraces("a new line");
-    surface.setMarkedRanges(MarkOwner::Tags, {{10, 3, MarkKind::Pair}});
-    sendCharacter(u'x');
-    expectNoTraces("marks");
+    typeAndLook();
+}
+
+TEST_F(EditSurfaceScale, LettersThatAreHigherThanTheirRowsLeaveNone)
+{
+    surface.setFont(QFont(QStringLiteral("DejaVu Sans Mono"), 9));
+    typeAndLook();
 }
 } // namespace
