@@ -124,6 +124,7 @@ void LineLayouts::setStyle(const LayoutStyle &style)
     }
     m_style = style;
     m_advance = std::max(QFontMetricsF(style.font).horizontalAdvance(u'x'), 1.0);
+    m_columns = std::max(static_cast<qsizetype>(style.wrapWidth / m_advance), qsizetype(1));
     QTextLayout empty(QString(), style.font);
     empty.beginLayout();
     QTextLine row = empty.createLine();
@@ -342,10 +343,12 @@ bool LineLayouts::asciiFits(qreal ratio) const
 
 int LineLayouts::estimatedRows(qsizetype length) const
 {
-    const qsizetype columns = std::max(static_cast<qsizetype>(m_style.wrapWidth / m_advance), qsizetype(1));
+    if (length <= std::min(m_columns, longestInOne))
+        return 1; // as most lines are, of which there may be a hundred thousand to ask for
+    const auto rowsOfPiece = [this](qsizetype piece) { return (piece + m_columns - 1) / m_columns; };
     if (length <= longestInOne)
-        return static_cast<int>(std::max((length + columns - 1) / columns, qsizetype(1)));
-    return static_cast<int>((length + pieceLength / 2) / pieceLength * ((pieceLength + columns - 1) / columns));
+        return static_cast<int>(rowsOfPiece(length));
+    return static_cast<int>((length + pieceLength / 2) / pieceLength * rowsOfPiece(pieceLength));
 }
 
 int LineLayouts::rowsBefore(qsizetype line, int piece) const

@@ -123,5 +123,6 @@ private:
     quint64 m_laidOut = 0;
     qreal m_rowHeight = 1;
     qreal m_advance = 1;
+    qsizetype m_columns = 1; ///< letters of that width that a wrapped row holds
     std::unordered_map<qsizetype, Line> m_lines;
 };
