@@ -13,3 +13,5 @@ struct LineBreaks {
 };
 
 LineBreaks lineBreaksOf(QStringView text);
+/// The place of the first CR or LF from a place on, each counted from 0; the text's length where there is none.
+qsizetype nextBreak(QStringView text, qsizetype from);

@@ -1,5 +1,7 @@
 #include "common/utf8.h"
 
+#include "common/likeCharacters.h"
+
 #include <QStringDecoder>
 
 #include <cstring>
@@ -106,6 +108,16 @@ bool isLoneHalf(QStringView text, qsizetype i)
     return text[i].isLowSurrogate() && (i == 0 || !text[i - 1].isHighSurrogate());
 }
 
+/// The place of the first half from a place on that stands alone; the text's length where there is none.
+qsizetype nextLoneHalf(QStringView text, qsizetype from)
+{
+    const auto next = [text](qsizetype place) { return firstLike<0xF800, 0xD800>(text, place); };
+    qsizetype i = next(from);
+    while (i < text.size() && !isLoneHalf(text, i))
+        i = next(i + 1);
+    return i;
+}
+
 void appendHalf(QByteArray &bytes, char16_t code)
 {
     bytes += static_cast<char>(0xED);
@@ -145,20 +157,14 @@ QString fromUtf8WithHalves(QByteArrayView bytes)
 
 bool hasLoneHalves(QStringView text)
 {
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        if (text[i].isSurrogate() && isLoneHalf(text, i))
-            return true;
-    }
-    return false;
+    return nextLoneHalf(text, 0) < text.size();
 }
 
 QByteArray toUtf8WithHalves(QStringView text)
 {
     QByteArray bytes;
     qsizetype start = 0;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        if (!text[i].isSurrogate() || !isLoneHalf(text, i))
-            continue;
+    for (qsizetype i = nextLoneHalf(text, 0); i < text.size(); i = nextLoneHalf(text, i + 1)) {
         bytes += text.sliced(start, i - start).toUtf8();
         appendHalf(bytes, text[i].unicode());
         start = i + 1;

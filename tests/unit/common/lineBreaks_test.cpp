@@ -34,6 +34,30 @@ TEST(LineBreaks, AreCountedByTheirKinds)
     }
 }
 
+TEST(LineBreaks, AreCountedWhereverTheyStand)
+{
+    // Beside characters that differ from a break in one bit, in either half of them.
+    const QString others =
+        QStringLiteral("\t\b\u000B\u000C\u000E\u000F\u0002\u0005\u001A\u001D\u010A\u0D0D\u0A0A\u8000\uFFFD\u2028");
+    for (qsizetype length = 1; length <= 40; ++length) {
+        for (qsizetype place = 0; place < length; ++place) {
+            QString text = others.repeated(3).first(length);
+            EXPECT_EQ(nextBreak(text, place), length);
+            text[place] = u'\n';
+            EXPECT_EQ(lineBreaksOf(text).lf, 1) << length << ' ' << place;
+            EXPECT_EQ(nextBreak(text, 0), place) << length;
+            EXPECT_EQ(nextBreak(text, place), place) << length;
+            EXPECT_EQ(nextBreak(text, place + 1), length) << length;
+            text[place] = u'\r';
+            EXPECT_EQ(lineBreaksOf(text).cr, 1) << length << ' ' << place;
+            text.insert(place + 1, u'\n');
+            const LineBreaks breaks = lineBreaksOf(text);
+            EXPECT_EQ(breaks.crLf, 1) << length << ' ' << place;
+            EXPECT_TRUE(breaks.areAllCrLf()) << length << ' ' << place;
+        }
+    }
+}
+
 TEST(LineBreaks, AreCountedInLongTexts)
 {
     const LineBreaks feeds = lineBreaksOf(QString(200'000, u'\n'));
