@@ -1,5 +1,7 @@
 #include "common/lineIndex.h"
 
+#include "common/lineBreaks.h"
+
 #include <algorithm>
 
 namespace
@@ -15,16 +17,20 @@ std::vector<qsizetype> startsIn(QStringView text, qsizetype offset)
 }
 } // namespace
 
-void LineIndex::reset(QStringView text)
+bool LineIndex::reset(QStringView text)
 {
+    std::vector<qsizetype> starts{0};
+    for (qsizetype i = nextBreak(text, 0); i < text.size(); i = nextBreak(text, i + breakLength)) {
+        if (!text.sliced(i).startsWith(u"\r\n"))
+            return false;
+        starts.push_back(i + breakLength);
+    }
     m_length = text.size();
     m_front.clear();
-    m_back = startsIn(text, 0);
-    m_back.insert(m_back.begin(), 0);
-    std::reverse(m_back.begin(), m_back.end());
+    m_back.assign(starts.rbegin(), starts.rend());
     for (qsizetype &start : m_back)
         start = m_length - start;
-    m_back.shrink_to_fit();
+    return true;
 }
 
 void LineIndex::replace(qsizetype position, qsizetype removed, QStringView inserted)

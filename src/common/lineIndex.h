@@ -13,8 +13,8 @@
 class LineIndex
 {
 public:
-    /// Starts anew with a text in which CR and LF stand only together.
-    void reset(QStringView text);
+    /// Starts anew with a text. False, and nothing changes, if a CR or an LF stands alone in it.
+    bool reset(QStringView text);
     /// Tells that `removed` characters at the wide `position` have given way to `inserted`. None of both may cut a
     /// break in two.
     void replace(qsizetype position, qsizetype removed, QStringView inserted);

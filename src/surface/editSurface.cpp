@@ -47,7 +47,7 @@ void EditSurface::setText(const QString &text)
     endComposing();
     const bool told = SurfaceAccessible::isWatched();
     const QString before = told ? m_text.text() : QString();
-    m_text.load(withCrLf(text));
+    m_text.load(text);
     m_looks.reset(m_text.length());
     m_marks.clear();
     m_view.textLoaded();

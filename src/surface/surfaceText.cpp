@@ -1,11 +1,18 @@
 #include "surface/surfaceText.h"
 
+#include "common/text.h"
+
 #include <algorithm>
 
 void SurfaceText::load(const QString &text)
 {
-    m_lines.reset(text);
-    m_text.reset(text);
+    if (m_lines.reset(text)) {
+        m_text.reset(text);
+        return;
+    }
+    const QString whole = withCrLf(text);
+    m_lines.reset(whole);
+    m_text.reset(whole);
 }
 
 void SurfaceText::replace(qsizetype position, qsizetype removed, QStringView inserted)

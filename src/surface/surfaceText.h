@@ -12,7 +12,7 @@
 class SurfaceText
 {
 public:
-    /// Starts anew with a text whose breaks are CR LF already.
+    /// Starts anew with a text, which is shared; if there are other breaks than CR LF in it, with one that has these.
     void load(const QString &text);
     /// `removed` characters at `position` give way to `inserted`, whose breaks are CR LF. None of both may cut a break
     /// in two.

@@ -26,6 +26,20 @@ TEST(LineIndex, AnEmptyTextHasOneLine)
     EXPECT_EQ(index.toWide(7), 0);
 }
 
+TEST(LineIndex, StaysAsItWasWhereABreakStandsAlone)
+{
+    LineIndex index = indexOf(QStringLiteral("ab\r\nc"));
+    for (const char *text : {"\n", "\r", "a\r\nb\n", "\r\n\r", "\n\r", "\r\r\n", "a\r\n\n"}) {
+        EXPECT_FALSE(index.reset(QString::fromLatin1(text))) << text;
+        EXPECT_EQ(index.lineCount(), 2) << text;
+        EXPECT_EQ(index.lineStart(1), 4) << text;
+        EXPECT_EQ(index.length(), 5) << text;
+    }
+    EXPECT_TRUE(index.reset(QStringLiteral("a\r\n\r\n")));
+    EXPECT_EQ(index.lineCount(), 3);
+    EXPECT_EQ(index.lineStart(2), 5);
+}
+
 TEST(LineIndex, KnowsWhereLinesStartAndEnd)
 {
     const LineIndex index = indexOf(QStringLiteral("ab\r\n\r\ncde\r\n"));
