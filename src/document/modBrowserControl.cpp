@@ -12,7 +12,6 @@
 #include "services/settings.h"
 #include "storage/documentCopy.h"
 
-#include <QRegularExpression>
 #include <QScopedValueRollback>
 #include <QUrl>
 
@@ -136,9 +135,11 @@ void Navigate(ProgramContext &context, const QString &path)
 
 bool showsSomething(const QString &source)
 {
-    static const QRegularExpression body(QStringLiteral("<body[^>]*>(.*?)(</body\\s*>|$)"),
-                                         QRegularExpression::CaseInsensitiveOption |
-                                             QRegularExpression::DotMatchesEverythingOption);
-    const QRegularExpressionMatch match = body.match(source);
-    return !(match.hasMatch() ? match.capturedView(1) : QStringView(source)).trimmed().isEmpty();
+    const qsizetype tag = source.indexOf(QLatin1String("<body"), 0, Qt::CaseInsensitive);
+    const qsizetype inside = tag < 0 ? -1 : source.indexOf(u'>', tag);
+    const QStringView shown = QStringView(source).sliced(inside + 1).trimmed(); // of all, if no body begins
+    const QLatin1String end("</body");
+    if (inside >= 0 && shown.startsWith(end, Qt::CaseInsensitive))
+        return !shown.sliced(end.size()).trimmed().startsWith(u'>');
+    return !shown.isEmpty();
 }

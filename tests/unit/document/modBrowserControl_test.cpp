@@ -16,6 +16,11 @@ TEST(ShowsSomething, IsWhatStandsInThePagesBody)
         {"<BODY BGCOLOR=\"red\">\r\n</BODY >", false},
         {"<body>", false},
         {"<body>x", true},
+        {"<body\r\nclass=a", true}, // which begins no body
+        {"<body></body", true},     // nor ends it
+        {"<body></bodywork>", true},
+        {"<body> </body\r\n>x", false},
+        {"<body>\r\n</Body\t>\r\n</html>", false},
         {"<html><body>\r\n<p></p>\r\n</body></html>", true},
         {"<html><body>\r\nx\r\n</body></html>", true},
         {"<frameset><frame src=\"a.htm\"></frameset>", true},
