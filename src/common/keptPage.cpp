@@ -27,7 +27,16 @@ std::optional<Choice> choiceOf(quint8 number, Choice last)
 
 QByteArray digestOf(const QByteArray &bytes)
 {
-    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
+    QByteArray digest(DigestSize, Qt::Uninitialized);
+    qToLittleEndian(QuickDigest::of(bytes), digest.data());
+    return digest;
+}
+
+bool isDigestOf(const QByteArray &digest, const QByteArray &bytes)
+{
+    if (digest.size() == EarlierDigestSize)
+        return digest == QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
+    return digest == digestOf(bytes);
 }
 
 QByteArray keptPageBytes(const KeptPage &page)

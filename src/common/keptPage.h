@@ -33,3 +33,5 @@ std::optional<KeptPage> keptPageOf(const QByteArray &bytes);
 
 /// Tells one content of a file from another.
 QByteArray digestOf(const QByteArray &bytes);
+/// Whether a kept page's digest is of these bytes. Earlier versions kept SHA-256; an empty one is of none.
+bool isDigestOf(const QByteArray &digest, const QByteArray &bytes);

@@ -3,6 +3,7 @@
 #include "common/document.h"
 #include "common/fileCommands.h"
 #include "common/mainWindow.h"
+#include "common/quickDigest.h"
 #include "forms/programContext.h"
 #include "services/fileSystem.h"
 #include "services/services.h"
@@ -13,11 +14,6 @@
 namespace
 {
 const QString NoticeKey = QStringLiteral("outside");
-
-size_t contentsOf(const QByteArray &bytes)
-{
-    return qHashBits(bytes.constData(), static_cast<size_t>(bytes.size()), 0);
-}
 } // namespace
 
 OutsideChanges::OutsideChanges(ProgramContext &context) : m_context(context)
@@ -35,7 +31,7 @@ OutsideChanges::OutsideChanges(ProgramContext &context) : m_context(context)
 
 void OutsideChanges::noteBytes(const Document &document, const QByteArray &bytes)
 {
-    m_known[&document] = {.contents = contentsOf(bytes)};
+    m_known[&document] = {.contents = QuickDigest::of(bytes)};
 }
 
 void OutsideChanges::noteTold(const Document &document)
@@ -82,7 +78,7 @@ bool OutsideChanges::isChanged(const Document &document, const std::optional<Fil
     if (!now || !contents)
         return true;
     const FileContents file = m_context.services.files.readAll(document.DocSavePath);
-    return file.error || contentsOf(file.bytes) != *contents;
+    return file.error || QuickDigest::of(file.bytes) != *contents;
 }
 
 void OutsideChanges::tell(Document &document, bool gone)

@@ -29,7 +29,7 @@ public:
 
 private:
     struct Known {
-        std::optional<size_t> contents;     ///< tells the bytes that the document was read from or saved as
+        std::optional<quint64> contents;    ///< tells the bytes that the document was read from or saved as
         bool isTold = false;                ///< the state below was told, or looked at and found to be no change
         std::optional<FileStamp> told = {}; ///< nothing: the file is gone
     };

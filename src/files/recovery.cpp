@@ -297,7 +297,7 @@ QString Recovery::fileRemark(const KeptPage &page, Document &document) const
     if (now == page.stamp)
         return {};
     const FileContents contents = files.readAll(page.path);
-    if (page.fileDigest.isEmpty() || contents.error || digestOf(contents.bytes) != page.fileDigest)
+    if (contents.error || !isDigestOf(page.fileDigest, contents.bytes))
         return QStringLiteral(" Its file has changed on the disk since.");
     document.fileStamp = now; // the same bytes under a new time
     return {};

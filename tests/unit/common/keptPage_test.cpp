@@ -46,6 +46,18 @@ TEST(KeptPage, ComesBackAsItWas)
     EXPECT_EQ(read->fileDigest, digestOf("old"));
 }
 
+TEST(KeptPage, KnowsTheFileByADigestOfEachVersion)
+{
+    const QByteArray earlier = QByteArray::fromHex("cba06b5736faf67e54b07b561eae94395e774c517a7d910a54369e1263ccfbd4");
+    for (const QByteArray &digest : {digestOf("old"), earlier}) {
+        EXPECT_TRUE(isDigestOf(digest, "old"));
+        EXPECT_FALSE(isDigestOf(digest, "new"));
+        EXPECT_FALSE(isDigestOf(digest, ""));
+    }
+    EXPECT_FALSE(isDigestOf({}, "old")); // the file could not be looked at
+    EXPECT_FALSE(isDigestOf({}, ""));
+}
+
 TEST(KeptPage, KnowsAPageWithoutAFile)
 {
     KeptPage page;
