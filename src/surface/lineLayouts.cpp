@@ -10,10 +10,11 @@ namespace
 {
 constexpr qsizetype longestInOne = 2048;
 constexpr qsizetype pieceLength = 1024;
-constexpr qsizetype lookBack = 32;    // characters in which the start of what belongs together is looked for
-constexpr qsizetype mostMarks = 64;   // that are drawn on a letter; writing has a few
-constexpr qreal narrowest = 256;      // pixels of a piece, whose characters may all have no width
-constexpr qreal unlimited = 16000000; // pixels: a layout counts in 64ths of them, with 32 bits
+constexpr qsizetype lookBack = 32;          // characters in which the start of what belongs together is looked for
+constexpr qsizetype mostMarks = 64;         // that are drawn on a letter; writing has a few
+constexpr qreal narrowest = 256;            // pixels of a piece, whose characters may all have no width
+constexpr char16_t firstUnmeasured = 0x300; // from which on letters may come from another font, or stand above others
+constexpr qreal unlimited = 16000000;       // pixels: a layout counts in 64ths of them, with 32 bits
 
 /// Characters that a layout would take for its own marks or for the end of a row are drawn as a sign.
 bool isDrawnAsSign(QChar c)
@@ -85,6 +86,19 @@ QFont fontOfPlainText(const QFont &font)
     return glyphsOf(joined, font) == glyphsOf(joined, plain) ? plain : font;
 }
 
+/// The characters of a text that ASCII has not, each once; firstUnmeasured alone, if there are some of another kind.
+QString beyondAscii(const QString &text)
+{
+    QString found;
+    for (const QChar c : text) {
+        if (c.unicode() >= firstUnmeasured || (c.unicode() < u' ' && c != u'\t'))
+            return QChar(firstUnmeasured);
+        if (c.unicode() >= 0x80 && !found.contains(c))
+            found += c;
+    }
+    return found;
+}
+
 /// What is drawn of a text behind its first `skipped` characters.
 QString drawnText(QString text, qsizetype skipped)
 {
@@ -120,7 +134,7 @@ void LineLayouts::setStyle(const LayoutStyle &style)
 {
     if (style.font != m_style.font) {
         m_plainFont.reset();
-        m_asciiFits.reset();
+        m_fits = {};
     }
     m_style = style;
     m_advance = std::max(QFontMetricsF(style.font).horizontalAdvance(u'x'), 1.0);
@@ -197,7 +211,7 @@ LinePiece LineLayouts::laidOut(qsizetype line, int number) const
     const qsizetype before = std::min(piece.start, mostMarks);
     const QString text =
         drawnText(m_text.mid(m_text.lineStart(line) + piece.start - before, before + piece.length), before);
-    piece.onlyAscii = std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
+    piece.beyondAscii = beyondAscii(text);
     piece.layout = std::make_unique<QTextLayout>(text, fontFor(text));
     QTextLayout &layout = *piece.layout;
     layout.setCacheEnabled(true);
@@ -314,31 +328,44 @@ qreal LineLayouts::heightOf(qsizetype line)
 qreal LineLayouts::reachOf(qsizetype line, qreal ratio) const
 {
     const Line *kept = known(line);
-    const bool keepsIn =
-        kept && pieceCount(line) == 1 && std::all_of(kept->pieces.begin(), kept->pieces.end(), [](const auto &piece) {
-            return piece.second.onlyAscii && piece.second.preeditAt < 0;
-        });
-    return keepsIn && asciiFits(ratio) ? 0 : farthestReach();
+    if (!kept || pieceCount(line) > 1 || ratio != std::floor(ratio)) // between whole ratios it depends on the row
+        return farthestReach();
+    if (m_fits.ratio != ratio)
+        m_fits = {ratio, {}};
+    const bool keepsIn = std::all_of(kept->pieces.begin(), kept->pieces.end(), [this](const auto &numbered) {
+        const LinePiece &piece = numbered.second;
+        const QString &signs = piece.beyondAscii;
+        return piece.preeditAt < 0 && std::all_of(signs.begin(), signs.end(), [this](QChar c) { return fits(c); });
+    });
+    return keepsIn && fits(QChar()) ? 0 : farthestReach();
 }
 
-/// Whether no letter or sign of ASCII is higher than a row has room for. Between whole ratios that depends on the row.
-bool LineLayouts::asciiFits(qreal ratio) const
+/// Whether a letter is no higher than a row has room for, whatever its look; the null character stands for all of
+/// ASCII.
+bool LineLayouts::fits(QChar c) const
 {
-    if (m_asciiFits && m_asciiFits->first == ratio)
-        return m_asciiFits->second;
+    if (c.unicode() >= firstUnmeasured)
+        return false;
+    const auto known = m_fits.signs.find(c.unicode());
+    if (known != m_fits.signs.end())
+        return known->second;
     QString signs;
-    for (char16_t sign = u'!'; sign <= u'~'; ++sign)
+    if (!c.isNull())
+        signs = c;
+    for (char16_t sign = u'!'; c.isNull() && sign <= u'~'; ++sign)
         signs += QChar(sign);
-    const auto fits = [&](const QFont &font) {
+    const auto fitsIn = [&](const QFont &font) {
         const QFontMetricsF metrics(font);
         const QRectF ink = metrics.tightBoundingRect(signs);
-        const qreal base = std::round(metrics.ascent() * ratio);
-        return std::ceil(-ink.top() * ratio) <= base && base + std::ceil(ink.bottom() * ratio) <= m_rowHeight * ratio;
+        const qreal base = std::round(metrics.ascent() * m_fits.ratio);
+        return std::ceil(-ink.top() * m_fits.ratio) <= base &&
+               base + std::ceil(ink.bottom() * m_fits.ratio) <= m_rowHeight * m_fits.ratio;
     };
     QFont bold = m_style.font;
     bold.setBold(true);
-    m_asciiFits = {ratio, ratio == std::floor(ratio) && fits(m_style.font) && fits(bold)};
-    return m_asciiFits->second;
+    const bool both = fitsIn(m_style.font) && fitsIn(bold);
+    m_fits.signs.emplace(c.unicode(), both);
+    return both;
 }
 
 int LineLayouts::estimatedRows(qsizetype length) const

@@ -35,7 +35,7 @@ struct LinePiece {
     qsizetype start = 0; ///< in its line
     qsizetype length = 0;
     qsizetype preeditAt = -1; ///< where in the piece text is composed; -1: nowhere
-    bool onlyAscii = false;
+    QString beyondAscii;      ///< its characters that ASCII has not, each once, as far as they tell how high it is
     std::unique_ptr<QTextLayout> layout;
     qreal width = 0;  ///< of its widest row, in pixels
     qreal height = 0; ///< of all its rows
@@ -106,8 +106,13 @@ private:
         qreal advance = 0;         ///< of a character, by the first piece that was laid out
     };
 
+    struct Fits {
+        qreal ratio = 0;
+        std::unordered_map<char16_t, bool> signs; ///< that were asked for; 0: all of ASCII
+    };
+
     const QFont &fontFor(const QString &text) const;
-    bool asciiFits(qreal ratio) const;
+    bool fits(QChar c) const;
     LinePiece laidOut(qsizetype line, int number) const;
     QList<QTextLayout::FormatRange> formatsOf(qsizetype line, const LinePiece &piece) const;
     const Line *known(qsizetype line) const;
@@ -117,8 +122,8 @@ private:
     const TextMarks &m_marks;
     std::function<QColor(ColourValue)> m_colour;
     LayoutStyle m_style;
-    mutable std::optional<QFont> m_plainFont;                  ///< for text that needs no shaper, once it is asked for
-    mutable std::optional<std::pair<qreal, bool>> m_asciiFits; ///< for a ratio, once it is asked for
+    mutable std::optional<QFont> m_plainFont; ///< for text that needs no shaper, once it is asked for
+    mutable Fits m_fits;
     Preedit m_preedit;
     quint64 m_laidOut = 0;
     qreal m_rowHeight = 1;
