@@ -8,8 +8,8 @@
 /// where there is none.
 ///
 /// Units are looked at in fours, as parts of one number, so a page of megabytes costs two to three instructions a
-/// character, with any compiler and on any processor. `Value` is to be rare: a group that holds one is looked at unit by
-/// unit.
+/// character, with any compiler and on any processor. `Value` is to be rare: a group that holds one is looked at unit
+/// by unit.
 template <char16_t Mask, char16_t Value>
 qsizetype firstLike(QStringView text, qsizetype from = 0)
 {
