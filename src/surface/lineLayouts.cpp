@@ -10,11 +10,10 @@ namespace
 {
 constexpr qsizetype longestInOne = 2048;
 constexpr qsizetype pieceLength = 1024;
-constexpr qsizetype lookBack = 32;          // characters in which the start of what belongs together is looked for
-constexpr qsizetype mostMarks = 64;         // that are drawn on a letter; writing has a few
-constexpr qreal narrowest = 256;            // pixels of a piece, whose characters may all have no width
-constexpr char16_t firstUnmeasured = 0x300; // from which on letters may come from another font, or stand above others
-constexpr qreal unlimited = 16000000;       // pixels: a layout counts in 64ths of them, with 32 bits
+constexpr qsizetype lookBack = 32;    // characters in which the start of what belongs together is looked for
+constexpr qsizetype mostMarks = 64;   // that are drawn on a letter; writing has a few
+constexpr qreal narrowest = 256;      // pixels of a piece, whose characters may all have no width
+constexpr qreal unlimited = 16000000; // pixels: a layout counts in 64ths of them, with 32 bits
 
 /// Characters that a layout would take for its own marks or for the end of a row are drawn as a sign.
 bool isDrawnAsSign(QChar c)
@@ -86,17 +85,17 @@ QFont fontOfPlainText(const QFont &font)
     return glyphsOf(joined, font) == glyphsOf(joined, plain) ? plain : font;
 }
 
-/// The characters of a text that ASCII has not, each once; firstUnmeasured alone, if there are some of another kind.
-QString beyondAscii(const QString &text)
+MeasuredLetters lettersOf(const QString &text)
 {
-    QString found;
+    MeasuredLetters letters;
     for (const QChar c : text) {
-        if (c.unicode() >= firstUnmeasured || (c.unicode() < u' ' && c != u'\t'))
-            return QChar(firstUnmeasured);
-        if (c.unicode() >= 0x80 && !found.contains(c))
-            found += c;
+        const char16_t code = c.unicode();
+        if (code > u' ' && code < letters.size())
+            letters.set(code);
+        else if (code != u' ' && code != u'\t')
+            letters.set(0);
     }
-    return found;
+    return letters;
 }
 
 /// What is drawn of a text behind its first `skipped` characters.
@@ -211,7 +210,7 @@ LinePiece LineLayouts::laidOut(qsizetype line, int number) const
     const qsizetype before = std::min(piece.start, mostMarks);
     const QString text =
         drawnText(m_text.mid(m_text.lineStart(line) + piece.start - before, before + piece.length), before);
-    piece.beyondAscii = beyondAscii(text);
+    piece.letters = lettersOf(text);
     piece.layout = std::make_unique<QTextLayout>(text, fontFor(text));
     QTextLayout &layout = *piece.layout;
     layout.setCacheEnabled(true);
@@ -331,41 +330,38 @@ qreal LineLayouts::reachOf(qsizetype line, qreal ratio) const
     if (!kept || pieceCount(line) > 1 || ratio != std::floor(ratio)) // between whole ratios it depends on the row
         return farthestReach();
     if (m_fits.ratio != ratio)
-        m_fits = {ratio, {}};
-    const bool keepsIn = std::all_of(kept->pieces.begin(), kept->pieces.end(), [this](const auto &numbered) {
-        const LinePiece &piece = numbered.second;
-        const QString &signs = piece.beyondAscii;
-        return piece.preeditAt < 0 && std::all_of(signs.begin(), signs.end(), [this](QChar c) { return fits(c); });
+        m_fits = {ratio, {}, {}};
+    const bool keepsIn = std::all_of(kept->pieces.begin(), kept->pieces.end(), [this](const auto &piece) {
+        return piece.second.preeditAt < 0 && fit(piece.second.letters);
     });
-    return keepsIn && fits(QChar()) ? 0 : farthestReach();
+    return keepsIn ? 0 : farthestReach();
 }
 
-/// Whether a letter is no higher than a row has room for, whatever its look; the null character stands for all of
-/// ASCII.
-bool LineLayouts::fits(QChar c) const
+/// Whether no letter is higher than a row has room for, in either weight.
+bool LineLayouts::fit(const MeasuredLetters &letters) const
 {
-    if (c.unicode() >= firstUnmeasured)
+    if (letters[0])
         return false;
-    const auto known = m_fits.signs.find(c.unicode());
-    if (known != m_fits.signs.end())
-        return known->second;
-    QString signs;
-    if (!c.isNull())
-        signs = c;
-    for (char16_t sign = u'!'; c.isNull() && sign <= u'~'; ++sign)
-        signs += QChar(sign);
-    const auto fitsIn = [&](const QFont &font) {
-        const QFontMetricsF metrics(font);
-        const QRectF ink = metrics.tightBoundingRect(signs);
-        const qreal base = std::round(metrics.ascent() * m_fits.ratio);
-        return std::ceil(-ink.top() * m_fits.ratio) <= base &&
-               base + std::ceil(ink.bottom() * m_fits.ratio) <= m_rowHeight * m_fits.ratio;
-    };
-    QFont bold = m_style.font;
-    bold.setBold(true);
-    const bool both = fitsIn(m_style.font) && fitsIn(bold);
-    m_fits.signs.emplace(c.unicode(), both);
-    return both;
+    const MeasuredLetters asked = letters & ~m_fits.known;
+    for (size_t i = 1; asked.any() && i < asked.size(); ++i) {
+        if (!asked[i])
+            continue;
+        m_fits.known.set(i);
+        QFont bold = m_style.font;
+        bold.setBold(true);
+        m_fits.fitting.set(i, fits(QChar(static_cast<char16_t>(i)), m_style.font) &&
+                                  fits(QChar(static_cast<char16_t>(i)), bold));
+    }
+    return (letters & ~m_fits.fitting).none();
+}
+
+bool LineLayouts::fits(QChar letter, const QFont &font) const
+{
+    const QFontMetricsF metrics(font);
+    const QRectF ink = metrics.boundingRect(letter);
+    const qreal base = std::round(metrics.ascent() * m_fits.ratio); // where letters stand, in the screen's pixels
+    return std::ceil(-ink.top() * m_fits.ratio) <= base &&
+           base + std::ceil(ink.bottom() * m_fits.ratio) <= m_rowHeight * m_fits.ratio;
 }
 
 int LineLayouts::estimatedRows(qsizetype length) const

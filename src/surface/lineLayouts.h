@@ -7,6 +7,7 @@
 #include <QColor>
 #include <QFont>
 #include <QTextLayout>
+#include <bitset>
 #include <cmath>
 #include <functional>
 #include <map>
@@ -30,12 +31,16 @@ struct Preedit {
     QList<QTextLayout::FormatRange> formats; ///< counted from the start of the composed text
 };
 
+/// Which letters a text holds, by their codes, but for blanks. 0 stands for all from which on letters may come from
+/// other fonts or stand above others, and for what is drawn as a box: nobody measures these.
+using MeasuredLetters = std::bitset<0x300>;
+
 /// A part of a line that is laid out in one: the whole line, if it is not a long one.
 struct LinePiece {
     qsizetype start = 0; ///< in its line
     qsizetype length = 0;
     qsizetype preeditAt = -1; ///< where in the piece text is composed; -1: nowhere
-    QString beyondAscii;      ///< its characters that ASCII has not, each once, as far as they tell how high it is
+    MeasuredLetters letters;
     std::unique_ptr<QTextLayout> layout;
     qreal width = 0;  ///< of its widest row, in pixels
     qreal height = 0; ///< of all its rows
@@ -108,11 +113,13 @@ private:
 
     struct Fits {
         qreal ratio = 0;
-        std::unordered_map<char16_t, bool> signs; ///< that were asked for; 0: all of ASCII
+        MeasuredLetters known; ///< which were measured
+        MeasuredLetters fitting;
     };
 
     const QFont &fontFor(const QString &text) const;
-    bool fits(QChar c) const;
+    bool fit(const MeasuredLetters &letters) const;
+    bool fits(QChar letter, const QFont &font) const;
     LinePiece laidOut(qsizetype line, int number) const;
     QList<QTextLayout::FormatRange> formatsOf(qsizetype line, const LinePiece &piece) const;
     const Line *known(qsizetype line) const;
