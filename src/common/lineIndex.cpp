@@ -28,6 +28,7 @@ bool LineIndex::reset(QStringView text)
     m_length = text.size();
     m_front.clear();
     m_back.assign(starts.rbegin(), starts.rend());
+    m_back.shrink_to_fit(); // the text before may have been a large one
     for (qsizetype &start : m_back)
         start = m_length - start;
     return true;
