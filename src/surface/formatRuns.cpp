@@ -1,6 +1,7 @@
 #include "surface/formatRuns.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace
 {
@@ -114,77 +115,81 @@ TextFormat FormatRuns::common(qsizetype from, qsizetype to) const
     return common.value_or(TextFormat());
 }
 
-/// The ranges without overlaps, in their order in the text, with what they come to together.
-std::vector<FormatRuns::Segment> FormatRuns::flattened(const QList<FormatRange> &ranges, qsizetype length)
+/// Two layers as one, the second over the first.
+FormatRuns::Layer FormatRuns::laidOver(const Layer &under, const Layer &over)
 {
-    std::vector<Segment> cut;
-    std::vector<qsizetype> edges; // first those where ranges start, which mostly come in their order
-    std::vector<qsizetype> ends;
-    const auto count = static_cast<size_t>(ranges.size());
-    cut.reserve(count);
-    edges.reserve(2 * count);
-    ends.reserve(count);
+    Layer both;
+    both.reserve(2 * (under.size() + over.size()));
+    auto low = under.begin();
+    auto high = over.begin();
+    for (qsizetype place = 0; low != under.end() || high != over.end();) {
+        constexpr qsizetype nowhere = std::numeric_limits<qsizetype>::max();
+        const qsizetype lowFrom = low == under.end() ? nowhere : std::max(low->from, place);
+        const qsizetype highFrom = high == over.end() ? nowhere : std::max(high->from, place);
+        const qsizetype from = std::min(lowFrom, highFrom);
+        const bool inLow = lowFrom == from;
+        const bool inHigh = highFrom == from;
+        place = std::min(inLow ? low->to : lowFrom, inHigh ? high->to : highFrom);
+        both.push_back({from, place, inLow ? low->format : TextFormat()});
+        if (inHigh)
+            lay(both.back().format, high->format);
+        if (inLow && low->to == place)
+            ++low;
+        if (inHigh && high->to == place)
+            ++high;
+    }
+    return both;
+}
+
+/// The ranges without overlaps, in their order in the text, with what they come to together.
+///
+/// Mostly they are one for the whole text and then many in their order: two layers, in each of which none overlaps the
+/// one before. As many as there may be, neighbours are laid over one another first, so that none is gone through often.
+FormatRuns::Layer FormatRuns::flattened(const QList<FormatRange> &ranges, qsizetype length)
+{
+    std::vector<Layer> layers;
     for (const FormatRange &range : ranges) {
         if (range.start < 0 || range.length <= 0 || range.start >= length)
             continue;
-        cut.push_back({range.start, range.start + std::min(range.length, length - range.start), range.format});
-        edges.push_back(cut.back().from);
-        ends.push_back(cut.back().to);
+        if (layers.empty() || layers.back().back().to > range.start)
+            layers.emplace_back();
+        const qsizetype to = range.start + std::min(range.length, length - range.start);
+        layers.back().push_back({range.start, to, range.format});
     }
-    for (std::vector<qsizetype> *places : {&edges, &ends}) {
-        if (!std::is_sorted(places->begin(), places->end()))
-            std::sort(places->begin(), places->end());
+    while (layers.size() > 1) {
+        size_t count = 0;
+        for (size_t i = 0; i < layers.size(); i += 2)
+            layers[count++] = i + 1 < layers.size() ? laidOver(layers[i], layers[i + 1]) : std::move(layers[i]);
+        layers.resize(count);
     }
-    const auto starts = static_cast<std::ptrdiff_t>(edges.size());
-    edges.insert(edges.end(), ends.begin(), ends.end());
-    std::inplace_merge(edges.begin(), edges.begin() + starts, edges.end());
-    edges.erase(std::unique(edges.begin(), edges.end()), edges.end());
-    std::vector<Segment> segments;
-    segments.reserve(edges.size());
-    for (size_t i = 0; i + 1 < edges.size(); ++i)
-        segments.push_back({edges[i], edges[i + 1], {}});
-    size_t first = 0;
-    for (const Segment &range : cut) {
-        if (edges[first] > range.from)
-            first = 0;
-        constexpr size_t near = 8; // edges that are looked at one by one, from the range before on
-        for (size_t steps = 0; edges[first] < range.from; ++first) {
-            if (++steps > near) {
-                const auto rest = edges.begin() + static_cast<std::ptrdiff_t>(first);
-                first = static_cast<size_t>(std::lower_bound(rest, edges.end(), range.from) - edges.begin());
-                break;
-            }
-        }
-        for (size_t i = first; i < segments.size() && segments[i].from < range.to; ++i)
-            lay(segments[i].format, range.format);
-    }
-    return segments;
+    return layers.empty() ? Layer() : std::move(layers.front());
 }
 
 std::vector<TextStretch> FormatRuns::apply(const QList<FormatRange> &ranges)
 {
     std::vector<TextStretch> changed;
-    const std::vector<Segment> segments = flattened(ranges, m_length);
-    if (segments.empty())
+    const Layer layer = flattened(ranges, m_length);
+    if (layer.empty())
         return changed;
-    const qsizetype from = segments.front().from;
-    const qsizetype to = segments.back().to;
+    const qsizetype from = layer.front().from;
+    const qsizetype to = layer.back().to;
     std::vector<Run> runs;
-    size_t next = 0;
+    runs.reserve(layer.size());
+    auto segment = layer.begin();
     forEachRun(from, to, [&](qsizetype start, qsizetype end, const Look &look) {
-        while (segments[next].to <= start)
-            ++next;
-        for (size_t i = next; i < segments.size() && segments[i].from < end; ++i) {
-            const qsizetype place = std::max(start, segments[i].from);
-            const Look wanted = merged(look, segments[i].format);
+        for (qsizetype place = start; place < end;) {
+            while (segment->to <= place)
+                ++segment;
+            const bool isCovered = segment->from <= place;
+            const qsizetype behind = std::min(end, isCovered ? segment->to : segment->from);
+            const Look wanted = isCovered ? merged(look, segment->format) : look;
             if (runs.empty() || runs.back().look != wanted)
                 runs.push_back({place, wanted});
-            if (wanted == look)
-                continue;
-            if (!changed.empty() && changed.back().to == place)
-                changed.back().to = std::min(end, segments[i].to);
-            else
-                changed.push_back({place, std::min(end, segments[i].to)});
+            if (wanted != look && !changed.empty() && changed.back().to == place)
+                changed.back().to = behind;
+            else if (wanted != look)
+                changed.push_back({place, behind});
+            place = behind;
         }
     });
     if (changed.empty())

@@ -58,13 +58,16 @@ private:
         qsizetype to = 0;
         TextFormat format;
     };
+    /// Segments in their order, none of which overlaps another.
+    using Layer = std::vector<Segment>;
 
     qsizetype start(size_t run) const;
     const Look &look(size_t run) const;
     size_t runAt(qsizetype position) const;
     void moveGapTo(qsizetype position);
     void append(qsizetype position, const Look &look);
-    static std::vector<Segment> flattened(const QList<FormatRange> &ranges, qsizetype length);
+    static Layer laidOver(const Layer &under, const Layer &over);
+    static Layer flattened(const QList<FormatRange> &ranges, qsizetype length);
 
     // As in LineIndex: the runs in front of the place of the last edit count from the text's start, those behind it
     // from its end and in reverse order, so that an edit between the two moves neither.
