@@ -186,6 +186,7 @@ const LinePiece &LineLayouts::piece(qsizetype line, int piece)
     if (found != kept.pieces.end())
         return found->second;
     ++m_laidOut;
+    kept.fit = {};
     const LinePiece &made = kept.pieces.emplace(piece, laidOut(line, piece)).first->second;
     kept.sizes[piece] = {made.length, made.width, made.rowCount()};
     if (kept.advance <= 0 && made.length > 0)
@@ -248,15 +249,8 @@ QList<QTextLayout::FormatRange> LineLayouts::formatsOf(qsizetype line, const Lin
     m_looks.forEachRun(first, first + piece.length, [&](qsizetype from, qsizetype to, const Look &look) {
         if (look == Look())
             return;
-        QTextCharFormat format;
-        if (look.colour != WindowTextColour)
-            format.setForeground(m_colour(look.colour));
-        if (look.bold)
-            format.setFontWeight(QFont::Bold);
-        if (look.underline)
-            format.setFontUnderline(true);
         const int start = piece.inLayout(from - first + 1) - 1; // behind composed text, if it starts there
-        formats.append({start, piece.inLayout(to - first) - start, format});
+        formats.append({start, piece.inLayout(to - first) - start, formatOf(look)});
     });
     m_marks.forEachAt(first, first + piece.length, [&](const MarkedRange &mark) {
         const qsizetype last = mark.start + mark.length - 1;
@@ -272,6 +266,26 @@ QList<QTextLayout::FormatRange> LineLayouts::formatsOf(qsizetype line, const Lin
         formats.append(composed);
     }
     return formats;
+}
+
+/// A page has few looks, and each of them many times.
+const QTextCharFormat &LineLayouts::formatOf(const Look &look) const
+{
+    const auto found =
+        std::find_if(m_formats.begin(), m_formats.end(), [&](const auto &known) { return known.first == look; });
+    if (found != m_formats.end())
+        return found->second;
+    constexpr size_t most = 32; // that are gone through sooner than a format is made
+    if (m_formats.size() >= most)
+        m_formats.clear();
+    QTextCharFormat format;
+    if (look.colour != WindowTextColour)
+        format.setForeground(m_colour(look.colour));
+    if (look.bold)
+        format.setFontWeight(QFont::Bold);
+    if (look.underline)
+        format.setFontUnderline(true);
+    return m_formats.emplace_back(look, format).second;
 }
 
 const LineLayouts::Line *LineLayouts::known(qsizetype line) const
@@ -331,10 +345,12 @@ qreal LineLayouts::reachOf(qsizetype line, qreal ratio) const
         return farthestReach();
     if (m_fits.ratio != ratio)
         m_fits = {ratio, {}, {}};
-    const bool keepsIn = std::all_of(kept->pieces.begin(), kept->pieces.end(), [this](const auto &piece) {
-        return piece.second.preeditAt < 0 && fit(piece.second.letters);
-    });
-    return keepsIn ? 0 : farthestReach();
+    if (kept->fit.ratio != ratio) {
+        kept->fit = {ratio, std::all_of(kept->pieces.begin(), kept->pieces.end(), [this](const auto &piece) {
+                         return piece.second.preeditAt < 0 && fit(piece.second.letters);
+                     })};
+    }
+    return kept->fit.keepsIn ? 0 : farthestReach();
 }
 
 /// Whether no letter is higher than a row has room for, in either weight.
@@ -393,11 +409,14 @@ int LineLayouts::rowsOf(qsizetype line) const
 
 void LineLayouts::forgetAll()
 {
+    ++m_forgotten;
+    m_formats.clear();
     m_lines.clear();
 }
 
 void LineLayouts::replaceLines(qsizetype line, qsizetype removed, qsizetype added)
 {
+    ++m_forgotten;
     if (removed == added) { // as nearly every key does it
         for (qsizetype i = line; i < line + removed; ++i)
             m_lines.erase(i);
@@ -415,22 +434,26 @@ void LineLayouts::replaceLines(qsizetype line, qsizetype removed, qsizetype adde
 
 bool LineLayouts::forgetStretches(const std::vector<TextStretch> &stretches)
 {
-    return std::erase_if(m_lines, [&](const auto &line) {
-               const qsizetype start = m_text.lineStart(line.first);
-               const qsizetype end = m_text.lineEnd(line.first);
-               const auto first = std::partition_point(stretches.begin(), stretches.end(),
-                                                       [&](const TextStretch &part) { return part.to <= start; });
-               return first != stretches.end() && first->from < end;
-           }) > 0;
+    const size_t forgotten = std::erase_if(m_lines, [&](const auto &line) {
+        const qsizetype start = m_text.lineStart(line.first);
+        const qsizetype end = m_text.lineEnd(line.first);
+        const auto first = std::partition_point(stretches.begin(), stretches.end(),
+                                                [&](const TextStretch &part) { return part.to <= start; });
+        return first != stretches.end() && first->from < end;
+    });
+    m_forgotten += forgotten;
+    return forgotten > 0;
 }
 
 void LineLayouts::keepOnly(qsizetype firstLine, qsizetype lastLine)
 {
-    std::erase_if(m_lines, [&](const auto &line) { return line.first < firstLine || line.first > lastLine; });
+    m_forgotten +=
+        std::erase_if(m_lines, [&](const auto &line) { return line.first < firstLine || line.first > lastLine; });
 }
 
 void LineLayouts::setPreedit(const Preedit &preedit)
 {
+    ++m_forgotten;
     m_lines.erase(m_preedit.line);
     m_preedit = preedit;
     m_lines.erase(m_preedit.line);

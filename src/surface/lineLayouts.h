@@ -76,6 +76,8 @@ public:
     int pieceOf(qsizetype line, qsizetype column) const;   ///< the last one that starts at or before the column
     const LinePiece &piece(qsizetype line, int piece);     ///< laid out, if it is not yet
     quint64 laidOutCount() const { return m_laidOut; }     ///< of pieces, ever
+    /// Counts how often lines were laid out or forgotten: while it stays, every row is as high as it was.
+    quint64 changeCount() const { return m_laidOut + m_forgotten; }
     /// Where a piece of a row that is not wrapped starts, in pixels from the row's start.
     qreal pieceLeft(qsizetype line, int piece) const;
     /// The piece of a row that is not wrapped in which a place, counted in pixels, lies.
@@ -105,10 +107,15 @@ private:
         qreal width = 0;
         int rows = 0;
     };
+    struct Fit {
+        qreal ratio = 0;
+        bool keepsIn = false;
+    };
     struct Line {
         std::unordered_map<int, LinePiece> pieces;
         std::map<int, Size> sizes; ///< of the pieces that were laid out once
         qreal advance = 0;         ///< of a character, by the first piece that was laid out
+        mutable Fit fit;           ///< of its letters in its rows, as it was asked for last
     };
 
     struct Fits {
@@ -122,6 +129,7 @@ private:
     bool fits(QChar letter, const QFont &font) const;
     LinePiece laidOut(qsizetype line, int number) const;
     QList<QTextLayout::FormatRange> formatsOf(qsizetype line, const LinePiece &piece) const;
+    const QTextCharFormat &formatOf(const Look &look) const;
     const Line *known(qsizetype line) const;
 
     const SurfaceText &m_text;
@@ -131,8 +139,10 @@ private:
     LayoutStyle m_style;
     mutable std::optional<QFont> m_plainFont; ///< for text that needs no shaper, once it is asked for
     mutable Fits m_fits;
+    mutable std::vector<std::pair<Look, QTextCharFormat>> m_formats; ///< of the looks that were met
     Preedit m_preedit;
     quint64 m_laidOut = 0;
+    quint64 m_forgotten = 0;
     qreal m_rowHeight = 1;
     qreal m_advance = 1;
     qsizetype m_columns = 1; ///< letters of that width that a wrapped row holds

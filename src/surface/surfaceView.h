@@ -66,7 +66,7 @@ public:
     int rowsOnView() const; ///< of the style's own font
     qreal widest();         ///< width of the text as far as known, both margins included; 0 where it wraps
 
-    std::vector<ShownRow> rows(); ///< on view, from the top; the last one may be cut
+    std::vector<ShownRow> rows() { return shownRows(); } ///< on view, from the top; the last one may be cut
     RowPlace rowOf(qsizetype position);
     bool next(RowPlace &row); ///< false at the text's end
     bool previous(RowPlace &row);
@@ -91,6 +91,16 @@ public:
     bool rightToLeft(qsizetype position);
 
 private:
+    /// What the rows on view were found by.
+    struct Found {
+        RowPlace top;
+        qreal hidden = 0;
+        qreal height = 0; // of the view
+        quint64 layouts = 0;
+        bool operator==(const Found &) const = default;
+    };
+
+    const std::vector<ShownRow> &shownRows();
     const LinePiece &pieceAt(qsizetype line, int number);
     QTextLine textLine(const RowPlace &row);
     qreal topMargin(const RowPlace &row) const { return row.line == 0 ? margin : 0; }
@@ -114,4 +124,6 @@ private:
     qreal m_widest = 0;
     bool m_wrap = false;
     bool m_shown = false;
+    std::vector<ShownRow> m_shownRows; ///< asked for several times by every key
+    Found m_found;                     ///< what they were found by
 };

@@ -4,9 +4,13 @@
 #include <algorithm>
 #include <cmath>
 
-std::vector<ShownRow> SurfaceView::rows()
+/// The rows on view, which stay where they are until another question is asked that lays text out.
+const std::vector<ShownRow> &SurfaceView::shownRows()
 {
     keepTopInLine();
+    const auto asked = [this] { return Found{m_top, m_hidden, m_size.height(), m_layouts.changeCount()}; };
+    if (!m_shownRows.empty() && m_found == asked())
+        return m_shownRows;
     std::vector<ShownRow> rows;
     RowPlace row = m_top;
     qreal top = -m_hidden + (row == RowPlace() ? margin : 0);
@@ -15,7 +19,9 @@ std::vector<ShownRow> SurfaceView::rows()
         rows.push_back({row, top, height});
         top += height;
     } while (top < m_size.height() && next(row));
-    return rows;
+    m_shownRows = std::move(rows);
+    m_found = asked(); // finding them has laid out those that were not
+    return m_shownRows;
 }
 
 RowPlace SurfaceView::rowOf(qsizetype position)
@@ -69,7 +75,7 @@ qreal SurfaceView::pieceX(qsizetype line, int piece)
 
 qreal SurfaceView::topOf(const RowPlace &place)
 {
-    const std::vector<ShownRow> shown = rows();
+    const std::vector<ShownRow> &shown = shownRows();
     if (place >= shown.front().place && place <= shown.back().place) {
         const auto found =
             std::find_if(shown.begin(), shown.end(), [&](const ShownRow &row) { return row.place >= place; });
@@ -126,7 +132,7 @@ qsizetype SurfaceView::positionInRow(const RowPlace &row, qreal x, QTextLine::Cu
 
 RowPlace SurfaceView::rowAt(qreal y)
 {
-    const std::vector<ShownRow> shown = rows();
+    const std::vector<ShownRow> &shown = shownRows();
     const auto behind =
         std::find_if(shown.begin(), shown.end(), [&](const ShownRow &row) { return row.top + row.height > y; });
     return behind == shown.end() ? shown.back().place : behind->place;
@@ -134,7 +140,7 @@ RowPlace SurfaceView::rowAt(qreal y)
 
 bool SurfaceView::show(const RowPlace &wanted)
 {
-    for (const ShownRow &row : rows()) {
+    for (const ShownRow &row : shownRows()) {
         if (row.place == wanted && row.top >= 0 && row.top + row.height <= m_size.height())
             return false;
     }
