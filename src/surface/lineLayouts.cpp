@@ -2,6 +2,7 @@
 
 #include <QFontMetricsF>
 #include <QGlyphRun>
+#include <QRawFont>
 #include <QTextBoundaryFinder>
 #include <algorithm>
 #include <cmath>
@@ -30,11 +31,21 @@ bool isDrawnAsSign(QChar c)
     }
 }
 
-constexpr QChar sign = u'\u2424'; // for a line end: found in most fonts
+/// The sign that stands for these, of those that mean a line's end. One of another font would have that looked for at
+/// each of them, which takes longer than all the rest.
+QChar signOf(const QFont &font)
+{
+    const QRawFont own = QRawFont::fromFont(font); // which knows no other fonts' signs
+    for (const QChar sign : {QChar(u'\u2424'), QChar(u'\u21B5')}) {
+        if (own.supportsCharacter(sign))
+            return sign;
+    }
+    return QChar(0xB6); // as every font for Latin text has it
+}
 
 /// Marks that nobody could see any more are drawn as signs, each with a width of its own, so that a view holds a number
 /// of them that can be laid out.
-void replaceSurplusMarks(QString &text)
+void replaceSurplusMarks(QString &text, QChar sign)
 {
     qsizetype marks = 0;
     for (qsizetype i = 0; i < text.size(); ++i) {
@@ -97,16 +108,6 @@ MeasuredLetters lettersOf(const QString &text)
     }
     return letters;
 }
-
-/// What is drawn of a text behind its first `skipped` characters.
-QString drawnText(QString text, qsizetype skipped)
-{
-    if (std::any_of(text.cbegin(), text.cend(), isDrawnAsSign))
-        std::replace_if(text.begin(), text.end(), isDrawnAsSign, sign);
-    if (std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c.isSurrogate() || c.isMark(); }))
-        replaceSurplusMarks(text);
-    return text.mid(skipped);
-}
 } // namespace
 
 int LinePiece::inLayout(qsizetype place) const
@@ -133,6 +134,7 @@ void LineLayouts::setStyle(const LayoutStyle &style)
 {
     if (style.font != m_style.font) {
         m_plainFont.reset();
+        m_sign = {};
         m_fits = {};
     }
     m_style = style;
@@ -201,6 +203,21 @@ const QFont &LineLayouts::fontFor(const QString &text) const
     if (!m_plainFont)
         m_plainFont = fontOfPlainText(m_style.font);
     return *m_plainFont;
+}
+
+/// What is drawn of a text behind its first `skipped` characters.
+QString LineLayouts::drawnText(QString text, qsizetype skipped) const
+{
+    const bool hasSigns = std::any_of(text.cbegin(), text.cend(), isDrawnAsSign);
+    const bool hasMarks =
+        std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c.isSurrogate() || c.isMark(); });
+    if ((hasSigns || hasMarks) && m_sign.isNull())
+        m_sign = signOf(m_style.font);
+    if (hasSigns)
+        std::replace_if(text.begin(), text.end(), isDrawnAsSign, m_sign);
+    if (hasMarks)
+        replaceSurplusMarks(text, m_sign);
+    return text.mid(skipped);
 }
 
 LinePiece LineLayouts::laidOut(qsizetype line, int number) const

@@ -125,6 +125,7 @@ private:
     };
 
     const QFont &fontFor(const QString &text) const;
+    QString drawnText(QString text, qsizetype skipped) const;
     bool fit(const MeasuredLetters &letters) const;
     bool fits(QChar letter, const QFont &font) const;
     LinePiece laidOut(qsizetype line, int number) const;
@@ -138,6 +139,7 @@ private:
     std::function<QColor(ColourValue)> m_colour;
     LayoutStyle m_style;
     mutable std::optional<QFont> m_plainFont; ///< for text that needs no shaper, once it is asked for
+    mutable QChar m_sign; ///< drawn for what a layout would take for its own marks, once one is needed
     mutable Fits m_fits;
     mutable std::vector<std::pair<Look, QTextCharFormat>> m_formats; ///< of the looks that were met
     Preedit m_preedit;
