@@ -11,7 +11,6 @@
 #include "project/modProjectFileCtrl.h"
 #include "widgets/mainWindowFrame.h"
 #include "widgets/nodeTree.h"
-#include "widgets/programIcon.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -56,7 +55,6 @@ QWidget *frmMdi::createWindow()
     });
     frame->setDropHandler([this](const QStringList &paths) { openDropped(paths); });
     frame->setWindowTitle(Caption());
-    frame->setWindowIcon(applicationIcon());
     context().forms.setMainForm(this);
     return frame;
 }

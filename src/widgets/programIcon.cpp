@@ -73,9 +73,13 @@ private:
     {
         const auto isWanted = [&](const Drawn &one) { return one.size == size && one.colour == colour; };
         const auto found = std::find_if(m_pictures.begin(), m_pictures.end(), isWanted);
-        if (found == m_pictures.end())
-            return m_pictures.emplace_back(Drawn{size, colour, draw(size, colour)}).picture;
-        return found->picture;
+        if (found != m_pictures.end())
+            return found->picture;
+        QPixmap picture = draw(size, colour);
+        constexpr int largest = 96; // pixels of a side; larger ones are windows', which the display is given once
+        if (size.width() <= largest)
+            m_pictures.push_back({size, colour, picture});
+        return picture;
     }
 
     QPixmap draw(const QSize &size, const QColor &colour)

@@ -6,6 +6,7 @@
 #include "drive/palettes.h"
 #include "drive/referee.h"
 #include "drive/stage.h"
+#include "widgets/programIcon.h"
 #include "widgets/readableStyle.h"
 
 #include <QApplication>
@@ -30,6 +31,7 @@ void setLooks()
 {
     QApplication::setStyle(QStringLiteral("Fusion"));
     useReadableStyle();
+    QApplication::setWindowIcon(applicationIcon());
     const QString looks = qEnvironmentVariable("TAGWRIGHTER_DRIVE_LOOKS");
     if (looks == u"dark")
         QApplication::setPalette(darkPalette());

@@ -85,6 +85,14 @@ TEST(ProgramIcon, theProgramsOwnIsInColours)
     EXPECT_FALSE(applicationIcon().pixmap(QSize(48, 48)).isNull());
 }
 
+TEST(ProgramIcon, isKeptAtTheSizesOfBarsAndNotAtThoseOfWindows)
+{
+    const QIcon icon = applicationIcon();
+    EXPECT_EQ(icon.pixmap(QSize(96, 96), 1.0).cacheKey(), icon.pixmap(QSize(96, 96), 1.0).cacheKey());
+    const QPixmap held = icon.pixmap(QSize(128, 128), 1.0);
+    EXPECT_NE(icon.pixmap(QSize(128, 128), 1.0).cacheKey(), held.cacheKey());
+}
+
 TEST(ProgramIcon, whatTheBuildHasDrawnLooksAsTheDrawingDoes)
 {
     const QColor colour(200, 90, 30);
