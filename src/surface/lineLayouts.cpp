@@ -188,7 +188,6 @@ const LinePiece &LineLayouts::piece(qsizetype line, int piece)
     if (found != kept.pieces.end())
         return found->second;
     ++m_laidOut;
-    kept.fit = {};
     const LinePiece &made = kept.pieces.emplace(piece, laidOut(line, piece)).first->second;
     kept.sizes[piece] = {made.length, made.width, made.rowCount()};
     if (kept.advance <= 0 && made.length > 0)
@@ -464,8 +463,7 @@ bool LineLayouts::forgetStretches(const std::vector<TextStretch> &stretches)
 
 void LineLayouts::keepOnly(qsizetype firstLine, qsizetype lastLine)
 {
-    m_forgotten +=
-        std::erase_if(m_lines, [&](const auto &line) { return line.first < firstLine || line.first > lastLine; });
+    std::erase_if(m_lines, [&](const auto &line) { return line.first < firstLine || line.first > lastLine; });
 }
 
 void LineLayouts::setPreedit(const Preedit &preedit)

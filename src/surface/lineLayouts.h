@@ -76,7 +76,8 @@ public:
     int pieceOf(qsizetype line, qsizetype column) const;   ///< the last one that starts at or before the column
     const LinePiece &piece(qsizetype line, int piece);     ///< laid out, if it is not yet
     quint64 laidOutCount() const { return m_laidOut; }     ///< of pieces, ever
-    /// Counts how often lines were laid out or forgotten: while it stays, every row is as high as it was.
+    /// Counts how often lines were laid out, or forgotten but by keepOnly: while it stays, the rows of what was kept
+    /// are as high as they were.
     quint64 changeCount() const { return m_laidOut + m_forgotten; }
     /// Where a piece of a row that is not wrapped starts, in pixels from the row's start.
     qreal pieceLeft(qsizetype line, int piece) const;

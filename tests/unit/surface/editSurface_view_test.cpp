@@ -344,6 +344,16 @@ TEST_F(EditSurfaceView, TabsAreFourCharactersWide)
     }
 }
 
+TEST_F(EditSurfaceView, RowsStandWhereAnotherFontHasThem)
+{
+    surface.setText(QStringLiteral("word\r\n").repeated(1000)); // whose end, far away, is not laid out for the bars
+    const QList<EditSurface::VisibleLine> before = surface.visibleLines();
+    surface.setFont(QFont(surface.font().family(), 3 * surface.font().pointSize()));
+    const QList<EditSurface::VisibleLine> after = surface.visibleLines();
+    EXPECT_LT(after.size(), before.size());
+    EXPECT_GT(after.at(1).top, before.at(2).top);
+}
+
 TEST_F(EditSurfaceView, TheFontHasOneWidthForAllCharacters)
 {
     EXPECT_EQ(surface.fontMetrics().horizontalAdvance(u'i'), surface.fontMetrics().horizontalAdvance(u'W'));

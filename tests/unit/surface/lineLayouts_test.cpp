@@ -40,4 +40,24 @@ TEST_F(LineLayoutsTest, SignsThatStandForOthersAreOfTheFontItself)
         EXPECT_NE(glyphs.front().glyphIndexes().value(0), 0U) << place << ": the box of what a font lacks";
     }
 }
+
+TEST_F(LineLayoutsTest, WhateverMayChangeTheHeightOfRowsIsCounted)
+{
+    setText(QStringLiteral("one\r\ntwo\r\nthree"));
+    const auto counts = [this](const std::function<void()> &change) {
+        layouts.piece(1, 0);
+        const quint64 before = layouts.changeCount();
+        change();
+        return layouts.changeCount() != before;
+    };
+    EXPECT_FALSE(counts([this] { layouts.piece(1, 0); })) << "it is kept";
+    EXPECT_TRUE(counts([this] { layouts.piece(2, 0); }));
+    EXPECT_TRUE(counts([this] { layouts.forgetStretches({{5, 6}}); }));
+    EXPECT_FALSE(counts([this] { layouts.forgetStretches({{0, 1}}); })) << "nobody had asked for that line";
+    EXPECT_TRUE(counts([this] { layouts.replaceLines(1, 1, 1); }));
+    EXPECT_TRUE(counts([this] { layouts.replaceLines(0, 1, 2); }));
+    EXPECT_TRUE(counts([this] { layouts.setPreedit({1, 0, QStringLiteral("x"), {}}); }));
+    EXPECT_TRUE(counts([this] { layouts.forgetAll(); }));
+    EXPECT_FALSE(counts([this] { layouts.keepOnly(1, 1); })) << "what is on view stays";
+}
 } // namespace
