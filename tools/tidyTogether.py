@@ -52,14 +52,17 @@ def names_of(source):
 
 
 def flags_of(entry):
-    """The compiler's arguments without the files, what is written beside them, and precompiled headers."""
+    """The compiler's arguments without the files and what is written beside them. Precompiled headers become the text that
+    they were made of, so that a source is looked at as it is compiled."""
     words = iter(entry["command"].replace("\\", "").split()[1:])
     flags = []
     for word in words:
         if word in ("-o", "-c", "-MF", "-MT", "-MQ"):
             next(words)
-        elif word == "-Xclang":  # precompiled headers: -Xclang -include -Xclang FILE
-            next(words), next(words), next(words)
+        elif word == "-Xclang":  # -Xclang -include-pch -Xclang FILE, and the same with -include and the text
+            kind, _, file = next(words), next(words), next(words)
+            if kind == "-include":
+                flags.append((kind, file))
         elif word == "-isystem":
             flags.append((word, next(words)))
         elif not word.startswith("-M") and word != entry["file"]:

@@ -3,6 +3,7 @@
 #include "common/paths.h"
 #include "document/markupCharacters.h"
 
+#include <QList>
 #include <algorithm>
 
 namespace

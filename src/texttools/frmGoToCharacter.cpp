@@ -7,6 +7,8 @@
 #include "texttools/goToLayout.h"
 #include "widgets/numberField.h"
 
+#include <QPushButton>
+
 frmGoToCharacter::frmGoToCharacter(ProgramContext &context) : DialogForm(context, QStringLiteral("frmGoToCharacter"))
 {
     setCaption(QStringLiteral("Go To Character"));

@@ -1,5 +1,7 @@
 #include "texttools/nameTable.h"
 
+#include <QStringList>
+
 namespace
 {
 /// Small letters for the large ones of ASCII, which alone names of markup know.

@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QVariant>
+#include <QWidget>
 
 namespace
 {

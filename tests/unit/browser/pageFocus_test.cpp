@@ -1,6 +1,7 @@
 #include "browser/pageFocus.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <gtest/gtest.h>

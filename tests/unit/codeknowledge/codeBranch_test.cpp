@@ -1,5 +1,6 @@
 #include "codeknowledge/codeBranch.h"
 
+#include <QStringList>
 #include <algorithm>
 #include <gtest/gtest.h>
 

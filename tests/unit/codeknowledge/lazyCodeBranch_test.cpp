@@ -1,5 +1,6 @@
 #include "codeknowledge/lazyCodeBranch.h"
 
+#include <QByteArrayList>
 #include <gtest/gtest.h>
 
 namespace

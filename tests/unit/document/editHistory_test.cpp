@@ -1,6 +1,7 @@
 #include "document/editHistory.h"
 
 #include <QRandomGenerator>
+#include <QStringList>
 #include <gtest/gtest.h>
 
 namespace

@@ -3,6 +3,7 @@
 #include "markupReader.h"
 
 #include <QRandomGenerator>
+#include <QRect>
 #include <gtest/gtest.h>
 
 namespace

@@ -1,5 +1,6 @@
 #include "insertion/rightMarkup.h"
 
+#include <QList>
 #include <gtest/gtest.h>
 
 namespace
