@@ -165,9 +165,10 @@ int printContainerMemory()
 void printFigures(Figures &figures)
 {
     QTemporaryDir folder;
-    DesktopPrinting printing;
-    printing.printer().setOutputFormat(QPrinter::PdfFormat);
-    printing.printer().setOutputFileName(folder.filePath(QStringLiteral("out.pdf")));
+    DesktopPrinting printing(partFolders());
+    auto &printer = dynamic_cast<QPrinter &>(printing.printer()->device());
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(folder.filePath(QStringLiteral("out.pdf")));
     const QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     const Paper paper = printing.paper(font);
     EditSurface surface;

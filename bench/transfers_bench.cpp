@@ -108,7 +108,7 @@ void transferFigures(Figures &figures)
     if (!server)
         return;
     const QString root = QStringLiteral("http://127.0.0.1:%1/").arg(server->port());
-    ModuleTransfers transfers(moduleFolders(),
+    ModuleTransfers transfers(partFolders(),
                               {.knownHosts = folder.filePath(QStringLiteral("hosts")), .loopbackOnly = true});
     const QString address = root + QStringLiteral("page.htm");
     const auto getPage = [&] { return get(transfers, address, PageSize); };

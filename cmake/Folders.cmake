@@ -48,7 +48,8 @@ function(tagwrighter_folder folder)
     endif()
 endfunction()
 
-# The libraries of all folders. The web view is no library but a module, made in src/CMakeLists.txt.
+# The libraries of all folders, but for those that src/CMakeLists.txt makes modules of.
+set(moduleFolders webview transfers papers)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/folders.txt)
 file(STRINGS ${PROJECT_SOURCE_DIR}/src/folders.txt folderLines REGEX "^[0-9]")
 function(tagwrighter_folders)
@@ -63,7 +64,7 @@ function(tagwrighter_folders)
             set(here "")
             set(level ${lineLevel})
         endif()
-        if(folder STREQUAL "webview" OR folder STREQUAL "transfers")
+        if(folder IN_LIST moduleFolders)
             continue()
         endif()
         list(TRANSFORM words PREPEND tagwrighter_)

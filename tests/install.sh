@@ -37,6 +37,9 @@ for file in bin/tagwrighter share/tagwrighter/Html.tcb share/tagwrighter/Page.ru
     share/bash-completion/completions/tagwrighter; do
     [[ -s $prefix/$file ]] || fail "$file is not installed"
 done
+for part in webview transfers papers; do
+    [[ -n $(find "$prefix" -name "tagwrighter-$part.so" -size +0) ]] || fail "tagwrighter-$part.so is not installed"
+done
 if find "$prefix" -name 'test_*' -o -name '*drive*' -o -name '*.a' | grep -q .; then
     fail "more is installed than the program"
 fi

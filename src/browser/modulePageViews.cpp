@@ -9,7 +9,6 @@
 #include <QFileInfo>
 #include <QLibraryInfo>
 #include <QOpenGLContext>
-#include <QPluginLoader>
 #include <unistd.h>
 
 // The toolkit gives its modules access to this, without a header of its own.
@@ -19,8 +18,6 @@ QT_END_NAMESPACE
 
 namespace
 {
-const QString ModuleName = QStringLiteral("tagwrighter-webview.so");
-
 /// Whether whoever started the program has given up the shutting in, as test runs in a container have to.
 bool runsOpen()
 {
@@ -45,15 +42,6 @@ void provideShareContext()
 }
 } // namespace
 
-QStringList moduleFolders()
-{
-    const QString here = QCoreApplication::applicationDirPath();
-    QStringList folders;
-    for (const char *place : {"/../" TAGWRIGHTER_LIBRARY_FOLDER, "/../lib", "/../../lib"})
-        folders.append(here + QLatin1String(place) + QStringLiteral("/tagwrighter"));
-    return folders;
-}
-
 QString reasonAgainstPages()
 {
     if (!runsOpen() && geteuid() == 0)
@@ -71,7 +59,8 @@ QString reasonAgainstPages()
     return {};
 }
 
-ModulePageViews::ModulePageViews(const QStringList &folders, PageSource &source) : m_folders(folders), m_source(source)
+ModulePageViews::ModulePageViews(const QStringList &folders, PageSource &source)
+    : m_part(folders, QStringLiteral("tagwrighter-webview.so")), m_source(source)
 {
 }
 
@@ -88,31 +77,20 @@ PageEngine *ModulePageViews::engine()
     return m_engine;
 }
 
-QString ModulePageViews::moduleFile() const
-{
-    for (const QString &folder : m_folders) {
-        QString file = joinPath(folder, ModuleName);
-        if (QFileInfo(file).isFile())
-            return file;
-    }
-    return {};
-}
-
 PageEngine *ModulePageViews::load()
 {
-    const QString file = moduleFile();
-    m_reason = file.isEmpty()
-                   ? QStringLiteral("There is no preview: the program's part %1 is not installed.").arg(ModuleName)
-                   : reasonAgainstPages();
+    const bool isInstalled = m_part.isInstalled();
+    m_reason =
+        isInstalled
+            ? reasonAgainstPages()
+            : QStringLiteral("There is no preview: the program's part %1 is not installed.").arg(m_part.fileName());
     if (!m_reason.isEmpty())
         return nullptr;
     provideShareContext();
-    QPluginLoader module(file);
-    module.setLoadHints(QLibrary::PreventUnloadHint);
-    auto *engine = qobject_cast<PageEngine *>(module.instance());
+    auto *engine = m_part.engine<PageEngine>();
     if (engine)
         engine->setSource(m_source);
     else
-        m_reason = QStringLiteral("There is no preview: %1").arg(module.errorString());
+        m_reason = QStringLiteral("There is no preview: %1").arg(m_part.reason());
     return engine;
 }

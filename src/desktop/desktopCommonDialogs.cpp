@@ -11,8 +11,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDialog>
-#include <QPrintDialog>
-#include <QPrinter>
 
 namespace
 {
@@ -152,11 +150,6 @@ std::optional<FontChoice> DesktopCommonDialogs::showFont(const FontChoice &initi
 
 std::optional<int> DesktopCommonDialogs::showPrint()
 {
-    QPrinter &printer = m_printing.printer();
-    QPrintDialog dialog(&printer, boxOwner());
-    if (dialog.exec() != QDialog::Accepted)
-        return std::nullopt;
-    const int copies = qMax(printer.copyCount(), 1);
-    printer.setCopyCount(1); // the program prints one run for each copy itself
-    return copies;
+    PaperPrinter *printer = m_printing.printer();
+    return printer ? printer->showDialog(boxOwner()) : 1; // printing tells what is missing
 }

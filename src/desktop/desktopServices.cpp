@@ -65,7 +65,7 @@ struct DesktopServices::Parts {
     ProgramFolders folders = programFolders(runningProgramPlaces());
     QString appPath = folders.own;
     DesktopMessageBoxes messageBoxes;
-    DesktopPrinting printing;
+    DesktopPrinting printing{partFolders()};
     DesktopCommonDialogs desktopDialogs{printing};
     CommonDialogs &commonDialogs;
     SettingsFiles settings{settingsFolder()};
@@ -80,11 +80,11 @@ struct DesktopServices::Parts {
     EventYielder yielder;
     ServedPages pages{settings,
                       folders.installed.isEmpty() ? QStringList{appPath} : QStringList{appPath, folders.installed}};
-    ModulePageViews pageViews{moduleFolders(), pages};
+    ModulePageViews pageViews{partFolders(), pages};
     ThreadWorker worker;
     DesktopSystemFacts systemFacts{appPath};
     XdgFileClasses fileClasses{currentXdgPlaces(), startInBackground};
-    ModuleTransfers transfers{moduleFolders(), {.knownHosts = joinPath(dataFolder(), QStringLiteral("known_hosts"))}};
+    ModuleTransfers transfers{partFolders(), {.knownHosts = joinPath(dataFolder(), QStringLiteral("known_hosts"))}};
     WizardPrograms wizards{{appPath, libexecFolder()},
                            [this] { return settings::read(settings, settings::WorkingDir); }};
     Services services{

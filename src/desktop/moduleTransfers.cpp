@@ -1,13 +1,11 @@
 #include "desktop/moduleTransfers.h"
 
-#include "common/paths.h"
 #include "internet/addresses.h"
 #include "services/loopback.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QPluginLoader>
 #include <QRegularExpression>
 #include <ifaddrs.h>
 #include <net/if.h>
@@ -15,8 +13,6 @@
 
 namespace
 {
-const QString ModuleName = QStringLiteral("tagwrighter-transfers.so");
-
 /// Whether an interface leads out of this machine.
 bool leadsOut(const ifaddrs &interface)
 {
@@ -46,7 +42,7 @@ QString withoutPort(const QString &server)
 } // namespace
 
 ModuleTransfers::ModuleTransfers(const QStringList &folders, const TransferGround &ground)
-    : m_folders(folders), m_ground(ground)
+    : m_part(folders, QStringLiteral("tagwrighter-transfers.so")), m_ground(ground)
 {
 }
 
@@ -64,24 +60,8 @@ bool ModuleTransfers::isConnected(const QString &address)
 StartedTransfer ModuleTransfers::start(const TransferRequest &request, TransferWatcher &watcher)
 {
     if (!m_engine)
-        load();
-    return m_engine ? m_engine->start(request, m_ground, watcher) : StartedTransfer{nullptr, m_reason};
-}
-
-void ModuleTransfers::load()
-{
-    m_reason = QStringLiteral("The program's part %1 is not installed.").arg(ModuleName);
-    for (const QString &folder : m_folders) {
-        const QString file = joinPath(folder, ModuleName);
-        if (!QFileInfo(file).isFile())
-            continue;
-        QPluginLoader module(file);
-        module.setLoadHints(QLibrary::PreventUnloadHint);
-        m_engine = qobject_cast<TransferEngine *>(module.instance());
-        if (m_engine)
-            return;
-        m_reason = module.errorString();
-    }
+        m_engine = m_part.engine<TransferEngine>();
+    return m_engine ? m_engine->start(request, m_ground, watcher) : StartedTransfer{nullptr, m_part.reason()};
 }
 
 std::optional<QString> ModuleTransfers::trust(const UnknownHost &host)

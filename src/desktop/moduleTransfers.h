@@ -1,11 +1,9 @@
 #pragma once
 
+#include "services/programPart.h"
 #include "services/transferEngine.h"
 
-#include <QStringList>
-
-/// Transfers by the module that the first of them loads, from the first of some folders that has it. It stays loaded to
-/// the end of the process.
+/// Transfers by the module that the first of them loads.
 class ModuleTransfers final : public InternetTransfers
 {
 public:
@@ -17,10 +15,7 @@ public:
     std::optional<QString> trust(const UnknownHost &host) override;
 
 private:
-    void load();
-
-    QStringList m_folders;
+    ProgramPart m_part;
     TransferGround m_ground;
     TransferEngine *m_engine = nullptr;
-    QString m_reason; ///< why there is none
 };

@@ -146,7 +146,12 @@ void frmProjectLayout::savePicture()
         return;
     const QString extension = GetFileExtension(chosen->fileName).toLower();
     const bool svg = extension == u"svg" || (extension != u"png" && chosen->filterIndex == SvgRow);
-    const QByteArray picture = svg ? mapAsSvg(*m_scene, Caption()) : mapAsPng(*m_scene);
+    const SvgFile drawing = svg ? services().printing.svg(mapAsSvg(*m_scene, Caption())) : SvgFile{};
+    if (!drawing.reason.isEmpty()) {
+        context().files->FileErrors(PrintError::Unexpected, drawing.reason);
+        return;
+    }
+    const QByteArray picture = svg ? drawing.bytes : mapAsPng(*m_scene);
     const QString path = extension.isEmpty()
                              ? chosen->fileName + (svg ? QStringLiteral(".svg") : QStringLiteral(".png"))
                              : chosen->fileName;

@@ -5,7 +5,6 @@
 #include <QBuffer>
 #include <QImage>
 #include <QPainter>
-#include <QSvgGenerator>
 
 namespace
 {
@@ -35,20 +34,11 @@ void drawMap(MapScene &scene, QPainter &painter, const QRectF &place)
     scene.setLook(before);
 }
 
-QByteArray mapAsSvg(MapScene &scene, const QString &title)
+SvgJob mapAsSvg(MapScene &scene, const QString &title)
 {
-    QBuffer buffer;
-    QSvgGenerator generator;
-    const QRectF place(QPointF(), shownPart(scene).size());
-    generator.setOutputDevice(&buffer);
-    generator.setTitle(title);
-    generator.setDescription({});
-    generator.setSize(place.size().toSize());
-    generator.setViewBox(place);
-    QPainter painter(&generator);
-    drawMap(scene, painter, place);
-    painter.end();
-    return buffer.data();
+    return {.title = title, .size = shownPart(scene).size(), .draw = [&scene](QPainter &painter, const QRectF &place) {
+                drawMap(scene, painter, place);
+            }};
 }
 
 QByteArray mapAsPng(MapScene &scene)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "services/printing.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -10,6 +12,7 @@ class QRectF;
 // The map for paper and files: all of it, on white, whatever the theme and however much of it is in view.
 
 void drawMap(MapScene &scene, QPainter &painter, const QRectF &place);
-QByteArray mapAsSvg(MapScene &scene, const QString &title);
+/// A drawing of the map as a file. The scene outlives it.
+SvgJob mapAsSvg(MapScene &scene, const QString &title);
 /// Two pixels to one of the screen's, fewer where the picture would grow too large.
 QByteArray mapAsPng(MapScene &scene);

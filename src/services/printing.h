@@ -2,6 +2,7 @@
 
 #include "common/textSurface.h"
 
+#include <QByteArray>
 #include <QFont>
 #include <QList>
 #include <QRectF>
@@ -41,6 +42,20 @@ struct PictureJob {
     std::function<void(QPainter &, const QRectF &)> draw;
 };
 
+/// A drawing that is to be a file of vector graphics (SVG).
+struct SvgJob {
+    QString title;
+    QSizeF size; ///< in pixels of the screen
+    /// Draws it within that place, in pixels.
+    std::function<void(QPainter &, const QRectF &)> draw;
+};
+
+/// What a drawing has become.
+struct SvgFile {
+    QByteArray bytes;
+    QString reason = {}; ///< why there are none, a sentence
+};
+
 /// What text is measured by on a printer's paper. All lengths are points, 1/72 inch.
 struct Paper {
     QSizeF size; ///< within the printer's margins
@@ -55,7 +70,8 @@ struct PrintError {
     QString description = {}; ///< the system's own words, told where the program has none
 };
 
-/// The printer that the user chose in the last print dialog; the desktop's usual one before.
+/// The printer that the user chose in the last print dialog, the desktop's usual one before; and what is drawn as for
+/// it into a file.
 class Printing
 {
 public:
@@ -71,4 +87,5 @@ public:
     virtual std::optional<PrintError> print(const PrintJob &job, const std::function<bool(int)> &goOn) = 0;
     /// Prints a picture on a page of its own.
     virtual std::optional<PrintError> printPicture(const PictureJob &job) = 0;
+    virtual SvgFile svg(const SvgJob &job) = 0;
 };

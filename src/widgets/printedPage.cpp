@@ -4,9 +4,11 @@
 #include "widgets/themeColour.h"
 
 #include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QPageSize>
 #include <QPainter>
 #include <QPalette>
-
+#include <QScreen>
 #include <algorithm>
 
 namespace printed
@@ -73,6 +75,21 @@ void drawFoot(QPainter &painter, const PrintJob &job, int page, const QSizeF &si
     painter.drawText(foot, Qt::AlignRight | Qt::TextSingleLine, number);
 }
 } // namespace
+
+Paper measuredPaper(const QSizeF &size, const QFontMetricsF &metrics, qreal pixels)
+{
+    return {.size = size,
+            .lineHeight = metrics.lineSpacing() / pixels,
+            .textWidth = [metrics, pixels](const QString &text) { return metrics.horizontalAdvance(text) / pixels; }};
+}
+
+Paper usualPaper(const QFont &font)
+{
+    constexpr qreal PointsPerInch = 72;
+    const QSizeF size = QPageSize::size(QPageSize::A4, QPageSize::Point) - QSizeF(2 * Margin, 2 * Margin);
+    return measuredPaper(size, QFontMetricsF(font),
+                         QGuiApplication::primaryScreen()->logicalDotsPerInchY() / PointsPerInch);
+}
 
 int linesOfPage(qreal height, qreal lineHeight)
 {

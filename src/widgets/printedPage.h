@@ -2,7 +2,10 @@
 
 #include <QSizeF>
 
+class QFont;
+class QFontMetricsF;
 class QPainter;
+struct Paper;
 struct PrintJob;
 
 /// How a page is laid out on paper, in points: the lines from the top, the line numbers before them where the job has
@@ -11,6 +14,12 @@ namespace printed
 {
 /// What stays free around it, unless the user chooses otherwise.
 constexpr qreal Margin = 36;
+
+/// Paper of that size within its margins, in points, on which text is measured by `metrics`; `pixels` is their length
+/// of one point.
+Paper measuredPaper(const QSizeF &size, const QFontMetricsF &metrics, qreal pixels);
+/// Paper of the size A4 with that margin, where no printer is there to ask; text is measured as on the screen.
+Paper usualPaper(const QFont &font);
 
 /// The lines that fit over the foot, at least one.
 int linesOfPage(qreal height, qreal lineHeight);

@@ -3,12 +3,13 @@
 #include "widgets/iconPixels.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QFile>
 #include <QIconEngine>
+#include <QImageReader>
 #include <QPainter>
 #include <QPalette>
 #include <QResource>
-#include <QSvgRenderer>
 #include <algorithm>
 #include <vector>
 
@@ -87,12 +88,11 @@ private:
         const QImage drawn = size.width() == size.height() ? drawnIcon(m_name, size.width(), colour) : QImage();
         if (!drawn.isNull())
             return QPixmap::fromImage(drawn);
-        QPixmap picture(size);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        QSvgRenderer(QByteArray(drawing()).replace("currentColor", colour.name().toLatin1()))
-            .render(&painter, QRectF(QPointF(), QSizeF(size)));
-        return picture;
+        QByteArray coloured = QByteArray(drawing()).replace("currentColor", colour.name().toLatin1());
+        QBuffer buffer(&coloured);
+        QImageReader reader(&buffer, "svg"); // by a plug-in of the toolkit's, which few screens need
+        reader.setScaledSize(size);
+        return QPixmap::fromImage(reader.read());
     }
 
     const QByteArray &drawing()

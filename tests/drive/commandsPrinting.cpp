@@ -16,6 +16,11 @@ void failPrinting(Stage &stage, const Line &line)
     stage.desktop.printing.failNext(number);
 }
 
+void losePapers(Stage &stage, const Line &)
+{
+    stage.desktop.printing.loseModule();
+}
+
 void expectPrinted(Stage &stage, const Line &line)
 {
     bool ok = false;
@@ -39,6 +44,7 @@ void expectNoPrinted(Stage &stage, const Line &)
 
 constexpr Command commands[] = {
     {"fail-printing", 1, 1, failPrinting},
+    {"lose-papers", 0, 0, losePapers},
     {"expect-printed", 2, -1, expectPrinted},
     {"expect-no-printed", 0, 0, expectNoPrinted},
 };

@@ -170,7 +170,7 @@ Desktop::Desktop(Referee &referee, const World &world, InternetTransfers &transf
       // The desktop's own tools are left alone: what they make of the registered files is not the program's.
       m_fileClasses(currentXdgPlaces(), [](const QString &, const QStringList &) {}),
       m_pages(m_settings, {world.app()}),
-      m_pageViews(moduleFolders(), m_pages),
+      m_pageViews(partFolders(), m_pages),
       m_systemFacts(world.app()),
       m_services{
           .messageBoxes = boxes,

@@ -28,7 +28,7 @@ private:
 } // namespace
 
 ScriptedTransfers::ScriptedTransfers(const QString &knownHosts)
-    : m_real(moduleFolders(), {.knownHosts = knownHosts, .loopbackOnly = true})
+    : m_real(partFolders(), {.knownHosts = knownHosts, .loopbackOnly = true})
 {
 }
 

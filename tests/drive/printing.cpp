@@ -1,12 +1,10 @@
 #include "drive/printing.h"
 
 #include "drive/told.h"
+#include "widgets/printedPage.h"
 
-#include <QFontMetricsF>
-#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
-#include <QScreen>
 
 namespace drive
 {
@@ -17,11 +15,7 @@ QString PrintedJob::told() const
 
 Paper ScriptedPrinting::paper(const QFont &font)
 {
-    const QFontMetricsF metrics(font);
-    const qreal pixels = QGuiApplication::primaryScreen()->logicalDotsPerInchY() / 72;
-    return {.size = {595 - 72, 842 - 72},
-            .lineHeight = metrics.lineSpacing() / pixels,
-            .textWidth = [metrics, pixels](const QString &text) { return metrics.horizontalAdvance(text) / pixels; }};
+    return printed::usualPaper(font);
 }
 
 std::optional<PrintError> ScriptedPrinting::failure()
@@ -42,6 +36,11 @@ std::optional<PrintError> ScriptedPrinting::printPicture(const PictureJob &job)
     painter.end();
     printed.add({job.copies, job.title, {}});
     return std::nullopt;
+}
+
+SvgFile ScriptedPrinting::svg(const SvgJob &job)
+{
+    return m_real->svg(job);
 }
 
 std::optional<PrintError> ScriptedPrinting::print(const PrintJob &job, const std::function<bool(int)> &goOn)

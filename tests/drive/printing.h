@@ -1,7 +1,7 @@
 #pragma once
 
+#include "desktop/desktopPrinting.h"
 #include "drive/answers.h"
-#include "services/printing.h"
 
 namespace drive
 {
@@ -21,13 +21,17 @@ public:
     std::optional<PrintError> print(const PrintJob &job, const std::function<bool(int)> &goOn) override;
     /// Recorded as a job without lines.
     std::optional<PrintError> printPicture(const PictureJob &job) override;
+    SvgFile svg(const SvgJob &job) override;
 
     void failNext(int number) { m_failures.append(number); }
+    /// From now on the module that draws into files is not installed.
+    void loseModule() { m_real = std::make_unique<DesktopPrinting>(QStringList()); }
 
     Recorded<PrintedJob> printed;
 
 private:
     std::optional<PrintError> failure();
     QList<int> m_failures;
+    std::unique_ptr<DesktopPrinting> m_real = std::make_unique<DesktopPrinting>(partFolders());
 };
 } // namespace drive

@@ -56,7 +56,7 @@ TEST(ModulePageViews, SayWhyAModuleCannotBeLoaded)
 TEST(ModulePageViews, AreThereWhereTheModuleIs)
 {
     NoPages pages;
-    ModulePageViews views(moduleFolders(), pages);
+    ModulePageViews views(partFolders(), pages);
     PageEngine *engine = views.engine();
     ASSERT_NE(engine, nullptr) << qPrintable(views.reasonForNone());
     EXPECT_EQ(views.engine(), engine);

@@ -1,5 +1,6 @@
 #include "desktop/desktopPrinting.h"
 
+#include "desktop/desktopCommonDialogs.h"
 #include "files/printLayout.h"
 #include "surface/editSurface.h"
 
@@ -13,6 +14,7 @@
 #include <QPrinter>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QXmlStreamReader>
 #include <gtest/gtest.h>
 
 namespace
@@ -103,10 +105,13 @@ class DesktopPrintingTest : public testing::Test
 protected:
     DesktopPrintingTest()
     {
-        printing.printer().setOutputFormat(QPrinter::PdfFormat);
-        printing.printer().setOutputFileName(pdf());
-        printing.printer().setPageSize(QPageSize(QPageSize::A4));
+        printer().setOutputFormat(QPrinter::PdfFormat);
+        printer().setOutputFileName(pdf());
+        printer().setPageSize(QPageSize(QPageSize::A4));
     }
+
+    /// The toolkit's printer behind the program's.
+    QPrinter &printer() { return dynamic_cast<QPrinter &>(printing.printer()->device()); }
 
     QString pdf() const { return folder.filePath(QStringLiteral("out.pdf")); }
 
@@ -128,7 +133,7 @@ protected:
     }
 
     QTemporaryDir folder;
-    DesktopPrinting printing;
+    DesktopPrinting printing{partFolders()};
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
 };
 
@@ -189,7 +194,7 @@ TEST_F(DesktopPrintingTest, EndsWhereItIsCalledOff)
 
 TEST_F(DesktopPrintingTest, TellsWhatCannotBePrinted)
 {
-    printing.printer().setOutputFileName(folder.filePath(QStringLiteral("no/such/folder/out.pdf")));
+    printer().setOutputFileName(folder.filePath(QStringLiteral("no/such/folder/out.pdf")));
     const std::optional<PrintError> error = printing.print(jobOf(QStringLiteral("x")), [](int) { return true; });
     ASSERT_TRUE(error);
     EXPECT_EQ(error->number, PrintError::Failed);
@@ -217,7 +222,66 @@ TEST_F(DesktopPrintingTest, PrintsAPictureOnAPageOfItsOwnForEachCopy)
     ASSERT_EQ(places.size(), 2);
     EXPECT_GT(places[0].width(), places[0].height());
     EXPECT_EQ(places[0], places[1]);
-    EXPECT_EQ(printing.printer().pageLayout().orientation(), QPageLayout::Portrait);
+    EXPECT_EQ(printer().pageLayout().orientation(), QPageLayout::Portrait);
     EXPECT_GT(QFileInfo(pdf()).size(), 0);
+}
+
+TEST_F(DesktopPrintingTest, DrawsIntoAPictureThatHoldsItsText)
+{
+    const SvgFile file = printing.svg({.title = QStringLiteral("The <map>\u0001"),
+                                       .size = {120.5, 40},
+                                       .draw = [](QPainter &painter, const QRectF &place) {
+                                           EXPECT_EQ(place, QRectF(0, 0, 120.5, 40));
+                                           painter.drawText(place, QStringLiteral("a & b\u0002"));
+                                       }});
+    EXPECT_EQ(file.reason, QString());
+    QXmlStreamReader reader(file.bytes);
+    ASSERT_TRUE(reader.readNextStartElement());
+    EXPECT_EQ(reader.attributes().value(QStringLiteral("viewBox")), QStringLiteral("0 0 120.5 40"));
+    QString text;
+    while (!reader.atEnd()) {
+        reader.readNext();
+        if (reader.isCharacters())
+            text += reader.text();
+    }
+    EXPECT_FALSE(reader.hasError()) << qPrintable(reader.errorString());
+    EXPECT_TRUE(text.contains(QStringLiteral("The <map>")));
+    EXPECT_TRUE(text.contains(QStringLiteral("a & b")));
+}
+
+// A package may have been installed in part.
+class WithoutPapers : public testing::Test
+{
+protected:
+    QTemporaryDir empty;
+    DesktopPrinting printing{{empty.path()}};
+    QString reason = QStringLiteral("The program's part tagwrighter-papers.so is not installed.");
+};
+
+TEST_F(WithoutPapers, HasPaperOfTheUsualSizeForThePreview)
+{
+    const Paper paper = printing.paper(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    EXPECT_EQ(paper.size, QSizeF(595 - 72, 842 - 72));
+    EXPECT_GT(paper.lineHeight, 0);
+    EXPECT_GT(paper.textWidth(QStringLiteral("x")), 0);
+}
+
+TEST_F(WithoutPapers, TellsWhatIsMissingWhenItIsToPrint)
+{
+    EXPECT_EQ(DesktopCommonDialogs(printing).showPrint(), 1);
+    const std::optional<PrintError> error = printing.print({}, [](int) { return true; });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->number, PrintError::Unexpected);
+    EXPECT_EQ(error->description, reason);
+    const std::optional<PrintError> ofPicture = printing.printPicture({});
+    ASSERT_TRUE(ofPicture);
+    EXPECT_EQ(ofPicture->description, reason);
+}
+
+TEST_F(WithoutPapers, TellsWhatIsMissingWhenItIsToDrawIntoAFile)
+{
+    const SvgFile file = printing.svg({});
+    EXPECT_EQ(file.reason, reason);
+    EXPECT_TRUE(file.bytes.isEmpty());
 }
 } // namespace

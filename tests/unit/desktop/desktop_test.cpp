@@ -112,7 +112,7 @@ protected:
         return *dialog.findChild<QComboBox *>(q("fileTypeCombo"));
     }
 
-    DesktopPrinting printing;
+    DesktopPrinting printing{partFolders()};
     DesktopCommonDialogs dialogs{printing};
 };
 

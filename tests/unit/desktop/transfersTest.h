@@ -37,7 +37,7 @@ public:
 class TransfersTest : public testing::Test
 {
 protected:
-    TransfersTest() : transfers(moduleFolders(), {.knownHosts = home.filePath(q("hosts/known")), .loopbackOnly = true})
+    TransfersTest() : transfers(partFolders(), {.knownHosts = home.filePath(q("hosts/known")), .loopbackOnly = true})
     {
         QDir().mkpath(folder());
     }

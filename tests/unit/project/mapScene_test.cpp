@@ -1,5 +1,6 @@
 #include "project/mapScene.h"
 
+#include "desktop/desktopPrinting.h"
 #include "project/mapPicture.h"
 #include "services/random.h"
 #include "widgets/contrast.h"
@@ -204,7 +205,8 @@ TEST_F(MapSceneTest, IsSavedAsADrawingThatHoldsItsNames)
     addPages(1);
     link(0, 0);
     MapScene &drawn = scene();
-    QXmlStreamReader reader(mapAsSvg(drawn, q("The map")));
+    const SvgFile file = DesktopPrinting(partFolders()).svg(mapAsSvg(drawn, q("The map")));
+    QXmlStreamReader reader(file.bytes);
     QString text;
     while (!reader.atEnd()) {
         reader.readNext();
@@ -232,7 +234,7 @@ TEST_F(MapSceneTest, IsSavedWithoutABox)
 {
     MapScene &drawn = scene();
     EXPECT_FALSE(QImage::fromData(mapAsPng(drawn), "PNG").isNull());
-    EXPECT_FALSE(mapAsSvg(drawn, {}).isEmpty());
+    EXPECT_FALSE(DesktopPrinting(partFolders()).svg(mapAsSvg(drawn, {})).bytes.isEmpty());
 }
 
 TEST(MapLook, MovesALineThatIsNotSeenTowardsTheText)

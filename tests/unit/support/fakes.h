@@ -268,6 +268,7 @@ public:
         return failure;
     }
     std::optional<PrintError> printPicture(const PictureJob &) override { return failure; }
+    SvgFile svg(const SvgJob &) override { return {}; }
 
     QSizeF size{40, 10}; ///< in characters and lines
     QList<PrintJob> jobs;

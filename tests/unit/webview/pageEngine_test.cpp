@@ -70,7 +70,7 @@ protected:
     QTemporaryDir m_site;
     MemorySettings settings;
     ServedPages pages{settings, {}};
-    ModulePageViews views{moduleFolders(), pages};
+    ModulePageViews views{partFolders(), pages};
     WebBrowser browser{views};
 };
 
