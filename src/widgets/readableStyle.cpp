@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QGroupBox>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QPointer>
 #include <QStyleFactory>
 #include <QStyleOption>
@@ -226,6 +227,11 @@ void ReadableStyle::polish(QPalette &palette)
 void useReadableStyle()
 {
     const QStyle *style = QApplication::style();
-    if (style->name().compare(QStringLiteral("fusion"), Qt::CaseInsensitive) == 0)
-        QApplication::setStyle(new ReadableStyle(QStringLiteral("Fusion")));
+    if (style->name().compare(QStringLiteral("fusion"), Qt::CaseInsensitive) != 0)
+        return;
+    QApplication::setStyle(new ReadableStyle(QStringLiteral("Fusion")));
+    // The style keeps a picture of each box and field that it has drawn, for each of its states. Small ones and signs
+    // have room; to draw a wide one anew takes a tenth of a millisecond.
+    constexpr int MostKept = 16; // KiB, of all together
+    QPixmapCache::setCacheLimit(MostKept);
 }
