@@ -38,8 +38,9 @@ QImage drawnIcon(const QString &name, int side, const QColor &colour)
     IconPixels icon;
     if (!file.isValid() || !findIcon(file.data(), name.toLatin1(), icon))
         return {};
+    const QByteArray pixels = qUncompress(file.data() + icon.place, icon.length);
+    const auto *from = reinterpret_cast<const uchar *>(pixels.constData());
     QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
-    const uchar *from = file.data() + icon.place;
     for (int y = 0; y < side; ++y) {
         auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
         if (icon.isColoured) {

@@ -75,10 +75,14 @@ void write(const QString &folder, int side, const QList<Drawing> &drawings)
     append(index, static_cast<quint32>(drawings.size()));
     const qsizetype start = index.size() + drawings.size() * qsizetype(sizeof(IconPixels));
     for (const Drawing &drawing : drawings) {
-        IconPixels entry{.name = {}, .isColoured = drawing.isColoured, .place = quint32(start + pixels.size())};
+        const QByteArray compressed = qCompress(pixelsOf(drawing, side), 9);
+        IconPixels entry{.name = {},
+                         .isColoured = drawing.isColoured,
+                         .place = quint32(start + pixels.size()),
+                         .length = quint32(compressed.size())};
         std::copy(drawing.name.begin(), drawing.name.end(), entry.name);
         append(index, entry);
-        pixels += pixelsOf(drawing, side);
+        pixels += compressed;
     }
     QFile file(QStringLiteral("%1/%2.pixels").arg(folder).arg(side));
     if (!file.open(QIODevice::WriteOnly) || file.write(index + pixels) < 0 || !file.flush())
