@@ -20,8 +20,9 @@ QString drawingPath(const QString &name)
     return QStringLiteral(":/icons/%1.svg").arg(name);
 }
 
-/// Draws one icon of the set. At the sizes of most screens the build has done so; at others the drawing is read at the
-/// first use. It is kept as pixels for each size and colour.
+/// Draws one icon of the set. At the sizes of most screens the build has done so, and its pixels are taken out at each
+/// painting, in a few microseconds; at others the drawing is read at the first use and kept as pixels for each size
+/// and colour.
 class DrawingEngine final : public QIconEngine
 {
 public:
@@ -72,6 +73,9 @@ private:
 
     QPixmap drawn(const QSize &size, const QColor &colour)
     {
+        QImage pixels = size.width() == size.height() ? drawnIcon(m_name, size.width(), colour) : QImage();
+        if (!pixels.isNull())
+            return QPixmap::fromImage(std::move(pixels));
         const auto isWanted = [&](const Drawn &one) { return one.size == size && one.colour == colour; };
         const auto found = std::find_if(m_pictures.begin(), m_pictures.end(), isWanted);
         if (found != m_pictures.end())
@@ -85,9 +89,6 @@ private:
 
     QPixmap draw(const QSize &size, const QColor &colour)
     {
-        const QImage drawn = size.width() == size.height() ? drawnIcon(m_name, size.width(), colour) : QImage();
-        if (!drawn.isNull())
-            return QPixmap::fromImage(drawn);
         QByteArray coloured = QByteArray(drawing()).replace("currentColor", colour.name().toLatin1());
         QBuffer buffer(&coloured);
         QImageReader reader(&buffer, "svg"); // by a plug-in of the toolkit's, which few screens need
